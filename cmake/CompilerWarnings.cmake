@@ -1,0 +1,4 @@
+# What every target of this project is compiled with: C++20 and warnings as errors.
+add_library(zerna_warnings INTERFACE)
+target_compile_features(zerna_warnings INTERFACE cxx_std_20)
+target_compile_options(zerna_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "core/clsElement.h"
+
+namespace zerna {
+
+/// All element records in the order of the data file, found by position (from 1) or by symbol.
+class ElementCollection {
+public:
+    using Element = std::shared_ptr<clsElement>;
+
+    /// Appends under a key; error 457 if the key is taken.
+    void Add(Element element, std::string_view key);
+
+    /// Item `position`, 1 to Count; error 9 for any other.
+    const Element& Item(int position) const;
+
+    /// The item of that key; error 5 if there is none.
+    const Element& Item(std::string_view key) const;
+
+    /// The item of that key, null if there is none; with `ignoringCase` the first whose key differs in case only.
+    Element find(std::string_view key, bool ignoringCase = false) const;
+
+    int Count() const { return static_cast<int>(m_elements.size()); }
+
+    void clear();
+
+    auto begin() const { return m_elements.begin(); }
+    auto end() const { return m_elements.end(); }
+
+private:
+    struct Hash : std::hash<std::string_view> {
+        using is_transparent = void;
+    };
+
+    std::vector<Element> m_elements;
+    std::unordered_map<std::string, std::size_t, Hash, std::equal_to<>> m_positions; // from 0
+};
+
+} // namespace zerna

@@ -1,0 +1,83 @@
+#include "core/Elementdatei.h"
+
+#include "core/Exportdatei.h"
+
+namespace zerna {
+
+namespace {
+
+/// A cut-off file keeps the count it was written with and is read as far as it goes. No table comes near this many
+/// elements, so a larger count that the bytes do not allow either is damage.
+constexpr std::int32_t PlausibleCount = 1000;
+
+std::int32_t readCount(Datei& file)
+{
+    std::int32_t count = 0;
+    file.read(&count, sizeof count);
+    const std::uint64_t possible = file.remaining() / SmallestElementRecord;
+    if (count < 0 || (count > PlausibleCount && static_cast<std::uint64_t>(count) > possible))
+        throw Laufzeitfehler(Fehler::HinterDateiende);
+    return count;
+}
+
+/// Passes messages on and remembers that there were any: Daten_Speichern reports its errors and returns normally.
+class WatchedBoxes : public MessageBoxes {
+public:
+    explicit WatchedBoxes(MessageBoxes& boxes)
+        : m_boxes(boxes)
+    {
+    }
+
+    bool anyShown() const { return m_anyShown; }
+
+    void show(Icon icon, std::string_view caption, std::string_view text) override
+    {
+        m_anyShown = true;
+        m_boxes.show(icon, caption, text);
+    }
+
+private:
+    MessageBoxes& m_boxes;
+    bool m_anyShown = false;
+};
+
+} // namespace
+
+void loadElements(Dateinummern& files, int number, MessageBoxes& boxes, ElementCollection& elements,
+    const std::function<void(const ElementCollection::Element&, int)>& each)
+{
+    const std::int32_t count = readCount(files.at(number));
+    for (int i = 1; i <= count; ++i) {
+        auto element = std::make_shared<clsElement>(files, boxes);
+        element->setDateinummer(number);
+        element->Daten_Lesen();
+        if (each)
+            each(element, i);
+        elements.Add(element, element->symbol());
+    }
+}
+
+void saveElements(
+    Dateinummern& files, const std::filesystem::path& path, MessageBoxes& boxes, std::span<const ElementRecord> records)
+{
+    Exportdatei target(path);
+    const int number = files.freeNumber();
+    files.open(number, target.writtenFile(), Zugriff::Ausgabe);
+    const auto count = static_cast<std::int32_t>(records.size());
+    files.at(number).write({reinterpret_cast<const char*>(&count), sizeof count});
+    WatchedBoxes watched(boxes);
+    for (const ElementRecord& record : records) {
+        clsElement element(files, watched);
+        element.setRecord(record);
+        element.setDateinummer(number);
+        element.Daten_Speichern();
+        if (watched.anyShown())
+            break;
+    }
+    files.close(number); // a full disk ends here
+    if (watched.anyShown())
+        throw Laufzeitfehler(Fehler::Ueberlauf); // a text that is too long
+    target.commit();
+}
+
+} // namespace zerna

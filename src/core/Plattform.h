@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdio>
+#include <ctime>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+/// Calls that differ from platform to platform; everything else in this room is the same everywhere.
+namespace zerna {
+
+/// The name of the window program's file.
+#ifdef _WIN32
+inline constexpr const char* Programmdatei = "Zerna.exe";
+#else
+inline constexpr const char* Programmdatei = "zerna";
+#endif
+
+/// The folder in which the running executable really lies, symbolic links resolved.
+std::filesystem::path executableFolder();
+
+/// Opens a file for any name; `mode` as for fopen. Null with errno set on failure.
+std::FILE* openFile(const std::filesystem::path& path, const char* mode);
+
+/// Time of the last write to a file in local time; no value with errno set on failure.
+std::optional<std::tm> lastWriteTime(const std::filesystem::path& path);
+
+/// Whether the library can be loaded and has a function of that name.
+bool libraryHasFunction(const std::string& library, const std::string& function);
+
+} // namespace zerna

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace zerna {
+
+/// The platform's per-user key-value store; all values are UTF-8 texts.
+class SettingsStore {
+public:
+    virtual ~SettingsStore() = default;
+
+    /// The stored text, empty if there is none or it cannot be read.
+    virtual std::string value(std::string_view application, std::string_view section, std::string_view key) const = 0;
+
+    /// Stores the text; a store that cannot be written keeps what it has and reports nothing.
+    virtual void setValue(
+        std::string_view application, std::string_view section, std::string_view key, std::string_view value) = 0;
+};
+
+/// The program's own settings: one application name, one section.
+class Settings {
+public:
+    Settings(SettingsStore& store, std::string application)
+        : m_store(store)
+        , m_application(std::move(application))
+    {
+    }
+
+    /// The stored value; `standard` when there is none or it is empty.
+    std::string LoadSetting(std::string_view key, std::string_view standard) const
+    {
+        const std::string value = m_store.value(m_application, Section, key);
+        return value.empty() ? std::string(standard) : value;
+    }
+
+    void SaveSetting(std::string_view key, std::string_view value)
+    {
+        m_store.setValue(m_application, Section, key, value);
+    }
+
+private:
+    static constexpr std::string_view Section = "Settings";
+
+    SettingsStore& m_store;
+    std::string m_application;
+};
+
+} // namespace zerna

@@ -1,0 +1,10 @@
+#pragma once
+
+namespace zerna {
+
+/// The one marker for "there is no value": in element data, in results, and for text that is no number.
+inline constexpr float Unbekannt = -3.0e38F;
+
+constexpr bool istUnbekannt(float value) noexcept { return value == Unbekannt; }
+
+} // namespace zerna

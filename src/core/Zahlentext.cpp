@@ -1,0 +1,385 @@
+#include "core/Zahlentext.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <utility>
+
+#include "core/CheckedArithmetic.h"
+
+namespace zerna {
+
+namespace {
+
+/// Room for every number in scientific or fixed notation of up to 17 digits.
+using Puffer = std::array<char, 400>;
+
+/// Significant digits (no trailing zeros) and decimal exponent of the first of them.
+struct Ziffern {
+    bool negative = false;
+    std::array<char, 20> digits{};
+    std::size_t count = 0;
+    int exponent = 0;
+
+    std::string_view view() const { return {digits.data(), count}; }
+};
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+/// Takes a "-d.ddde±xx" text apart.
+Ziffern ziffern(std::string_view scientific)
+{
+    Ziffern result;
+    std::size_t i = 0;
+    if (scientific.front() == '-') {
+        result.negative = true;
+        ++i;
+    }
+    for (; i < scientific.size() && scientific[i] != 'e'; ++i) {
+        if (isDigit(scientific[i]))
+            result.digits.at(result.count++) = scientific[i];
+    }
+    while (result.count > 1 && result.digits.at(result.count - 1) == '0')
+        --result.count;
+    ++i; // 'e'
+    if (scientific[i] == '+')
+        ++i;
+    std::from_chars(scientific.data() + i, scientific.data() + scientific.size(), result.exponent);
+    if (result.view() == "0")
+        result.negative = false;
+    return result;
+}
+
+template <class Number>
+Ziffern shortestDigits(Number value)
+{
+    Puffer buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): written by to_chars
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::scientific);
+    return ziffern({buffer.data(), end.ptr});
+}
+
+Ziffern roundedDigits(double value, int digits)
+{
+    Puffer buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): written by to_chars
+    const auto end =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::scientific, digits - 1);
+    return ziffern({buffer.data(), end.ptr});
+}
+
+/// Plain digits while -5 < exponent < 15, otherwise mantissa, "E", sign and exponent.
+std::string layOut(const Ziffern& z, Dezimaltrenner trenner)
+{
+    const char separator = static_cast<char>(trenner);
+    std::string text;
+    if (z.negative)
+        text += '-';
+    const std::string_view digits = z.view();
+    if (z.exponent <= -5 || z.exponent >= 15) {
+        text += digits.front();
+        if (digits.size() > 1) {
+            text += separator;
+            text += digits.substr(1);
+        }
+        text += z.exponent < 0 ? "E-" : "E+";
+        text += std::to_string(std::abs(z.exponent));
+        return text;
+    }
+    if (z.exponent < 0) {
+        text += '0';
+        text += separator;
+        text.append(static_cast<std::size_t>(-z.exponent - 1), '0');
+        text += digits;
+        return text;
+    }
+    const auto whole = static_cast<std::size_t>(z.exponent) + 1;
+    text += digits.substr(0, whole);
+    if (digits.size() < whole)
+        text.append(whole - digits.size(), '0');
+    if (digits.size() > whole) {
+        text += separator;
+        text += digits.substr(whole);
+    }
+    return text;
+}
+
+/// "&H" digits as a 32-bit two's complement number; no value if it is no such text.
+std::optional<double> hexNumber(std::string_view text)
+{
+    if (text.size() < 3 || text[0] != '&' || (text[1] != 'H' && text[1] != 'h'))
+        return std::nullopt;
+    std::uint32_t bits = 0;
+    const auto [end, error] = std::from_chars(text.data() + 2, text.data() + text.size(), bits, 16);
+    if (error == std::errc::result_out_of_range)
+        throw Laufzeitfehler(Fehler::Ueberlauf);
+    if (error != std::errc() || end != text.data() + text.size())
+        return std::nullopt;
+    return static_cast<std::int32_t>(bits);
+}
+
+/// A decimal text checked and brought into the form that from_chars reads: no plus sign, a point, an "e".
+/// Empty if it is no number.
+std::string_view normalised(std::string_view text, Puffer& buffer, std::string& longText)
+{
+    char* target = buffer.data();
+    if (text.size() > buffer.size()) {
+        longText.resize(text.size());
+        target = longText.data();
+    }
+    std::size_t length = 0;
+    std::size_t i = 0;
+    const auto take = [&](char c) { target[length++] = c; };
+    if (text[i] == '-')
+        take('-');
+    if (text[i] == '-' || text[i] == '+')
+        ++i;
+    bool digits = false;
+    bool separator = false;
+    for (; i < text.size(); ++i) {
+        if (isDigit(text[i])) {
+            digits = true;
+            take(text[i]);
+        } else if ((text[i] == ',' || text[i] == '.') && !separator) {
+            separator = true;
+            take('.');
+        } else {
+            break;
+        }
+    }
+    if (!digits)
+        return {};
+    if (i < text.size()) {
+        if (std::string_view("eEdD").find(text[i]) == std::string_view::npos)
+            return {};
+        take('e');
+        ++i;
+        if (i < text.size() && (text[i] == '-' || text[i] == '+'))
+            take(text[i++]);
+        const std::size_t firstDigit = i;
+        for (; i < text.size() && isDigit(text[i]); ++i)
+            take(text[i]);
+        if (i == firstDigit || i != text.size())
+            return {};
+    }
+    return {target, length};
+}
+
+/// Whether a decimal number that no double can hold is too small (then it is 0) rather than too large.
+bool isTooSmall(std::string_view number)
+{
+    const std::size_t e = std::min(number.find('e'), number.size());
+    const std::string_view mantissa = number.substr(0, e);
+    const std::size_t firstDigit = mantissa.find_first_of("123456789");
+    if (firstDigit == std::string_view::npos)
+        return true;
+    int exponent = 0;
+    if (e < number.size()) {
+        const bool negative = number[e + 1] == '-';
+        const std::size_t digits = e + (negative || number[e + 1] == '+' ? 2 : 1);
+        const auto read = std::from_chars(number.data() + digits, number.data() + number.size(), exponent);
+        if (read.ec == std::errc::result_out_of_range)
+            return negative;
+        exponent = negative ? -exponent : exponent;
+    }
+    const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
+    return static_cast<std::int64_t>(point) - static_cast<std::int64_t>(firstDigit) + exponent < 0;
+}
+
+} // namespace
+
+std::string textOfSingle(float value, Dezimaltrenner trenner)
+{
+    return std::isfinite(value) ? layOut(shortestDigits(value), trenner) : std::string();
+}
+
+std::string textOfDouble(double value, Dezimaltrenner trenner)
+{
+    if (!std::isfinite(value))
+        return {};
+    // A double whose shortest text has no more than 15 digits has the same 15 significant digits, and finding the
+    // shortest text is several times faster than rounding.
+    const Ziffern shortest = shortestDigits(value);
+    return layOut(shortest.count <= 15 ? shortest : roundedDigits(value, 15), trenner);
+}
+
+std::string textWithDigits(double value, int digits, Dezimaltrenner trenner)
+{
+    return std::isfinite(value) ? layOut(roundedDigits(value, digits), trenner) : std::string();
+}
+
+std::string fixedText(double value, int decimals, Dezimaltrenner trenner)
+{
+    if (!std::isfinite(value))
+        return {};
+    Puffer buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): written by to_chars
+    const auto end =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, decimals);
+    std::string text(buffer.data(), end.ptr);
+    if (text.front() == '-' && text.find_first_of("123456789") == std::string::npos)
+        text.erase(0, 1);
+    std::ranges::replace(text, '.', static_cast<char>(trenner));
+    return text;
+}
+
+std::string scientificText(
+    double value, int decimals, std::string_view gap, bool optionalDecimals, Dezimaltrenner trenner)
+{
+    if (!std::isfinite(value))
+        return {};
+    const Ziffern z = roundedDigits(value, decimals + 1);
+    std::string decimalsText(z.view().substr(1));
+    if (!optionalDecimals)
+        decimalsText.resize(static_cast<std::size_t>(decimals), '0');
+    std::string text = z.negative ? "-" : "";
+    text += z.digits.front();
+    if (!decimalsText.empty()) {
+        text += static_cast<char>(trenner);
+        text += decimalsText;
+    }
+    text += gap;
+    text += z.exponent < 0 ? "E-" : "E+";
+    if (std::abs(z.exponent) < 10)
+        text += '0';
+    return text + std::to_string(std::abs(z.exponent));
+}
+
+std::optional<double> numberIn(std::string_view text)
+{
+    text = trimmed(text);
+    if (text.empty())
+        return std::nullopt;
+    if (text.front() == '&')
+        return hexNumber(text);
+    Puffer buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): written by normalised
+    std::string longText;
+    const std::string_view number = normalised(text, buffer, longText);
+    if (number.empty())
+        return std::nullopt;
+    double value = 0;
+    const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
+    if (result.ec != std::errc::result_out_of_range)
+        return value;
+    if (isTooSmall(number))
+        return 0.0;
+    throw Laufzeitfehler(Fehler::Ueberlauf);
+}
+
+double doubleFromText(std::string_view text)
+{
+    if (const auto value = numberIn(text))
+        return *value;
+    throw Laufzeitfehler(Fehler::TypenUnvertraeglich);
+}
+
+float singleFromText(std::string_view text) { return toSingle(doubleFromText(text)); }
+
+std::string hexDigits(double value)
+{
+    const double whole = std::trunc(value);
+    if (!(whole >= std::numeric_limits<std::int32_t>::min() && whole <= std::numeric_limits<std::int32_t>::max()))
+        throw Laufzeitfehler(Fehler::Ueberlauf);
+    std::array<char, 8> buffer{};
+    const auto bits = static_cast<std::uint32_t>(static_cast<std::int32_t>(whole));
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), bits, 16);
+    std::string digits(buffer.data(), end.ptr);
+    for (char& c : digits) {
+        if (c >= 'a')
+            c = static_cast<char>(c - 'a' + 'A');
+    }
+    return digits;
+}
+
+std::string FormatValue(float value, std::string_view unit)
+{
+    if (istUnbekannt(value) || value == 0 || !std::isfinite(value))
+        return {};
+    std::string text;
+    if (value > 0) {
+        // The exponent comes from a floating-point quotient and is kept as it falls out: 1000 has 2, and mantissa 10.
+        const double single = value;
+        const int e = static_cast<int>(std::floor(std::log(single) / std::log(10.0)));
+        const double mantissa = std::floor(single / std::pow(10.0, e) * 1e4 + 0.5) / 1e4;
+        if (std::abs(e) <= 3)
+            text = textOfDouble(mantissa * std::pow(10.0, e));
+        else
+            text = textOfDouble(mantissa) + (e < 0 ? " E" : " E+") + std::to_string(e);
+    } else {
+        text = scientificText(value, 4, " ", true);
+    }
+    text += ' ';
+    text += unit;
+    return text;
+}
+
+float ParseValue(std::string_view text)
+{
+    std::string digits(text);
+    if (!digits.starts_with('.'))
+        digits.insert(0, "0");
+    // A text that begins with a sign never reaches this point without its "0", so signs need no rule of their own.
+    digits = ReplaceText(digits, ".", LocaleText(LocaleMonetaryDecimal));
+    return orUnbekannt([&] { return singleFromText(digits); });
+}
+
+std::string CommaToPoint(std::string_view text)
+{
+    std::string result(text);
+    if (const std::size_t comma = result.find(','); comma != std::string::npos)
+        result[comma] = '.';
+    return result;
+}
+
+std::string LocaleText(int item) { return item == LocaleDecimal || item == LocaleMonetaryDecimal ? "," : ""; }
+
+std::string ReplaceText(
+    std::string_view expression, std::string_view find, std::string_view replacement, int start, int count, int compare)
+{
+    if (find.empty())
+        return std::string(expression);
+    const std::string text = compare != 0 ? lowerCase(expression) : std::string(expression);
+    const std::string wanted = compare != 0 ? lowerCase(find) : std::string(find);
+    const std::size_t first = std::min(text.size(), static_cast<std::size_t>(std::max(start, 1)) - 1);
+    std::string result = text.substr(0, first);
+    std::size_t position = first;
+    for (; count > 0; --count) {
+        const std::size_t hit = text.find(wanted, position);
+        if (hit == std::string::npos)
+            break;
+        result.append(text, position, hit - position);
+        result += replacement;
+        position = hit + wanted.size();
+    }
+    return result.append(text, position, std::string::npos);
+}
+
+int FindLast(std::string_view text, std::string_view find, std::optional<int> start)
+{
+    for (int position = start.value_or(static_cast<int>(text.size())); position > 0; --position) {
+        const auto offset = static_cast<std::size_t>(position) - 1;
+        if (offset < text.size() && text.substr(offset, find.size()) == find)
+            return position;
+    }
+    return 0;
+}
+
+std::string lowerCase(std::string_view text)
+{
+    std::string result(text);
+    for (char& c : result) {
+        if (c >= 'A' && c <= 'Z')
+            c = static_cast<char>(c - 'A' + 'a');
+    }
+    return result;
+}
+
+std::string_view trimmed(std::string_view text)
+{
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos)
+        return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+} // namespace zerna

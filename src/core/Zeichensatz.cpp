@@ -1,0 +1,104 @@
+#include "core/Zeichensatz.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+namespace zerna {
+
+namespace {
+
+/// Code points of the bytes 80 to 9F; all other bytes are their own code point.
+constexpr std::array<std::uint16_t, 32> Sonderzeichen{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+    0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+bool isAscii(std::string_view text)
+{
+    return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+char byteOf(std::uint32_t codePoint)
+{
+    if (codePoint < 0x80 || (codePoint >= 0xA0 && codePoint <= 0xFF))
+        return static_cast<char>(codePoint);
+    const auto* const special = std::ranges::find(Sonderzeichen, codePoint);
+    return special == Sonderzeichen.end() ? '?' : static_cast<char>(0x80 + (special - Sonderzeichen.begin()));
+}
+
+/// Decodes the character that begins at `position` and moves on behind it; 0xFFFFFFFF for a damaged sequence, which
+/// is passed over up to the next byte that can begin a character.
+std::uint32_t nextCodePoint(std::string_view utf8, std::size_t& position)
+{
+    constexpr std::uint32_t Damaged = 0xFFFFFFFF;
+    const auto lead = static_cast<unsigned char>(utf8[position++]);
+    if (lead < 0x80)
+        return lead;
+    std::size_t following = 0;
+    std::uint32_t codePoint = 0;
+    if (lead >= 0xC2 && lead < 0xE0) {
+        following = 1;
+        codePoint = lead & 0x1FU;
+    } else if (lead >= 0xE0 && lead < 0xF0) {
+        following = 2;
+        codePoint = lead & 0x0FU;
+    } else if (lead >= 0xF0 && lead < 0xF5) {
+        following = 3;
+        codePoint = lead & 0x07U;
+    }
+    constexpr std::array<std::uint32_t, 4> Smallest{0, 0x80, 0x800, 0x10000}; // of so many following bytes
+    const std::uint32_t smallest = Smallest.at(following);
+    bool damaged = following == 0;
+    for (; position < utf8.size() && (static_cast<unsigned char>(utf8[position]) & 0xC0U) == 0x80; ++position) {
+        if (following == 0) {
+            damaged = true;
+            continue;
+        }
+        codePoint = codePoint << 6U | (static_cast<unsigned char>(utf8[position]) & 0x3FU);
+        --following;
+    }
+    return damaged || following != 0 || codePoint < smallest ? Damaged : codePoint;
+}
+
+void appendUtf8(std::string& text, std::uint32_t codePoint)
+{
+    if (codePoint < 0x80) {
+        text += static_cast<char>(codePoint);
+    } else if (codePoint < 0x800) {
+        text += static_cast<char>(0xC0U | codePoint >> 6U);
+        text += static_cast<char>(0x80U | (codePoint & 0x3FU));
+    } else {
+        text += static_cast<char>(0xE0U | codePoint >> 12U);
+        text += static_cast<char>(0x80U | (codePoint >> 6U & 0x3FU));
+        text += static_cast<char>(0x80U | (codePoint & 0x3FU));
+    }
+}
+
+} // namespace
+
+std::string toWindows1252(std::string_view utf8)
+{
+    if (isAscii(utf8))
+        return std::string(utf8);
+    std::string bytes;
+    bytes.reserve(utf8.size());
+    for (std::size_t position = 0; position < utf8.size();)
+        bytes += byteOf(nextCodePoint(utf8, position));
+    return bytes;
+}
+
+std::string fromWindows1252(std::string_view bytes)
+{
+    if (isAscii(bytes))
+        return std::string(bytes);
+    std::string text;
+    text.reserve(bytes.size() * 2);
+    for (const char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        const bool special = byte >= 0x80 && byte < 0xA0;
+        appendUtf8(text, special ? Sonderzeichen.at(byte - 0x80U) : byte);
+    }
+    return text;
+}
+
+} // namespace zerna

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// Text inside the program is UTF-8, text in files is Windows-1252, one byte per character.
+namespace zerna {
+
+/// UTF-8 to Windows-1252; a character that has no place there, and a damaged UTF-8 sequence, becomes "?".
+std::string toWindows1252(std::string_view utf8);
+
+/// Windows-1252 to UTF-8. The five bytes without a character (81, 8D, 8F, 90, 9D) become the control characters of
+/// the same number, so that every byte text survives there and back.
+std::string fromWindows1252(std::string_view bytes);
+
+} // namespace zerna

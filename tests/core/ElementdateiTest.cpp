@@ -1,0 +1,61 @@
+#include "core/Elementdatei.h"
+
+#include "support/FilesTest.h"
+
+namespace zerna {
+
+struct ElementdateiTest : FilesTest {
+    /// The bytes of a file with these one-letter symbols.
+    std::string fileOf(std::string_view symbols)
+    {
+        std::vector<ElementRecord> records;
+        for (const char symbol : symbols)
+            records.emplace_back().symbol = symbol;
+        saveElements(files, folder / "a.dat", boxes, records);
+        return bytesOf(folder / "a.dat");
+    }
+
+    int load(std::string bytes)
+    {
+        elements.clear();
+        boxes.shown.clear();
+        files.openBytes(1, std::move(bytes));
+        return errorNumber([&] { loadElements(files, 1, boxes, elements); });
+    }
+
+    ElementCollection elements;
+};
+
+TEST_F(ElementdateiTest, CountsThatTheBytesDoNotBear)
+{
+    const std::string two = fileOf("PC").substr(1);
+    const std::tuple<const char*, std::string, int, int, std::size_t> rows[] = {
+        {"bytes behind", "\x02" + two + "x", 0, 2, 0}, {"none", std::string(4, '\0'), 0, 0, 0},
+        {"empty file", "", 62, 0, 0}, {"negative", "\xFF\xFF\xFF\xFF" + two.substr(3), 62, 0, 0},
+        {"as many as can be", "\xFF\xFF\xFF\x7F" + two.substr(3), 62, 0, 0}, {"missing record", "\x03" + two, 0, 3, 1},
+        {"two missing ones", "\x04" + two, 457, 3, 2}, {"one symbol twice", fileOf("CC"), 457, 1, 0}};
+    for (const auto& [name, bytes, error, count, boxCount] : rows) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(load(bytes), error);
+        EXPECT_EQ(elements.Count(), count);
+        EXPECT_EQ(boxes.shown.size(), boxCount);
+    }
+    const std::string whole = fileOf("ABCDEF");
+    for (std::size_t size = 4; size < whole.size(); ++size) {
+        load(whole.substr(0, size));
+        EXPECT_TRUE(!boxes.shown.empty() && boxes.shown.size() <= 3) << size;
+    }
+}
+
+TEST_F(ElementdateiTest, AFailedSaveLeavesTheEarlierFile)
+{
+    const std::string before = fileOf("C");
+    std::vector<ElementRecord> records(300);
+    EXPECT_EQ(errorNumber([&] { saveElements(files, "/dev/full", boxes, records); }), 61);
+    EXPECT_EQ(boxes.shown.size(), 1U); // not one for every record
+    records[0].Name.assign(65536, 'x');
+    EXPECT_EQ(errorNumber([&] { saveElements(files, folder / "a.dat", boxes, records); }), 6);
+    EXPECT_EQ(bytesOf(folder / "a.dat"), before);
+}
+
+} // namespace zerna

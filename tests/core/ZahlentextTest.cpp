@@ -1,0 +1,56 @@
+#include "core/Zahlentext.h"
+
+#include "core/Unbekannt.h"
+#include "support/FilesTest.h"
+
+namespace zerna {
+
+TEST(Zahlentext, WritesTheShortestTextThatReadsBack)
+{
+    const std::pair<float, const char*> rows[] = {{0.1F, "0,1"}, {1.0000001F, "1,0000001"},
+        {1.5e14F, "150000000000000"}, {1e15F, "1E+15"}, {0.00012F, "0,00012"}, {1.5e-5F, "1,5E-5"},
+        {Unbekannt, "-3E+38"}, {-0.0F, "0"}, {1e-45F, "1E-45"}};
+    for (const auto& [value, text] : rows) {
+        EXPECT_EQ(textOfSingle(value), text);
+        EXPECT_EQ(singleFromText(text), value);
+        EXPECT_EQ(textOfSingle(value, Dezimaltrenner::Punkt), CommaToPoint(text));
+    }
+    EXPECT_EQ(textOfDouble(999999999999999.9), "1E+15");
+    EXPECT_EQ(textWithDigits(63.300003, 7), "63,3");
+    EXPECT_EQ(fixedText(-0.0004, 3), "0,000");
+}
+
+TEST(Zahlentext, ReadsWhatPeopleType)
+{
+    const std::string zeros(340, '0');
+    const std::tuple<std::string, double, int> rows[] = {{"12,5", 12.5, 0}, {"  12.5 ", 12.5, 0}, {"-,5e+1", -5, 0},
+        {"+5,", 5, 0}, {"1,5D-3", 0.0015, 0}, {"&h1F", 31, 0}, {"&HFFFFFFFF", -1, 0}, {"&H100000000", 0, 6},
+        {"&H", 0, 13}, {"1.234,5", 0, 13}, {"", 0, 13}, {"  ", 0, 13}, {"-", 0, 13}, {",", 0, 13}, {"1e+", 0, 13},
+        {"5 g", 0, 13}, {"inf", 0, 13}, {"0x1F", 0, 13}, {"1e400", 0, 6}, {"1e-400", 0, 0},
+        {"1e-99999999999999999999", 0, 0}, {"1" + zeros + "e-30", 0, 6}, {"0," + zeros + "1e+10", 0, 0},
+        {"0," + zeros + "1e341", 1, 0}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(std::get<0>(row));
+        double value = 0;
+        EXPECT_EQ(errorNumber([&] { value = doubleFromText(std::get<0>(row)); }), std::get<int>(row));
+        EXPECT_DOUBLE_EQ(value, std::get<double>(row));
+    }
+}
+
+TEST(Zahlentext, ShowsAndReadsFields)
+{
+    const std::pair<float, const char*> shown[] = {{Unbekannt, ""}, {0.0F, ""}, {123.456F, "123,46 K"},
+        {1000.0F, "1000 K"}, {0.001F, "0,001 K"}, {123456.0F, "1,2346 E+5 K"}, {6.022e-23F, "6,022 E-23 K"},
+        {99999.9F, "10 E+4 K"}, {-5.0F, "-5 E+00 K"}, {-3.4561e-11F, "-3,4561 E-11 K"}};
+    for (const auto& [value, text] : shown)
+        EXPECT_EQ(FormatValue(value, "K"), text);
+    const std::pair<const char*, float> typed[] = {{".5", 0.5F}, {"12,5", 12.5F}, {"12.5", 12.5F}, {"", 0.0F},
+        {"-5", Unbekannt}, {"+,5", Unbekannt}, {"abc", Unbekannt}, {".", Unbekannt}, {"1e39", Unbekannt}};
+    for (const auto& [text, value] : typed)
+        EXPECT_EQ(ParseValue(text), value) << text;
+    EXPECT_EQ(CommaToPoint("1,2,3"), "1.2,3");
+    EXPECT_EQ(ReplaceText("aXbx", "x", "xx", 1, 2147483647, 1), "axxbxx");
+    EXPECT_EQ(FindLast("a.b.c", ".", 3) + FindLast("abc", "."), 2);
+}
+
+} // namespace zerna
