@@ -1,0 +1,394 @@
+#include "parser/clsParser.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <utility>
+
+#include "core/CheckedArithmetic.h"
+#include "core/Zahlentext.h"
+#include "parser/Formelfunktionen.h"
+
+namespace zerna {
+
+namespace {
+
+/// Parentheses and function calls may stand this deep inside each other.
+constexpr int MaxDepth = 200;
+constexpr int MaxArguments = 100;
+
+/// Ends an evaluation; `position` counts bytes of the formula without its blanks, from 0.
+struct Abbruch {
+    Fehler fehler;
+    std::string grund;
+    std::size_t position;
+};
+
+[[noreturn]] void abort(Fehler fehler, std::string grund, std::size_t position)
+{
+    throw Abbruch{fehler, std::move(grund), position};
+}
+
+/// Runs arithmetic and gives its run-time errors a place in the formula.
+template <class Arithmetic>
+double located(std::size_t position, Arithmetic&& arithmetic)
+{
+    try {
+        return checked(arithmetic());
+    } catch (const Laufzeitfehler& error) {
+        abort(static_cast<Fehler>(error.Nummer()), error.what(), position);
+    }
+}
+
+bool isOperator(char c) { return c == '+' || c == '-' || c == '*' || c == '/' || c == '^'; }
+
+/// A part of the formula as it may appear in a message.
+std::string quoted(std::string_view text)
+{
+    constexpr std::size_t Longest = 40;
+    if (text.size() <= Longest)
+        return std::string(text);
+    std::size_t end = Longest;
+    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80) // not inside a character
+        --end;
+    return std::string(text.substr(0, end)) + "…";
+}
+
+/// Digits with at most one decimal separator: what can stand before the "e" of an exponent.
+bool isMantissa(std::string_view text)
+{
+    bool digits = false;
+    int separators = 0;
+    for (const char c : text) {
+        if (c >= '0' && c <= '9')
+            digits = true;
+        else if (c == ',' || c == '.')
+            ++separators;
+        else
+            return false;
+    }
+    return digits && separators <= 1;
+}
+
+/// A value rounded as if it had been written as text (15 significant digits) and read back.
+double throughText(double value)
+{
+    constexpr double ExactIntegers = 1e15;
+    if (value == std::trunc(value) && std::abs(value) < ExactIntegers)
+        return value;
+    return doubleFromText(textOfDouble(value));
+}
+
+double combine(double left, char op, double right)
+{
+    switch (op) {
+    case '^':
+        return power(left, right);
+    case '*':
+        return left * right;
+    case '/':
+        return quotient(left, right);
+    case '+':
+        return left + right;
+    default:
+        return left - right;
+    }
+}
+
+/// One evaluation of a formula without blanks.
+class Auswertung {
+public:
+    Auswertung(std::string_view text, const ElementCollection& elements, MessageBoxes& boxes,
+        std::vector<clsParser::Term>& terms)
+        : m_text(text)
+        , m_elements(elements)
+        , m_boxes(boxes)
+        , m_terms(terms)
+    {
+        m_terms.clear();
+    }
+
+    double evaluate() { return expression(0, m_text.size()); }
+
+    bool hexadecimal() const { return m_hexadecimal; }
+    const std::optional<Abbruch>& unknownFunction() const { return m_unknownFunction; }
+
+private:
+    std::string_view part(std::size_t begin, std::size_t end) const { return m_text.substr(begin, end - begin); }
+
+    std::size_t skipBlanks(std::size_t i, std::size_t end) const
+    {
+        while (i < end && m_text[i] == ' ')
+            ++i;
+        return i;
+    }
+
+    /// The value of the text from begin up to end; 0 if it is blank.
+    double expression(std::size_t begin, std::size_t end)
+    {
+        if (trimmed(part(begin, end)).empty())
+            return 0;
+        if (++m_depth > MaxDepth)
+            abort(Fehler::UngueltigesArgument, "zu tief verschachtelt", begin);
+        const std::size_t base = m_terms.size();
+        char op = 0;
+        std::size_t opPosition = begin;
+        for (std::size_t i = begin;;) {
+            const double value = nextOperand(i, end);
+            m_terms.push_back({op, value, opPosition});
+            if (i == end)
+                break;
+            op = m_text[i];
+            opPosition = i++;
+        }
+        reduce(base, "^");
+        reduce(base, "*/");
+        reduce(base, "+-");
+        const double value = m_terms[base].value;
+        m_terms.resize(base);
+        --m_depth;
+        return value;
+    }
+
+    /// Reads the operand that begins at i and moves i to the operator behind it or to the end.
+    double nextOperand(std::size_t& i, std::size_t end)
+    {
+        const std::size_t begin = i;
+        while (i < end && m_text[i] != '(' && m_text[i] != ')' && !splitsAt(i, begin))
+            ++i;
+        const std::string_view text = trimmed(part(begin, i));
+        if (i < end && m_text[i] == ')')
+            abort(Fehler::TypenUnvertraeglich, "\")\" ohne \"(\"", i);
+        if (i == end || m_text[i] != '(') {
+            if (text.empty())
+                abort(Fehler::TypenUnvertraeglich, "Operand fehlt", i);
+            return operand(text, begin);
+        }
+        const std::size_t open = i;
+        const std::size_t close = matchingParenthesis(open, end);
+        i = skipBlanks(close + 1, end);
+        if (i < end && !isOperator(m_text[i]))
+            abort(Fehler::TypenUnvertraeglich, "Operator fehlt", i);
+        return text.empty() ? expression(open + 1, close) : function(text, begin, open + 1, close);
+    }
+
+    /// Whether the operator character at i ends the operand that begins at `begin`; the sign of an exponent does not.
+    bool splitsAt(std::size_t i, std::size_t begin) const
+    {
+        if (!isOperator(m_text[i]))
+            return false;
+        const bool afterE = i > begin && (m_text[i - 1] == 'e' || m_text[i - 1] == 'E');
+        return !afterE || !isMantissa(trimmed(part(begin, i - 1)));
+    }
+
+    std::size_t matchingParenthesis(std::size_t open, std::size_t end) const
+    {
+        int depth = 0;
+        for (std::size_t i = open; i < end; ++i) {
+            if (m_text[i] == '(')
+                ++depth;
+            else if (m_text[i] == ')' && --depth == 0)
+                return i;
+        }
+        abort(Fehler::TypenUnvertraeglich, "\")\" fehlt", open);
+    }
+
+    double operand(std::string_view text, std::size_t position) const
+    {
+        std::optional<double> number;
+        located(position, [&] {
+            number = numberIn(text);
+            return 0.0;
+        });
+        if (number)
+            return *number;
+        const std::string name = lowerCase(text.substr(0, 3));
+        if (text.size() == 2 && name == "pi")
+            return KonstantePi;
+        if (name == "e")
+            return KonstanteE;
+        if (name.starts_with("z_"))
+            return valenceOf(text.substr(2), position);
+        abort(Fehler::TypenUnvertraeglich, "\"" + quoted(text) + "\" ist keine Zahl", position);
+    }
+
+    double valenceOf(std::string_view key, std::size_t position) const
+    {
+        const auto element = m_elements.find(key, true);
+        if (!element)
+            abort(Fehler::UngueltigesArgument, "Element \"" + quoted(key) + "\" ist nicht bekannt", position);
+        if (istUnbekannt(element->Valenz()))
+            abort(Fehler::UngueltigesArgument, "Valenz von \"" + quoted(key) + "\" ist nicht bekannt", position);
+        return located(position, [&] { return doubleFromText(textOfSingle(element->Valenz())); });
+    }
+
+    /// The value of a function whose arguments stand from begin up to end.
+    double function(std::string_view name, std::size_t namePosition, std::size_t begin, std::size_t end)
+    {
+        std::array<double, 2> argument{};
+        int count = 0;
+        for (std::size_t i = begin; count == 0 || i <= end; ++count) {
+            const std::size_t argumentEnd = endOfArgument(i, end);
+            if (count == MaxArguments)
+                abort(Fehler::IndexAusserhalb, "zu viele Argumente", i);
+            if (trimmed(part(i, argumentEnd)).empty())
+                abort(Fehler::TypenUnvertraeglich, "Argument fehlt", i);
+            const double value = expression(i, argumentEnd);
+            if (count < 2)
+                argument.at(static_cast<std::size_t>(count)) = value;
+            i = argumentEnd + 1;
+        }
+        const Formelfunktion* const found = findFunction(lowerCase(name));
+        if (found == nullptr)
+            return unknownFunction(name, namePosition);
+        if (count < found->arguments)
+            abort(Fehler::TypenUnvertraeglich, "Argument fehlt", end);
+        return located(namePosition, [&] {
+            if (found->value != nullptr)
+                return throughText(checked(found->value(argument[0], argument[1])));
+            m_hexadecimal = true;
+            return doubleFromText("&H" + hexDigits(argument[0]));
+        });
+    }
+
+    /// The ";" that ends the argument beginning at i, on the outermost level, or the end.
+    std::size_t endOfArgument(std::size_t i, std::size_t end) const
+    {
+        for (int depth = 0; i < end; ++i) {
+            if (m_text[i] == '(')
+                ++depth;
+            else if (m_text[i] == ')')
+                --depth;
+            else if (m_text[i] == ';' && depth == 0)
+                break;
+        }
+        return i;
+    }
+
+    double unknownFunction(std::string_view name, std::size_t position)
+    {
+        m_boxes.show(
+            Icon::None, "Formelparser", "Fehler in Formel. (Funktion '" + quoted(name) + "' nicht definiert?)");
+        if (!m_unknownFunction)
+            m_unknownFunction =
+                Abbruch{Fehler::UngueltigesArgument, "Funktion \"" + quoted(name) + "\" ist nicht definiert", position};
+        return 0;
+    }
+
+    /// Combines the terms from `base` on whose operator is one of `operators`, from left to right.
+    void reduce(std::size_t base, std::string_view operators)
+    {
+        std::size_t last = base;
+        for (std::size_t k = base + 1; k < m_terms.size(); ++k) {
+            const clsParser::Term& term = m_terms[k];
+            if (operators.find(term.op) == std::string_view::npos)
+                m_terms[++last] = term;
+            else
+                m_terms[last].value =
+                    located(term.position, [&] { return combine(m_terms[last].value, term.op, term.value); });
+        }
+        m_terms.resize(last + 1);
+    }
+
+    std::string_view m_text;
+    const ElementCollection& m_elements;
+    MessageBoxes& m_boxes;
+    std::vector<clsParser::Term>& m_terms;
+    int m_depth = 0;
+    bool m_hexadecimal = false;
+    std::optional<Abbruch> m_unknownFunction;
+};
+
+/// Passes the formula without its blanks on character by character: put(character, place in the formula).
+template <class Put>
+void withoutBlanks(std::string_view formula, Put&& put)
+{
+    std::size_t next = 0;
+    for (std::size_t i = 1; i < formula.size() && next < formula.size(); ++i) {
+        if (formula[next] == ' ')
+            ++next; // the character that moves to this place is passed over
+        if (next < formula.size()) {
+            put(formula[next], next);
+            ++next;
+        }
+    }
+    for (; next < formula.size(); ++next)
+        put(formula[next], next);
+}
+
+/// The character (from 1) of the formula at which byte `compact` of the formula without blanks stands.
+std::size_t characterOf(std::string_view formula, std::size_t compact)
+{
+    std::size_t place = formula.size();
+    std::size_t written = 0;
+    withoutBlanks(formula, [&](char, std::size_t from) {
+        if (written++ == compact)
+            place = from;
+    });
+    const auto startsCharacter = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80; };
+    return static_cast<std::size_t>(std::ranges::count_if(formula.substr(0, place), startsCharacter)) + 1;
+}
+
+Formelfehler formelfehler(const Abbruch& abbruch, std::string_view formula)
+{
+    return {static_cast<int>(abbruch.fehler), abbruch.grund, characterOf(formula, abbruch.position)};
+}
+
+} // namespace
+
+clsParser::clsParser(const ElementCollection& elements, MessageBoxes& boxes)
+    : m_elements(elements)
+    , m_boxes(boxes)
+{
+}
+
+std::string clsParser::FormatLastResult(std::string_view format) const
+{
+    if (format == "Scientific")
+        return scientificText(m_lastResult, 2, "", false);
+    return format == "Standard" ? textOfDouble(m_lastResult) : std::string();
+}
+
+std::string clsParser::Parse(std::string_view formula)
+{
+    m_lastResult = 0;
+    m_hexadecimal = false;
+    m_lastError.reset();
+    const bool hasBlanks = formula.find(' ') != std::string_view::npos;
+    const std::string compact = hasBlanks ? removeBlanks(formula) : std::string();
+    Auswertung auswertung(hasBlanks ? compact : formula, m_elements, m_boxes, m_terms);
+    try {
+        m_lastResult = auswertung.evaluate();
+        m_hexadecimal = auswertung.hexadecimal();
+        if (auswertung.unknownFunction())
+            m_lastError = formelfehler(*auswertung.unknownFunction(), formula);
+        return m_hexadecimal ? "0x" + hexDigits(m_lastResult) : textOfDouble(m_lastResult);
+    } catch (const Abbruch& abbruch) {
+        const auto& first = auswertung.unknownFunction();
+        m_lastError = formelfehler(first ? *first : abbruch, formula);
+    } catch (const Laufzeitfehler& error) { // a hexadecimal result that is too large
+        if (!m_lastError)
+            m_lastError = Formelfehler{error.Nummer(), error.what(), 1};
+    }
+    m_lastResult = 0;
+    return "0";
+}
+
+std::string_view clsParser::FunctionName(int index) const
+{
+    if (index < 0 || index >= Funktionenzahl)
+        return {};
+    return index == Funktionenzahl - 1 ? "Hex" : formelfunktion(index).name;
+}
+
+int clsParser::FunctionCount() const { return Funktionenzahl; }
+
+std::string removeBlanks(std::string_view formula)
+{
+    std::string compact;
+    compact.reserve(formula.size());
+    withoutBlanks(formula, [&](char c, std::size_t) { compact += c; });
+    return compact;
+}
+
+} // namespace zerna
