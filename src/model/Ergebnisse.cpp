@@ -1,0 +1,182 @@
+#include "model/Ergebnisse.h"
+
+#include "core/CheckedArithmetic.h"
+#include "core/Zahlentext.h"
+
+namespace zerna {
+
+namespace {
+
+constexpr std::string_view Zeilenende = "\r\n";
+constexpr std::string_view Friedelvorspann = "r(n) = ";
+constexpr int Friedelzeilen = 11;
+constexpr int LetzteTextzeile = 9;
+
+constexpr std::array<Ergebniszeile, 18> Zeilen{{
+    {0, "mittlere Valenz:", "e/a", [](const clsCalc& c) { return c.Valenz(); }, true},
+    {1, "mittlere Teilchenzahldichte:", "1/nm³", [](const clsCalc& c) { return c.Teilchenzahldichte(); }, true},
+    {2, "mittlere Dichte:", "g/cm³", [](const clsCalc& c) { return c.Dichte(); }},
+    {3, "mittleres Atomvolumen:", "m³", [](const clsCalc& c) { return c.Atomvolumen(); }},
+    {4, "Hall - Koeffizient:", "m³/As", [](const clsCalc& c) { return c.HallKoeffizient(); }},
+    {5, "Thermokraft:", "V/K²", [](const clsCalc& c) { return c.Thermokraft(); }},
+    {6, "Plasmonenenergie:", "eV", [](const clsCalc& c) { return c.Plasmonenenergie(); }},
+    {7, "Fermienergie:", "eV", [](const clsCalc& c) { return c.Fermienergie(); }},
+    {8, "2 kF:", "1/nm", [](const clsCalc& c) { return c.Kf_2(); }, true},
+    {9, "Friedelwellenlänge:", "nm", [](const clsCalc& c) { return c.Friedelwellenlaenge(); }},
+    {Friedelzeile, "Friedelminima:", "nm", [](const clsCalc& c) { return c.Friedelminima(0); }},
+    {11, "mittlere Elektronendichte:", "e/nm³", [](const clsCalc& c) { return c.Elektrondichte(); }},
+    {13, "Raumausfüllung:", "%", [](const clsCalc& c) { return toSingle(c.Raumausfuellung() * 100.0); }},
+    {14, "D(EF):", "states/eV atom", [](const clsCalc& c) { return c.D_EF(); }},
+    {15, "Fermitemperatur:", "K", [](const clsCalc& c) { return c.Fermitemperatur(); }},
+    {16, "m. Energie/Elektron:", "eV", [](const clsCalc& c) { return c.Energie_Elektron(); }},
+    {17, "Energie El-System:", "eV/nm³", [](const clsCalc& c) { return c.Energie_El_System(); }},
+    {18, "Kompressionsmodul:", "N/m²", [](const clsCalc& c) { return c.Kompressionsmodul(); }},
+}};
+
+std::string kompositionszeile(const Komponentenzeile& k)
+{
+    return k.symbol + ": Konzentration = " + k.prozent + " at% ,Dichte(" + k.dichtewahl + ") = " + k.dichte
+        + " g/cm³ ,Valenz(" + k.valenzwahl + ") = " + k.valenz;
+}
+
+/// Whether the line belongs to the results text and has something to say there.
+bool isExported(const Ergebniszeile& zeile, const Ergebnistexte& texte)
+{
+    return zeile.index <= LetzteTextzeile && texte.at(static_cast<std::size_t>(zeile.index)).known;
+}
+
+/// (n + 5/4)·λ in nm.
+double friedelradius(const clsCalc& calc, int n) { return (n + 5.0 / 4.0) * calc.Friedelwellenlaenge(); }
+
+/// The text without its first characters; UTF-8 characters are not cut.
+std::string_view withoutCharacters(std::string_view text, std::size_t count)
+{
+    std::size_t i = 0;
+    for (; i < text.size() && count > 0; --count) {
+        ++i;
+        while (i < text.size() && (static_cast<unsigned char>(text[i]) & 0xC0U) == 0x80)
+            ++i;
+    }
+    return text.substr(i);
+}
+
+} // namespace
+
+std::span<const Ergebniszeile> ergebniszeilen() { return Zeilen; }
+
+bool berechneErgebnisse(const clsCalc& calc, Ergebnistexte& texte)
+{
+    bool computable = true;
+    for (const Ergebniszeile& zeile : Zeilen) {
+        Ergebnistext& ergebnis = texte.at(static_cast<std::size_t>(zeile.index));
+        ergebnis.text.clear();
+        ergebnis.known = false;
+        if (zeile.editable) {
+            ergebnis.known = !istUnbekannt(orUnbekannt([&] { return zeile.value(calc); }));
+            ergebnis.text = zeile.unit;
+            continue;
+        }
+        if (!computable)
+            continue;
+        try {
+            const float value = zeile.value(calc);
+            ergebnis.known = !istUnbekannt(value);
+            ergebnis.text = zeile.index == Friedelzeile ? friedelanzeige(calc, 0) : FormatValue(value, zeile.unit);
+        } catch (const Laufzeitfehler&) {
+            computable = false;
+        }
+    }
+    if (!computable)
+        texte.at(Friedelzeile) = {};
+    return computable;
+}
+
+std::string friedelanzeige(const clsCalc& calc, float n)
+{
+    return std::string(Friedelvorspann) + FormatValue(calc.Friedelminima(static_cast<int>(n)), "nm");
+}
+
+float friedelindex(float n)
+{
+    if (n > 19)
+        n = 0;
+    return n < 0 ? 20 : n;
+}
+
+std::string ergebnistext(const clsCalc& calc, std::span<const Komponentenzeile> komponenten, const Ergebnistexte& texte)
+{
+    std::string text = "Modell freier Elektronen";
+    text += Zeilenende;
+    for (const Komponentenzeile& komponente : komponenten)
+        text.append(Zeilenende).append(kompositionszeile(komponente));
+    text += Zeilenende;
+    for (const Ergebniszeile& zeile : Zeilen) {
+        if (isExported(zeile, texte))
+            text.append(Zeilenende).append(texte.at(static_cast<std::size_t>(zeile.index)).text);
+    }
+    text.append(Zeilenende).append("Friedelminima:");
+    const float wavelength = calc.Friedelwellenlaenge();
+    for (int n = 0; n < Friedelzeilen && !istUnbekannt(wavelength); ++n)
+        text.append(Zeilenende).append("n = " + std::to_string(n) + " r(n) = " + FormatValue(wavelength, "nm"));
+    return text;
+}
+
+std::string ergebnisdatei(
+    const clsCalc& calc, std::span<const Komponentenzeile> komponenten, const Ergebnistexte& texte)
+{
+    std::string text;
+    const auto line = [&](std::string_view content) { text.append(content).append(Zeilenende); };
+    line("Modell freier Elektronen");
+    line("");
+    for (const Komponentenzeile& komponente : komponenten)
+        line(kompositionszeile(komponente));
+    line("");
+    for (const Ergebniszeile& zeile : Zeilen) {
+        if (isExported(zeile, texte))
+            line(std::string(zeile.caption) + " " + texte.at(static_cast<std::size_t>(zeile.index)).text);
+    }
+    line("");
+    line("Friedelminima:");
+    const bool known = !istUnbekannt(calc.Friedelwellenlaenge());
+    for (int n = 0; n < Friedelzeilen && known; ++n)
+        line("n = " + std::to_string(n) + " r(n) = " + FormatValue(toSingle(friedelradius(calc, n)), "nm"));
+    return text;
+}
+
+std::string friedeldatei(const clsCalc& calc)
+{
+    std::string text;
+    const bool known = !istUnbekannt(calc.Friedelwellenlaenge());
+    for (int n = 0; n < Friedelzeilen && known; ++n) {
+        const std::string x = CommaToPoint(textOfDouble(friedelradius(calc, n)));
+        text.append(x + "\t50").append(Zeilenende);
+        text.append(x + "\t55").append(Zeilenende);
+        text.append(" \t ").append(Zeilenende);
+    }
+    return text;
+}
+
+std::string kopierteZahl(int index, std::string_view text)
+{
+    if (index >= Friedelzeile)
+        text = withoutCharacters(text, Friedelvorspann.size());
+    return CommaToPoint(text.substr(0, text.find(' ')));
+}
+
+std::string wertUndEinheit(std::string_view text)
+{
+    if (text.starts_with(Friedelvorspann))
+        text.remove_prefix(Friedelvorspann.size());
+    return std::string(text);
+}
+
+std::string ganzeZahl(std::string_view text, std::string_view unit)
+{
+    std::string number = wertUndEinheit(text);
+    if (number.ends_with(unit))
+        number.resize(number.size() - unit.size());
+    std::erase(number, ' ');
+    return number;
+}
+
+} // namespace zerna

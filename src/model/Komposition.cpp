@@ -1,0 +1,123 @@
+#include "model/Komposition.h"
+
+#include <algorithm>
+
+#include "core/CheckedArithmetic.h"
+#include "core/Zahlentext.h"
+#include "model/clsCalc.h"
+
+namespace zerna {
+
+namespace {
+
+struct Dichteart {
+    std::string_view text;
+    float (clsElement::*value)() const;
+};
+
+constexpr std::array<Dichteart, 3> Dichtearten{{
+    {"amorph", &clsElement::Dichte_Amorph},
+    {"flüssig", &clsElement::Dichte_Fluessig},
+    {"kristallin", &clsElement::Dichte_Kristallin},
+}};
+
+/// Electrons of an orbital group; 0 for a damaged record whose counts cannot be added.
+float electronsOf(const clsElement& element, int orbital)
+{
+    return valueOr(0, [&] { return static_cast<float>(element.Orbital_L_Elektronen(orbital)); });
+}
+
+} // namespace
+
+std::vector<std::string_view> dichteauswahl(const clsElement& element)
+{
+    std::vector<std::string_view> choices;
+    for (const Dichteart& art : Dichtearten) {
+        if (!istUnbekannt((element.*art.value)()))
+            choices.push_back(art.text);
+    }
+    choices.push_back(AndereWahl);
+    return choices;
+}
+
+float dichteFor(const clsElement& element, std::string_view choice)
+{
+    const auto* const art = std::ranges::find(Dichtearten, choice, &Dichteart::text);
+    return art == Dichtearten.end() ? 0 : (element.*art->value)();
+}
+
+std::vector<Valenzeintrag> valenzauswahl(const clsElement& element)
+{
+    std::vector<Valenzeintrag> choices{{"Standard", ValenzStandard}};
+    for (int orbital = 0; orbital <= 3; ++orbital) {
+        if (electronsOf(element, orbital) != 0)
+            choices.push_back({OrbitalLabel(orbital), orbital});
+    }
+    choices.push_back({AndereWahl, ValenzAndere});
+    return choices;
+}
+
+float valenzFor(const clsElement& element, int code)
+{
+    if (code == ValenzStandard)
+        return element.Valenz();
+    return code == ValenzAndere ? 0 : electronsOf(element, code);
+}
+
+std::string feldtext(float value) { return istUnbekannt(value) ? std::string(UnbekannterWert) : textOfSingle(value); }
+
+int naechsteKomponentenzahl(int count, int step)
+{
+    const int next = count + step;
+    if (next > MaxKomponenten)
+        return 1;
+    return next < 1 ? MaxKomponenten : next;
+}
+
+int gespeicherteKomponentenzahl(std::string_view setting)
+{
+    constexpr int Standard = 2;
+    const bool valid = setting.size() == 1 && setting.front() >= '0' && setting.front() <= '0' + MaxKomponenten;
+    return valid ? setting.front() - '0' : Standard;
+}
+
+std::optional<std::string> ausgleichstext(std::span<const std::string> prozente)
+{
+    constexpr int Stellen = 7;
+    float sum = 0;
+    for (const std::string& text : prozente) {
+        if (text.empty())
+            return std::nullopt;
+        sum = toSingle(static_cast<double>(sum) + singleFromText(text));
+    }
+    return textWithDigits(toSingle(100.0 - sum), Stellen);
+}
+
+std::string diagrammhindernis(std::span<const Diagrammzeile> zeilen)
+{
+    for (const Diagrammzeile& zeile : zeilen) {
+        const float dichte = orUnbekannt([&] { return singleFromText(zeile.dichte); });
+        if (dichte == 0)
+            return "Dichte für " + zeile.name + " ist Null!";
+        if (zeile.dichte.empty() || zeile.dichte == UnbekannterWert)
+            return "Dichte für " + zeile.name + " ist unbekannt!";
+        if (istUnbekannt(dichte))
+            return "Dichte für " + zeile.name + " ist keine gültige Zahl!";
+        if (zeile.valenzUnbekannt)
+            return "Valenz für " + zeile.name + " ist unbekannt!";
+        if (!zeile.valenzGueltig)
+            return "Valenz für " + zeile.name + " ist ungültig!";
+    }
+    return {};
+}
+
+bool istFormel(std::string_view valenztext)
+{
+    try {
+        return !numberIn(valenztext);
+    } catch (const Laufzeitfehler&) {
+        return false; // a number, though too large
+    }
+}
+
+} // namespace zerna

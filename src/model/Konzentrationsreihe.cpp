@@ -1,0 +1,140 @@
+#include "model/Konzentrationsreihe.h"
+
+#include <cmath>
+
+#include "core/CheckedArithmetic.h"
+#include "core/Zahlentext.h"
+#include "model/Konstanten.h"
+
+namespace zerna {
+
+namespace {
+
+struct Reihengroesse {
+    std::string_view einheit;
+    float (clsCalc::*value)() const;
+};
+
+constexpr std::array<Reihengroesse, LetzteReihengroesse + 1> Groessen{{
+    {"e/a", &clsCalc::Valenz},
+    {"1/nm³", &clsCalc::Teilchenzahldichte},
+    {"e/nm³", &clsCalc::Elektrondichte},
+    {"g/cm³", nullptr},
+    {"nm³", &clsCalc::Atomvolumen}, // the value itself is in m³
+    {"m³/As", &clsCalc::HallKoeffizient},
+    {"V/K²", &clsCalc::Thermokraft},
+    {"eV", &clsCalc::Plasmonenenergie},
+    {"eV", &clsCalc::Fermienergie},
+    {"1/nm", &clsCalc::Kf_2},
+    {"nm", &clsCalc::Friedelwellenlaenge},
+}};
+
+/// What a series needs of a component, read once.
+struct Anteil {
+    double valenz = 0;
+    double molvolumen = 0; // cm³/mol
+    double prozent = 0; // as entered
+};
+
+float valenzOf(const clsElement& element, clsParser& parser)
+{
+    const std::string value = parser.Parse(element.Valenz_Temp());
+    if (parser.LastError())
+        throw Laufzeitfehler(static_cast<Fehler>(parser.LastError()->Nummer));
+    return singleFromText(value);
+}
+
+std::array<Anteil, MaxKomponenten> anteile(clsParser& parser, std::span<const Reihenkomponente> komponenten)
+{
+    std::array<Anteil, MaxKomponenten> result;
+    for (std::size_t j = 0; j < komponenten.size(); ++j) {
+        const clsElement& element = *komponenten[j].element;
+        result.at(j) = {valenzOf(element, parser), quotient(element.Masse(), element.Dichte()), komponenten[j].prozent};
+    }
+    return result;
+}
+
+/// Sets the calculator to the composition with i at% of the variable component. Particle density first, valence second.
+void Schritt_Setzen(clsCalc& calc, std::span<const Anteil> anteile, std::size_t variable, int i)
+{
+    double valenz = 0;
+    float volumen = 0;
+    for (std::size_t j = 0; j < anteile.size(); ++j) {
+        const double prozent = j == variable ? i : anteile[j].prozent * (100 - i) / 100;
+        valenz += prozent * anteile[j].valenz;
+        volumen = toSingle(volumen + prozent * anteile[j].molvolumen);
+    }
+    calc.setTeilchenzahldichte(volumen == 0 ? 0 : toSingle(AvogadroProKubikmeter / (volumen / 100.0)));
+    calc.setValenz(toSingle(valenz / 100));
+}
+
+std::size_t checkedIndex(int index, std::size_t count)
+{
+    if (index < 0 || static_cast<std::size_t>(index) >= count || count > MaxKomponenten)
+        throw Laufzeitfehler(Fehler::IndexAusserhalb);
+    return static_cast<std::size_t>(index);
+}
+
+} // namespace
+
+std::string_view reiheneinheit(int groesse)
+{
+    return groesse >= 0 && groesse <= LetzteReihengroesse ? Groessen.at(static_cast<std::size_t>(groesse)).einheit : "";
+}
+
+Reihe konzentrationsreihe(
+    const clsCalc& calc, clsParser& parser, std::span<const Reihenkomponente> komponenten, int variable, int groesse)
+{
+    if (groesse < 0 || groesse > LetzteReihengroesse || groesse == GroesseDichte)
+        throw Laufzeitfehler(Fehler::UngueltigesArgument);
+    const auto value = Groessen.at(static_cast<std::size_t>(groesse)).value;
+    const std::size_t index = checkedIndex(variable, komponenten.size());
+    const auto teile = anteile(parser, komponenten);
+    clsCalc scratch = calc;
+    Reihe reihe{};
+    for (int i = 0; i <= 100; ++i) {
+        Schritt_Setzen(scratch, std::span(teile).first(komponenten.size()), index, i);
+        reihe.at(static_cast<std::size_t>(i)) = (scratch.*value)();
+    }
+    return reihe;
+}
+
+Reihe dichtereihe(std::span<const float> dichten, int variable)
+{
+    const std::size_t index = checkedIndex(variable, dichten.size());
+    double others = 0;
+    for (std::size_t j = 0; j < dichten.size(); ++j)
+        others += j == index ? 0 : dichten[j];
+    Reihe reihe{};
+    for (int i = 0; i <= 100; ++i) {
+        const double share = quotient(100 - i, static_cast<double>(dichten.size()) - 1) / 100;
+        reihe.at(static_cast<std::size_t>(i)) =
+            toSingle(dichten[index] * static_cast<double>(i) / 100 + share * others);
+    }
+    return reihe;
+}
+
+std::string reihendatei(std::string_view symbol, std::string_view einheit, const Reihe& reihe, int schritt)
+{
+    std::string text = std::string(symbol) + " [at%]\t" + std::string(einheit) + "\r\n";
+    for (int i = 0; schritt > 0 && i <= 100; i += schritt) {
+        const float value = reihe.at(static_cast<std::size_t>(i));
+        if (!istUnbekannt(value))
+            text += std::to_string(i) + "\t" + textOfSingle(value, Dezimaltrenner::Punkt) + "\r\n";
+        if (schritt > 100 - i) // also keeps a huge step from overflowing
+            break;
+    }
+    return text;
+}
+
+int schrittweite(std::string_view text)
+{
+    try {
+        const double rounded = std::nearbyint(doubleFromText(text));
+        return std::abs(rounded) < std::numeric_limits<int>::max() ? static_cast<int>(rounded) : 1;
+    } catch (const Laufzeitfehler&) {
+        return 1;
+    }
+}
+
+} // namespace zerna

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "model/clsCalc.h"
+
+/// A free-electron quantity of an alloy over the at% of one of its components.
+namespace zerna {
+
+/// 101 values, index = at% of the variable component.
+using Reihe = std::array<float, 101>;
+
+/// Quantity code of the density, which has a series rule of its own.
+inline constexpr int GroesseDichte = 3;
+/// Codes of the concentration quantities run from 0 to this.
+inline constexpr int LetzteReihengroesse = 10;
+
+/// One component of the series: its element with the working density and valence text, and its entered at%.
+struct Reihenkomponente {
+    std::shared_ptr<const clsElement> element;
+    float prozent = 0;
+};
+
+/// Unit text of quantity `groesse`, 0 to 10; empty for any other.
+std::string_view reiheneinheit(int groesse);
+
+/// The series of quantity `groesse` (0 to 10, but not the density) for component `variable`. The others keep their
+/// entered proportions and share what is left. The calculator is not changed; its constants and formulas are used, and
+/// each valence text is evaluated once. Run-time errors reach the caller, error 5 for another quantity.
+Reihe konzentrationsreihe(
+    const clsCalc& calc, clsParser& parser, std::span<const Reihenkomponente> komponenten, int variable, int groesse);
+
+/// The density series (g/cm³) from the densities of all components.
+/// Intended: the other components share what is left in equal parts, not in their entered proportions. A single
+/// component is a division by zero.
+Reihe dichtereihe(std::span<const float> dichten, int variable);
+
+/// The content of a series file: header with symbol and unit, then a line per `schritt` at%, CR LF. Values that are
+/// unknown are left out; a step of 0 or less gives the header only.
+std::string reihendatei(std::string_view symbol, std::string_view einheit, const Reihe& reihe, int schritt);
+
+/// The step width that a typed text means: rounded to a whole number, halves to even; 1 for a text that is no number.
+int schrittweite(std::string_view text);
+
+} // namespace zerna

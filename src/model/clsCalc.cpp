@@ -1,0 +1,227 @@
+#include "model/clsCalc.h"
+
+#include "core/CheckedArithmetic.h"
+#include "core/Zahlentext.h"
+#include "model/Konstanten.h"
+
+namespace zerna {
+
+clsCalc::clsCalc(const ElementCollection& elements, const int& komponentenzahl, clsParser& parser)
+    : m_elements(elements)
+    , m_komponentenzahl(komponentenzahl)
+    , m_parser(parser)
+{
+    Class_Initialize();
+}
+
+float clsCalc::Raumausfuellung() const
+{
+    return valueOr(0, [&] {
+        const double radius = 5.0 / 4.0 * Friedelwellenlaenge();
+        return toSingle(power(radius, 3) * m_teilchenzahldichte * (Pi / 6) * KubiknanometerInKubikmeter);
+    });
+}
+
+float clsCalc::D_EF() const
+{
+    return valueOr(0, [&] { return toSingle(quotient(3.0 / 2.0 * m_valenz, Fermienergie())); });
+}
+
+float clsCalc::Fermitemperatur() const { return toSingle(quotient(Fermienergie() * ElektronvoltInJoule, m_boltzmann)); }
+
+float clsCalc::Energie_Elektron() const { return toSingle(3.0 / 5.0 * Fermienergie()); }
+
+float clsCalc::Energie_El_System() const
+{
+    double c = 2.0 / 5.0 * squareRoot(2) / Pi / Pi;
+    c = quotient(c, power(m_planck, 3));
+    c = power(m_elektronmasse, 3.0 / 2.0) * c;
+    return toSingle(
+        power(Fermienergie() * ElektronvoltInJoule, 5.0 / 2.0) * c * (ElektronvoltInJoule / NanometerInMeter));
+}
+
+float clsCalc::Kompressionsmodul() const
+{
+    return toSingle(m_teilchenzahldichte * (2.0 / 3.0) * KubiknanometerInKubikmeter * m_valenz * Fermienergie()
+        * ElektronvoltInJoule);
+}
+
+float clsCalc::Element_Masse(int index) const
+{
+    const clsElement* const element = elementAt(index);
+    return element != nullptr ? element->Masse() : 0;
+}
+
+std::string clsCalc::Element_Name(int index) const
+{
+    const clsElement* const element = elementAt(index);
+    return element != nullptr ? element->Name() : std::string();
+}
+
+std::string clsCalc::Element_Symbol(int index) const
+{
+    const clsElement* const element = elementAt(index);
+    return element != nullptr ? element->symbol() : std::string();
+}
+
+float clsCalc::Element_Prozente(int index) const
+{
+    return elementAt(index) != nullptr ? m_komponenten.at(static_cast<std::size_t>(index)).prozent : 0;
+}
+
+void clsCalc::Element_Add(int index, std::string_view key, float prozent)
+{
+    const auto& element = m_elements.Item(key);
+    if (index < 0 || index >= MaxKomponenten)
+        throw Laufzeitfehler(Fehler::IndexAusserhalb);
+    Komponente& komponente = m_komponenten.at(static_cast<std::size_t>(index));
+    komponente.element = element;
+    komponente.prozent = prozent;
+    Neu_Berechnen();
+}
+
+float clsCalc::Fermienergie() const
+{
+    return orUnbekannt([&] { return toSingle(m_fermiFactor * power(electronDensity(), 2.0 / 3.0)); });
+}
+
+float clsCalc::HallKoeffizient() const
+{
+    return orUnbekannt([&] { return toSingle(quotient(1, electronDensity()) * m_hallFactor); });
+}
+
+float clsCalc::Thermokraft() const
+{
+    return orUnbekannt([&] { return toSingle(power(electronDensity(), -2.0 / 3.0) * m_thermoFactor); });
+}
+
+float clsCalc::Plasmonenenergie() const
+{
+    return orUnbekannt([&] { return toSingle(m_plasmonFactor * squareRoot(electronDensity())); });
+}
+
+float clsCalc::Teilchenzahldichte() const { return toSingle(m_teilchenzahldichte * KubiknanometerInKubikmeter); }
+
+void clsCalc::setTeilchenzahldichte(float perCubicMetre)
+{
+    m_teilchenzahldichte = perCubicMetre;
+    Kf_2_Berechnen();
+}
+
+void clsCalc::setValenz(float electronsPerAtom)
+{
+    m_valenz = electronsPerAtom;
+    Kf_2_Berechnen();
+}
+
+float clsCalc::Atomvolumen() const
+{
+    return hasParticles() ? orUnbekannt([&] { return toSingle(quotient(1, m_teilchenzahldichte)); }) : Unbekannt;
+}
+
+float clsCalc::Elektrondichte() const
+{
+    return hasParticles() ? orUnbekannt([&] { return toSingle(m_teilchenzahldichte / 1e27 * m_valenz); }) : Unbekannt;
+}
+
+float clsCalc::Friedelwellenlaenge() const
+{
+    return hasParticles() ? orUnbekannt([&] { return toSingle(quotient(2 * Pi, m_kf2)); }) : Unbekannt;
+}
+
+float clsCalc::Friedelminima(int n) const
+{
+    const float wavelength = Friedelwellenlaenge();
+    if (istUnbekannt(wavelength))
+        return Unbekannt;
+    return toSingle((static_cast<float>(n) + 5.0 / 4.0) * wavelength);
+}
+
+/// The element in slot `index`; null if there is no such slot or it is empty.
+const clsElement* clsCalc::elementAt(int index) const
+{
+    const bool valid = index >= 0 && index < MaxKomponenten;
+    return valid ? m_komponenten.at(static_cast<std::size_t>(index)).element.get() : nullptr;
+}
+
+/// Sums at%-weighted valence, molar volume and density. Any error makes all three unknown and leaves Kf_2 as it was.
+/// Intended: at% are not normalised to a sum of 100; the density is weighted by at%, not by mass, and does not enter
+/// the particle number density, which comes from the molar volume.
+void clsCalc::Neu_Berechnen()
+{
+    try {
+        float valenz = 0;
+        float molvolumen = 0; // cm³/mol, times 100
+        float dichte = 0;
+        for (int i = 0; i < m_komponentenzahl; ++i) {
+            if (i >= MaxKomponenten)
+                throw Laufzeitfehler(Fehler::IndexAusserhalb);
+            Komponente& komponente = m_komponenten.at(static_cast<std::size_t>(i));
+            if (!komponente.element)
+                throw Laufzeitfehler(Fehler::ObjektNichtFestgelegt);
+            const double prozent = komponente.prozent;
+            const double dichteOfElement = komponente.element->Dichte();
+            valenz = toSingle(valenz + valenzOf(komponente) * prozent);
+            molvolumen = toSingle(molvolumen + quotient(prozent * komponente.element->Masse(), dichteOfElement));
+            dichte = toSingle(dichte + dichteOfElement * prozent);
+        }
+        m_valenz = toSingle(valenz / 100.0);
+        m_dichte = toSingle(dichte / 100.0);
+        molvolumen = toSingle(molvolumen / 100.0);
+        m_teilchenzahldichte = molvolumen == 0 ? Unbekannt : toSingle(AvogadroProKubikmeter / molvolumen);
+        Kf_2_Berechnen();
+    } catch (const Laufzeitfehler&) {
+        m_valenz = Unbekannt;
+        m_teilchenzahldichte = Unbekannt;
+        m_dichte = Unbekannt;
+    }
+}
+
+void clsCalc::Class_Initialize()
+{
+    // Held as a single, which lies below the normal range and so carries about four digits only.
+    constexpr float FeldkonstanteMalMasse = 8.065874e-42F;
+
+    m_elementarladung = 1.6021765e-19F;
+    m_elektronmasse = 9.109382e-31F;
+    m_feldkonstante = 8.854188e-12F;
+    m_planck = 1.0545716e-34F;
+    m_boltzmann = 1.38065e-23F;
+    const double charge = m_elementarladung;
+    const double mass = m_elektronmasse;
+    const double planck = m_planck;
+    const double boltzmann = m_boltzmann;
+    const double threePiSquared = 3 * Pi * Pi;
+    m_plasmonFactor = toSingle(charge * planck / squareRoot(FeldkonstanteMalMasse) / ElektronvoltInJoule);
+    m_kf2Factor = toSingle(2 * power(threePiSquared, 1.0 / 3.0) * NanometerInMeter);
+    m_fermiFactor = toSingle(planck * planck / 2 / mass * power(threePiSquared, 2.0 / 3.0) / ElektronvoltInJoule);
+    // Intended: the factor 2, see Thermokraft.
+    m_thermoFactor =
+        toSingle(-2 * boltzmann * boltzmann * mass / (planck * planck * charge * power(3 / Pi, 2.0 / 3.0)));
+    m_hallFactor = toSingle(-1 / charge);
+}
+
+void clsCalc::Kf_2_Berechnen()
+{
+    m_kf2 = orUnbekannt([&] { return toSingle(m_kf2Factor * power(electronDensity(), 1.0 / 3.0)); });
+}
+
+/// The component's valence; error 13 or the formula's own error if its text gives none.
+float clsCalc::valenzOf(Komponente& komponente)
+{
+    const std::string& text = komponente.element->Valenz_Temp();
+    if (komponente.valenzKnown && komponente.valenztext == text)
+        return komponente.valenz;
+    const std::string result = m_parser.Parse(text);
+    if (m_parser.LastError())
+        throw Laufzeitfehler(static_cast<Fehler>(m_parser.LastError()->Nummer));
+    komponente.valenz = singleFromText(result);
+    komponente.valenztext = text;
+    // A reference to another element (z_Cu) is looked up each time.
+    komponente.valenzKnown = text.find('_') == std::string::npos;
+    return komponente.valenz;
+}
+
+bool clsCalc::hasParticles() const { return m_teilchenzahldichte != 0 && !istUnbekannt(m_teilchenzahldichte); }
+
+} // namespace zerna
