@@ -1,0 +1,70 @@
+// Turns an element table (CSV) into what the program ships:
+//   elementtabelle dat TABLE.csv OUT.dat    the element data file
+//   elementtabelle cpp TABLE.csv OUT.cpp    the built-in table as a byte array
+
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <span>
+#include <string>
+
+#include "core/ElementCsv.h"
+#include "core/Elementdatei.h"
+
+namespace {
+
+/// Any message means that the table could not be made.
+class FailingBoxes : public zerna::MessageBoxes {
+public:
+    void show(zerna::Icon, std::string_view, std::string_view text) override
+    {
+        throw std::runtime_error(std::string(text));
+    }
+};
+
+std::string contentOf(const std::filesystem::path& path)
+{
+    std::ifstream stream(path, std::ios::binary);
+    if (!stream)
+        throw std::runtime_error("cannot read " + path.string());
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+void writeByteArray(const std::filesystem::path& dat, const std::filesystem::path& cpp)
+{
+    const std::string bytes = contentOf(dat);
+    std::ofstream stream(cpp);
+    stream << "#include \"programm/EingebauteTabelle.h\"\n\nnamespace zerna {\n\n"
+           << "static_assert(EingebauteTabelle.size() == " << bytes.size() << ");\n\n"
+           << "const std::array<unsigned char, " << bytes.size() << "> EingebauteTabelle {{";
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        stream << (i % 20 == 0 ? "\n    " : " ") << static_cast<int>(static_cast<unsigned char>(bytes[i])) << ',';
+    stream << "\n}};\n\n} // namespace zerna\n";
+}
+
+void makeTable(std::span<char* const> arguments)
+{
+    if (arguments.size() != 4)
+        throw std::runtime_error("usage: elementtabelle dat|cpp TABLE.csv OUT");
+    const std::string form = arguments[1];
+    const std::filesystem::path out = arguments[3];
+    const std::filesystem::path dat = form == "dat" ? out : std::filesystem::path(out).replace_extension(".dat");
+    FailingBoxes boxes;
+    zerna::Dateinummern files;
+    zerna::saveElements(files, dat, boxes, zerna::readElementCsv(contentOf(arguments[2])));
+    if (form == "cpp")
+        writeByteArray(dat, out);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    try {
+        makeTable({argv, static_cast<std::size_t>(argc)});
+        return 0;
+    } catch (const std::exception& error) {
+        std::cerr << "elementtabelle: " << error.what() << '\n';
+        return 1;
+    }
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace zerna {
+
+/// What start-up fills in the main window before it is shown. Lists and positions count from 0; texts are UTF-8.
+class Hauptfenster {
+public:
+    virtual ~Hauptfenster() = default;
+
+    /// Appends an element to element list `list` (0 to 4) with its position in the collection as item data.
+    virtual void addElement(int list, std::string_view symbol, int itemData) = 0;
+
+    /// The text of an entry of an element list; empty if there is none.
+    virtual std::string elementEntry(int list, int position) const = 0;
+
+    /// The position of the first entry with exactly this text; -1 if there is none.
+    virtual int findElementEntry(int list, std::string_view text) const = 0;
+
+    /// Selects an entry of an element list and fills its row; nothing for a position outside the list.
+    virtual void ComboElementListIndex(int index, int listIndex) = 0;
+
+    /// Appends the current text of an element list to the component list of the diagrams.
+    virtual void addDiagramComponent(int list) = 0;
+
+    /// Selects the first diagram type and the first component.
+    virtual void selectFirstDiagram() = 0;
+
+    virtual void show() = 0;
+};
+
+} // namespace zerna

@@ -1,0 +1,152 @@
+#include "programm/Programm.h"
+
+#include <string>
+
+#include "core/Elementdatei.h"
+#include "core/Exportdatei.h"
+#include "programm/EingebauteTabelle.h"
+
+namespace zerna {
+
+namespace {
+
+template <class Object>
+Object& existing(const std::unique_ptr<Object>& object)
+{
+    if (!object)
+        throw Laufzeitfehler(Fehler::ObjektNichtFestgelegt);
+    return *object;
+}
+
+} // namespace
+
+Programm::Programm(MessageBoxes& boxes, SettingsStore& settings, std::filesystem::path programFolder)
+    : m_boxes(boxes)
+    , m_parserBoxes(boxes)
+    , m_settings(settings, std::string(clsLoader::ApplicationName()))
+    , m_programFolder(std::move(programFolder))
+{
+}
+
+bool Programm::start(const CreateWindow& createWindow)
+{
+    Hauptfenster* window = nullptr;
+    try {
+        if (!startSteps(createWindow, window))
+            return false;
+    } catch (const Laufzeitfehler& error) {
+        // Whatever has been filled in is shown all the same.
+        m_boxes.show(Icon::Exclamation, clsLoader::ApplicationName(), error.what());
+    }
+    if (window == nullptr)
+        return false;
+    window->show();
+    return true;
+}
+
+bool Programm::startSteps(const CreateWindow& createWindow, Hauptfenster*& window)
+{
+    m_loader = std::make_unique<clsLoader>(m_boxes, m_programFolder);
+    m_loader->Connect();
+    if (!provideDataFile())
+        return false;
+    m_startupDone = false;
+    window = &createWindow();
+    m_fileHandler = std::make_unique<clsFileHandler>(m_files, m_boxes);
+    m_parser = std::make_unique<clsParser>(m_elementCollection, m_parserBoxes);
+    m_calc = std::make_unique<clsCalc>(m_elementCollection, m_komponentenzahl, *m_parser);
+    if (!LoadElements(*window))
+        return false;
+    m_selectedElement = m_elementCollection.Item(1);
+    restoreElements(*window);
+    for (int list = 0; list < 3; ++list)
+        window->addDiagramComponent(list);
+    window->selectFirstDiagram();
+    m_startupDone = true;
+    return true;
+}
+
+std::filesystem::path Programm::dataFile()
+{
+    return pathFromUtf8(Loader().ApplicationPath() + std::string(Elementdateiname));
+}
+
+/// Writes the built-in table out if there is no data file; false if there is none even then.
+bool Programm::provideDataFile()
+{
+    const std::string name = utf8FromPath(dataFile());
+    if (m_loader->IsFileFailed(name)) {
+        try {
+            writeExport(
+                dataFile(), {reinterpret_cast<const char*>(EingebauteTabelle.data()), EingebauteTabelle.size()});
+        } catch (const Laufzeitfehler&) {
+            // What counts is whether the file is there afterwards.
+        }
+    }
+    if (!m_loader->IsFileFailed(name))
+        return true;
+    ShowDataFileMissing(Elementdateiname);
+    return false;
+}
+
+void Programm::ShowDataFileMissing(std::string_view name)
+{
+    m_boxes.show(Icon::Exclamation, "Zerna - Loader",
+        "Sie benötigen eine neuere Version der Datei '" + std::string(name)
+            + "'.\r\nProgramm kann nicht ausgeführt werden.");
+}
+
+/// Fills the collection and the window's element lists; false if the program must end. A file that cannot be opened
+/// leaves everything empty.
+bool Programm::LoadElements(Hauptfenster& window)
+{
+    constexpr int Binaer = static_cast<int>(Zugriff::Binaer);
+    m_elementCollection.clear();
+    const std::string name = utf8FromPath(dataFile());
+    if (!m_fileHandler->OpenFile(name, Binaer))
+        return true;
+    const auto fill = [&](const std::shared_ptr<clsElement>& element, int position) {
+        m_currentElement = element;
+        for (int list = 0; list < MaxKomponenten; ++list)
+            window.addElement(list, element->symbol(), position);
+    };
+    try {
+        loadElements(m_files, m_fileHandler->FileHandle(), m_boxes, m_elementCollection, fill);
+    } catch (const Laufzeitfehler& error) {
+        m_boxes.show(Icon::Exclamation, Programmtitel,
+            "Fehler beim Einlesen der Datei:\r\n" + name + "\r\n\r\n" + error.what() + "\r\nProgramm wird beendet.");
+        return false;
+    }
+    m_fileHandler->CloseFile();
+    return true;
+}
+
+void Programm::restoreElements(Hauptfenster& window)
+{
+    for (int list = 0; list < MaxKomponenten; ++list) {
+        const std::string value =
+            m_settings.LoadSetting("Element_" + std::to_string(list), window.elementEntry(list, list));
+        window.ComboElementListIndex(list, window.findElementEntry(list, value));
+    }
+}
+
+void Programm::shutdown() noexcept
+{
+    m_parser.reset();
+    m_elementCollection.clear();
+    m_currentElement.reset();
+    m_selectedElement.reset();
+    m_calc.reset();
+    m_loader.reset();
+    m_fileHandler.reset();
+}
+
+clsLoader& Programm::Loader() { return existing(m_loader); }
+
+clsCalc& Programm::Calc() { return existing(m_calc); }
+
+clsFileHandler& Programm::FileHandler() { return existing(m_fileHandler); }
+
+clsParser& Programm::Parser() { return existing(m_parser); }
+
+} // namespace zerna

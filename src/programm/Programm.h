@@ -1,0 +1,86 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+
+#include "core/ElementCollection.h"
+#include "core/OncePerEdit.h"
+#include "core/Settings.h"
+#include "core/clsFileHandler.h"
+#include "core/clsLoader.h"
+#include "model/clsCalc.h"
+#include "parser/clsParser.h"
+#include "programm/Hauptfenster.h"
+
+namespace zerna {
+
+/// Owns the program-wide objects from start-up to shutdown and hands them on by reference. An object that does not
+/// exist yet or any more is error 91.
+class Programm {
+public:
+    /// The main window's owner makes it on demand; it stays the owner.
+    using CreateWindow = std::function<Hauptfenster&()>;
+
+    Programm(MessageBoxes& boxes, SettingsStore& settings, std::filesystem::path programFolder);
+
+    /// Makes sure that the element data file exists, loads it, restores the chosen elements and shows the window.
+    /// False if the program must end at once; the reason has been shown.
+    bool start(const CreateWindow& createWindow);
+
+    /// Releases the program-wide objects in their fixed order. Nothing is stored.
+    void shutdown() noexcept;
+
+    clsLoader& Loader();
+    zerna::ElementCollection& ElementCollection() { return m_elementCollection; }
+    clsCalc& Calc();
+    clsFileHandler& FileHandler();
+    clsParser& Parser();
+
+    /// The element that a row handler looked up last; typed density and valence go into it. Maybe null.
+    const std::shared_ptr<clsElement>& CurrentElement() const { return m_currentElement; }
+    void setCurrentElement(std::shared_ptr<clsElement> element) { m_currentElement = std::move(element); }
+
+    /// The element chosen in the periodic table. Maybe null.
+    const std::shared_ptr<clsElement>& SelectedElement() const { return m_selectedElement; }
+    void setSelectedElement(std::shared_ptr<clsElement> element) { m_selectedElement = std::move(element); }
+
+    /// False while the window is being filled; change events then do no work.
+    bool StartupDone() const { return m_startupDone; }
+    void setStartupDone(bool done) { m_startupDone = done; }
+
+    /// Rows of the composition, 1 to 5.
+    int Komponentenzahl() const { return m_komponentenzahl; }
+    void setKomponentenzahl(int count) { m_komponentenzahl = count; }
+
+    Settings& settings() { return m_settings; }
+    MessageBoxes& boxes() { return m_boxes; }
+
+    /// A new edit of a formula: the parser's messages may appear again.
+    void beginEdit() { m_parserBoxes.beginEdit(); }
+
+private:
+    bool startSteps(const CreateWindow& createWindow, Hauptfenster*& window);
+    bool provideDataFile();
+    bool LoadElements(Hauptfenster& window);
+    void restoreElements(Hauptfenster& window);
+    void ShowDataFileMissing(std::string_view name);
+    std::filesystem::path dataFile();
+
+    MessageBoxes& m_boxes;
+    OncePerEdit m_parserBoxes;
+    Settings m_settings;
+    std::filesystem::path m_programFolder;
+    Dateinummern m_files;
+    std::unique_ptr<clsLoader> m_loader;
+    zerna::ElementCollection m_elementCollection;
+    std::shared_ptr<clsElement> m_currentElement;
+    std::shared_ptr<clsElement> m_selectedElement;
+    bool m_startupDone = false;
+    int m_komponentenzahl = 0;
+    std::unique_ptr<clsFileHandler> m_fileHandler;
+    std::unique_ptr<clsParser> m_parser;
+    std::unique_ptr<clsCalc> m_calc;
+};
+
+} // namespace zerna

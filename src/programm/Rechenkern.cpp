@@ -1,0 +1,162 @@
+#include "programm/Rechenkern.h"
+
+#include <algorithm>
+
+#include "core/Elementdatei.h"
+#include "core/Zahlentext.h"
+#include "model/Komposition.h"
+#include "programm/EingebauteTabelle.h"
+
+namespace zerna {
+
+namespace {
+
+std::string inQuotes(std::string_view text) { return "\"" + std::string(text) + "\""; }
+
+/// The density choice that an argument's word means: umlauts are hard to type on some command lines.
+std::string_view dichtewahl(std::string_view word) { return word == "fluessig" ? "flüssig" : word; }
+
+bool isNumber(std::string_view text)
+{
+    try {
+        singleFromText(text);
+        return true;
+    } catch (const Laufzeitfehler&) {
+        return false;
+    }
+}
+
+} // namespace
+
+Komponentenangabe komponentenangabe(std::string_view text)
+{
+    Komponentenangabe angabe;
+    angabe.text = text;
+    const auto fail = [&](const std::string& reason) {
+        throw Aufruffehler("Komponente " + inQuotes(text) + ": " + reason);
+    };
+    std::string_view rest = text;
+    const auto nextPart = [&rest] {
+        const std::size_t colon = std::min(rest.find(':'), rest.size());
+        const std::string_view part = rest.substr(0, colon);
+        rest.remove_prefix(std::min(colon + 1, rest.size()));
+        return part;
+    };
+    for (bool first = true; first || !rest.empty(); first = false) {
+        const std::string_view part = nextPart();
+        const std::size_t equals = part.find('=');
+        if (equals == std::string_view::npos || equals == 0)
+            fail("erwartet wird SYMBOL=ATPROZENT[:dichte=ZAHL|amorph|fluessig|kristallin][:valenz=TEXT]");
+        const std::string_view key = part.substr(0, equals);
+        const std::string value(part.substr(equals + 1));
+        if (first) {
+            angabe.symbol = key;
+            angabe.prozent = value;
+        } else if (key == "dichte") {
+            angabe.dichte = value;
+        } else if (key == "valenz") {
+            angabe.valenz = value;
+        } else {
+            fail("unbekannte Angabe " + inQuotes(key));
+        }
+    }
+    if (!isNumber(angabe.prozent))
+        fail("at% " + inQuotes(angabe.prozent) + " ist keine gültige Zahl");
+    return angabe;
+}
+
+Rechenkern::Rechenkern(MessageBoxes& boxes)
+    : m_boxes(boxes)
+    , m_parser(m_elements, boxes)
+    , m_calc(m_elements, m_komponentenzahl, m_parser)
+{
+}
+
+void Rechenkern::loadFile(const std::filesystem::path& file)
+{
+    const std::string name = utf8FromPath(file);
+    try {
+        const int number = m_files.freeNumber();
+        m_files.open(number, file, Zugriff::Eingabe);
+        load(number, name);
+    } catch (const Laufzeitfehler& error) {
+        throw Datenfehler("Datei " + inQuotes(name) + ": " + error.what());
+    }
+}
+
+void Rechenkern::loadBuiltIn()
+{
+    const int number = m_files.freeNumber();
+    m_files.openBytes(number, std::string(EingebauteTabelle.begin(), EingebauteTabelle.end()));
+    load(number, "eingebaute Tabelle");
+}
+
+void Rechenkern::load(int number, const std::string& name)
+{
+    m_elements.clear();
+    loadElements(m_files, number, m_boxes, m_elements);
+    m_files.close(number);
+    if (m_elements.Count() == 0)
+        throw Datenfehler("Datei " + inQuotes(name) + " enthält keine Elemente");
+}
+
+std::vector<Komponentenzeile> Rechenkern::setAlloy(std::span<const Komponentenangabe> angaben)
+{
+    if (angaben.empty() || angaben.size() > MaxKomponenten)
+        throw Aufruffehler(
+            "Eine Legierung hat eine bis fünf Komponenten, angegeben sind " + std::to_string(angaben.size()));
+    m_komponentenzahl = static_cast<int>(angaben.size());
+    std::vector<Komponentenzeile> zeilen;
+    for (const Komponentenangabe& angabe : angaben)
+        zeilen.push_back(setElement(angabe));
+    for (std::size_t i = 0; i < zeilen.size(); ++i)
+        m_calc.Element_Add(static_cast<int>(i), zeilen[i].symbol, singleFromText(zeilen[i].prozent));
+    if (istUnbekannt(m_calc.Valenz()))
+        throw Datenfehler("Die Legierung lässt sich mit diesen Dichten und Valenzen nicht berechnen");
+    return zeilen;
+}
+
+Komponentenzeile Rechenkern::setElement(const Komponentenangabe& angabe)
+{
+    const auto element = m_elements.find(angabe.symbol, true);
+    if (!element)
+        throw Datenfehler(
+            "Komponente " + inQuotes(angabe.text) + ": Element " + inQuotes(angabe.symbol) + " ist nicht bekannt");
+    Komponentenzeile zeile;
+    zeile.symbol = element->symbol();
+    zeile.prozent = textOfSingle(singleFromText(angabe.prozent));
+    setDichte(*element, angabe, zeile);
+    setValenz(*element, angabe, zeile);
+    return zeile;
+}
+
+void Rechenkern::setDichte(clsElement& element, const Komponentenangabe& angabe, Komponentenzeile& zeile)
+{
+    const std::vector<std::string_view> known = dichteauswahl(element);
+    const std::string_view choice = angabe.dichte.empty() ? known.front() : dichtewahl(angabe.dichte);
+    if (isNumber(choice)) {
+        element.setDichte(singleFromText(choice));
+        zeile.dichtewahl = AndereWahl;
+    } else if (choice != AndereWahl && std::ranges::find(known, choice) != known.end()) {
+        element.setDichte(dichteFor(element, choice));
+        zeile.dichtewahl = choice;
+    } else {
+        const std::string reason = angabe.dichte.empty() ? "keine Dichte bekannt, dichte=ZAHL angeben"
+                                                         : "Dichte " + inQuotes(angabe.dichte) + " ist nicht bekannt";
+        throw Datenfehler("Komponente " + inQuotes(angabe.text) + ": " + reason);
+    }
+    zeile.dichte = textOfSingle(element.Dichte());
+}
+
+void Rechenkern::setValenz(clsElement& element, const Komponentenangabe& angabe, Komponentenzeile& zeile)
+{
+    zeile.valenz = angabe.valenz.empty() ? feldtext(element.Valenz()) : angabe.valenz;
+    zeile.valenzwahl = angabe.valenz.empty() ? std::string_view("Standard") : AndereWahl;
+    element.setValenz_Temp(zeile.valenz);
+    m_parser.Parse(zeile.valenz);
+    if (const auto& error = m_parser.LastError())
+        throw Datenfehler("Komponente " + inQuotes(angabe.text) + ": Valenz " + inQuotes(zeile.valenz) + ": "
+            + error->Grund + " (Zeichen " + std::to_string(error->Stelle) + ")");
+}
+
+} // namespace zerna
