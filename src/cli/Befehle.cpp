@@ -1,0 +1,264 @@
+#include "cli/Befehle.h"
+
+#include <CLI/CLI.hpp>
+
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <memory>
+
+#include "core/ElementCsv.h"
+#include "core/Elementdatei.h"
+#include "core/Exportdatei.h"
+#include "core/Plattform.h"
+#include "core/Zahlentext.h"
+#include "core/Zeichensatz.h"
+#include "model/Groessentabelle.h"
+#include "programm/Rechenkern.h"
+
+namespace zerna {
+
+namespace {
+
+constexpr int Fehlgeschlagen = 1;
+constexpr int Aufruf = 2;
+
+/// Messages of the library as lines on standard error.
+class StandardErrorBoxes : public MessageBoxes {
+public:
+    void show(Icon, std::string_view, std::string_view text) override
+    {
+        std::cerr << ReplaceText(text, "\r\n", " ") << '\n';
+    }
+};
+
+/// What the options and arguments of all subcommands are read into.
+struct Optionen {
+    std::string daten;
+    std::string ausgabe;
+    bool json = false;
+    std::vector<std::string> komponenten;
+    std::string formel;
+    std::string csv;
+    std::string dat;
+};
+
+/// Carries out subcommands.
+class Befehle {
+public:
+    explicit Befehle(const Optionen& optionen)
+        : m_optionen(optionen)
+        , m_kern(m_boxes)
+    {
+    }
+
+    void formel()
+    {
+        load();
+        const std::string value = m_kern.parser().Parse(m_optionen.formel);
+        put(value + "\r\n");
+        if (const auto& error = m_kern.parser().LastError())
+            throw Datenfehler("Formel \"" + m_optionen.formel + "\": " + error->Grund + " (Zeichen "
+                + std::to_string(error->Stelle) + ")");
+    }
+
+    void groessen()
+    {
+        loadAlloy();
+        put(m_optionen.json ? groessenJson(m_kern.calc()) : groessentabelle(m_kern.calc()));
+    }
+
+    void text()
+    {
+        const std::vector<Komponentenzeile> zeilen = loadAlloy();
+        Ergebnistexte texte;
+        berechneErgebnisse(m_kern.calc(), texte);
+        const bool toFile = !m_optionen.ausgabe.empty();
+        put(toFile ? ergebnisdatei(m_kern.calc(), zeilen, texte) : ergebnistext(m_kern.calc(), zeilen, texte) + "\r\n");
+    }
+
+    void friedel()
+    {
+        loadAlloy();
+        put(friedeldatei(m_kern.calc()));
+    }
+
+    void elementeExportieren()
+    {
+        load();
+        std::vector<ElementRecord> records;
+        for (const auto& element : m_kern.elements())
+            records.push_back(element->record());
+        writeExport(pathFromUtf8(m_optionen.csv), writeElementCsv(records));
+    }
+
+    void elementeImportieren()
+    {
+        std::ifstream stream(pathFromUtf8(m_optionen.csv), std::ios::binary);
+        if (!stream)
+            throw Datenfehler("Datei \"" + m_optionen.csv + "\" kann nicht gelesen werden");
+        const std::string content{std::istreambuf_iterator<char>(stream), {}};
+        Dateinummern files;
+        try {
+            saveElements(files, pathFromUtf8(m_optionen.dat), m_boxes, readElementCsv(content));
+        } catch (const Tabellenfehler& error) {
+            throw Datenfehler("Datei \"" + m_optionen.csv + "\": " + error.what());
+        }
+    }
+
+private:
+    /// The given data file, else the one beside the program, else the built-in table; never writes one.
+    void load()
+    {
+        const std::filesystem::path beside = executableFolder() / Elementdateiname;
+        if (!m_optionen.daten.empty())
+            m_kern.loadFile(pathFromUtf8(m_optionen.daten));
+        else if (std::filesystem::exists(beside))
+            m_kern.loadFile(beside);
+        else
+            m_kern.loadBuiltIn();
+    }
+
+    std::vector<Komponentenzeile> loadAlloy()
+    {
+        std::vector<Komponentenangabe> angaben;
+        for (const std::string& text : m_optionen.komponenten)
+            angaben.push_back(komponentenangabe(text));
+        load();
+        return m_kern.setAlloy(angaben);
+    }
+
+    /// Content with CR LF: to standard output as UTF-8 with LF, to a file as the bytes that the window saves.
+    void put(const std::string& content)
+    {
+        if (m_optionen.ausgabe.empty())
+            std::cout << ReplaceText(content, "\r\n", "\n");
+        else
+            writeExport(pathFromUtf8(m_optionen.ausgabe), toWindows1252(content));
+    }
+
+    const Optionen& m_optionen;
+    StandardErrorBoxes m_boxes;
+    Rechenkern m_kern;
+};
+
+using Befehl = void (Befehle::*)();
+
+void addComponents(CLI::App& app, Optionen& optionen)
+{
+    app.add_option("komponenten", optionen.komponenten,
+           "SYMBOL=ATPROZENT[:dichte=ZAHL|amorph|fluessig|kristallin][:valenz=TEXT], eine bis fünf")
+        ->required()
+        ->option_text("KOMPONENTE ...");
+}
+
+void addOutput(CLI::App& app, Optionen& optionen)
+{
+    app.add_option("--ausgabe", optionen.ausgabe, "Datei, die geschrieben wird, statt der Standardausgabe")
+        ->option_text("DATEI");
+}
+
+/// Defines the subcommands; the chosen one is left in `chosen`.
+void defineCommands(CLI::App& app, Optionen& optionen, Befehl& chosen)
+{
+    const auto add = [&](CLI::App& parent, const char* name, const char* description, Befehl befehl) {
+        CLI::App* const command = parent.add_subcommand(name, description);
+        command->callback([&chosen, befehl] { chosen = befehl; });
+        command->option_defaults()->group("Optionen");
+        return command;
+    };
+    app.option_defaults()->group("Optionen");
+    app.add_option("--daten", optionen.daten, "Elementdatei statt elemente.dat neben dem Programm")
+        ->option_text("DATEI");
+    CLI::App* const formel = add(app, "formel", "Wert einer Formel", &Befehle::formel);
+    formel->add_option("text", optionen.formel, "Formel")->required()->option_text("FORMEL");
+    CLI::App* const groessen = add(app, "groessen", "Größen einer Legierung als Tabelle", &Befehle::groessen);
+    groessen->add_flag("--json", optionen.json, "als JSON");
+    CLI::App* const text = add(app, "text", "Ergebnistext einer Legierung", &Befehle::text);
+    CLI::App* const friedel = add(app, "friedel", "Friedelminima als Datei für Zeichenprogramme", &Befehle::friedel);
+    for (CLI::App* const command : {groessen, text, friedel}) {
+        addComponents(*command, optionen);
+        addOutput(*command, optionen);
+    }
+    CLI::App* const elemente = app.add_subcommand("elemente", "Elementdaten umwandeln");
+    elemente->require_subcommand(1);
+    CLI::App* const exportieren =
+        add(*elemente, "exportieren", "Elementdaten als CSV-Tabelle", &Befehle::elementeExportieren);
+    exportieren->add_option("csv", optionen.csv, "Zieldatei")->required()->option_text("CSV");
+    CLI::App* const importieren =
+        add(*elemente, "importieren", "Elementdatei aus einer CSV-Tabelle", &Befehle::elementeImportieren);
+    importieren->add_option("csv", optionen.csv, "Tabelle")->required()->option_text("CSV");
+    importieren->add_option("dat", optionen.dat, "Zieldatei")->required()->option_text("DAT");
+    app.require_subcommand(1);
+}
+
+void translate(CLI::App& app)
+{
+    const auto formatter = std::make_shared<CLI::Formatter>();
+    formatter->label("Usage", "Aufruf");
+    formatter->label("OPTIONS", "OPTIONEN");
+    formatter->label("SUBCOMMAND", "BEFEHL");
+    formatter->label("SUBCOMMANDS", "BEFEHLE");
+    formatter->label("Subcommands", "Befehle");
+    formatter->label("Options", "Optionen");
+    formatter->label("Positionals", "Argumente");
+    formatter->label("REQUIRED", "(nötig)");
+    app.formatter(formatter);
+    app.set_help_flag("-h,--hilfe,--help", "Diese Hilfe zeigen")->group("Optionen");
+    for (CLI::App* const command : app.get_subcommands({}))
+        translate(*command);
+}
+
+/// What is wrong with a call, in German. The library's own text names the argument behind the last ": " or at the
+/// beginning.
+std::string germanReason(const CLI::ParseError& error)
+{
+    const std::string text = error.what();
+    const std::string argument = text.substr(text.rfind(": ") == std::string::npos ? 0 : text.rfind(": ") + 2);
+    const std::string first = text.substr(0, text.find_first_of(": "));
+    if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr)
+        return text.find("subcommand") != std::string::npos ? "Es fehlt ein Befehl" : "Es fehlt das Argument " + first;
+    if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr)
+        return "Unbekanntes Argument " + argument;
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr)
+        return "Falsche Zahl von Werten für " + first;
+    return "Ungültiger Wert: " + argument;
+}
+
+} // namespace
+
+int runCommandLine(int argc, char** argv)
+{
+    CLI::App app("Modell freier Elektronen für metallische Legierungen", "zerna-cli");
+    Optionen optionen;
+    Befehl chosen = nullptr;
+    defineCommands(app, optionen, chosen);
+    translate(app);
+    try {
+        app.parse(argc, argv);
+        Befehle befehle(optionen);
+        (befehle.*chosen)();
+        std::cout.flush();
+        if (!std::cout)
+            throw Datenfehler("Die Standardausgabe kann nicht geschrieben werden");
+        return 0;
+    } catch (const CLI::CallForHelp&) {
+        const auto chosenApps = app.get_subcommands();
+        std::cout << (chosenApps.empty() ? app : *chosenApps.front()).help();
+        return 0;
+    } catch (const CLI::ParseError& error) {
+        std::cerr << "zerna-cli: " << germanReason(error) << " (Hilfe: zerna-cli --hilfe)\n";
+        return Aufruf;
+    } catch (const Aufruffehler& error) {
+        std::cerr << "zerna-cli: " << error.what() << '\n';
+        return Aufruf;
+    } catch (const Datenfehler& error) {
+        std::cerr << "zerna-cli: " << error.what() << '\n';
+    } catch (const Laufzeitfehler& error) {
+        const std::string& file = optionen.ausgabe.empty() ? optionen.csv : optionen.ausgabe;
+        std::cerr << "zerna-cli: " << (file.empty() ? "" : "Datei \"" + file + "\": ") << error.what() << '\n';
+    }
+    return Fehlgeschlagen;
+}
+
+} // namespace zerna

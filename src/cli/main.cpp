@@ -1,0 +1,3 @@
+#include "cli/Befehle.h"
+
+int main(int argc, char** argv) { return zerna::runCommandLine(argc, argv); }
