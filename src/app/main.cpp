@@ -1,0 +1,36 @@
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
+
+#include <memory>
+
+#include "core/Plattform.h"
+#include "programm/Programm.h"
+#include "ui/main/frmMain.h"
+#include "ui/platform/QtInputBox.h"
+#include "ui/platform/QtMessageBoxes.h"
+#include "ui/platform/QtSaveFileDialog.h"
+#include "ui/platform/QtSettingsStore.h"
+
+int main(int argc, char** argv)
+{
+    // The platform's own dialogs would speak the platform's language; the toolkit's speak German like the program.
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    const QApplication application(argc, argv);
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    QTranslator german;
+    if (german.load(QStringLiteral(":/qtbase_de.qm")))
+        QCoreApplication::installTranslator(&german);
+
+    zerna::QtMessageBoxes boxes;
+    zerna::QtSettingsStore settings;
+    zerna::QtSaveFileDialog saveDialog;
+    zerna::QtInputBox inputBox;
+    zerna::Programm programm(boxes, settings, zerna::executableFolder());
+    std::unique_ptr<zerna::frmMain> window;
+    const auto createWindow = [&]() -> zerna::Hauptfenster& {
+        window = std::make_unique<zerna::frmMain>(programm, zerna::Dialoge{saveDialog, inputBox});
+        return *window;
+    };
+    return programm.start(createWindow) ? QApplication::exec() : 1;
+}

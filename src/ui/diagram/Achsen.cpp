@@ -1,0 +1,113 @@
+#include "ui/diagram/Achsen.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/CheckedArithmetic.h"
+#include "core/Zahlentext.h"
+
+namespace zerna {
+
+namespace {
+
+constexpr int Divisions = 10;
+constexpr double LabelGap = 1; // between a label and the tick beside it
+
+} // namespace
+
+Rechteck plotArea(int width, int height)
+{
+    constexpr int Left = 60;
+    constexpr int Bottom = 30;
+    return {Left, 0, static_cast<double>(std::max(0, width - Left)), static_cast<double>(std::max(0, height - Bottom))};
+}
+
+Bereich yBereich(float smallest, float largest)
+{
+    const float margin = toSingle(largest * 0.05);
+    const Bereich range = largest <= 0
+        ? Bereich{toSingle(static_cast<double>(smallest) + margin), toSingle(static_cast<double>(largest) - margin)}
+        : Bereich{toSingle(static_cast<double>(smallest) - margin), toSingle(static_cast<double>(largest) + margin)};
+    if (range.max == range.min)
+        throw Laufzeitfehler(Fehler::DivisionDurchNull);
+    return range;
+}
+
+std::string yLabel(double value)
+{
+    constexpr double PlainLimit = 7;
+    if (value == 0 || std::abs(std::log(std::abs(value))) <= PlainLimit)
+        return fixedText(value, 3);
+    return scientificText(value, 2, " ", false);
+}
+
+std::vector<Achsenmarke> yMarken(const Rechteck& plot, int controlHeight, const Bereich& y, double labelHeight)
+{
+    constexpr int FullHeight = 300;
+    const int stride = controlHeight >= FullHeight ? 1 : 2;
+    const double step = (y.max - y.min) / Divisions;
+    std::vector<Achsenmarke> marken;
+    double lastTop = plot.height + labelHeight; // of the label below
+    for (int k = 0; k < Divisions; k += stride) {
+        Achsenmarke marke;
+        marke.position = plot.height - k * plot.height / Divisions;
+        marke.labelStart = marke.position - labelHeight / 2;
+        if (marke.labelStart + labelHeight <= lastTop && marke.labelStart >= 0) {
+            marke.label = yLabel(step * k + y.min);
+            lastTop = marke.labelStart;
+        }
+        marken.push_back(std::move(marke));
+    }
+    return marken;
+}
+
+std::vector<Achsenmarke> xMarken(const Rechteck& plot, int controlWidth, const Bereich& x, const Textbreite& width)
+{
+    const double step = (x.max - x.min) / Divisions;
+    std::vector<Achsenmarke> marken;
+    double lastEnd = 0; // of the label before
+    for (int k = 0; k <= Divisions; ++k) {
+        Achsenmarke marke;
+        marke.position = plot.width / Divisions * k + plot.left;
+        std::string label = fixedText(step * k + x.min, 0);
+        const double labelWidth = width(label);
+        marke.labelStart = std::min(marke.position - labelWidth / 2, controlWidth - labelWidth);
+        if (marke.labelStart >= lastEnd) {
+            lastEnd = marke.labelStart + labelWidth + LabelGap;
+            marke.label = std::move(label);
+        }
+        marken.push_back(std::move(marke));
+    }
+    return marken;
+}
+
+double xLabelTop(const Rechteck& plot, double labelHeight) { return plot.height + 1.5 * labelHeight / 2; }
+
+double labelScale(const std::vector<Achsenmarke>& marken, const Rechteck& plot, const Textbreite& width)
+{
+    double widest = 0;
+    for (const Achsenmarke& marke : marken)
+        widest = std::max(widest, width(marke.label));
+    const double room = plot.left - LabelColumn - TickLength - LabelGap;
+    return widest > room ? room / widest : 1;
+}
+
+Abbildung::Abbildung(double width, double height, const Bereich& x, const Bereich& y)
+    : m_width(width)
+    , m_height(height)
+    , m_x(x)
+    , m_y(y)
+    , m_xScale(quotient(width, x.max - x.min))
+    , m_yScale(quotient(height, y.max - y.min))
+{
+}
+
+double Abbildung::column(double x) const { return std::nearbyint((x - m_x.min) * m_xScale); }
+
+double Abbildung::row(double y) const { return std::nearbyint(m_height - (y - m_y.min) * m_yScale); }
+
+double Abbildung::x(double column) const { return quotient(column, m_width) * (m_x.max - m_x.min) + m_x.min; }
+
+double Abbildung::y(double row) const { return quotient(m_height - row, m_yScale) + m_y.min; }
+
+} // namespace zerna

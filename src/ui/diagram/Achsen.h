@@ -1,0 +1,88 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// Geometry of the concentration diagram: everything that conDisplay paints, as numbers. Lengths are logical pixels,
+/// origin at the top left, y downwards.
+namespace zerna {
+
+/// Width of a text in pixels at the labels' font.
+using Textbreite = std::function<double(std::string_view)>;
+
+struct Rechteck {
+    double left = 0;
+    double top = 0;
+    double width = 0;
+    double height = 0;
+};
+
+/// The plot area on a control of the given inner size: 60 pixels on the left and 30 below are left for labels. Empty
+/// (width or height 0) if the control is too small.
+Rechteck plotArea(int width, int height);
+
+/// Range of an axis in data units.
+struct Bereich {
+    double min = 0;
+    double max = 0;
+};
+
+/// The y range for the smallest and the largest value.
+/// Intended: the margin is 5 % of the largest value, above and below alike. Error 11 for an empty range.
+Bereich yBereich(float smallest, float largest);
+
+/// A tick with its label, which is empty where there is no room for it.
+struct Achsenmarke {
+    double position = 0; ///< of the tick along its axis
+    std::string label;
+    double labelStart = 0; ///< left edge (x axis) or top edge (y axis) of the label
+};
+
+/// Text of a y label: "0,000", or scientific when |ln |v|| exceeds 7; 0 is "0,000".
+std::string yLabel(double value);
+
+/// Y labels are printed from this column on.
+inline constexpr double LabelColumn = 5;
+inline constexpr double TickLength = 7;
+
+/// The ticks of the y axis from below: ten divisions without the topmost, every second one on a control lower than 300
+/// pixels. A label that would touch the one below it is left out.
+std::vector<Achsenmarke> yMarken(const Rechteck& plot, int controlHeight, const Bereich& y, double labelHeight);
+
+/// The eleven ticks of the x axis. Labels stay within the control's width; one that would touch the one before it is
+/// left out.
+std::vector<Achsenmarke> xMarken(const Rechteck& plot, int controlWidth, const Bereich& x, const Textbreite& width);
+
+/// Top edge of the x labels.
+double xLabelTop(const Rechteck& plot, double labelHeight);
+
+/// The factor (at most 1) by which the labels' font must be scaled so that the widest of them fits beside the plot.
+double labelScale(const std::vector<Achsenmarke>& marken, const Rechteck& plot, const Textbreite& width);
+
+/// Pixels of the plot area and data units, there and back.
+class Abbildung {
+public:
+    Abbildung() = default;
+
+    /// Error 11 for an empty range.
+    Abbildung(double width, double height, const Bereich& x, const Bereich& y);
+
+    /// Whole pixels, halves to even.
+    double column(double x) const;
+    double row(double y) const;
+
+    double x(double column) const;
+    double y(double row) const;
+
+private:
+    double m_width = 0;
+    double m_height = 0;
+    Bereich m_x;
+    Bereich m_y;
+    double m_xScale = 1; // pixels per data unit
+    double m_yScale = 1;
+};
+
+} // namespace zerna

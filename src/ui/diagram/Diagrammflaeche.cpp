@@ -1,0 +1,311 @@
+#include "ui/diagram/Diagrammflaeche.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/Zahlentext.h"
+#include "programm/Exportspeicherung.h"
+#include "ui/diagram/Bildausgabe.h"
+#include "ui/diagram/Striche.h"
+#include "ui/diagram/conDisplay.h"
+#include "ui/platform/QtText.h"
+
+namespace zerna {
+
+namespace {
+
+constexpr int TitelHoehe = 12; // pixels of the rotated axis title
+
+Textmasse measures(const QFont& font)
+{
+    const QFontMetricsF metrics(font);
+    return {[metrics](std::string_view text) { return metrics.horizontalAdvance(toQt(text)); }, metrics.height()};
+}
+
+QPointF toPoint(const Punkt& p) { return {std::round(p.x) + 0.5, std::round(p.y) + 0.5}; }
+
+} // namespace
+
+Diagrammflaeche::Diagrammflaeche(Programm& programm, Dialoge dialoge, QWidget* parent)
+    : QWidget(parent)
+    , m_programm(programm)
+    , m_dialoge(dialoge)
+{
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(QStringLiteral("Diagramm"));
+    m_display = new conDisplay(programm, dialoge, this);
+    m_display->setObjectName(QStringLiteral("conDisplay1"));
+    m_display->setAccessibleName(QStringLiteral("Konzentrationsdiagramm"));
+    connect(m_display, &conDisplay::PositionInfo, this, &Diagrammflaeche::positionChanged);
+    showContent(Inhalt::Meldung);
+}
+
+void Diagrammflaeche::showContent(Inhalt inhalt)
+{
+    m_inhalt = inhalt;
+    m_display->setVisible(inhalt == Inhalt::Konzentration);
+    setFocusPolicy(inhalt == Inhalt::PSE ? Qt::StrongFocus : Qt::NoFocus); // the concentration diagram has its own
+    m_marked = -1;
+    emit positionChanged({});
+    update();
+}
+
+void Diagrammflaeche::showKonzentration() { showContent(Inhalt::Konzentration); }
+
+void Diagrammflaeche::showPSE(PSEReihe reihe, std::vector<std::string> symbols)
+{
+    m_reihe = std::move(reihe);
+    m_symbole = std::move(symbols);
+    m_bild = layOutPSEFor(size(), m_bildFont);
+    showContent(Inhalt::PSE);
+}
+
+void Diagrammflaeche::showFehler(const QString& grund)
+{
+    m_meldung = QStringLiteral("Konnte Diagramm nicht berechnen!\n\n%1").arg(grund);
+    showContent(Inhalt::Meldung);
+}
+
+void Diagrammflaeche::showHinweis(const QString& hinweis)
+{
+    m_meldung = hinweis;
+    showContent(Inhalt::Meldung);
+}
+
+void Diagrammflaeche::copyPicture()
+{
+    QClipboard* const clipboard = QGuiApplication::clipboard();
+    if (clipboard == nullptr)
+        return;
+    const auto maler = [this](QPainter& painter, const QSize& size) { paintPicture(painter, size); };
+    clipboard->clear();
+    clipboard->setImage(imageOf(maler, size(), devicePixelRatioF()));
+}
+
+void Diagrammflaeche::save()
+{
+    if (m_inhalt == Inhalt::Konzentration)
+        m_display->Speichern_Diagramm_2D();
+    else if (m_inhalt == Inhalt::PSE)
+        savePSE();
+}
+
+void Diagrammflaeche::savePSE()
+{
+    int filterIndex = 1;
+    const std::string name = ExportFileDialog(m_dialoge.save, filterIndex, true, false);
+    if (name.empty())
+        return;
+    const auto maler = [this](QPainter& painter, const QSize& size) { paintPicture(painter, size); };
+    if (filterIndex == 1)
+        saveExport(m_programm.boxes(), name, values());
+    else
+        saveBitmap(m_programm.boxes(), name, imageOf(maler, size(), devicePixelRatioF()));
+}
+
+std::string Diagrammflaeche::values() const
+{
+    switch (m_inhalt) {
+    case Inhalt::Konzentration:
+        return m_display->values(1);
+    case Inhalt::PSE:
+        return psedatei(m_reihe);
+    case Inhalt::Meldung:
+        break;
+    }
+    return {};
+}
+
+void Diagrammflaeche::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (m_inhalt == Inhalt::Meldung)
+        return;
+    const auto maler = [this](QPainter& painter, const QSize& size) { paintPicture(painter, size); };
+    QMenu menu(this);
+    menu.addAction(QStringLiteral("Bild kopieren"), this, &Diagrammflaeche::copyPicture);
+    menu.addAction(QStringLiteral("Werte kopieren"), this, [this] {
+        if (QClipboard* const clipboard = QGuiApplication::clipboard())
+            clipboard->setText(toQt(values()));
+    });
+    menu.addSeparator();
+    menu.addAction(QStringLiteral("Bild speichern ..."), this,
+        [this, maler] { savePictureAs(m_programm.boxes(), m_dialoge.save, maler, size()); });
+    menu.addAction(QStringLiteral("Drucken ..."), this, [this, maler] { printPicture(this, maler, size()); });
+    menu.exec(event->globalPos());
+}
+
+/// Lays the element-property diagram out; the labels' font gets smaller where they would not fit.
+PSEBild Diagrammflaeche::layOutPSEFor(const QSize& size, QFont& labelFont) const
+{
+    labelFont = font();
+    PSEBild bild = layOutPSE(m_reihe, size.width(), size.height(), measures(labelFont));
+    if (bild.widestLabel <= bild.labelRoom || bild.labelRoom <= 0)
+        return bild;
+    labelFont.setPointSizeF(std::max(1.0, labelFont.pointSizeF() * bild.labelRoom / bild.widestLabel));
+    return layOutPSE(m_reihe, size.width(), size.height(), measures(labelFont));
+}
+
+void Diagrammflaeche::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    m_display->setGeometry(rect());
+    if (m_inhalt == Inhalt::PSE)
+        m_bild = layOutPSEFor(size(), m_bildFont);
+}
+
+void Diagrammflaeche::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    if (m_inhalt != Inhalt::PSE) {
+        paintPicture(painter, size());
+        return;
+    }
+    painter.fillRect(rect(), Qt::white);
+    paintPSE(painter, m_bild, m_bildFont);
+    if (m_marked >= 0 && m_bild.points.at(static_cast<std::size_t>(m_marked))) {
+        constexpr double Radius = 4;
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(QColor(200, 60, 0), 2));
+        painter.drawEllipse(toPoint(*m_bild.points.at(static_cast<std::size_t>(m_marked))), Radius, Radius);
+        painter.setRenderHint(QPainter::Antialiasing, false);
+    }
+    if (hasFocus()) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 1));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+void Diagrammflaeche::paintPicture(QPainter& painter, const QSize& size) const
+{
+    if (m_inhalt == Inhalt::Konzentration)
+        return m_display->paintPicture(painter, size);
+    painter.fillRect(QRect(QPoint(0, 0), size), Qt::white);
+    if (m_inhalt == Inhalt::PSE) {
+        QFont labelFont;
+        const PSEBild bild = layOutPSEFor(size, labelFont);
+        paintPSE(painter, bild, labelFont);
+    } else {
+        paintMeldung(painter, size);
+    }
+}
+
+void Diagrammflaeche::paintPSE(QPainter& painter, const PSEBild& bild, const QFont& labelFont) const
+{
+    painter.setPen(QPen(Qt::black, 1));
+    for (const Strecke& line : bild.lines)
+        painter.drawLine(toPoint(line.from), toPoint(line.to));
+    painter.setFont(labelFont);
+    const double ascent = QFontMetricsF(labelFont).ascent();
+    for (const Schriftzug& label : bild.labels)
+        painter.drawText(QPointF(label.position.x, label.position.y + ascent), toQt(label.text));
+
+    QFont titleFont = font();
+    titleFont.setPixelSize(TitelHoehe);
+    painter.setFont(titleFont);
+    painter.save();
+    painter.translate(bild.titel.position.x, bild.titel.position.y);
+    painter.rotate(-90);
+    painter.drawText(QPointF(0, QFontMetricsF(titleFont).ascent()), toQt(bild.titel.text));
+    painter.restore();
+
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colourOf(Blau), Kurvenbreite, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    for (const std::vector<Punkt>& piece : bild.curve) {
+        QPolygonF polygon;
+        for (const Punkt& p : piece)
+            polygon << toPoint(p);
+        if (polygon.size() == 1)
+            painter.drawPoint(polygon.front());
+        else
+            painter.drawPolyline(polygon);
+    }
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void Diagrammflaeche::paintMeldung(QPainter& painter, const QSize& size) const
+{
+    constexpr double Punkte = 14;
+    constexpr int Rand = 16;
+    QFont large = font();
+    large.setPointSizeF(Punkte);
+    painter.setFont(large);
+    painter.setPen(Qt::black);
+    const QRect area = QRect(QPoint(0, 0), size).adjusted(Rand, Rand, -Rand, -Rand);
+    painter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, m_meldung);
+}
+
+void Diagrammflaeche::pointAt(std::size_t element)
+{
+    const float value = m_reihe.y.at(element);
+    const std::string number(trimmed(FormatValue(value, "")));
+    emit positionChanged(QStringLiteral("%1   OZ %2   %3")
+                             .arg(toQt(m_symbole.at(element)), toQt(textOfSingle(m_reihe.x.at(element))),
+                                 toQt(number.empty() ? "0" : number)));
+}
+
+void Diagrammflaeche::mouseMoveEvent(QMouseEvent* event)
+{
+    QWidget::mouseMoveEvent(event);
+    if (m_inhalt != Inhalt::PSE)
+        return;
+    if (const auto element = nearestElement(m_bild, event->position().x()))
+        pointAt(*element);
+}
+
+void Diagrammflaeche::leaveEvent(QEvent* event)
+{
+    QWidget::leaveEvent(event);
+    emit positionChanged({});
+}
+
+void Diagrammflaeche::keyPressEvent(QKeyEvent* event)
+{
+    const auto count = static_cast<int>(m_bild.points.size());
+    int next = -1;
+    int step = 1;
+    switch (m_inhalt == Inhalt::PSE ? event->key() : 0) {
+    case Qt::Key_Left:
+        next = m_marked - 1;
+        step = -1;
+        break;
+    case Qt::Key_Right:
+        next = m_marked + 1;
+        break;
+    case Qt::Key_Home:
+        next = 0;
+        break;
+    case Qt::Key_End:
+        next = count - 1;
+        step = -1;
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    while (next >= 0 && next < count && !m_bild.points.at(static_cast<std::size_t>(next)))
+        next += step;
+    if (next < 0 || next >= count)
+        return;
+    m_marked = next;
+    pointAt(static_cast<std::size_t>(next));
+    update();
+}
+
+void Diagrammflaeche::focusOutEvent(QFocusEvent* event)
+{
+    QWidget::focusOutEvent(event);
+    m_marked = -1;
+    update();
+}
+
+} // namespace zerna

@@ -1,0 +1,356 @@
+#include "ui/diagram/conDisplay.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "core/Unbekannt.h"
+#include "core/Zahlentext.h"
+#include "programm/Exportspeicherung.h"
+#include "ui/diagram/Bildausgabe.h"
+#include "ui/diagram/Plotflaeche.h"
+#include "ui/platform/QtText.h"
+
+namespace zerna {
+
+namespace {
+
+constexpr int Valenzgroesse = 0;
+
+std::size_t slot(int index)
+{
+    if (index < 0 || index >= MaxKomponenten)
+        throw Laufzeitfehler(Fehler::IndexAusserhalb);
+    return static_cast<std::size_t>(index);
+}
+
+QSize plotSize(const Rechteck& plot) { return {static_cast<int>(plot.width), static_cast<int>(plot.height)}; }
+
+} // namespace
+
+std::pair<float, float> endValues(const Reihe& reihe)
+{
+    const auto known = [](float value) { return !istUnbekannt(value); };
+    const auto first = std::ranges::find_if(reihe, known);
+    if (first == reihe.end())
+        throw Laufzeitfehler(Fehler::UngueltigesArgument);
+    const auto last = std::find_if(reihe.rbegin(), reihe.rend(), known);
+    return std::minmax(*first, *last);
+}
+
+conDisplay::conDisplay(Programm& programm, Dialoge dialoge, QWidget* parent)
+    : QWidget(parent)
+    , m_programm(programm)
+    , m_dialoge(dialoge)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    m_pic = new Plotflaeche(
+        [this](QPainter& painter) {
+            paintPlot(painter, m_layout);
+            paintCursor(painter);
+        },
+        this);
+    m_pic->setObjectName(QStringLiteral("pic"));
+    connect(m_pic, &Plotflaeche::mouseMoved, this, [this](const QPointF& position) {
+        if (m_hasAxes && !m_fehler && m_layout.plot.width > 0 && m_layout.plot.height > 0)
+            showPosition(m_layout.abbildung.x(position.x()), m_layout.abbildung.y(position.y()));
+    });
+    connect(m_pic, &Plotflaeche::mouseLeft, this, [this] { emit PositionInfo({}); });
+}
+
+void conDisplay::setVariablesElement(int index)
+{
+    const auto& element = m_komponenten.at(slot(index)).element;
+    m_variable = index;
+    if (!element)
+        throw Laufzeitfehler(Fehler::ObjektNichtFestgelegt);
+    m_symbol = element->symbol();
+}
+
+void conDisplay::Element_Add(int index, std::string_view key, float prozent)
+{
+    m_komponenten.at(slot(index)) = {m_programm.ElementCollection().Item(key), prozent};
+}
+
+void conDisplay::Zeichne_Punkt(float x, float y, std::uint32_t colour)
+{
+    m_striche.push_back({colour, {{x, y}}});
+    m_pic->update();
+}
+
+void conDisplay::Zeichne_LinieZu(float x, float y, std::uint32_t colour)
+{
+    if (m_striche.empty())
+        m_striche.push_back({colour, {{m_x.min, m_y.min}}});
+    if (m_striche.back().colour != colour)
+        m_striche.push_back({colour, {m_striche.back().points.back()}});
+    m_striche.back().points.emplace_back(x, y);
+    m_pic->update();
+}
+
+void conDisplay::Zeichne_Valenz() { drawSeries(computeSeries(Valenzgroesse)); }
+
+void conDisplay::Display_Loeschen()
+{
+    m_striche.clear();
+    m_pic->update();
+}
+
+void conDisplay::Display_Background()
+{
+    m_hintergrund.insert(m_hintergrund.end(), m_striche.begin(), m_striche.end());
+    m_striche.clear();
+}
+
+void conDisplay::Zeichne_Fehler()
+{
+    m_fehler = true;
+    m_hasAxes = false;
+    m_hintergrund.clear();
+    m_striche.clear();
+    relayout();
+}
+
+void conDisplay::Zeichne_Diagramm_2D(int groesse, int variable)
+{
+    if (!m_bereit)
+        return;
+    m_variable = variable;
+    const bool known = groesse >= 0 && groesse <= LetzteReihengroesse;
+    const Reihe reihe = known ? computeSeries(groesse) : m_reihe;
+    if (known)
+        m_einheit = reiheneinheit(groesse);
+    drawSeries(reihe);
+}
+
+std::span<const Reihenkomponente> conDisplay::components() const
+{
+    const auto count =
+        std::clamp<std::size_t>(static_cast<std::size_t>(m_programm.Komponentenzahl()), 1, MaxKomponenten);
+    const std::span<const Reihenkomponente> used(m_komponenten.data(), count);
+    if (std::ranges::any_of(used, [](const Reihenkomponente& k) { return !k.element; }))
+        throw Laufzeitfehler(Fehler::ObjektNichtFestgelegt);
+    return used;
+}
+
+Reihe conDisplay::computeSeries(int groesse) const
+{
+    const auto used = components();
+    if (groesse != GroesseDichte)
+        return konzentrationsreihe(m_programm.Calc(), m_programm.Parser(), used, m_variable, groesse);
+    std::array<float, MaxKomponenten> dichten{};
+    for (std::size_t i = 0; i < used.size(); ++i)
+        dichten.at(i) = singleFromText(m_dichtefelder.at(i));
+    return dichtereihe(std::span(dichten).first(used.size()), m_variable);
+}
+
+void conDisplay::drawSeries(const Reihe& reihe)
+{
+    const auto [smallest, largest] = endValues(reihe);
+    m_y = yBereich(smallest, largest);
+    m_reihe = reihe;
+    m_hasAxes = true;
+    m_fehler = false;
+    m_hintergrund.clear();
+    m_striche.clear();
+    bool gap = true;
+    for (std::size_t i = 0; i < reihe.size(); ++i) {
+        const float value = reihe.at(i);
+        if (istUnbekannt(value))
+            gap = true;
+        else if (std::exchange(gap, false))
+            Zeichne_Punkt(static_cast<float>(i), value, Blau);
+        else
+            Zeichne_LinieZu(static_cast<float>(i), value, Blau);
+    }
+    Display_Background();
+    relayout();
+}
+
+conDisplay::Layout conDisplay::layOut(const QSize& size) const
+{
+    Layout layout;
+    layout.plot = plotArea(size.width(), size.height());
+    layout.labelFont = font();
+    if (!m_hasAxes || layout.plot.width == 0 || layout.plot.height == 0)
+        return layout;
+    const QFontMetricsF fullSize(layout.labelFont);
+    const auto fullWidth = [&](std::string_view text) { return fullSize.horizontalAdvance(toQt(text)); };
+    layout.abbildung = Abbildung(layout.plot.width, layout.plot.height, m_x, m_y);
+    layout.yMarken = yMarken(layout.plot, size.height(), m_y, fullSize.height());
+    const double scale = labelScale(layout.yMarken, layout.plot, fullWidth);
+    layout.labelFont.setPointSizeF(layout.labelFont.pointSizeF() * scale);
+    const QFontMetricsF metrics(layout.labelFont);
+    layout.labelHeight = metrics.height();
+    layout.yMarken = yMarken(layout.plot, size.height(), m_y, layout.labelHeight);
+    layout.xMarken = xMarken(
+        layout.plot, size.width(), m_x, [&](std::string_view text) { return metrics.horizontalAdvance(toQt(text)); });
+    return layout;
+}
+
+void conDisplay::relayout()
+{
+    m_layout = layOut(size());
+    m_pic->setGeometry(QRect(
+        QPoint(static_cast<int>(m_layout.plot.left), static_cast<int>(m_layout.plot.top)), plotSize(m_layout.plot)));
+    update();
+    m_pic->update();
+}
+
+std::string conDisplay::values(int schritt) const { return reihendatei(m_symbol, m_einheit, m_reihe, schritt); }
+
+void conDisplay::paintPicture(QPainter& painter, const QSize& size) const
+{
+    const Layout layout = layOut(size);
+    paintSurface(painter, size, layout);
+    painter.save();
+    painter.translate(layout.plot.left, layout.plot.top);
+    painter.setClipRect(QRect(QPoint(0, 0), plotSize(layout.plot)));
+    paintPlot(painter, layout);
+    painter.restore();
+}
+
+void conDisplay::paintSurface(QPainter& painter, const QSize& size, const Layout& layout) const
+{
+    painter.fillRect(QRect(QPoint(0, 0), size), Qt::white);
+    painter.setFont(layout.labelFont);
+    painter.setPen(Qt::black);
+    const Rechteck& plot = layout.plot;
+    const double ascent = QFontMetricsF(layout.labelFont).ascent();
+    for (const Achsenmarke& marke : layout.yMarken) {
+        const int row = std::min(static_cast<int>(std::lround(marke.position)), size.height() - 1);
+        painter.fillRect(QRectF(plot.left - TickLength, row, TickLength, 1), Qt::black);
+        painter.drawText(QPointF(LabelColumn, marke.labelStart + ascent), toQt(marke.label));
+    }
+    const double labelTop = xLabelTop(plot, layout.labelHeight);
+    for (const Achsenmarke& marke : layout.xMarken) {
+        const int column = std::min(static_cast<int>(std::lround(marke.position)), size.width() - 1);
+        painter.fillRect(QRectF(column, plot.height, 1, TickLength), Qt::black);
+        painter.drawText(QPointF(marke.labelStart, labelTop + ascent), toQt(marke.label));
+    }
+    if (layout.xMarken.empty())
+        return;
+    painter.fillRect(QRectF(plot.left - 1, 0, 1, plot.height + 1), Qt::black);
+    painter.fillRect(QRectF(plot.left - 1, plot.height, plot.width + 1, 1), Qt::black);
+}
+
+void conDisplay::paintPlot(QPainter& painter, const Layout& layout) const
+{
+    const QRect area(QPoint(0, 0), plotSize(layout.plot));
+    painter.fillRect(area, Qt::white);
+    if (m_fehler) {
+        constexpr double Punkte = 24;
+        QFont large = font();
+        large.setPointSizeF(Punkte);
+        painter.setFont(large);
+        painter.setPen(Qt::black);
+        painter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, QStringLiteral("Fehler bei Diagrammberechnung"));
+        return;
+    }
+    if (!m_hasAxes)
+        return;
+    paintStriche(painter, m_hintergrund, layout.abbildung);
+    paintStriche(painter, m_striche, layout.abbildung);
+}
+
+void conDisplay::paintCursor(QPainter& painter) const
+{
+    if (m_cursor < 0 || !m_hasAxes || m_layout.plot.width == 0)
+        return;
+    const double column = m_layout.abbildung.column(m_cursor) + 0.5;
+    painter.setPen(QPen(QColor(200, 60, 0), 1, Qt::DashLine));
+    painter.drawLine(QPointF(column, 0), QPointF(column, m_layout.plot.height));
+}
+
+QString conDisplay::positionText(double x, double y) const
+{
+    return toQt(fixedText(x, 2) + " at% " + m_symbol + " - " + FormatValue(static_cast<float>(y), m_einheit));
+}
+
+void conDisplay::showPosition(double x, double y) { emit PositionInfo(positionText(x, y)); }
+
+void conDisplay::moveCursor(int prozent)
+{
+    m_cursor = std::clamp(prozent, 0, 100);
+    showPosition(m_cursor, m_reihe.at(static_cast<std::size_t>(m_cursor)));
+    m_pic->update();
+}
+
+void conDisplay::keyPressEvent(QKeyEvent* event)
+{
+    if (!m_hasAxes)
+        return QWidget::keyPressEvent(event);
+    switch (event->key()) {
+    case Qt::Key_Left:
+        moveCursor(m_cursor - 1);
+        break;
+    case Qt::Key_Right:
+        moveCursor(m_cursor + 1);
+        break;
+    case Qt::Key_Home:
+        moveCursor(0);
+        break;
+    case Qt::Key_End:
+        moveCursor(100);
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void conDisplay::focusOutEvent(QFocusEvent* event)
+{
+    QWidget::focusOutEvent(event);
+    m_cursor = -1;
+    m_pic->update();
+}
+
+void conDisplay::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    paintSurface(painter, size(), m_layout);
+    if (hasFocus()) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 1));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+void conDisplay::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    relayout();
+}
+
+void conDisplay::Speichern_Diagramm_2D()
+{
+    int filterIndex = 1;
+    const std::string name = ExportFileDialog(m_dialoge.save, filterIndex, true, false);
+    if (name.empty())
+        return;
+    if (filterIndex == 1)
+        saveValues(name);
+    else
+        savePicture(name);
+}
+
+void conDisplay::saveValues(const std::string& name)
+{
+    const auto& element = m_komponenten.at(slot(m_variable)).element;
+    const std::string prompt =
+        "Bitte geben Sie die Schrittweite der at% für\r\n" + (element ? element->Name() : std::string()) + " an.";
+    if (const auto answer = m_dialoge.input.ask("Diagramm speichern", prompt, "1"))
+        saveExport(m_programm.boxes(), name, values(schrittweite(*answer)));
+}
+
+void conDisplay::savePicture(const std::string& name)
+{
+    const auto paintPic = [this](QPainter& painter, const QSize&) { paintPlot(painter, m_layout); };
+    saveBitmap(m_programm.boxes(), name, imageOf(paintPic, plotSize(m_layout.plot), devicePixelRatioF()));
+}
+
+} // namespace zerna

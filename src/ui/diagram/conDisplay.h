@@ -1,0 +1,135 @@
+#pragma once
+
+#include <QWidget>
+
+#include <array>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "model/Konzentrationsreihe.h"
+#include "programm/Programm.h"
+#include "ui/diagram/Achsen.h"
+#include "ui/diagram/Striche.h"
+#include "ui/platform/Dialoge.h"
+
+namespace zerna {
+
+class Plotflaeche;
+
+/// The concentration diagram: one quantity over the at% of one component, 0 to 100. Axis labels and ticks stand on the
+/// control itself, the curve on the surface `pic` inside it. What was drawn last stays and is laid out anew on resize.
+///
+/// Set the components with Element_Add, then draw. Errors of the series and of the axes reach the caller of the drawing
+/// operations, and what was drawn before stays.
+class conDisplay : public QWidget {
+    Q_OBJECT
+
+public:
+    conDisplay(Programm& programm, Dialoge dialoge, QWidget* parent = nullptr);
+
+    /// Index (0 to 4) of the component along the axis. Writing refreshes its symbol, too; error 9 outside, error 91 for
+    /// an empty slot.
+    int VariablesElement() const { return m_variable; }
+    void setVariablesElement(int index);
+
+    /// Puts an element and its at% into slot `index`; error 9 outside 0 to 4, error 5 for an unknown key.
+    void Element_Add(int index, std::string_view key, float prozent);
+
+    /// One pixel at a point in data units, which becomes the current position.
+    void Zeichne_Punkt(float x, float y, std::uint32_t colour);
+
+    /// A line from the current position to a point in data units, which becomes the current position.
+    void Zeichne_LinieZu(float x, float y, std::uint32_t colour);
+
+    /// Draws the series of the mean valence without changing unit and component.
+    void Zeichne_Valenz();
+
+    /// Clears what was drawn on `pic` since Display_Background.
+    void Display_Loeschen();
+
+    /// Makes what is drawn on `pic` its lasting background.
+    void Display_Background();
+
+    /// Shows that the diagram could not be computed.
+    void Zeichne_Fehler();
+
+    /// Computes and draws quantity `groesse` (0 to 10; any other draws the series as it is) for component `variable`.
+    /// Nothing happens while the composition is not ready.
+    /// Intended: the y range comes from the two ends of the series, so a curve may leave the plot in between.
+    void Zeichne_Diagramm_2D(int groesse, int variable);
+
+    /// Asks for a file name and saves the values of the series, or the picture of `pic`.
+    void Speichern_Diagramm_2D();
+
+    /// Whether all rows of the composition can be read; kept by the main window.
+    void setKompositionBereit(bool bereit) { m_bereit = bereit; }
+
+    /// The texts of the density fields of the rows, for the density series.
+    void setDichtefelder(std::array<std::string, MaxKomponenten> texte) { m_dichtefelder = std::move(texte); }
+
+    /// The saved file's content for a step width.
+    std::string values(int schritt) const;
+
+    /// Paints the whole diagram as it would look at that size.
+    void paintPicture(QPainter& painter, const QSize& size) const;
+
+signals:
+    void PositionInfo(const QString& text);
+
+protected:
+    void focusOutEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    /// All that depends on the size.
+    struct Layout {
+        Rechteck plot;
+        Abbildung abbildung;
+        std::vector<Achsenmarke> xMarken;
+        std::vector<Achsenmarke> yMarken;
+        QFont labelFont;
+        double labelHeight = 0;
+    };
+
+    Layout layOut(const QSize& size) const;
+    void relayout();
+    Reihe computeSeries(int groesse) const;
+    void drawSeries(const Reihe& reihe);
+    std::span<const Reihenkomponente> components() const;
+    void paintSurface(QPainter& painter, const QSize& size, const Layout& layout) const;
+    void paintPlot(QPainter& painter, const Layout& layout) const;
+    void paintCursor(QPainter& painter) const;
+    void showPosition(double x, double y);
+    void moveCursor(int prozent);
+    QString positionText(double x, double y) const;
+    void savePicture(const std::string& name);
+    void saveValues(const std::string& name);
+
+    Programm& m_programm;
+    Dialoge m_dialoge;
+    Plotflaeche* m_pic = nullptr;
+    std::array<Reihenkomponente, MaxKomponenten> m_komponenten;
+    int m_variable = 0;
+    std::string m_symbol; // of the variable element
+    std::string m_einheit;
+    Reihe m_reihe{};
+    Bereich m_x{0, 100};
+    Bereich m_y;
+    bool m_hasAxes = false;
+    bool m_fehler = false; // the error display is shown
+    bool m_bereit = false;
+    std::array<std::string, MaxKomponenten> m_dichtefelder;
+    std::vector<Strichzug> m_hintergrund;
+    std::vector<Strichzug> m_striche;
+    Layout m_layout;
+    int m_cursor = -1; // at% of the keyboard cursor, -1 for none
+};
+
+/// The y range's two values for a series: those of its ends; where an end is unknown, of the nearest known value. Error
+/// 5 for a series without any value.
+std::pair<float, float> endValues(const Reihe& reihe);
+
+} // namespace zerna

@@ -1,0 +1,83 @@
+#include "ui/diagram/conLabel.h"
+
+#include <QPainter>
+
+#include "core/Zahlentext.h"
+#include "ui/button/StyledButton.h"
+#include "ui/platform/QtText.h"
+
+namespace zerna {
+
+int steppedValue(int value, int button)
+{
+    if (button != 0)
+        return value + 1 > 100 ? 0 : value + 1;
+    return value - 1 < 0 ? 100 : value - 1;
+}
+
+conLabel::conLabel(QWidget* parent)
+    : QWidget(parent)
+{
+    const std::array<QString, 2> captions{QStringLiteral("▼"), QStringLiteral("▲")};
+    for (int i = 0; i < 2; ++i) {
+        const auto k = static_cast<std::size_t>(i);
+        m_buttons.at(k) = new StyledButton(captions.at(k), this);
+        m_buttons.at(k)->setObjectName(QStringLiteral("cmdStep_%1").arg(i));
+        connect(m_buttons.at(k), &StyledButton::clicked, this, [this, i] { step(i); });
+    }
+}
+
+void conLabel::setValue(int value)
+{
+    if (value == m_value)
+        return;
+    m_value = value;
+    update();
+}
+
+void conLabel::setLabel(const QString& label)
+{
+    if (label == m_label)
+        return;
+    m_label = label;
+    m_buttons[0]->setAccessibleName(QStringLiteral("Anteil von %1 verkleinern").arg(label));
+    m_buttons[1]->setAccessibleName(QStringLiteral("Anteil von %1 vergrößern").arg(label));
+    update();
+}
+
+void conLabel::setEnabled(bool enabled)
+{
+    m_enabled = enabled;
+    for (StyledButton* const button : m_buttons)
+        button->setEnabled(enabled);
+    update();
+}
+
+void conLabel::step(int button)
+{
+    m_value = steppedValue(m_value, button);
+    emit Change();
+    update();
+}
+
+void conLabel::resizeEvent(QResizeEvent*)
+{
+    constexpr int ButtonWidth = 22;
+    const int half = height() / 2;
+    m_buttons[1]->setGeometry(width() - ButtonWidth, 0, ButtonWidth, half - 1);
+    m_buttons[0]->setGeometry(width() - ButtonWidth, half, ButtonWidth, half - 1);
+}
+
+void conLabel::paintEvent(QPaintEvent*)
+{
+    constexpr int CaptionColumn = 5;
+    constexpr int ValueRow = 12;
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::WindowText));
+    const int ascent = fontMetrics().ascent();
+    painter.drawText(CaptionColumn, ascent, m_label);
+    const QString value = QString::fromStdString((m_value >= 0 && m_value < 10 ? "0" : "") + fixedText(m_value, 0));
+    painter.drawText(CaptionColumn + fontMetrics().horizontalAdvance(m_label), ValueRow + ascent, value);
+}
+
+} // namespace zerna

@@ -1,0 +1,329 @@
+#include "ui/main/Diagrammbereich.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+#include "core/CheckedArithmetic.h"
+#include "core/Zahlentext.h"
+#include "ui/button/StyledButton.h"
+#include "ui/diagram/Diagrammflaeche.h"
+#include "ui/diagram/conDisplay.h"
+#include "ui/diagram/conLabel.h"
+#include "ui/main/Kompositionsbereich.h"
+#include "ui/platform/QtText.h"
+
+namespace zerna {
+
+namespace {
+
+/// Intended: right after the start "Elektronendichte" stands last although its code is 2.
+constexpr std::array<Groesseneintrag, 11> AnfangsGroessen{{{"Valenz", 0}, {"Teilchenzahldichte", 1}, {"Dichte", 3},
+    {"Atomvolumen", 4}, {"Hall-Koeffizient", 5}, {"Thermokraft", 6}, {"Plasmonenenergie", 7}, {"Fermienergie", 8},
+    {"2 Kf", 9}, {"Friedel-Wellenlänge", 10}, {"Elektronendichte", 2}}};
+
+constexpr std::array<Groesseneintrag, 11> Legierungsgroessen{{{"Valenz", 0}, {"Teilchenzahldichte", 1}, {"Dichte", 3},
+    {"Atomvolumen", 4}, {"Elektronendichte", 2}, {"Hall-Koeffizient", 5}, {"Thermokraft", 6}, {"Plasmonenenergie", 7},
+    {"Fermienergie", 8}, {"2 Kf", 9}, {"Friedel-Wellenlänge", 10}}};
+
+} // namespace
+
+Diagrammbereich::Diagrammbereich(
+    Programm& programm, Dialoge dialoge, const Kompositionsbereich& komposition, QWidget* parent)
+    : QWidget(parent)
+    , m_programm(programm)
+    , m_komposition(komposition)
+    , m_picDiagramm(new Diagrammflaeche(programm, dialoge, this))
+{
+    m_picDiagramm->setObjectName(QStringLiteral("picDiagramm"));
+    createControls();
+    createSteps();
+    createLabels();
+    layOut();
+}
+
+void Diagrammbereich::createControls()
+{
+    const auto makeList = [this](const char* name, const QString& accessibleName) {
+        auto* list = new QComboBox(this);
+        list->setObjectName(QLatin1String(name));
+        list->setAccessibleName(accessibleName);
+        list->setToolTip(accessibleName);
+        return list;
+    };
+    m_cmbDiagrammTyp = makeList("cmbDiagramm_Typ", QStringLiteral("Diagrammtyp"));
+    m_cmbDiagramm = makeList("cmbDiagramm", QStringLiteral("Größe"));
+    m_cmbDiagrammElement = makeList("cmbDiagramm_Element", QStringLiteral("Komponente entlang der Achse"));
+    m_cmbDiagrammTyp->addItems({QStringLiteral("2 D"), QStringLiteral("3 D - ternär"), QStringLiteral("PSE")});
+    connect(m_cmbDiagrammTyp, &QComboBox::activated, this, &Diagrammbereich::chooseType);
+    connect(m_cmbDiagramm, &QComboBox::activated, this, [this] { aktualisieren(true); });
+    connect(m_cmbDiagrammElement, &QComboBox::activated, this, [this] { aktualisieren(true); });
+
+    m_labelPos = new QLabel(this);
+    m_labelPos->setObjectName(QStringLiteral("LabelPos"));
+    m_labelPos->setTextFormat(Qt::PlainText);
+    connect(m_picDiagramm, &Diagrammflaeche::positionChanged, m_labelPos, &QLabel::setText);
+    m_cmdKopieren = new StyledButton(QStringLiteral("K&opieren"), this);
+    m_cmdKopieren->setObjectName(QStringLiteral("cmdDiagramm_Kopieren"));
+    m_cmdKopieren->setToolTipText(QStringLiteral("Diagramm als Bild in die Zwischenablage"));
+    m_cmdSpeichern = new StyledButton(QStringLiteral("Speic&hern"), this);
+    m_cmdSpeichern->setObjectName(QStringLiteral("cmdDiagramm_Speichern"));
+    m_cmdSpeichern->setToolTipText(QStringLiteral("Werte oder Bild des Diagramms speichern"));
+    connect(m_cmdKopieren, &StyledButton::clicked, m_picDiagramm, &Diagrammflaeche::copyPicture);
+    connect(m_cmdSpeichern, &StyledButton::clicked, m_picDiagramm, &Diagrammflaeche::save);
+}
+
+void Diagrammbereich::createSteps()
+{
+    const std::array<QString, 2> captions{QStringLiteral("−"), QStringLiteral("+")};
+    const std::array<QString, 2> hints{QStringLiteral("Gröbere Auflösung"), QStringLiteral("Feinere Auflösung")};
+    for (int i = 0; i < 2; ++i) {
+        const auto k = static_cast<std::size_t>(i);
+        m_cmdSteps.at(k) = new StyledButton(captions.at(k), this);
+        m_cmdSteps.at(k)->setObjectName(QStringLiteral("cmdSteps_%1").arg(i));
+        m_cmdSteps.at(k)->setAccessibleName(hints.at(k));
+        m_cmdSteps.at(k)->setToolTipText(hints.at(k));
+        m_cmdSteps.at(k)->setFixedSize(28, 26);
+        m_cmdSteps.at(k)->hide();
+        connect(m_cmdSteps.at(k), &StyledButton::clicked, this, [this, i] { stepResolution(i == 0 ? -1 : 1); });
+    }
+    m_lblSteps = new QLabel(QStringLiteral("Auflösung: 5"), this);
+    m_lblSteps->setObjectName(QStringLiteral("lblSteps"));
+    m_lblSteps->hide();
+}
+
+void Diagrammbereich::createLabels()
+{
+    for (int row = 0; row < MaxKomponenten; ++row) {
+        auto* label = new conLabel(this);
+        label->setObjectName(QStringLiteral("conLabel_%1").arg(row));
+        label->setFixedHeight(34);
+        label->setMinimumWidth(70);
+        label->setMaximumWidth(96);
+        label->hide();
+        connect(label, &conLabel::Change, this, [this, row, label] { emit prozentStepped(row, label->Value()); });
+        m_conLabel.at(static_cast<std::size_t>(row)) = label;
+    }
+}
+
+/// The rows above and below the area take 150 pixels together, so that the area keeps its fixed offset from the window.
+void Diagrammbereich::layOut()
+{
+    constexpr int Top = 78;
+    constexpr int Bottom = 72;
+    auto* lists = new QHBoxLayout;
+    lists->setSpacing(6);
+    for (QComboBox* const list : {m_cmbDiagrammTyp, m_cmbDiagramm, m_cmbDiagrammElement}) {
+        list->setFixedHeight(26);
+        lists->addWidget(list);
+    }
+    lists->setStretch(1, 1);
+    auto* values = new QHBoxLayout;
+    values->setSpacing(4);
+    for (conLabel* const label : m_conLabel)
+        values->addWidget(label, 1);
+    values->addWidget(m_lblSteps);
+    for (StyledButton* const button : m_cmdSteps)
+        values->addWidget(button);
+    values->addStretch();
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(8);
+    buttons->addStretch();
+    for (StyledButton* const button : {m_cmdKopieren, m_cmdSpeichern}) {
+        button->setMinimumWidth(110);
+        button->setFixedHeight(28);
+        buttons->addWidget(button);
+    }
+
+    const auto boxed = [this](int height, std::initializer_list<QLayout*> rows, int bottomMargin) {
+        auto* box = new QWidget(this);
+        box->setFixedHeight(height);
+        auto* column = new QVBoxLayout(box);
+        column->setContentsMargins(0, 4, 0, bottomMargin);
+        column->setSpacing(6);
+        for (QLayout* const row : rows)
+            column->addLayout(row);
+        return box;
+    };
+    auto* position = new QHBoxLayout;
+    position->addWidget(m_labelPos);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(boxed(Top, {lists, values}, 4));
+    column->addWidget(m_picDiagramm, 1);
+    column->addWidget(boxed(Bottom, {position, buttons}, 8));
+}
+
+void Diagrammbereich::load()
+{
+    fillQuantities(AnfangsGroessen);
+    m_typ = Diagrammtyp::Konzentration;
+    // Intended: the caption changes to "Auflösung: " with the first step.
+    m_lblSteps->setText(QStringLiteral("Schritte: 5"));
+}
+
+/// Fills the quantity list and keeps the chosen quantity if the list has it.
+void Diagrammbereich::fillQuantities(std::span<const Groesseneintrag> quantities)
+{
+    const int chosen = groesse();
+    m_cmbDiagramm->clear();
+    for (const Groesseneintrag& quantity : quantities)
+        m_cmbDiagramm->addItem(toQt(quantity.text), quantity.code);
+    m_cmbDiagramm->setCurrentIndex(qMax(0, m_cmbDiagramm->findData(chosen)));
+}
+
+int Diagrammbereich::groesse() const { return m_cmbDiagramm->currentData().toInt(); }
+
+void Diagrammbereich::rebuildComponents()
+{
+    m_cmbDiagrammElement->clear();
+    for (int row = 0; row < m_programm.Komponentenzahl(); ++row)
+        addComponent(row);
+}
+
+void Diagrammbereich::addComponent(int row) { m_cmbDiagrammElement->addItem(toQt(m_komposition.element(row)), row); }
+
+void Diagrammbereich::selectFirstComponent() { m_cmbDiagrammElement->setCurrentIndex(0); }
+
+void Diagrammbereich::selectFirstType()
+{
+    if (m_typ == Diagrammtyp::Konzentration)
+        aktualisieren(true);
+    else
+        chooseType(0);
+}
+
+void Diagrammbereich::chooseType(int position)
+{
+    auto type = static_cast<Diagrammtyp>(position);
+    if (type == Diagrammtyp::Ternaer && m_programm.Komponentenzahl() != 3)
+        type = Diagrammtyp::Konzentration; // silently
+    m_cmbDiagrammTyp->setCurrentIndex(static_cast<int>(type));
+    m_typ = type;
+    fillQuantities(type == Diagrammtyp::PSE ? psegroessen() : std::span<const Groesseneintrag>(Legierungsgroessen));
+    m_cmbDiagrammElement->setVisible(type == Diagrammtyp::Konzentration);
+    m_lblSteps->setVisible(type == Diagrammtyp::Ternaer);
+    for (StyledButton* const button : m_cmdSteps)
+        button->setVisible(type == Diagrammtyp::Ternaer);
+    aktualisieren(false);
+}
+
+void Diagrammbereich::stepResolution(int step)
+{
+    constexpr int Finest = 10;
+    m_steps += step;
+    if (m_steps > Finest)
+        m_steps = 1;
+    else if (m_steps < 1)
+        m_steps = Finest;
+    m_lblSteps->setText(QStringLiteral("Auflösung: %1").arg(m_steps));
+    aktualisieren(true);
+}
+
+void Diagrammbereich::aktualisieren(bool keepSelection)
+{
+    if (!m_programm.StartupDone())
+        return;
+    refreshLabels();
+    switch (m_typ) {
+    case Diagrammtyp::Konzentration:
+        drawConcentration(keepSelection);
+        break;
+    case Diagrammtyp::Ternaer:
+        m_picDiagramm->showHinweis(QStringLiteral("3 D - ternär"));
+        break;
+    case Diagrammtyp::PSE:
+        drawPSE();
+        break;
+    }
+}
+
+void Diagrammbereich::drawConcentration(bool keepSelection)
+{
+    if (!keepSelection)
+        selectFirstComponent();
+    const int count = m_programm.Komponentenzahl();
+    if (count == 1) {
+        m_picDiagramm->showHinweis(
+            QStringLiteral("Für ein Konzentrationsdiagramm sind\nmindestens zwei Komponenten nötig."));
+        return;
+    }
+    std::vector<Diagrammzeile> zeilen;
+    for (int row = 0; row < count; ++row)
+        zeilen.push_back(m_komposition.diagrammzeile(row));
+    if (const std::string hindernis = diagrammhindernis(zeilen); !hindernis.empty()) {
+        m_picDiagramm->showFehler(toQt(hindernis));
+        return;
+    }
+    m_picDiagramm->display().setKompositionBereit(canRead());
+    if (!canRead()) // while an at% is being typed the diagram stays, as the results do
+        return;
+    try {
+        drawSeries();
+        m_picDiagramm->showKonzentration();
+    } catch (const Laufzeitfehler& error) {
+        m_picDiagramm->showFehler(QStringLiteral("%1 (%2)").arg(toQt(error.what())).arg(error.Nummer()));
+    }
+}
+
+/// Whether all visible rows have an element and a readable at%.
+bool Diagrammbereich::canRead()
+{
+    for (int row = 0; row < m_programm.Komponentenzahl(); ++row) {
+        const bool hasElement = m_programm.ElementCollection().find(m_komposition.element(row)) != nullptr;
+        if (!hasElement || istUnbekannt(orUnbekannt([&] { return singleFromText(m_komposition.prozent(row)); })))
+            return false;
+    }
+    return true;
+}
+
+void Diagrammbereich::drawSeries()
+{
+    conDisplay& display = m_picDiagramm->display();
+    std::array<std::string, MaxKomponenten> dichten;
+    for (int row = 0; row < m_programm.Komponentenzahl(); ++row) {
+        display.Element_Add(row, m_komposition.element(row), singleFromText(m_komposition.prozent(row)));
+        dichten.at(static_cast<std::size_t>(row)) = m_komposition.dichte(row);
+    }
+    display.setDichtefelder(std::move(dichten));
+    const int variable = qMax(0, m_cmbDiagrammElement->currentData().toInt());
+    display.setVariablesElement(variable);
+    display.Zeichne_Diagramm_2D(groesse(), variable);
+}
+
+void Diagrammbereich::drawPSE()
+{
+    try {
+        std::vector<std::string> symbols;
+        for (const auto& element : m_programm.ElementCollection())
+            symbols.push_back(element->symbol());
+        m_picDiagramm->showPSE(
+            pseReihe(m_programm.ElementCollection(), m_programm.Calc(), groesse()), std::move(symbols));
+    } catch (const Laufzeitfehler& error) {
+        m_picDiagramm->showFehler(QStringLiteral("%1 (%2)").arg(toQt(error.what())).arg(error.Nummer()));
+    }
+}
+
+/// Each visible row has its label; the balance row's cannot be stepped.
+void Diagrammbereich::refreshLabels()
+{
+    const int count = m_programm.Komponentenzahl();
+    for (int row = 0; row < MaxKomponenten; ++row) {
+        conLabel& label = *m_conLabel.at(static_cast<std::size_t>(row));
+        label.setVisible(row < count && m_typ == Diagrammtyp::Konzentration);
+        if (row >= count)
+            continue;
+        label.setLabel(toQt(m_komposition.element(row)) + QLatin1Char(' '));
+        label.setEnabled(row < count - 1);
+        const float prozent = orUnbekannt([&] { return singleFromText(m_komposition.prozent(row)); });
+        constexpr float Shown = 1e6F; // what no label has room for is left as it was
+        if (!istUnbekannt(prozent) && std::abs(prozent) < Shown)
+            label.setValue(static_cast<int>(std::lround(prozent)));
+    }
+}
+
+} // namespace zerna

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QWidget>
+
+#include <array>
+#include <span>
+
+#include "model/PSEReihe.h"
+#include "programm/Programm.h"
+#include "ui/platform/Dialoge.h"
+
+class QComboBox;
+class QLabel;
+
+namespace zerna {
+
+class Diagrammflaeche;
+class Kompositionsbereich;
+class StyledButton;
+class conLabel;
+
+/// The diagram panel: lists for type, quantity and component above the diagram area, value labels and read-outs around
+/// it. It chooses and checks; computing and drawing are the diagrams' own.
+class Diagrammbereich : public QWidget {
+    Q_OBJECT
+
+public:
+    Diagrammbereich(
+        Programm& programm, Dialoge dialoge, const Kompositionsbereich& komposition, QWidget* parent = nullptr);
+
+    /// The lists' and read-outs' state right after the window's load.
+    void load();
+
+    /// Lists the elements of the visible rows.
+    void rebuildComponents();
+    void addComponent(int row);
+
+    /// Returns to the concentration diagram and draws it.
+    void selectFirstType();
+    void selectFirstComponent();
+
+    /// Draws the current type's diagram anew. Without `keepSelection` the first component runs along the axis.
+    void aktualisieren(bool keepSelection);
+
+signals:
+    /// A value label has stepped the at% of a row.
+    void prozentStepped(int row, int prozent);
+
+private:
+    enum class Diagrammtyp { Konzentration = 0, Ternaer = 1, PSE = 2 };
+
+    void createControls();
+    void createSteps();
+    void createLabels();
+    void layOut();
+    void fillQuantities(std::span<const Groesseneintrag> quantities);
+    void chooseType(int position);
+    void stepResolution(int step);
+    void drawConcentration(bool keepSelection);
+    void drawSeries();
+    void drawPSE();
+    bool canRead();
+    void refreshLabels();
+    int groesse() const;
+
+    Programm& m_programm;
+    const Kompositionsbereich& m_komposition;
+    Diagrammtyp m_typ = Diagrammtyp::Konzentration;
+    int m_steps = 5; // resolution of the ternary diagram, 1 to 10
+    QComboBox* m_cmbDiagrammTyp = nullptr;
+    QComboBox* m_cmbDiagramm = nullptr;
+    QComboBox* m_cmbDiagrammElement = nullptr;
+    std::array<StyledButton*, 2> m_cmdSteps{};
+    QLabel* m_lblSteps = nullptr;
+    std::array<conLabel*, MaxKomponenten> m_conLabel{};
+    Diagrammflaeche* m_picDiagramm = nullptr;
+    QLabel* m_labelPos = nullptr;
+    StyledButton* m_cmdKopieren = nullptr;
+    StyledButton* m_cmdSpeichern = nullptr;
+};
+
+} // namespace zerna

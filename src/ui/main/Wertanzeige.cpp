@@ -1,0 +1,85 @@
+#include "ui/main/Wertanzeige.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+
+namespace zerna {
+
+Wertanzeige::Wertanzeige(QWidget* parent)
+    : QLabel(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setTextFormat(Qt::PlainText);
+}
+
+void Wertanzeige::setEinheit(const QString& einheit, int numberWidth)
+{
+    m_einheit = einheit;
+    m_numberWidth = numberWidth;
+    updateGeometry();
+    update();
+}
+
+QSize Wertanzeige::sizeHint() const
+{
+    if (m_numberWidth == 0)
+        return QLabel::sizeHint();
+    return {m_numberWidth + fontMetrics().horizontalAdvance(QLatin1Char(' ') + m_einheit) + 1, fontMetrics().height()};
+}
+
+void Wertanzeige::changeEvent(QEvent* event)
+{
+    QLabel::changeEvent(event);
+    update();
+}
+
+void Wertanzeige::contextMenuEvent(QContextMenuEvent* event)
+{
+    // The mouse asks when its button is released, see mouseReleaseEvent.
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        emit menuRequested(mapToGlobal(rect().center()));
+}
+
+void Wertanzeige::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Copy))
+        emit copyRequested();
+    else
+        QLabel::keyPressEvent(event);
+}
+
+void Wertanzeige::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::RightButton)
+        emit menuRequested(event->globalPosition().toPoint());
+    else
+        QLabel::mouseReleaseEvent(event);
+}
+
+void Wertanzeige::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+    const bool columns = m_numberWidth > 0 && text().endsWith(m_einheit) && text().size() > m_einheit.size();
+    const QRect area = contentsRect();
+    if (columns) {
+        const QString number = text().chopped(m_einheit.size()).trimmed();
+        const int gap = fontMetrics().horizontalAdvance(QLatin1Char(' '));
+        const int width = qMax(m_numberWidth, fontMetrics().horizontalAdvance(number));
+        const QRect numberArea(area.left(), area.top(), width, area.height());
+        painter.drawText(numberArea, Qt::AlignRight | Qt::AlignVCenter, number);
+        painter.drawText(area.adjusted(width + gap, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, m_einheit);
+    } else {
+        painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, text());
+    }
+    if (hasFocus()) {
+        QStyleOptionFocusRect option;
+        option.initFrom(this);
+        option.backgroundColor = palette().color(QPalette::Window);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+    }
+}
+
+} // namespace zerna

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QLabel>
+
+namespace zerna {
+
+/// One result value: number and unit stand in columns, so that the units of all lines are aligned. Takes the keyboard
+/// focus; Ctrl+C copies what it shows, the right mouse button or the menu key asks for its menu.
+class Wertanzeige : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit Wertanzeige(QWidget* parent = nullptr);
+
+    /// The unit that texts end in, and the width of the number column in front of it (0: text as one piece).
+    void setEinheit(const QString& einheit, int numberWidth);
+    const QString& einheit() const { return m_einheit; }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+signals:
+    void menuRequested(const QPoint& globalPosition);
+    void copyRequested();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString m_einheit;
+    int m_numberWidth = 0; // logical pixels
+};
+
+} // namespace zerna

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QLineEdit>
+
+namespace zerna {
+
+/// A field for a typed value. It marks a text that is not valid, with the reason as tool tip, can show beside a formula
+/// what it comes to, and says when the keyboard focus enters it.
+class Wertfeld : public QLineEdit {
+    Q_OBJECT
+
+public:
+    explicit Wertfeld(QWidget* parent = nullptr);
+
+    /// Writes a text without taking it for typing. The marker beside it tells an unknown value from a known one.
+    void setWert(const QString& text, bool unbekannt);
+    bool istWertUnbekannt() const;
+
+    /// Why the text is not valid; empty if it is.
+    void setFehler(const QString& grund);
+    const QString& fehler() const { return m_fehler; }
+
+    /// What the formula in the field comes to, for example "= 1,5"; empty for none.
+    void setEcho(const QString& echo);
+    const QString& echo() const { return m_echo; }
+
+    /// The tool tip while the text is valid.
+    void setHinweis(const QString& hinweis);
+
+signals:
+    void focusEntered();
+    void focusLeft();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void showHint();
+    void strengthenDisabledText();
+
+    QString m_fehler;
+    QString m_echo;
+    QString m_hinweis;
+};
+
+} // namespace zerna

@@ -1,0 +1,201 @@
+#include "ui/main/frmMain.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QVBoxLayout>
+
+#include "ui/button/StyledButton.h"
+#include "ui/main/Diagrammbereich.h"
+#include "ui/main/Ergebnisbereich.h"
+#include "ui/main/Kompositionsbereich.h"
+#include "ui/main/PSEbereich.h"
+#include "ui/main/frmAbout.h"
+#include "ui/platform/QtText.h"
+#include "ui/weighing/conWiegen.h"
+
+namespace zerna {
+
+namespace {
+
+constexpr int PanelLeft = 4;
+constexpr int PanelTop = 40; // height of the strip with the panel switches
+constexpr int LeftColumn = 628; // the diagram area begins behind it and takes the width less 640
+constexpr int DiagramMargin = 640;
+
+StyledButton* makeSwitch(QWidget* parent, const QString& caption, const QString& name)
+{
+    auto* button = new StyledButton(caption, parent);
+    button->setObjectName(name);
+    button->setCheckable(true);
+    button->setAutoExclusive(false);
+    return button;
+}
+
+/// Shows which of two switches is on.
+void checkOnly(const std::array<StyledButton*, 2>& switches, int on)
+{
+    for (int i = 0; i < 2; ++i)
+        switches.at(static_cast<std::size_t>(i))->setChecked(i == on);
+}
+
+} // namespace
+
+frmMain::frmMain(Programm& programm, Dialoge dialoge)
+    : m_programm(programm)
+{
+    setObjectName(QStringLiteral("frmMain"));
+    setWindowTitle(toQt(Programmtitel));
+    setWindowIcon(QIcon(QStringLiteral(":/zerna.svg")));
+    createControls();
+    createCalculatorPanel(dialoge);
+    connectPanels();
+    load();
+    resize(1280, 800);
+}
+
+frmMain::~frmMain() = default;
+
+void frmMain::load()
+{
+    m_diagramm->load();
+    m_komposition->restoreCount();
+    showPanel(0);
+    showLowerArea(0);
+}
+
+void frmMain::createControls()
+{
+    m_optButton1[0] = makeSwitch(this, QStringLiteral("&Rechner"), QStringLiteral("optButton_1_0"));
+    m_optButton1[1] = makeSwitch(this, QStringLiteral("&Periodensystem"), QStringLiteral("optButton_1_1"));
+    m_cmdAbout = new StyledButton(QStringLiteral("&Info"), this);
+    m_cmdAbout->setObjectName(QStringLiteral("cmdAbout"));
+    m_cmdAbout->setToolTipText(QStringLiteral("Über dieses Programm"));
+    m_pic1 = new QWidget(this);
+    m_pic1->setObjectName(QStringLiteral("Pic_1_0"));
+    m_pse = new PSEbereich(this);
+    m_pse->setObjectName(QStringLiteral("Pic_1_1"));
+}
+
+void frmMain::createCalculatorPanel(Dialoge dialoge)
+{
+    m_left = new QWidget(m_pic1);
+    m_komposition = new Kompositionsbereich(m_programm, m_left);
+    m_cmdKnopf1[0] = makeSwitch(m_left, QStringLiteral("&Ergebnisse"), QStringLiteral("cmdKnopf1_0"));
+    m_cmdKnopf1[1] = makeSwitch(m_left, QStringLiteral("Ein&waage"), QStringLiteral("cmdKnopf1_1"));
+    m_ergebnisse = new Ergebnisbereich(m_programm, dialoge.save, *m_komposition, m_left);
+    m_conWiegen1 = new conWiegen(m_left);
+    m_conWiegen1->setObjectName(QStringLiteral("conWiegen1"));
+    m_diagramm = new Diagrammbereich(m_programm, dialoge, *m_komposition, m_pic1);
+
+    auto* switches = new QHBoxLayout;
+    switches->setSpacing(4);
+    for (StyledButton* const button : m_cmdKnopf1) {
+        button->setMinimumWidth(120);
+        button->setFixedHeight(28);
+        switches->addWidget(button);
+    }
+    switches->addStretch();
+    auto* column = new QVBoxLayout(m_left);
+    column->setContentsMargins(4, 4, 4, 8);
+    column->setSpacing(8);
+    column->addWidget(m_komposition);
+    column->addSpacing(4);
+    column->addLayout(switches);
+    column->addWidget(m_ergebnisse, 1);
+    column->addWidget(m_conWiegen1, 1);
+}
+
+void frmMain::connectPanels()
+{
+    for (int i = 0; i < 2; ++i) {
+        const auto k = static_cast<std::size_t>(i);
+        connect(m_optButton1.at(k), &StyledButton::clicked, this, [this, i] { showPanel(i); });
+        connect(m_cmdKnopf1.at(k), &StyledButton::clicked, this, [this, i] { showLowerArea(i); });
+    }
+    connect(m_cmdAbout, &StyledButton::clicked, this, [this] { frmAbout(m_programm.Loader(), this).exec(); });
+    connect(m_komposition, &Kompositionsbereich::resultsRequested, this, [this] { m_ergebnisse->aktualisieren(true); });
+    connect(m_komposition, &Kompositionsbereich::weighingRequested, m_conWiegen1, &conWiegen::Aktualisieren);
+    connect(m_komposition, &Kompositionsbereich::componentsChanged, m_diagramm, &Diagrammbereich::rebuildComponents);
+    connect(
+        m_komposition, &Kompositionsbereich::firstDiagramTypeRequested, m_diagramm, &Diagrammbereich::selectFirstType);
+    connect(m_komposition, &Kompositionsbereich::firstDiagramComponentRequested, m_diagramm,
+        &Diagrammbereich::selectFirstComponent);
+    connect(m_komposition, &Kompositionsbereich::densityDiagramRequested, this,
+        [this] { m_diagramm->aktualisieren(false); });
+    connect(m_komposition, &Kompositionsbereich::diagramRequested, this, [this] { m_diagramm->aktualisieren(true); });
+    connect(m_diagramm, &Diagrammbereich::prozentStepped, m_komposition, &Kompositionsbereich::stepProzent);
+}
+
+void frmMain::ComboElementListIndex(int index, int listIndex) { m_komposition->chooseElement(index, listIndex); }
+
+void frmMain::addElement(int list, std::string_view symbol, int itemData)
+{
+    m_komposition->addElement(list, symbol, itemData);
+}
+
+std::string frmMain::elementEntry(int list, int position) const { return m_komposition->elementEntry(list, position); }
+
+int frmMain::findElementEntry(int list, std::string_view text) const
+{
+    return m_komposition->findElementEntry(list, text);
+}
+
+void frmMain::addDiagramComponent(int list) { m_diagramm->addComponent(list); }
+
+void frmMain::selectFirstDiagram()
+{
+    m_diagramm->selectFirstType();
+    m_diagramm->selectFirstComponent();
+}
+
+void frmMain::show() { QWidget::show(); }
+
+void frmMain::closeEvent(QCloseEvent* event)
+{
+    m_programm.shutdown();
+    QWidget::closeEvent(event);
+}
+
+void frmMain::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    layOutPanels();
+}
+
+/// Places the strip and both panels; a control that would get no area keeps its old place.
+void frmMain::layOutPanels()
+{
+    const auto place = [](QWidget* widget, const QRect& area) {
+        if (area.width() > 0 && area.height() > 0)
+            widget->setGeometry(area);
+    };
+    constexpr int ButtonTop = 6;
+    constexpr int ButtonHeight = 28;
+    place(m_optButton1[0], {8, ButtonTop, 120, ButtonHeight});
+    place(m_optButton1[1], {132, ButtonTop, 150, ButtonHeight});
+    place(m_cmdAbout, {width() - 98, ButtonTop, 90, ButtonHeight});
+    const QRect panel(PanelLeft, PanelTop, width() - PanelLeft, height() - PanelTop);
+    place(m_pic1, panel);
+    place(m_pse, panel);
+    place(m_left, {0, 0, LeftColumn, panel.height()});
+    place(m_diagramm, {LeftColumn + 4, 0, width() - DiagramMargin, panel.height()});
+}
+
+void frmMain::showPanel(int panel)
+{
+    checkOnly(m_optButton1, panel);
+    m_pic1->setVisible(panel == 0);
+    m_pse->setVisible(panel == 1);
+    if (panel == 1)
+        m_pse->layOut();
+}
+
+void frmMain::showLowerArea(int area)
+{
+    checkOnly(m_cmdKnopf1, area);
+    m_ergebnisse->setVisible(area == 0);
+    m_conWiegen1->setVisible(area == 1);
+}
+
+} // namespace zerna

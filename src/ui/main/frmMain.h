@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QWidget>
+
+#include <array>
+
+#include "programm/Programm.h"
+#include "ui/platform/Dialoge.h"
+
+namespace zerna {
+
+class Diagrammbereich;
+class Ergebnisbereich;
+class Kompositionsbereich;
+class PSEbereich;
+class StyledButton;
+class conWiegen;
+
+/// The main window: a strip with the panel switches, and below it the calculator panel or the periodic table. It ties
+/// the panels together: an edit of the composition asks here for what depends on it.
+class frmMain : public QWidget, public Hauptfenster {
+    Q_OBJECT
+
+public:
+    frmMain(Programm& programm, Dialoge dialoge);
+    ~frmMain() override;
+
+    /// Selects an entry of an element list and runs the element choice of its row; nothing for a position outside.
+    void ComboElementListIndex(int index, int listIndex) override;
+
+    void addElement(int list, std::string_view symbol, int itemData) override;
+    std::string elementEntry(int list, int position) const override;
+    int findElementEntry(int list, std::string_view text) const override;
+    void addDiagramComponent(int list) override;
+    void selectFirstDiagram() override;
+    void show() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void load();
+    void createControls();
+    void createCalculatorPanel(Dialoge dialoge);
+    void connectPanels();
+    void layOutPanels();
+    void showPanel(int panel);
+    void showLowerArea(int area);
+
+    Programm& m_programm;
+    std::array<StyledButton*, 2> m_optButton1{};
+    StyledButton* m_cmdAbout = nullptr;
+    QWidget* m_pic1 = nullptr; // the calculator panel
+    QWidget* m_left = nullptr; // its left column
+    PSEbereich* m_pse = nullptr; // the second panel
+    Kompositionsbereich* m_komposition = nullptr;
+    std::array<StyledButton*, 2> m_cmdKnopf1{};
+    Ergebnisbereich* m_ergebnisse = nullptr;
+    conWiegen* m_conWiegen1 = nullptr;
+    Diagrammbereich* m_diagramm = nullptr;
+};
+
+} // namespace zerna

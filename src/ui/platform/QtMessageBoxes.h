@@ -1,0 +1,13 @@
+#pragma once
+
+#include "core/MessageBoxes.h"
+
+namespace zerna {
+
+/// Message boxes of the toolkit, modal to the active window.
+class QtMessageBoxes : public MessageBoxes {
+public:
+    void show(Icon icon, std::string_view caption, std::string_view text) override;
+};
+
+} // namespace zerna

@@ -1,0 +1,36 @@
+#include "ui/platform/QtSaveFileDialog.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QStringList>
+
+#include "ui/platform/QtText.h"
+
+namespace zerna {
+
+std::optional<SaveFileDialog::Choice> QtSaveFileDialog::choose(std::string_view title, std::span<const Dateityp> types)
+{
+    QFileDialog dialog(QApplication::activeWindow(), toQt(title), QDir::currentPath());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    QStringList filters;
+    for (const Dateityp& type : types)
+        filters << toQt(type.description);
+    dialog.setNameFilters(filters);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    const auto filter = static_cast<int>(filters.indexOf(dialog.selectedNameFilter()));
+    return Choice{fromQt(dialog.selectedFiles().constFirst()), filter + 1};
+}
+
+bool QtSaveFileDialog::confirmReplace(std::string_view name)
+{
+    const QString question = QStringLiteral("Die Datei \"%1\" ist schon vorhanden.\nSoll sie ersetzt werden?");
+    return QMessageBox::question(
+               QApplication::activeWindow(), QStringLiteral("Daten exportieren ..."), question.arg(toQt(name)))
+        == QMessageBox::Yes;
+}
+
+} // namespace zerna

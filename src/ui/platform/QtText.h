@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+#include <string>
+#include <string_view>
+
+namespace zerna {
+
+/// Texts are UTF-8 in the program and UTF-16 in the toolkit.
+inline QString toQt(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+inline std::string fromQt(const QString& text) { return text.toStdString(); }
+
+} // namespace zerna
