@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -14,6 +15,8 @@
 #include "core/Zahlentext.h"
 #include "core/Zeichensatz.h"
 #include "model/Groessentabelle.h"
+#include "model/Konzentrationsreihe.h"
+#include "model/PSEReihe.h"
 #include "programm/Rechenkern.h"
 
 namespace zerna {
@@ -41,6 +44,9 @@ struct Optionen {
     std::string formel;
     std::string csv;
     std::string dat;
+    int groesse = -1;
+    std::string variabel;
+    int schritt = 1;
 };
 
 /// Carries out subcommands.
@@ -81,6 +87,29 @@ public:
     {
         loadAlloy();
         put(friedeldatei(m_kern.calc()));
+    }
+
+    void reihe()
+    {
+        const bool known = m_optionen.groesse >= 0 && m_optionen.groesse <= LetzteReihengroesse;
+        if (!known)
+            throw Aufruffehler("--groesse " + std::to_string(m_optionen.groesse) + ": erwartet wird 0 bis 10");
+        loadAlloy();
+        const std::vector<Reihenkomponente> komponenten = m_kern.komponenten();
+        const int variabel = indexOfVariabel(komponenten);
+        const Reihe werte = m_optionen.groesse == GroesseDichte
+            ? dichtereihe(dichten(komponenten), variabel)
+            : konzentrationsreihe(m_kern.calc(), m_kern.parser(), komponenten, variabel, m_optionen.groesse);
+        put(reihendatei(komponenten[static_cast<std::size_t>(variabel)].element->symbol(),
+            reiheneinheit(m_optionen.groesse), werte, m_optionen.schritt));
+    }
+
+    void pse()
+    {
+        if (!istPSEGroesse(m_optionen.groesse))
+            throw Aufruffehler("--groesse " + std::to_string(m_optionen.groesse) + ": keine Eigenschaft der Elemente");
+        load();
+        put(psedatei(pseReihe(m_kern.elements(), m_kern.calc(), m_optionen.groesse)));
     }
 
     void elementeExportieren()
@@ -126,6 +155,23 @@ private:
             angaben.push_back(komponentenangabe(text));
         load();
         return m_kern.setAlloy(angaben);
+    }
+
+    int indexOfVariabel(const std::vector<Reihenkomponente>& komponenten) const
+    {
+        const auto wanted = m_kern.elements().find(m_optionen.variabel, true);
+        const auto found = std::ranges::find(komponenten, wanted, &Reihenkomponente::element);
+        if (!wanted || found == komponenten.end())
+            throw Aufruffehler("--variabel " + m_optionen.variabel + ": keine Komponente der Legierung");
+        return static_cast<int>(found - komponenten.begin());
+    }
+
+    static std::vector<float> dichten(const std::vector<Reihenkomponente>& komponenten)
+    {
+        std::vector<float> result;
+        for (const Reihenkomponente& komponente : komponenten)
+            result.push_back(komponente.element->Dichte());
+        return result;
     }
 
     /// Content with CR LF: to standard output as UTF-8 with LF, to a file as the bytes that the window saves.
@@ -175,8 +221,17 @@ void defineCommands(CLI::App& app, Optionen& optionen, Befehl& chosen)
     CLI::App* const groessen = add(app, "groessen", "Größen einer Legierung als Tabelle", &Befehle::groessen);
     groessen->add_flag("--json", optionen.json, "als JSON");
     CLI::App* const text = add(app, "text", "Ergebnistext einer Legierung", &Befehle::text);
+    CLI::App* const reihe = add(app, "reihe", "Größe über den at% einer Komponente", &Befehle::reihe);
+    reihe->add_option("--variabel", optionen.variabel, "Komponente entlang der Achse")
+        ->required()
+        ->option_text("SYMBOL");
+    reihe->add_option("--schritt", optionen.schritt, "Schrittweite in at%")->option_text("ZAHL");
+    CLI::App* const pse = add(app, "pse", "Größe über der Ordnungszahl", &Befehle::pse);
+    addOutput(*pse, optionen);
+    for (CLI::App* const command : {reihe, pse})
+        command->add_option("--groesse", optionen.groesse, "Kennzahl der Größe")->required()->option_text("ZAHL");
     CLI::App* const friedel = add(app, "friedel", "Friedelminima als Datei für Zeichenprogramme", &Befehle::friedel);
-    for (CLI::App* const command : {groessen, text, friedel}) {
+    for (CLI::App* const command : {groessen, text, friedel, reihe}) {
         addComponents(*command, optionen);
         addOutput(*command, optionen);
     }

@@ -109,8 +109,12 @@ std::vector<Komponentenzeile> Rechenkern::setAlloy(std::span<const Komponentenan
     std::vector<Komponentenzeile> zeilen;
     for (const Komponentenangabe& angabe : angaben)
         zeilen.push_back(setElement(angabe));
-    for (std::size_t i = 0; i < zeilen.size(); ++i)
-        m_calc.Element_Add(static_cast<int>(i), zeilen[i].symbol, singleFromText(zeilen[i].prozent));
+    m_komponenten.clear();
+    for (const Komponentenzeile& zeile : zeilen) {
+        const float prozent = singleFromText(zeile.prozent);
+        m_calc.Element_Add(static_cast<int>(m_komponenten.size()), zeile.symbol, prozent);
+        m_komponenten.push_back({m_elements.Item(zeile.symbol), prozent});
+    }
     if (istUnbekannt(m_calc.Valenz()))
         throw Datenfehler("Die Legierung lässt sich mit diesen Dichten und Valenzen nicht berechnen");
     return zeilen;

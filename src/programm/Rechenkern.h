@@ -9,6 +9,7 @@
 
 #include "core/ElementCollection.h"
 #include "model/Ergebnisse.h"
+#include "model/Konzentrationsreihe.h"
 #include "model/clsCalc.h"
 #include "parser/clsParser.h"
 
@@ -53,6 +54,9 @@ public:
     /// At% are taken as given. Throws Aufruffehler or Datenfehler.
     std::vector<Komponentenzeile> setAlloy(std::span<const Komponentenangabe> angaben);
 
+    /// The components of the last setAlloy as a series takes them.
+    const std::vector<Reihenkomponente>& komponenten() const { return m_komponenten; }
+
     const ElementCollection& elements() const { return m_elements; }
     clsParser& parser() { return m_parser; }
     clsCalc& calc() { return m_calc; }
@@ -67,6 +71,7 @@ private:
     Dateinummern m_files;
     ElementCollection m_elements;
     int m_komponentenzahl = 0;
+    std::vector<Reihenkomponente> m_komponenten;
     clsParser m_parser;
     clsCalc m_calc;
 };
