@@ -225,7 +225,7 @@ void Diagrammflaeche::paintPSE(QPainter& painter, const PSEBild& bild, const QFo
         for (const Punkt& p : piece)
             polygon << toPoint(p);
         if (polygon.size() == 1)
-            painter.drawPoint(polygon.front());
+            painter.fillRect(QRectF(polygon.front() - QPointF(1.5, 1.5), QSizeF(3, 3)), colourOf(Blau));
         else
             painter.drawPolyline(polygon);
     }

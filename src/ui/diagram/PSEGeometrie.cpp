@@ -33,8 +33,12 @@ private:
     double m_yScale;
 };
 
-std::string divisionLabel(double value)
+/// The label of a division; `step` tells what is only a rounding error beside 0.
+std::string divisionLabel(double value, double step)
 {
+    constexpr double RoundingError = 1e-9;
+    if (std::abs(value) < RoundingError * step)
+        return "0";
     const std::string text(trimmed(FormatValue(static_cast<float>(value), "")));
     return text.empty() ? "0" : text;
 }
@@ -74,7 +78,7 @@ void layOutYAxis(PSEBild& bild, const Massstab& scale, const Bereich& range, con
         const Punkt position{scale.at(LabelLeft, k).x, tick.y - masse.height / 2};
         if (position.y + masse.height <= lastTop && (k == 0 || step > 0)) {
             lastTop = position.y;
-            bild.labels.push_back({position, divisionLabel(range.min + k * step)});
+            bild.labels.push_back({position, divisionLabel(range.min + k * step, step)});
             bild.widestLabel = std::max(bild.widestLabel, masse.width(bild.labels.back().text));
         }
     }

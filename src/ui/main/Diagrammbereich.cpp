@@ -146,6 +146,7 @@ void Diagrammbereich::layOut()
         column->setSpacing(6);
         for (QLayout* const row : rows)
             column->addLayout(row);
+        column->addStretch(); // rows stay where they are when the one below is empty
         return box;
     };
     auto* position = new QHBoxLayout;
