@@ -14,6 +14,7 @@
 #include "core/Plattform.h"
 #include "core/Zahlentext.h"
 #include "core/Zeichensatz.h"
+#include "model/Einwaage.h"
 #include "model/Groessentabelle.h"
 #include "model/Konzentrationsreihe.h"
 #include "model/PSEReihe.h"
@@ -47,6 +48,7 @@ struct Optionen {
     int groesse = -1;
     std::string variabel;
     int schritt = 1;
+    std::string masse;
 };
 
 /// Carries out subcommands.
@@ -71,7 +73,7 @@ public:
     void groessen()
     {
         loadAlloy();
-        put(m_optionen.json ? groessenJson(m_kern.calc()) : groessentabelle(m_kern.calc()));
+        putTable(groessentabelle(m_kern.calc()));
     }
 
     void text()
@@ -110,6 +112,13 @@ public:
             throw Aufruffehler("--groesse " + std::to_string(m_optionen.groesse) + ": keine Eigenschaft der Elemente");
         load();
         put(psedatei(pseReihe(m_kern.elements(), m_kern.calc(), m_optionen.groesse)));
+    }
+
+    void wiegen()
+    {
+        const float gesamt = wiegezahlArgument();
+        const auto count = static_cast<int>(loadAlloy().size());
+        putTable(wiegetabelle(m_kern.calc(), count, gesamt));
     }
 
     void elementeExportieren()
@@ -157,6 +166,15 @@ private:
         return m_kern.setAlloy(angaben);
     }
 
+    float wiegezahlArgument() const
+    {
+        try {
+            return singleFromText(m_optionen.masse);
+        } catch (const Laufzeitfehler&) {
+            throw Aufruffehler("--masse " + m_optionen.masse + ": keine gültige Zahl");
+        }
+    }
+
     int indexOfVariabel(const std::vector<Reihenkomponente>& komponenten) const
     {
         const auto wanted = m_kern.elements().find(m_optionen.variabel, true);
@@ -173,6 +191,8 @@ private:
             result.push_back(komponente.element->Dichte());
         return result;
     }
+
+    void putTable(const Tabelle& tabelle) { put(m_optionen.json ? alsJson(tabelle) : alsText(tabelle)); }
 
     /// Content with CR LF: to standard output as UTF-8 with LF, to a file as the bytes that the window saves.
     void put(const std::string& content)
@@ -230,8 +250,11 @@ void defineCommands(CLI::App& app, Optionen& optionen, Befehl& chosen)
     addOutput(*pse, optionen);
     for (CLI::App* const command : {reihe, pse})
         command->add_option("--groesse", optionen.groesse, "Kennzahl der Größe")->required()->option_text("ZAHL");
+    CLI::App* const wiegen = add(app, "wiegen", "Sollmassen für eine Gesamtmasse", &Befehle::wiegen);
+    wiegen->add_option("--masse", optionen.masse, "Gesamtmasse in mg")->required()->option_text("ZAHL");
+    wiegen->add_flag("--json", optionen.json, "als JSON");
     CLI::App* const friedel = add(app, "friedel", "Friedelminima als Datei für Zeichenprogramme", &Befehle::friedel);
-    for (CLI::App* const command : {groessen, text, friedel, reihe}) {
+    for (CLI::App* const command : {groessen, text, friedel, reihe, wiegen}) {
         addComponents(*command, optionen);
         addOutput(*command, optionen);
     }

@@ -1,16 +1,12 @@
 #pragma once
 
-#include <string>
-
+#include "model/Tabelle.h"
 #include "model/clsCalc.h"
 
 namespace zerna {
 
-/// All quantities of the alloy as a table for other programs: name, tab, shortest text of the single with a decimal
-/// point, tab, unit; CR LF after each line. Unknown values are left out. The Friedel minimum is the first one.
-std::string groessentabelle(const clsCalc& calc);
-
-/// The same as a JSON array of objects with "name", "wert" and "einheit".
-std::string groessenJson(const clsCalc& calc);
+/// All quantities of the alloy: name, shortest text of the single, unit. Unknown values are left out. The Friedel
+/// minimum is the first one.
+Tabelle groessentabelle(const clsCalc& calc);
 
 } // namespace zerna

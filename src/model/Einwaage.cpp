@@ -1,0 +1,140 @@
+#include "model/Einwaage.h"
+
+#include <cmath>
+
+#include "core/CheckedArithmetic.h"
+#include "core/Zahlentext.h"
+
+namespace zerna {
+
+namespace {
+
+constexpr std::string_view Zeilenende = "\r\n";
+
+/// Share of component i times its mass: the mass of i in one mole of the alloy, in g.
+double massOf(const clsCalc& calc, int i)
+{
+    return static_cast<double>(calc.Element_Prozente(i)) / 100 * calc.Element_Masse(i);
+}
+
+} // namespace
+
+std::vector<float> sollmassen(const clsCalc& calc, int komponentenzahl, float gesamtmasse)
+{
+    const float q = toSingle(massOf(calc, 0));
+    float s = 1;
+    for (int i = 1; i < komponentenzahl; ++i)
+        s = toSingle(s + quotient(massOf(calc, i), q));
+    const float u = toSingle(quotient(gesamtmasse, s));
+    std::vector<float> massen;
+    for (int i = 0; i < komponentenzahl; ++i)
+        massen.push_back(toSingle(quotient(massOf(calc, i) * u, q)));
+    return massen;
+}
+
+std::vector<float> sollmassenZu(const clsCalc& calc, int komponentenzahl, int referenz, float masse)
+{
+    const double perMole =
+        quotient(masse, static_cast<double>(calc.Element_Prozente(referenz)) * calc.Element_Masse(referenz));
+    std::vector<float> massen;
+    for (int i = 0; i < komponentenzahl; ++i)
+        massen.push_back(toSingle(perMole * calc.Element_Prozente(i) * calc.Element_Masse(i)));
+    return massen;
+}
+
+std::vector<float> gewogeneAtomprozente(const clsCalc& calc, std::span<const float> massen)
+{
+    const auto count = static_cast<int>(massen.size());
+    const float q = toSingle(quotient(calc.Element_Masse(0), massen.empty() ? 0 : massen[0]));
+    float s = 1;
+    const auto moles = [&](int i) { return quotient(massen[static_cast<std::size_t>(i)], calc.Element_Masse(i)); };
+    for (int i = 1; i < count; ++i)
+        s = toSingle(s + moles(i) * q);
+    const float w = toSingle(quotient(q, s));
+    std::vector<float> prozente;
+    for (int i = 0; i < count; ++i)
+        prozente.push_back(toSingle(moles(i) * w * 100));
+    return prozente;
+}
+
+std::vector<float> massenprozente(std::span<const float> massen)
+{
+    const float sum = gesamtmasse(massen);
+    std::vector<float> prozente;
+    for (const float masse : massen)
+        prozente.push_back(toSingle(quotient(masse, sum) * 100));
+    return prozente;
+}
+
+float gesamtmasse(std::span<const float> massen)
+{
+    float sum = 0;
+    for (const float masse : massen)
+        sum = toSingle(static_cast<double>(sum) + masse);
+    return sum;
+}
+
+std::vector<std::string> verlustliste(const clsCalc& calc, std::span<const float> massen, float verlust)
+{
+    std::vector<std::string> lines{"abgewogene Gesamtmasse: " + FormatValue(gesamtmasse(massen), "mg"),
+        "Masseverlust = " + FormatValue(verlust, "mg")};
+    for (std::size_t k = 0; k < massen.size(); ++k) {
+        std::vector<float> left(massen.begin(), massen.end());
+        left[k] = toSingle(static_cast<double>(left[k]) - verlust);
+        lines.emplace_back();
+        lines.push_back("Masseverlust komplett bei " + calc.Element_Symbol(static_cast<int>(k)) + ": ");
+        const std::vector<float> prozente = gewogeneAtomprozente(calc, left);
+        std::string line;
+        for (std::size_t j = 0; j < prozente.size(); ++j)
+            line += calc.Element_Symbol(static_cast<int>(j)) + ": " + FormatValue(prozente[j], "at% ");
+        lines.push_back(std::move(line));
+    }
+    return lines;
+}
+
+float wiegezahl(std::string_view text)
+{
+    const float value = ParseValue(text);
+    if (istUnbekannt(value))
+        throw Laufzeitfehler(Fehler::TypenUnvertraeglich);
+    return value;
+}
+
+std::string massentext(float masse)
+{
+    constexpr double SmallestForDecimals = 0.1;
+    constexpr int Digits = 4;
+    if (masse == 0 || std::abs(masse) >= SmallestForDecimals)
+        return fixedText(masse, 3);
+    return textWithDigits(masse, Digits);
+}
+
+std::string wiegeprotokoll(std::string_view datum, std::span<const Einwaagezeile> zeilen)
+{
+    std::string text = "Einwaage vom " + std::string(datum);
+    text.append(Zeilenende);
+    text.append("Element\tSoll [at%]\tSollmasse [mg]\tIstmasse [mg]\tIst [at%]\tMassenprozent [%]").append(Zeilenende);
+    for (const Einwaagezeile& z : zeilen) {
+        text += z.symbol;
+        for (const std::string& cell : {z.prozent, z.sollmasse, z.istmasse, z.istprozent, z.massprozent})
+            text += "\t" + CommaToPoint(cell);
+        text.append(Zeilenende);
+    }
+    return text;
+}
+
+Tabelle wiegetabelle(const clsCalc& calc, int komponentenzahl, float gesamtmasse)
+{
+    const std::vector<float> massen = sollmassen(calc, komponentenzahl, gesamtmasse);
+    const std::vector<float> prozente = massenprozente(massen);
+    const auto text = [](float value) { return textOfSingle(value, Dezimaltrenner::Punkt); };
+    Tabelle tabelle{{{"symbol"}, {"prozent", true}, {"sollmasse", true}, {"massenprozent", true}}, {}};
+    for (int i = 0; i < komponentenzahl; ++i) {
+        const auto k = static_cast<std::size_t>(i);
+        tabelle.zeilen.push_back(
+            {calc.Element_Symbol(i), text(calc.Element_Prozente(i)), text(massen[k]), text(prozente[k])});
+    }
+    return tabelle;
+}
+
+} // namespace zerna

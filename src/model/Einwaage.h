@@ -1,0 +1,57 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/Tabelle.h"
+#include "model/clsCalc.h"
+
+/// The weighing of an alloy: masses of the components for a wanted total, and what weighed masses come to. All masses
+/// are in milligrams, all results single precision; component 0 is the reference of every ratio, so a share or a mass
+/// of 0 there is a division by zero even where the result would not need it. Spans and results have one value per
+/// component of the alloy.
+namespace zerna {
+
+/// Mass of each component for a wanted total mass.
+std::vector<float> sollmassen(const clsCalc& calc, int komponentenzahl, float gesamtmasse);
+
+/// Mass of each component that goes with the mass weighed for component `referenz`, whose at% must not be 0.
+std::vector<float> sollmassenZu(const clsCalc& calc, int komponentenzahl, int referenz, float masse);
+
+/// The at% that weighed masses give.
+std::vector<float> gewogeneAtomprozente(const clsCalc& calc, std::span<const float> massen);
+
+/// The share of each mass in their sum, in percent.
+std::vector<float> massenprozente(std::span<const float> massen);
+
+/// Sum in single precision.
+float gesamtmasse(std::span<const float> massen);
+
+/// The loss analysis: what composition is left when the whole loss falls on one component, for each of them.
+std::vector<std::string> verlustliste(const clsCalc& calc, std::span<const float> massen, float verlust);
+
+/// The number in a field: 0 for an empty text, error 13 for a text that is no number (a sign makes it none).
+float wiegezahl(std::string_view text);
+
+/// A computed mass as text: three decimals, or four significant digits where those would not tell it.
+std::string massentext(float masse);
+
+/// One row of the weighing protocol, all texts as shown.
+struct Einwaagezeile {
+    std::string symbol;
+    std::string prozent; ///< wanted at%
+    std::string sollmasse; ///< mg
+    std::string istmasse; ///< mg
+    std::string istprozent; ///< at%
+    std::string massprozent;
+};
+
+/// The weighing protocol: tab-separated lines with decimal points, CR LF, units in the header.
+std::string wiegeprotokoll(std::string_view datum, std::span<const Einwaagezeile> zeilen);
+
+/// Per component symbol, at%, target mass in mg and mass percent, for other programs.
+Tabelle wiegetabelle(const clsCalc& calc, int komponentenzahl, float gesamtmasse);
+
+} // namespace zerna
