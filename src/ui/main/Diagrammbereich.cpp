@@ -138,15 +138,15 @@ void Diagrammbereich::layOut()
         buttons->addWidget(button);
     }
 
-    const auto boxed = [this](int height, std::initializer_list<QLayout*> rows, int bottomMargin) {
+    const auto boxed = [this](int height, QLayout* upper, QLayout* lower, int bottomMargin) {
         auto* box = new QWidget(this);
         box->setFixedHeight(height);
         auto* column = new QVBoxLayout(box);
         column->setContentsMargins(0, 4, 0, bottomMargin);
         column->setSpacing(6);
-        for (QLayout* const row : rows)
-            column->addLayout(row);
-        column->addStretch(); // rows stay where they are when the one below is empty
+        column->addLayout(upper);
+        column->addStretch(); // rows stay where they are when one is empty
+        column->addLayout(lower);
         return box;
     };
     auto* position = new QHBoxLayout;
@@ -154,9 +154,9 @@ void Diagrammbereich::layOut()
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(boxed(Top, {lists, values}, 4));
+    column->addWidget(boxed(Top, lists, values, 4));
     column->addWidget(m_picDiagramm, 1);
-    column->addWidget(boxed(Bottom, {position, buttons}, 8));
+    column->addWidget(boxed(Bottom, position, buttons, 8));
 }
 
 void Diagrammbereich::load()

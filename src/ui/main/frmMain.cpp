@@ -84,7 +84,7 @@ void frmMain::createCalculatorPanel(Dialoge dialoge)
     m_cmdKnopf1[0] = makeSwitch(m_left, QStringLiteral("&Ergebnisse"), QStringLiteral("cmdKnopf1_0"));
     m_cmdKnopf1[1] = makeSwitch(m_left, QStringLiteral("Ein&waage"), QStringLiteral("cmdKnopf1_1"));
     m_ergebnisse = new Ergebnisbereich(m_programm, dialoge.save, *m_komposition, m_left);
-    m_conWiegen1 = new conWiegen(m_left);
+    m_conWiegen1 = new conWiegen(m_programm, dialoge.save, m_left);
     m_conWiegen1->setObjectName(QStringLiteral("conWiegen1"));
     m_diagramm = new Diagrammbereich(m_programm, dialoge, *m_komposition, m_pic1);
 
