@@ -2,27 +2,42 @@
 
 #include <QWidget>
 
-class QListWidget;
+#include "programm/Programm.h"
+
+class QComboBox;
 
 namespace zerna {
 
-/// The second panel: the drawn periodic table and the data of the selected element.
+class Elementkarte;
+class Periodentafel;
+
+/// The second panel: the periodic table, in which an element is picked, and that element's data.
 class PSEbereich : public QWidget {
     Q_OBJECT
 
 public:
-    explicit PSEbereich(QWidget* parent = nullptr);
+    explicit PSEbereich(Programm& programm, QWidget* parent = nullptr);
 
-    /// Places table and information side by side.
+    /// Places table and information side by side and shows the selected element.
     void layOut();
+
+signals:
+    /// The element is to become component `row` of the alloy.
+    void componentChosen(int row, const QString& symbol);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QWidget* m_picPSE = nullptr;
-    QWidget* m_picInfo = nullptr;
-    QListWidget* m_lstInfo = nullptr;
+    void select(const std::shared_ptr<clsElement>& element);
+    void colour();
+    void offerComponents(const QPoint& position);
+
+    Programm& m_programm;
+    Periodentafel* m_picPSE = nullptr;
+    QWidget* m_farbe = nullptr; // the colour list with its caption
+    QComboBox* m_cmbFarbe = nullptr;
+    Elementkarte* m_picInfo = nullptr;
 };
 
 } // namespace zerna

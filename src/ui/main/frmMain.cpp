@@ -73,7 +73,7 @@ void frmMain::createControls()
     m_cmdAbout->setToolTipText(QStringLiteral("Über dieses Programm"));
     m_pic1 = new QWidget(this);
     m_pic1->setObjectName(QStringLiteral("Pic_1_0"));
-    m_pse = new PSEbereich(this);
+    m_pse = new PSEbereich(m_programm, this);
     m_pse->setObjectName(QStringLiteral("Pic_1_1"));
 }
 
@@ -124,6 +124,8 @@ void frmMain::connectPanels()
     connect(m_komposition, &Kompositionsbereich::densityDiagramRequested, this,
         [this] { m_diagramm->aktualisieren(false); });
     connect(m_komposition, &Kompositionsbereich::diagramRequested, this, [this] { m_diagramm->aktualisieren(true); });
+    connect(m_pse, &PSEbereich::componentChosen, this,
+        [this](int row, const QString& symbol) { ComboElementListIndex(row, findElementEntry(row, fromQt(symbol))); });
     connect(m_diagramm, &Diagrammbereich::prozentStepped, m_komposition, &Kompositionsbereich::stepProzent);
 }
 

@@ -1,0 +1,114 @@
+#include "ui/main/Auskunftsliste.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+
+#include "ui/platform/QtText.h"
+
+namespace zerna {
+
+namespace {
+
+const QString& separator()
+{
+    static const QString text = QStringLiteral(": ");
+    return text;
+}
+
+QString captionOf(const QString& line) { return line.section(separator(), 0, 0); }
+
+QString valueOf(const QString& line) { return line.section(separator(), 1).trimmed(); }
+
+/// Draws caption and value in columns; the captions' column is as wide as the widest of them.
+class SpaltenDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        constexpr int Margin = 6;
+        QStyleOptionViewItem background = option;
+        initStyleOption(&background, index);
+        const QString line = background.text;
+        background.text.clear();
+        const QWidget* const widget = option.widget;
+        widget->style()->drawControl(QStyle::CE_ItemViewItem, &background, painter, widget);
+        const bool isSelected = (option.state & QStyle::State_Selected) != 0;
+        painter->setPen(option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text));
+        const int column = captionWidth(*index.model(), option.fontMetrics);
+        const QRect area = option.rect.adjusted(Margin, 0, -Margin, 0);
+        painter->drawText(area, Qt::AlignLeft | Qt::AlignVCenter, captionOf(line));
+        const QRect valueArea = area.adjusted(column + 2 * Margin, 0, 0, 0);
+        painter->drawText(valueArea, Qt::AlignLeft | Qt::AlignVCenter,
+            option.fontMetrics.elidedText(valueOf(line), Qt::ElideRight, valueArea.width()));
+    }
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        constexpr int Spacing = 8;
+        QSize size = QStyledItemDelegate::sizeHint(option, index);
+        size.setWidth(0); // the text is cut rather than scrolled
+        size.setHeight(option.fontMetrics.height() + Spacing);
+        return size;
+    }
+
+private:
+    static int captionWidth(const QAbstractItemModel& model, const QFontMetrics& metrics)
+    {
+        int widest = 0;
+        for (int row = 0; row < model.rowCount(); ++row)
+            widest = std::max(widest, metrics.horizontalAdvance(captionOf(model.index(row, 0).data().toString())));
+        return widest;
+    }
+};
+
+} // namespace
+
+Auskunftsliste::Auskunftsliste(QWidget* parent)
+    : QListWidget(parent)
+{
+    setItemDelegate(new SpaltenDelegate(this));
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+void Auskunftsliste::setLines(std::span<const std::string> lines)
+{
+    const int row = currentRow();
+    clear();
+    for (const std::string& line : lines) {
+        addItem(toQt(line));
+        item(count() - 1)->setToolTip(toQt(line));
+    }
+    setCurrentRow(row);
+}
+
+void Auskunftsliste::copyValue() const
+{
+    QClipboard* const clipboard = QGuiApplication::clipboard();
+    if (clipboard != nullptr && currentItem() != nullptr)
+        clipboard->setText(valueOf(currentItem()->text()));
+}
+
+void Auskunftsliste::contextMenuEvent(QContextMenuEvent* event)
+{
+    QMenu menu(this);
+    menu.addAction(QStringLiteral("Kopieren"), this, &Auskunftsliste::copyValue);
+    menu.exec(event->globalPos());
+}
+
+void Auskunftsliste::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Copy))
+        copyValue();
+    else
+        QListWidget::keyPressEvent(event);
+}
+
+} // namespace zerna

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QListWidget>
+
+#include <span>
+#include <string>
+
+namespace zerna {
+
+/// Lines of the form "caption: value" with the values in a column of their own. Ctrl+C and the menu copy the value.
+class Auskunftsliste : public QListWidget {
+    Q_OBJECT
+
+public:
+    explicit Auskunftsliste(QWidget* parent = nullptr);
+
+    void setLines(std::span<const std::string> lines);
+
+protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void copyValue() const;
+};
+
+} // namespace zerna
