@@ -11,15 +11,15 @@ namespace zerna {
 namespace {
 
 constexpr int Divisions = 10;
+constexpr double LeftStrip = 60;
+constexpr double BottomStrip = 30;
 constexpr double LabelGap = 1; // between a label and the tick beside it
 
 } // namespace
 
 Rechteck plotArea(int width, int height)
 {
-    constexpr int Left = 60;
-    constexpr int Bottom = 30;
-    return {Left, 0, static_cast<double>(std::max(0, width - Left)), static_cast<double>(std::max(0, height - Bottom))};
+    return {LeftStrip, 0, std::max(0.0, width - LeftStrip), std::max(0.0, height - BottomStrip)};
 }
 
 Bereich yBereich(float smallest, float largest)
@@ -83,13 +83,15 @@ std::vector<Achsenmarke> xMarken(const Rechteck& plot, int controlWidth, const B
 
 double xLabelTop(const Rechteck& plot, double labelHeight) { return plot.height + 1.5 * labelHeight / 2; }
 
-double labelScale(const std::vector<Achsenmarke>& marken, const Rechteck& plot, const Textbreite& width)
+double labelScale(
+    const std::vector<Achsenmarke>& yMarken, const Rechteck& plot, const Textbreite& width, double labelHeight)
 {
     double widest = 0;
-    for (const Achsenmarke& marke : marken)
+    for (const Achsenmarke& marke : yMarken)
         widest = std::max(widest, width(marke.label));
     const double room = plot.left - LabelColumn - TickLength - LabelGap;
-    return widest > room ? room / widest : 1;
+    const double height = xLabelTop(plot, labelHeight) + labelHeight - plot.height;
+    return std::min({1.0, room / std::max(widest, 1.0), BottomStrip / height});
 }
 
 Abbildung::Abbildung(double width, double height, const Bereich& x, const Bereich& y)

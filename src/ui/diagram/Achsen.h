@@ -58,8 +58,10 @@ std::vector<Achsenmarke> xMarken(const Rechteck& plot, int controlWidth, const B
 /// Top edge of the x labels.
 double xLabelTop(const Rechteck& plot, double labelHeight);
 
-/// The factor (at most 1) by which the labels' font must be scaled so that the widest of them fits beside the plot.
-double labelScale(const std::vector<Achsenmarke>& marken, const Rechteck& plot, const Textbreite& width);
+/// The factor (at most 1) by which the labels' font must be scaled so that the widest y label fits beside the plot and
+/// the x labels fit below it.
+double labelScale(
+    const std::vector<Achsenmarke>& yMarken, const Rechteck& plot, const Textbreite& width, double labelHeight);
 
 /// Pixels of the plot area and data units, there and back.
 class Abbildung {

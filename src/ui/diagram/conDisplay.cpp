@@ -183,7 +183,7 @@ conDisplay::Layout conDisplay::layOut(const QSize& size) const
     const auto fullWidth = [&](std::string_view text) { return fullSize.horizontalAdvance(toQt(text)); };
     layout.abbildung = Abbildung(layout.plot.width, layout.plot.height, m_x, m_y);
     layout.yMarken = yMarken(layout.plot, size.height(), m_y, fullSize.height());
-    const double scale = labelScale(layout.yMarken, layout.plot, fullWidth);
+    const double scale = labelScale(layout.yMarken, layout.plot, fullWidth, fullSize.height());
     layout.labelFont.setPointSizeF(layout.labelFont.pointSizeF() * scale);
     const QFontMetricsF metrics(layout.labelFont);
     layout.labelHeight = metrics.height();

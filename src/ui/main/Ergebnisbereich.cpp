@@ -140,6 +140,7 @@ void Ergebnisbereich::layOut()
         layOutLine(*m_grid, rows.at(right ? 1 : 0)++, right ? RightColumn : 0, zeile);
     }
     layOutFriedel(*m_grid, rows[1] + 1, RightColumn);
+    measure();
     m_grid->setColumnStretch(1, 1);
     m_grid->setColumnMinimumWidth(2, 4);
 
@@ -161,20 +162,17 @@ void Ergebnisbereich::layOut()
 void Ergebnisbereich::layOutLine(QGridLayout& grid, int row, int column, const Ergebniszeile& zeile)
 {
     const auto k = static_cast<std::size_t>(zeile.index);
-    const int numberWidth = fontMetrics().horizontalAdvance(QStringLiteral("-3,4561 E-11"));
     grid.addWidget(m_label6.at(k), row, column);
     if (!zeile.editable) {
-        m_lblMFE.at(k)->setEinheit(toQt(zeile.unit), numberWidth);
         grid.addWidget(m_lblMFE.at(k), row, column + 1);
         return;
     }
     const auto field = static_cast<std::size_t>(std::ranges::find(ZeileOfField, zeile.index) - ZeileOfField.begin());
     Wertfeld* const edit = m_txtMFE.at(field);
-    m_lblMFE.at(k)->setEinheit(toQt(zeile.unit), 0);
     auto* pair = new QHBoxLayout;
-    pair->setSpacing(fontMetrics().horizontalAdvance(QLatin1Char(' ')));
+    pair->setSpacing(4);
     edit->setAlignment(Qt::AlignRight);
-    edit->setFixedSize(numberWidth, 24);
+    edit->setFixedHeight(24);
     m_label6.at(k)->setBuddy(edit);
     pair->addWidget(edit);
     pair->addWidget(m_lblMFE.at(k), 1);
@@ -185,17 +183,35 @@ void Ergebnisbereich::layOutFriedel(QGridLayout& grid, int row, int column)
 {
     auto* box = new QHBoxLayout;
     box->setSpacing(4);
-    m_label7->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral(" n = 21 ")));
     for (StyledButton* const button : {m_cmdKnopf2[1], m_cmdKnopf2[0]}) {
         button->setFixedSize(28, 24);
         box->addWidget(button);
     }
     box->addWidget(m_label7);
     box->addStretch();
-    line(Friedelzeile)->setEinheit(toQt("nm"), 0);
     grid.addWidget(m_label6.at(Friedelzeile), row, column);
     grid.addLayout(box, row, column + 1);
     grid.addWidget(line(Friedelzeile), row + 1, column + 1);
+}
+
+/// Widths that follow from the font: all numbers end, and all units begin, in the same columns.
+void Ergebnisbereich::measure()
+{
+    const int numberWidth = fontMetrics().horizontalAdvance(QStringLiteral("-3,4561 E-11"));
+    for (const Ergebniszeile& zeile : ergebniszeilen()) {
+        const bool aligned = !zeile.editable && zeile.index != Friedelzeile;
+        line(zeile.index)->setEinheit(toQt(zeile.unit), aligned ? numberWidth : 0);
+    }
+    for (Wertfeld* const edit : m_txtMFE)
+        edit->setFixedWidth(numberWidth);
+    m_label7->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral(" n = 21 ")));
+}
+
+void Ergebnisbereich::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange && m_grid != nullptr)
+        measure();
 }
 
 /// The lines share the height, within reason.

@@ -36,6 +36,7 @@ public:
     bool readComposition();
 
 protected:
+    void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
@@ -45,6 +46,7 @@ private:
     void createControls();
     void createLine(const Ergebniszeile& zeile);
     void layOut();
+    void measure();
     void layOutLine(QGridLayout& grid, int row, int column, const Ergebniszeile& zeile);
     void layOutFriedel(QGridLayout& grid, int row, int column);
 

@@ -404,7 +404,8 @@ void Periodentafel::paintScaleLegend(QPainter& painter, const QRectF& area) cons
     const QRectF labels(bar.left(), bar.bottom() + 2, bar.width(), area.bottom() - bar.bottom() - 2);
     painter.drawText(labels, Qt::AlignLeft | Qt::AlignTop, numberText(m_smallest));
     painter.drawText(labels, Qt::AlignRight | Qt::AlignTop, numberText(m_largest));
-    painter.drawText(labels, Qt::AlignHCenter | Qt::AlignTop, toQt(m_reihe.titel));
+    const double line = painter.fontMetrics().height();
+    painter.drawText(labels.adjusted(0, line, 0, 0), Qt::AlignHCenter | Qt::AlignTop, toQt(m_reihe.titel));
 }
 
 /// Tells where the two separate rows belong in the main body.

@@ -32,6 +32,25 @@ StyledButton* makeSwitch(QWidget* parent, const QString& caption, const QString&
     return button;
 }
 
+/// Gives a panel the largest font, not above its own, at which its contents fit into a width.
+void fitFont(QWidget& panel, int width)
+{
+    constexpr double Smallest = 7; // points
+    const auto neededWidth = [&panel] {
+        for (const QWidget* const child : panel.findChildren<QWidget*>()) {
+            if (child->layout() != nullptr)
+                child->layout()->activate(); // sizes are wanted now, not after the next events
+        }
+        panel.layout()->activate();
+        return panel.layout()->minimumSize().width();
+    };
+    QFont font = panel.font();
+    while (font.pointSizeF() > Smallest && neededWidth() > width) {
+        font.setPointSizeF(font.pointSizeF() - 0.5);
+        panel.setFont(font);
+    }
+}
+
 /// Shows which of two switches is on.
 void checkOnly(const std::array<StyledButton*, 2>& switches, int on)
 {
@@ -51,6 +70,7 @@ frmMain::frmMain(Programm& programm, Dialoge dialoge)
     createCalculatorPanel(dialoge);
     connectPanels();
     load();
+    fitFont(*m_left, LeftColumn);
     resize(1280, 800);
 }
 
