@@ -18,6 +18,7 @@
 #include "model/Groessentabelle.h"
 #include "model/Konzentrationsreihe.h"
 #include "model/PSEReihe.h"
+#include "model/Ternaergitter.h"
 #include "programm/Rechenkern.h"
 
 namespace zerna {
@@ -48,6 +49,7 @@ struct Optionen {
     int groesse = -1;
     std::string variabel;
     int schritt = 1;
+    int aufloesung = 5;
     std::string masse;
 };
 
@@ -112,6 +114,20 @@ public:
             throw Aufruffehler("--groesse " + std::to_string(m_optionen.groesse) + ": keine Eigenschaft der Elemente");
         load();
         put(psedatei(pseReihe(m_kern.elements(), m_kern.calc(), m_optionen.groesse)));
+    }
+
+    void ternaer()
+    {
+        if (m_optionen.groesse < 0 || m_optionen.groesse > LetzteReihengroesse)
+            throw Aufruffehler("--groesse " + std::to_string(m_optionen.groesse) + ": erwartet wird 0 bis 10");
+        if (m_optionen.aufloesung < 1 || m_optionen.aufloesung > 10)
+            throw Aufruffehler("--aufloesung " + std::to_string(m_optionen.aufloesung) + ": erwartet wird 1 bis 10");
+        if (m_optionen.komponenten.size() != 3)
+            throw Aufruffehler("Ein ternäres Diagramm hat drei Komponenten, angegeben sind "
+                + std::to_string(m_optionen.komponenten.size()));
+        loadAlloy();
+        put(ternaerdatei(ternaergitter(
+            m_kern.calc(), m_kern.parser(), m_kern.komponenten(), m_optionen.groesse, m_optionen.aufloesung)));
     }
 
     void wiegen()
@@ -248,13 +264,16 @@ void defineCommands(CLI::App& app, Optionen& optionen, Befehl& chosen)
     reihe->add_option("--schritt", optionen.schritt, "Schrittweite in at%")->option_text("ZAHL");
     CLI::App* const pse = add(app, "pse", "Größe über der Ordnungszahl", &Befehle::pse);
     addOutput(*pse, optionen);
-    for (CLI::App* const command : {reihe, pse})
+    CLI::App* const ternaer =
+        add(app, "ternaer", "Größe über allen Zusammensetzungen dreier Komponenten", &Befehle::ternaer);
+    ternaer->add_option("--aufloesung", optionen.aufloesung, "Auflösung, 1 bis 10")->required()->option_text("ZAHL");
+    for (CLI::App* const command : {reihe, pse, ternaer})
         command->add_option("--groesse", optionen.groesse, "Kennzahl der Größe")->required()->option_text("ZAHL");
     CLI::App* const wiegen = add(app, "wiegen", "Sollmassen für eine Gesamtmasse", &Befehle::wiegen);
     wiegen->add_option("--masse", optionen.masse, "Gesamtmasse in mg")->required()->option_text("ZAHL");
     wiegen->add_flag("--json", optionen.json, "als JSON");
     CLI::App* const friedel = add(app, "friedel", "Friedelminima als Datei für Zeichenprogramme", &Befehle::friedel);
-    for (CLI::App* const command : {groessen, text, friedel, reihe, wiegen}) {
+    for (CLI::App* const command : {groessen, text, friedel, reihe, ternaer, wiegen}) {
         addComponents(*command, optionen);
         addOutput(*command, optionen);
     }

@@ -4,7 +4,6 @@
 
 #include "core/CheckedArithmetic.h"
 #include "core/Zahlentext.h"
-#include "model/Konstanten.h"
 
 namespace zerna {
 
@@ -29,45 +28,6 @@ constexpr std::array<Reihengroesse, LetzteReihengroesse + 1> Groessen{{
     {"nm", &clsCalc::Friedelwellenlaenge},
 }};
 
-/// What a series needs of a component, read once.
-struct Anteil {
-    double valenz = 0;
-    double molvolumen = 0; // cm³/mol
-    double prozent = 0; // as entered
-};
-
-float valenzOf(const clsElement& element, clsParser& parser)
-{
-    const std::string value = parser.Parse(element.Valenz_Temp());
-    if (parser.LastError())
-        throw Laufzeitfehler(static_cast<Fehler>(parser.LastError()->Nummer));
-    return singleFromText(value);
-}
-
-std::array<Anteil, MaxKomponenten> anteile(clsParser& parser, std::span<const Reihenkomponente> komponenten)
-{
-    std::array<Anteil, MaxKomponenten> result;
-    for (std::size_t j = 0; j < komponenten.size(); ++j) {
-        const clsElement& element = *komponenten[j].element;
-        result.at(j) = {valenzOf(element, parser), quotient(element.Masse(), element.Dichte()), komponenten[j].prozent};
-    }
-    return result;
-}
-
-/// Sets the calculator to the composition with i at% of the variable component. Particle density first, valence second.
-void Schritt_Setzen(clsCalc& calc, std::span<const Anteil> anteile, std::size_t variable, int i)
-{
-    double valenz = 0;
-    float volumen = 0;
-    for (std::size_t j = 0; j < anteile.size(); ++j) {
-        const double prozent = j == variable ? i : anteile[j].prozent * (100 - i) / 100;
-        valenz += prozent * anteile[j].valenz;
-        volumen = toSingle(volumen + prozent * anteile[j].molvolumen);
-    }
-    calc.setTeilchenzahldichte(volumen == 0 ? 0 : toSingle(AvogadroProKubikmeter / (volumen / 100.0)));
-    calc.setValenz(toSingle(valenz / 100));
-}
-
 std::size_t checkedIndex(int index, std::size_t count)
 {
     if (index < 0 || static_cast<std::size_t>(index) >= count || count > MaxKomponenten)
@@ -82,18 +42,27 @@ std::string_view reiheneinheit(int groesse)
     return groesse >= 0 && groesse <= LetzteReihengroesse ? Groessen.at(static_cast<std::size_t>(groesse)).einheit : "";
 }
 
-Reihe konzentrationsreihe(
-    const clsCalc& calc, clsParser& parser, std::span<const Reihenkomponente> komponenten, int variable, int groesse)
+float (clsCalc::*reihengroesse(int groesse))() const
 {
     if (groesse < 0 || groesse > LetzteReihengroesse || groesse == GroesseDichte)
         throw Laufzeitfehler(Fehler::UngueltigesArgument);
-    const auto value = Groessen.at(static_cast<std::size_t>(groesse)).value;
+    return Groessen.at(static_cast<std::size_t>(groesse)).value;
+}
+
+Reihe konzentrationsreihe(
+    const clsCalc& calc, clsParser& parser, std::span<const Reihenkomponente> komponenten, int variable, int groesse)
+{
+    const auto value = reihengroesse(groesse);
     const std::size_t index = checkedIndex(variable, komponenten.size());
     const auto teile = anteile(parser, komponenten);
+    const auto used = std::span(teile).first(komponenten.size());
+    std::array<double, MaxKomponenten> prozente{};
     clsCalc scratch = calc;
     Reihe reihe{};
     for (int i = 0; i <= 100; ++i) {
-        Schritt_Setzen(scratch, std::span(teile).first(komponenten.size()), index, i);
+        for (std::size_t j = 0; j < used.size(); ++j)
+            prozente.at(j) = j == index ? i : static_cast<double>(komponenten[j].prozent) * (100 - i) / 100;
+        setComposition(scratch, used, prozente);
         reihe.at(static_cast<std::size_t>(i)) = (scratch.*value)();
     }
     return reihe;

@@ -1,12 +1,11 @@
 #pragma once
 
 #include <array>
-#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
 
-#include "model/clsCalc.h"
+#include "model/Anteile.h"
 
 /// A free-electron quantity of an alloy over the at% of one of its components.
 namespace zerna {
@@ -19,14 +18,11 @@ inline constexpr int GroesseDichte = 3;
 /// Codes of the concentration quantities run from 0 to this.
 inline constexpr int LetzteReihengroesse = 10;
 
-/// One component of the series: its element with the working density and valence text, and its entered at%.
-struct Reihenkomponente {
-    std::shared_ptr<const clsElement> element;
-    float prozent = 0;
-};
-
 /// Unit text of quantity `groesse`, 0 to 10; empty for any other.
 std::string_view reiheneinheit(int groesse);
+
+/// How quantity `groesse` is read from the calculator. Error 5 for the density and for any other code.
+float (clsCalc::*reihengroesse(int groesse))() const;
 
 /// The series of quantity `groesse` (0 to 10, but not the density) for component `variable`. The others keep their
 /// entered proportions and share what is left. The calculator is not changed; its constants and formulas are used, and

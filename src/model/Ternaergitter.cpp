@@ -1,0 +1,93 @@
+#include "model/Ternaergitter.h"
+
+#include <algorithm>
+
+#include "core/CheckedArithmetic.h"
+#include "core/Zahlentext.h"
+
+namespace zerna {
+
+namespace {
+
+constexpr int DivisionsPerResolution = 10;
+
+/// Calls point(i, j, at% of the three) for all points in file order.
+template <class Point>
+void forEachPoint(int n, Point&& point)
+{
+    for (int i = 0; i <= n; ++i) {
+        for (int j = 0; i + j <= n; ++j)
+            point(i, j, std::array<double, 3>{100.0 * i / n, 100.0 * j / n, 100.0 * (n - i - j) / n});
+    }
+}
+
+float meanDensity(std::span<const Reihenkomponente> komponenten, const std::array<double, 3>& prozente)
+{
+    double sum = 0;
+    for (std::size_t k = 0; k < prozente.size(); ++k)
+        sum += prozente.at(k) * komponenten[k].element->Dichte();
+    return toSingle(sum / 100);
+}
+
+} // namespace
+
+Ternaergitter ternaergitter(
+    const clsCalc& calc, clsParser& parser, std::span<const Reihenkomponente> komponenten, int groesse, int aufloesung)
+{
+    if (komponenten.size() != 3 || aufloesung < 1 || aufloesung > 10)
+        throw Laufzeitfehler(Fehler::UngueltigesArgument);
+    Ternaergitter gitter;
+    gitter.n = DivisionsPerResolution * aufloesung;
+    gitter.einheit = reiheneinheit(groesse);
+    std::ranges::transform(
+        komponenten, gitter.symbole.begin(), [](const Reihenkomponente& k) { return k.element->symbol(); });
+    gitter.werte.reserve(static_cast<std::size_t>((gitter.n + 1) * (gitter.n + 2) / 2));
+    const auto teile = anteile(parser, komponenten);
+    const auto used = std::span(teile).first<3>();
+    if (groesse == GroesseDichte) {
+        forEachPoint(gitter.n,
+            [&](int, int, const auto& prozente) { gitter.werte.push_back(meanDensity(komponenten, prozente)); });
+        return gitter;
+    }
+    const auto value = reihengroesse(groesse);
+    clsCalc scratch = calc;
+    forEachPoint(gitter.n, [&](int, int, const auto& prozente) {
+        gitter.werte.push_back(orUnbekannt([&] {
+            setComposition(scratch, used, prozente);
+            return (scratch.*value)();
+        }));
+    });
+    return gitter;
+}
+
+Wertebereich wertebereich(const Ternaergitter& gitter)
+{
+    Wertebereich range;
+    for (const float wert : gitter.werte) {
+        if (istUnbekannt(wert))
+            continue;
+        range.min = range.known ? std::min(range.min, wert) : wert;
+        range.max = range.known ? std::max(range.max, wert) : wert;
+        range.known = true;
+    }
+    return range;
+}
+
+std::string ternaerdatei(const Ternaergitter& gitter)
+{
+    std::string text;
+    for (const std::string& symbol : gitter.symbole)
+        text += symbol + " [at%]\t";
+    text += gitter.einheit + "\r\n";
+    const auto number = [](double value) { return textOfSingle(static_cast<float>(value), Dezimaltrenner::Punkt); };
+    forEachPoint(gitter.n, [&](int i, int j, const auto& prozente) {
+        if (istUnbekannt(gitter.wert(i, j)))
+            return;
+        for (const double prozent : prozente)
+            text += number(prozent) + "\t";
+        text += number(gitter.wert(i, j)) + "\r\n";
+    });
+    return text;
+}
+
+} // namespace zerna
