@@ -3,6 +3,7 @@
 #include <array>
 #include <charconv>
 #include <limits>
+#include <set>
 
 #include "core/CheckedArithmetic.h"
 #include "core/Zahlentext.h"
@@ -155,10 +156,16 @@ std::vector<ElementRecord> readElementCsv(std::string_view text)
     if (!std::equal(header.begin(), header.end(), Spalten.begin(), Spalten.end()))
         throw Tabellenfehler("Zeile 1 enthält nicht die erwarteten Spaltennamen");
     std::vector<ElementRecord> records;
+    std::set<std::string> symbols;
     for (std::size_t line = 2; position < text.size(); ++line) {
         const Cells cells = nextLine(text, position);
-        if (cells.size() > 1 || !cells.front().empty())
-            records.push_back(LineReader(cells, line).record());
+        if (cells.size() == 1 && cells.front().empty())
+            continue;
+        records.push_back(LineReader(cells, line).record());
+        const std::string& symbol = records.back().symbol;
+        if (symbol.empty() || !symbols.insert(symbol).second)
+            throw Tabellenfehler(
+                "Zeile " + std::to_string(line) + ": Symbol \"" + symbol + "\" fehlt oder ist schon vergeben");
     }
     return records;
 }

@@ -1,6 +1,7 @@
 #include "core/Exportdatei.h"
 
 #include <cerrno>
+#include <string>
 #include <system_error>
 
 #include "core/Datei.h"
@@ -27,6 +28,28 @@ void requireWritable(const std::filesystem::path& target)
     std::fclose(file);
 }
 
+/// A short name that no file of the folder has.
+std::filesystem::path freeNameIn(const std::filesystem::path& folder)
+{
+    std::error_code unknown;
+    std::filesystem::path name;
+    int number = 0;
+    do {
+        name = folder / (".zerna-" + std::to_string(number++) + ".neu");
+    } while (
+        std::filesystem::symlink_status(name, unknown).type() != std::filesystem::file_type::not_found && !unknown);
+    return name;
+}
+
+/// The new file may be read and written by whom the old one could be.
+void keepPermissions(const std::filesystem::path& from, const std::filesystem::path& to)
+{
+    std::error_code ignored;
+    const auto status = std::filesystem::status(from, ignored);
+    if (std::filesystem::is_regular_file(status))
+        std::filesystem::permissions(to, status.permissions(), ignored);
+}
+
 } // namespace
 
 Exportdatei::Exportdatei(const std::filesystem::path& target)
@@ -41,7 +64,7 @@ Exportdatei::Exportdatei(const std::filesystem::path& target)
         requireWritable(m_target);
     else if (std::filesystem::exists(status))
         return;
-    m_written += ".neu~";
+    m_written = freeNameIn(m_target.parent_path());
 }
 
 Exportdatei::~Exportdatei()
@@ -55,6 +78,7 @@ void Exportdatei::commit()
 {
     if (m_written == m_target)
         return;
+    keepPermissions(m_target, m_written);
     std::error_code failed;
     std::filesystem::rename(m_written, m_target, failed);
     if (failed)

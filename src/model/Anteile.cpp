@@ -23,6 +23,8 @@ std::array<Anteil, MaxKomponenten> anteile(clsParser& parser, std::span<const Re
     std::array<Anteil, MaxKomponenten> result;
     for (std::size_t j = 0; j < komponenten.size(); ++j) {
         const clsElement& element = *komponenten[j].element;
+        if (istUnbekannt(element.Dichte()) || istUnbekannt(element.Masse()))
+            throw Laufzeitfehler(Fehler::UngueltigesArgument);
         result.at(j) = {valenzOf(element, parser), quotient(element.Masse(), element.Dichte())};
     }
     return result;

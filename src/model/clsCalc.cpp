@@ -161,6 +161,11 @@ void clsCalc::Neu_Berechnen()
                 throw Laufzeitfehler(Fehler::ObjektNichtFestgelegt);
             const double prozent = komponente.prozent;
             const double dichteOfElement = komponente.element->Dichte();
+            // A missing density or mass weighed by a small at% would pass for a plausible one.
+            const bool missing =
+                istUnbekannt(komponente.element->Dichte()) || istUnbekannt(komponente.element->Masse());
+            if (prozent != 0 && missing)
+                throw Laufzeitfehler(Fehler::UngueltigesArgument);
             valenz = toSingle(valenz + valenzOf(komponente) * prozent);
             molvolumen = toSingle(molvolumen + quotient(prozent * komponente.element->Masse(), dichteOfElement));
             dichte = toSingle(dichte + dichteOfElement * prozent);

@@ -17,6 +17,9 @@ namespace {
 constexpr int MaxDepth = 200;
 constexpr int MaxArguments = 100;
 
+/// Nobody reads more messages about one formula.
+constexpr int MaxMessages = 10;
+
 /// Ends an evaluation; `position` counts bytes of the formula without its blanks, from 0.
 struct Abbruch {
     Fehler fehler;
@@ -267,8 +270,9 @@ private:
 
     double unknownFunction(std::string_view name, std::size_t position)
     {
-        m_boxes.show(
-            Icon::None, "Formelparser", "Fehler in Formel. (Funktion '" + quoted(name) + "' nicht definiert?)");
+        if (m_messages++ < MaxMessages)
+            m_boxes.show(
+                Icon::None, "Formelparser", "Fehler in Formel. (Funktion '" + quoted(name) + "' nicht definiert?)");
         if (!m_unknownFunction)
             m_unknownFunction =
                 Abbruch{Fehler::UngueltigesArgument, "Funktion \"" + quoted(name) + "\" ist nicht definiert", position};
@@ -295,6 +299,7 @@ private:
     MessageBoxes& m_boxes;
     std::vector<clsParser::Term>& m_terms;
     int m_depth = 0;
+    int m_messages = 0;
     bool m_hexadecimal = false;
     std::optional<Abbruch> m_unknownFunction;
 };

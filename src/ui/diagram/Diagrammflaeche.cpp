@@ -53,8 +53,10 @@ void Diagrammflaeche::showContent(Inhalt inhalt)
 {
     m_inhalt = inhalt;
     m_display->setVisible(inhalt == Inhalt::Konzentration);
-    setFocusPolicy(inhalt == Inhalt::PSE ? Qt::StrongFocus : Qt::NoFocus); // the concentration diagram has its own
+    const bool takesKeys = inhalt == Inhalt::PSE || inhalt == Inhalt::Ternaer; // the concentration diagram does itself
+    setFocusPolicy(takesKeys ? Qt::StrongFocus : Qt::NoFocus);
     m_marked = -1;
+    m_dragging = false;
     emit positionChanged({});
     update();
 }
@@ -67,6 +69,12 @@ void Diagrammflaeche::showPSE(PSEReihe reihe, std::vector<std::string> symbols)
     m_symbole = std::move(symbols);
     m_bild = layOutPSEFor(size(), m_bildFont);
     showContent(Inhalt::PSE);
+}
+
+void Diagrammflaeche::showTernaer(Ternaergitter gitter, const Anteile3& current)
+{
+    m_ternaer.setGitter(std::move(gitter), current);
+    showContent(Inhalt::Ternaer);
 }
 
 void Diagrammflaeche::showFehler(const QString& grund)
@@ -93,16 +101,14 @@ void Diagrammflaeche::copyPicture()
 
 void Diagrammflaeche::save()
 {
-    if (m_inhalt == Inhalt::Konzentration)
+    if (m_inhalt == Inhalt::Meldung)
+        return;
+    if (m_inhalt == Inhalt::Konzentration) {
         m_display->Speichern_Diagramm_2D();
-    else if (m_inhalt == Inhalt::PSE)
-        savePSE();
-}
-
-void Diagrammflaeche::savePSE()
-{
+        return;
+    }
     int filterIndex = 1;
-    const std::string name = ExportFileDialog(m_dialoge.save, filterIndex, true, false);
+    const std::string name = ExportFileDialog(m_dialoge.save, filterIndex, true, m_inhalt == Inhalt::Ternaer);
     if (name.empty())
         return;
     const auto maler = [this](QPainter& painter, const QSize& size) { paintPicture(painter, size); };
@@ -117,6 +123,8 @@ std::string Diagrammflaeche::values() const
     switch (m_inhalt) {
     case Inhalt::Konzentration:
         return m_display->values(1);
+    case Inhalt::Ternaer:
+        return ternaerdatei(m_ternaer.gitter());
     case Inhalt::PSE:
         return psedatei(m_reihe);
     case Inhalt::Meldung:
@@ -131,6 +139,15 @@ void Diagrammflaeche::contextMenuEvent(QContextMenuEvent* event)
         return;
     const auto maler = [this](QPainter& painter, const QSize& size) { paintPicture(painter, size); };
     QMenu menu(this);
+    if (m_inhalt == Inhalt::Ternaer) {
+        Ansicht flach = m_ternaer.ansicht();
+        flach.flach = true;
+        Ansicht raeumlich = flach;
+        raeumlich.flach = false;
+        menu.addAction(QStringLiteral("Draufsicht"), this, [this, flach] { changeView(flach); });
+        menu.addAction(QStringLiteral("Räumlich"), this, [this, raeumlich] { changeView(raeumlich); });
+        menu.addSeparator();
+    }
     menu.addAction(QStringLiteral("Bild kopieren"), this, &Diagrammflaeche::copyPicture);
     menu.addAction(QStringLiteral("Werte kopieren"), this, [this] {
         if (QClipboard* const clipboard = QGuiApplication::clipboard())
@@ -165,12 +182,14 @@ void Diagrammflaeche::resizeEvent(QResizeEvent* event)
 void Diagrammflaeche::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    if (m_inhalt != Inhalt::PSE) {
+    if (m_inhalt == Inhalt::PSE) {
+        painter.fillRect(rect(), Qt::white);
+        paintPSE(painter, m_bild, m_bildFont);
+    } else if (m_inhalt == Inhalt::Ternaer) {
+        m_ternaer.paint(painter, size(), font(), devicePixelRatioF());
+    } else {
         paintPicture(painter, size());
-        return;
     }
-    painter.fillRect(rect(), Qt::white);
-    paintPSE(painter, m_bild, m_bildFont);
     if (m_marked >= 0 && m_bild.points.at(static_cast<std::size_t>(m_marked))) {
         constexpr double Radius = 4;
         painter.setRenderHint(QPainter::Antialiasing);
@@ -190,7 +209,12 @@ void Diagrammflaeche::paintPicture(QPainter& painter, const QSize& size) const
     if (m_inhalt == Inhalt::Konzentration)
         return m_display->paintPicture(painter, size);
     painter.fillRect(QRect(QPoint(0, 0), size), Qt::white);
-    if (m_inhalt == Inhalt::PSE) {
+    if (m_inhalt == Inhalt::Ternaer) {
+        constexpr double ExportRatio = 3; // of the surface's pixels in vector pictures and on paper
+        const bool toImage = dynamic_cast<QImage*>(painter.device()) != nullptr;
+        Ternaerdiagramm copy = m_ternaer;
+        copy.paint(painter, size, font(), toImage ? painter.device()->devicePixelRatioF() : ExportRatio);
+    } else if (m_inhalt == Inhalt::PSE) {
         QFont labelFont;
         const PSEBild bild = layOutPSEFor(size, labelFont);
         paintPSE(painter, bild, labelFont);
@@ -253,13 +277,57 @@ void Diagrammflaeche::pointAt(std::size_t element)
                                  toQt(number.empty() ? "0" : number)));
 }
 
+void Diagrammflaeche::mousePressEvent(QMouseEvent* event)
+{
+    QWidget::mousePressEvent(event);
+    if (m_inhalt != Inhalt::Ternaer || event->button() != Qt::LeftButton)
+        return;
+    m_dragging = true;
+    m_lastPosition = event->position();
+}
+
+void Diagrammflaeche::mouseReleaseEvent(QMouseEvent* event)
+{
+    QWidget::mouseReleaseEvent(event);
+    m_dragging = false;
+}
+
+void Diagrammflaeche::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    QWidget::mouseDoubleClickEvent(event);
+    m_ternaer.reset();
+    update();
+}
+
 void Diagrammflaeche::mouseMoveEvent(QMouseEvent* event)
 {
     QWidget::mouseMoveEvent(event);
-    if (m_inhalt != Inhalt::PSE)
-        return;
-    if (const auto element = nearestElement(m_bild, event->position().x()))
-        pointAt(*element);
+    if (m_inhalt == Inhalt::PSE) {
+        if (const auto element = nearestElement(m_bild, event->position().x()))
+            pointAt(*element);
+    } else if (m_inhalt == Inhalt::Ternaer && m_dragging) {
+        const QPointF moved = event->position() - m_lastPosition;
+        m_lastPosition = event->position();
+        changeView(rotated(m_ternaer.ansicht(), moved.y(), -moved.x()));
+    } else if (m_inhalt == Inhalt::Ternaer) {
+        emit positionChanged(m_ternaer.positionText(event->position()));
+    }
+}
+
+void Diagrammflaeche::wheelEvent(QWheelEvent* event)
+{
+    constexpr double FactorPerNotch = 1.1;
+    constexpr double Notch = 120; // eighths of a degree
+    if (m_inhalt != Inhalt::Ternaer)
+        return QWidget::wheelEvent(event);
+    changeView(zoomed(m_ternaer.ansicht(), std::pow(FactorPerNotch, event->angleDelta().y() / Notch)));
+    event->accept();
+}
+
+void Diagrammflaeche::changeView(const Ansicht& ansicht)
+{
+    m_ternaer.setAnsicht(ansicht);
+    update(); // several changes before the next painting become one picture
 }
 
 void Diagrammflaeche::leaveEvent(QEvent* event)
@@ -270,10 +338,50 @@ void Diagrammflaeche::leaveEvent(QEvent* event)
 
 void Diagrammflaeche::keyPressEvent(QKeyEvent* event)
 {
+    if (m_inhalt == Inhalt::PSE)
+        moveCursor(*event);
+    else if (m_inhalt == Inhalt::Ternaer)
+        turnView(*event);
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void Diagrammflaeche::turnView(QKeyEvent& event)
+{
+    constexpr double Step = 5; // degrees
+    constexpr double Factor = 1.1;
+    const Ansicht& ansicht = m_ternaer.ansicht();
+    switch (event.key()) {
+    case Qt::Key_Left:
+        changeView(rotated(ansicht, 0, Step));
+        break;
+    case Qt::Key_Right:
+        changeView(rotated(ansicht, 0, -Step));
+        break;
+    case Qt::Key_Up:
+        changeView(rotated(ansicht, -Step, 0));
+        break;
+    case Qt::Key_Down:
+        changeView(rotated(ansicht, Step, 0));
+        break;
+    case Qt::Key_Plus:
+        changeView(zoomed(ansicht, Factor));
+        break;
+    case Qt::Key_Minus:
+        changeView(zoomed(ansicht, 1 / Factor));
+        break;
+    default:
+        QWidget::keyPressEvent(&event);
+    }
+}
+
+/// Moves the cursor to the next element that has a value.
+void Diagrammflaeche::moveCursor(QKeyEvent& event)
+{
     const auto count = static_cast<int>(m_bild.points.size());
     int next = -1;
     int step = 1;
-    switch (m_inhalt == Inhalt::PSE ? event->key() : 0) {
+    switch (event.key()) {
     case Qt::Key_Left:
         next = m_marked - 1;
         step = -1;
@@ -289,7 +397,7 @@ void Diagrammflaeche::keyPressEvent(QKeyEvent* event)
         step = -1;
         break;
     default:
-        QWidget::keyPressEvent(event);
+        QWidget::keyPressEvent(&event);
         return;
     }
     while (next >= 0 && next < count && !m_bild.points.at(static_cast<std::size_t>(next)))

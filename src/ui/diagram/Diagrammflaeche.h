@@ -9,13 +9,15 @@
 #include "programm/Programm.h"
 #include "ui/diagram/PSEGeometrie.h"
 #include "ui/platform/Dialoge.h"
+#include "ui/ternary/Ternaerdiagramm.h"
 
 namespace zerna {
 
 class conDisplay;
 
-/// The diagram area: it shows the concentration diagram that lies in it, the element-property diagram, or why there is
-/// no diagram. Whatever is shown can be copied, saved and printed.
+/// The diagram area: it shows the concentration diagram that lies in it, the ternary diagram, which the mouse and the
+/// keys turn and zoom, the element-property diagram, or why there is no diagram. Whatever is shown can be copied, saved
+/// and printed.
 class Diagrammflaeche : public QWidget {
     Q_OBJECT
 
@@ -29,6 +31,9 @@ public:
 
     /// Shows an element property; `symbols` names the elements of the series for the read-out.
     void showPSE(PSEReihe reihe, std::vector<std::string> symbols);
+
+    /// Shows a ternary diagram; `current` is the alloy's own composition.
+    void showTernaer(Ternaergitter gitter, const Anteile3& current);
 
     /// Shows that the diagram could not be computed and why.
     void showFehler(const QString& grund);
@@ -51,12 +56,16 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
 
 private:
-    enum class Inhalt { Konzentration, PSE, Meldung };
+    enum class Inhalt { Konzentration, Ternaer, PSE, Meldung };
 
     void showContent(Inhalt inhalt);
     PSEBild layOutPSEFor(const QSize& size, QFont& font) const;
@@ -64,8 +73,10 @@ private:
     void paintPSE(QPainter& painter, const PSEBild& bild, const QFont& font) const;
     void paintMeldung(QPainter& painter, const QSize& size) const;
     void pointAt(std::size_t element);
+    void moveCursor(QKeyEvent& event);
+    void turnView(QKeyEvent& event);
+    void changeView(const Ansicht& ansicht);
     std::string values() const;
-    void savePSE();
 
     Programm& m_programm;
     Dialoge m_dialoge;
@@ -76,6 +87,9 @@ private:
     std::vector<std::string> m_symbole;
     PSEBild m_bild; // at the current size
     QFont m_bildFont;
+    Ternaerdiagramm m_ternaer;
+    bool m_dragging = false;
+    QPointF m_lastPosition; // of the mouse while dragging
     int m_marked = -1; // element under the keyboard cursor, -1 for none
 };
 

@@ -235,7 +235,7 @@ void Diagrammbereich::aktualisieren(bool keepSelection)
         drawConcentration(keepSelection);
         break;
     case Diagrammtyp::Ternaer:
-        m_picDiagramm->showHinweis(QStringLiteral("3 D - ternär"));
+        drawTernary();
         break;
     case Diagrammtyp::PSE:
         drawPSE();
@@ -253,13 +253,8 @@ void Diagrammbereich::drawConcentration(bool keepSelection)
             QStringLiteral("Für ein Konzentrationsdiagramm sind\nmindestens zwei Komponenten nötig."));
         return;
     }
-    std::vector<Diagrammzeile> zeilen;
-    for (int row = 0; row < count; ++row)
-        zeilen.push_back(m_komposition.diagrammzeile(row));
-    if (const std::string hindernis = diagrammhindernis(zeilen); !hindernis.empty()) {
-        m_picDiagramm->showFehler(toQt(hindernis));
+    if (showObstacle())
         return;
-    }
     m_picDiagramm->display().setKompositionBereit(canRead());
     if (!canRead()) // while an at% is being typed the diagram stays, as the results do
         return;
@@ -267,7 +262,47 @@ void Diagrammbereich::drawConcentration(bool keepSelection)
         drawSeries();
         m_picDiagramm->showKonzentration();
     } catch (const Laufzeitfehler& error) {
-        m_picDiagramm->showFehler(QStringLiteral("%1 (%2)").arg(toQt(error.what())).arg(error.Nummer()));
+        showError(error);
+    }
+}
+
+/// Shows why no diagram can be computed for the rows; false if it can.
+bool Diagrammbereich::showObstacle()
+{
+    std::vector<Diagrammzeile> zeilen;
+    for (int row = 0; row < m_programm.Komponentenzahl(); ++row)
+        zeilen.push_back(m_komposition.diagrammzeile(row));
+    const std::string hindernis = diagrammhindernis(zeilen);
+    if (!hindernis.empty())
+        m_picDiagramm->showFehler(toQt(hindernis));
+    return !hindernis.empty();
+}
+
+void Diagrammbereich::showError(const Laufzeitfehler& error)
+{
+    m_picDiagramm->showFehler(QStringLiteral("%1 (%2)").arg(toQt(error.what())).arg(error.Nummer()));
+}
+
+void Diagrammbereich::drawTernary()
+{
+    if (m_programm.Komponentenzahl() != 3) {
+        chooseType(0);
+        return;
+    }
+    if (showObstacle())
+        return;
+    try {
+        std::vector<Reihenkomponente> komponenten;
+        Anteile3 current{};
+        for (int row = 0; row < 3; ++row) {
+            const float prozent = orUnbekannt([&] { return singleFromText(m_komposition.prozent(row)); });
+            komponenten.push_back({m_programm.ElementCollection().Item(m_komposition.element(row)), prozent});
+            current.at(static_cast<std::size_t>(row)) = prozent / 100.0;
+        }
+        m_picDiagramm->showTernaer(
+            ternaergitter(m_programm.Calc(), m_programm.Parser(), komponenten, groesse(), m_steps), current);
+    } catch (const Laufzeitfehler& error) {
+        showError(error);
     }
 }
 
@@ -305,7 +340,7 @@ void Diagrammbereich::drawPSE()
         m_picDiagramm->showPSE(
             pseReihe(m_programm.ElementCollection(), m_programm.Calc(), groesse()), std::move(symbols));
     } catch (const Laufzeitfehler& error) {
-        m_picDiagramm->showFehler(QStringLiteral("%1 (%2)").arg(toQt(error.what())).arg(error.Nummer()));
+        showError(error);
     }
 }
 

@@ -58,6 +58,9 @@ private:
     void stepResolution(int step);
     void drawConcentration(bool keepSelection);
     void drawSeries();
+    void drawTernary();
+    void showError(const Laufzeitfehler& error);
+    bool showObstacle();
     void drawPSE();
     bool canRead();
     void refreshLabels();

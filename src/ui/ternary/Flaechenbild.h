@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "model/Farbskala.h"
+
+namespace zerna {
+
+/// A corner of the surface on the picture, in device pixels.
+struct Flaechenecke {
+    float x = 0;
+    float y = 0;
+    float depth = 0; ///< larger is nearer
+    float share = 0; ///< height of its value, 0 to 1
+};
+
+/// How a surface is drawn.
+struct Flaechenstil {
+    float meshOpacity = 0; ///< of the lines along the grid, 0 to 1
+    float isoOpacity = 0.75F; ///< of the lines at the levels
+    float lineWidth = 1; ///< device pixels
+    std::vector<float> levels; ///< shares at which iso-lines run, ascending
+    bool shaded = true; ///< darker where the surface is seen at a sharp angle
+};
+
+/// A picture of triangles with a depth buffer, so that what is hidden is right from every side. Neighbouring triangles
+/// leave no cracks.
+class Flaechenbild {
+public:
+    Flaechenbild(int width, int height);
+
+    /// Adds one triangle.
+    void fill(const Flaechenecke& a, const Flaechenecke& b, const Flaechenecke& c, const Flaechenstil& stil);
+
+    int width() const { return m_width; }
+    int height() const { return m_height; }
+
+    /// Rows of premultiplied pixels 0xAARRGGBB; 0 where there is no surface.
+    std::span<const std::uint32_t> pixels() const { return m_pixels; }
+
+    /// Depth of the nearest surface at a pixel; false where there is none.
+    bool depthAt(int x, int y, float& depth) const;
+
+private:
+    int m_width;
+    int m_height;
+    std::vector<std::uint32_t> m_pixels;
+    std::vector<float> m_depth;
+    std::vector<Farbe> m_colours; // of the shares, tabulated
+};
+
+} // namespace zerna
