@@ -33,7 +33,8 @@ TEST_F(ElementdateiTest, CountsThatTheBytesDoNotBear)
         {"bytes behind", "\x02" + two + "x", 0, 2, 0}, {"none", std::string(4, '\0'), 0, 0, 0},
         {"empty file", "", 62, 0, 0}, {"negative", "\xFF\xFF\xFF\xFF" + two.substr(3), 62, 0, 0},
         {"as many as can be", "\xFF\xFF\xFF\x7F" + two.substr(3), 62, 0, 0}, {"missing record", "\x03" + two, 0, 3, 1},
-        {"two missing ones", "\x04" + two, 457, 3, 2}, {"one symbol twice", fileOf("CC"), 457, 1, 0}};
+        {"two missing ones", "\x04" + two, 457, 3, 2}, {"one symbol twice", fileOf("CC"), 457, 1, 0},
+        {"lengths", std::string("\x09\0\0\0\1\1\1\0a\xFF\xFF\1\1\1\0b\xFF\xFF\1\1\1\0c\xFF\xFF", 25), 457, 2, 3}};
     for (const auto& [name, bytes, error, count, boxCount] : rows) {
         SCOPED_TRACE(name);
         EXPECT_EQ(load(bytes), error);
