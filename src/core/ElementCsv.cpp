@@ -33,15 +33,13 @@ Cells nextLine(std::string_view text, std::size_t& position)
                 cells.back() += text[position++];
             else
                 quoted = !quoted;
-        } else if (quoted) {
+        } else if (quoted || std::string_view(",\n\r").find(c) == std::string_view::npos) {
             cells.back() += c;
         } else if (c == ',') {
             cells.emplace_back();
         } else if (c == '\n') {
             ++position;
             break;
-        } else if (c != '\r') {
-            cells.back() += c;
         }
     }
     return cells;

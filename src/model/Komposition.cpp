@@ -96,6 +96,8 @@ std::optional<std::string> ausgleichstext(std::span<const std::string> prozente)
 std::string diagrammhindernis(std::span<const Diagrammzeile> zeilen)
 {
     for (const Diagrammzeile& zeile : zeilen) {
+        if (zeile.name.empty())
+            return "Es ist nicht für jede Komponente ein Element gewählt!";
         const float dichte = orUnbekannt([&] { return singleFromText(zeile.dichte); });
         if (dichte == 0)
             return "Dichte für " + zeile.name + " ist Null!";

@@ -18,7 +18,11 @@ struct Ternaergitter {
     std::vector<float> werte; ///< by position(i, j), Unbekannt where it cannot be computed
 
     /// Place of the point with i/n of the first and j/n of the second component, i + j <= n.
-    std::size_t position(int i, int j) const { return static_cast<std::size_t>(i * (n + 1) - i * (i - 1) / 2 + j); }
+    std::size_t position(int i, int j) const
+    {
+        const int place = i * (n + 1) - i * (i - 1) / 2 + j;
+        return static_cast<std::size_t>(place);
+    }
 
     float wert(int i, int j) const { return werte[position(i, j)]; }
 };

@@ -186,7 +186,12 @@ void Diagrammbereich::rebuildComponents()
         addComponent(row);
 }
 
-void Diagrammbereich::addComponent(int row) { m_cmbDiagrammElement->addItem(toQt(m_komposition.element(row)), row); }
+void Diagrammbereich::addComponent(int row)
+{
+    const bool isListed = m_cmbDiagrammElement->findData(row) >= 0;
+    if (row < m_programm.Komponentenzahl() && !isListed)
+        m_cmbDiagrammElement->addItem(toQt(m_komposition.element(row)), row);
+}
 
 void Diagrammbereich::selectFirstComponent() { m_cmbDiagrammElement->setCurrentIndex(0); }
 

@@ -33,6 +33,8 @@ public:
 
     /// Lists the elements of the visible rows.
     void rebuildComponents();
+
+    /// Lists the element of one more row, unless the row is hidden or listed already.
     void addComponent(int row);
 
     /// Returns to the concentration diagram and draws it.

@@ -179,6 +179,8 @@ void Kompositionsbereich::restoreCount()
 void Kompositionsbereich::addElement(int list, std::string_view symbol, int itemData)
 {
     at(list).cmbElement->addItem(toQt(symbol), itemData);
+    if (at(list).cmbElement->count() == 1)
+        at(list).cmbElement->setCurrentIndex(-1); // the toolkit selects the first entry, start-up chooses
 }
 
 std::string Kompositionsbereich::elementEntry(int list, int position) const
@@ -284,6 +286,7 @@ void Kompositionsbereich::elementChosen(int row)
     emit firstDiagramComponentRequested();
     emit resultsRequested();
     emit weighingRequested();
+    emit diagramRequested();
 }
 
 void Kompositionsbereich::fillChoices(int row)
