@@ -68,7 +68,7 @@ std::shared_ptr<clsElement> nextElement(const ElementCollection& elements, const
 std::shared_ptr<clsElement> elementWithPrefix(const ElementCollection& elements, std::string_view letters)
 {
     const std::string wanted = lowerCase(letters);
-    if (const auto exact = elements.find(letters, true))
+    if (auto exact = elements.find(letters, true))
         return exact;
     for (const auto& element : elements) {
         if (lowerCase(element->symbol()).starts_with(wanted))

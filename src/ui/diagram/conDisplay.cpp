@@ -35,7 +35,7 @@ QSize plotSize(const Rechteck& plot) { return {static_cast<int>(plot.width), sta
 std::pair<float, float> endValues(const Reihe& reihe)
 {
     const auto known = [](float value) { return !istUnbekannt(value); };
-    const auto first = std::ranges::find_if(reihe, known);
+    const auto* const first = std::ranges::find_if(reihe, known);
     if (first == reihe.end())
         throw Laufzeitfehler(Fehler::UngueltigesArgument);
     const auto last = std::find_if(reihe.rbegin(), reihe.rend(), known);

@@ -50,14 +50,14 @@ private:
     void layOutLine(QGridLayout& grid, int row, int column, const Ergebniszeile& zeile);
     void layOutFriedel(QGridLayout& grid, int row, int column);
 
-    void update(bool readComposition);
+    void update(bool fromRows);
     bool showEditable();
     void showLines();
     void fieldChanged(int field);
     void stepFriedel(int step);
     void showFriedel();
-    void openMenu(int line, const QPoint& position);
-    QString shownValue(int line) const;
+    void openMenu(int index, const QPoint& position);
+    QString shownValue(int index) const;
     std::vector<Komponentenzeile> zeilen() const;
     void copyText();
     void save();

@@ -150,8 +150,9 @@ std::vector<double> axisTicks(const Wertebereich& range)
         ticks.clear();
         const double first = std::ceil(range.min / step - RoundingError);
         const double last = std::floor(range.max / step + RoundingError);
-        for (double k = first; k <= last; ++k)
-            ticks.push_back(k * step);
+        const auto count = static_cast<int>(last - first) + 1;
+        for (int k = 0; k < count; ++k)
+            ticks.push_back((first + k) * step);
         if (ticks.size() >= Fewest)
             break;
     }
