@@ -308,13 +308,19 @@ void translate(CLI::App& app)
 
 /// What is wrong with a call, in German. The library's own text names the argument behind the last ": " or at the
 /// beginning.
-std::string germanReason(const CLI::ParseError& error)
+std::string germanReason(const CLI::App& app, const CLI::ParseError& error)
 {
     const std::string text = error.what();
     const std::string argument = text.substr(text.rfind(": ") == std::string::npos ? 0 : text.rfind(": ") + 2);
     const std::string first = text.substr(0, text.find_first_of(": "));
+    if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr && text.find("subcommand") != std::string::npos) {
+        const std::vector<std::string> unknown = app.remaining();
+        if (unknown.empty())
+            return "Es fehlt ein Befehl";
+        return (unknown.front().starts_with('-') ? "Unbekanntes Argument " : "Unbekannter Befehl ") + unknown.front();
+    }
     if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr)
-        return text.find("subcommand") != std::string::npos ? "Es fehlt ein Befehl" : "Es fehlt das Argument " + first;
+        return "Es fehlt das Argument " + first;
     if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr)
         return "Unbekanntes Argument " + argument;
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr)
@@ -344,7 +350,7 @@ int runCommandLine(int argc, char** argv)
         std::cout << (chosenApps.empty() ? app : *chosenApps.front()).help();
         return 0;
     } catch (const CLI::ParseError& error) {
-        std::cerr << "zerna-cli: " << germanReason(error) << " (Hilfe: zerna-cli --hilfe)\n";
+        std::cerr << "zerna-cli: " << germanReason(app, error) << " (Hilfe: zerna-cli --hilfe)\n";
         return Aufruf;
     } catch (const Aufruffehler& error) {
         std::cerr << "zerna-cli: " << error.what() << '\n';

@@ -66,13 +66,13 @@ std::span<const Ergebniszeile> ergebniszeilen() { return Zeilen; }
 
 bool berechneErgebnisse(const clsCalc& calc, Ergebnistexte& texte)
 {
-    bool computable = true;
+    bool computable = !istUnbekannt(calc.Valenz()); // else the composition could not be computed, and nothing follows
     for (const Ergebniszeile& zeile : Zeilen) {
         Ergebnistext& ergebnis = texte.at(static_cast<std::size_t>(zeile.index));
         ergebnis.text.clear();
         ergebnis.known = false;
         if (zeile.editable) {
-            ergebnis.known = !istUnbekannt(orUnbekannt([&] { return zeile.value(calc); }));
+            ergebnis.known = computable && !istUnbekannt(orUnbekannt([&] { return zeile.value(calc); }));
             ergebnis.text = zeile.unit;
             continue;
         }

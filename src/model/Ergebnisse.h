@@ -39,7 +39,8 @@ struct Ergebnistext {
 using Ergebnistexte = std::array<Ergebnistext, Ergebnispositionen>;
 
 /// Formats all lines. From the first line that cannot be computed on all value lines are empty, the Friedel read-out
-/// too, and false is returned. The three editable lines hold their unit, line 10 the first Friedel minimum.
+/// too, and false is returned; an alloy that could not be computed has no lines at all. The three editable lines hold
+/// their unit, line 10 the first Friedel minimum.
 bool berechneErgebnisse(const clsCalc& calc, Ergebnistexte& texte);
 
 /// The Friedel-minimum read-out "r(n) = " and the radius; n counts from 0.

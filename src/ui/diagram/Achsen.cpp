@@ -11,9 +11,10 @@ namespace zerna {
 namespace {
 
 constexpr int Divisions = 10;
+constexpr double RoundingError = 1e-6; // in divisions, of a single-precision range
 constexpr double LeftStrip = 60;
 constexpr double BottomStrip = 30;
-constexpr double LabelGap = 1; // between a label and the tick beside it
+constexpr double LabelGap = 2; // between a label and the tick beside it
 
 } // namespace
 
@@ -53,7 +54,9 @@ std::vector<Achsenmarke> yMarken(const Rechteck& plot, int controlHeight, const 
         marke.position = plot.height - k * plot.height / Divisions;
         marke.labelStart = marke.position - labelHeight / 2;
         if (marke.labelStart + labelHeight <= lastTop && marke.labelStart >= 0) {
-            marke.label = yLabel(step * k + y.min);
+            const double value = step * k + y.min;
+            const bool isZero = std::abs(value) < RoundingError * step;
+            marke.label = yLabel(isZero ? 0 : value);
             lastTop = marke.labelStart;
         }
         marken.push_back(std::move(marke));

@@ -33,17 +33,17 @@ private:
     double m_yScale;
 };
 
-/// The label of a division; `step` tells what is only a rounding error beside 0.
+/// The label of a division, empty for what is no number to show; `step` tells what is only a rounding error beside 0.
 std::string divisionLabel(double value, double step)
 {
     constexpr double RoundingError = 1e-9;
-    if (std::abs(value) < RoundingError * step)
+    if (value == 0 || std::abs(value) < RoundingError * step)
         return "0";
-    const std::string text(trimmed(FormatValue(static_cast<float>(value), "")));
-    return text.empty() ? "0" : text;
+    return std::string(trimmed(FormatValue(static_cast<float>(value), "")));
 }
 
-void layOutXAxis(PSEBild& bild, const Massstab& scale, int elements, const Textmasse& masse)
+/// The area is `height` pixels high; what does not fit into it is left out.
+void layOutXAxis(PSEBild& bild, const Massstab& scale, int elements, int height, const Textmasse& masse)
 {
     constexpr double TickBottom = -0.5;
     constexpr double LabelTop = -0.7;
@@ -54,14 +54,15 @@ void layOutXAxis(PSEBild& bild, const Massstab& scale, int elements, const Textm
         const std::string label = std::to_string(i);
         const double width = masse.width(label);
         const Punkt position{scale.at(i, 0).x - width / 2, scale.at(i, LabelTop).y};
-        if (position.x >= lastEnd) {
+        if (position.x >= lastEnd && position.y + masse.height <= height) {
             lastEnd = position.x + width + 2;
             bild.labels.push_back({position, label});
         }
     }
     Punkt caption = scale.at(elements - 5, -1.2);
     caption.y = std::max(caption.y, scale.at(0, LabelTop).y + masse.height); // below the numbers, however low the area
-    bild.labels.push_back({caption, "OZ"});
+    if (caption.y + masse.height <= height)
+        bild.labels.push_back({caption, "OZ"});
 }
 
 void layOutYAxis(PSEBild& bild, const Massstab& scale, const Bereich& range, const Textmasse& masse)
@@ -76,11 +77,13 @@ void layOutYAxis(PSEBild& bild, const Massstab& scale, const Bereich& range, con
         const Punkt tick = scale.at(TickLeft, k);
         bild.lines.push_back({tick, scale.at(0, k)});
         const Punkt position{scale.at(LabelLeft, k).x, tick.y - masse.height / 2};
-        if (position.y + masse.height <= lastTop && (k == 0 || step > 0)) {
-            lastTop = position.y;
-            bild.labels.push_back({position, divisionLabel(range.min + k * step, step)});
-            bild.widestLabel = std::max(bild.widestLabel, masse.width(bild.labels.back().text));
-        }
+        const std::string label = divisionLabel(range.min + k * step, step);
+        const bool hasRoom = position.y + masse.height <= lastTop && (k == 0 || step > 0);
+        if (!hasRoom || label.empty())
+            continue;
+        lastTop = position.y;
+        bild.labels.push_back({position, label});
+        bild.widestLabel = std::max(bild.widestLabel, masse.width(label));
     }
 }
 
@@ -138,7 +141,7 @@ PSEBild layOutPSE(const PSEReihe& reihe, int width, int height, const Textmasse&
     const auto elements = static_cast<int>(reihe.x.size());
     const Massstab scale(reihe.x.size(), width, height);
     const Bereich range = gerundeterBereich(wertebereich(reihe.y));
-    layOutXAxis(bild, scale, elements, masse);
+    layOutXAxis(bild, scale, elements, height, masse);
     layOutYAxis(bild, scale, range, masse);
     bild.titel = {scale.at(-24, 1), reihe.titel, true};
     if (range.max > range.min)

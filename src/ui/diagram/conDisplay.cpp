@@ -180,17 +180,30 @@ conDisplay::Layout conDisplay::layOut(const QSize& size) const
     if (!m_hasAxes || layout.plot.width == 0 || layout.plot.height == 0)
         return layout;
     const QFontMetricsF fullSize(layout.labelFont);
-    const auto fullWidth = [&](std::string_view text) { return fullSize.horizontalAdvance(toQt(text)); };
     layout.abbildung = Abbildung(layout.plot.width, layout.plot.height, m_x, m_y);
     layout.yMarken = yMarken(layout.plot, size.height(), m_y, fullSize.height());
-    const double scale = labelScale(layout.yMarken, layout.plot, fullWidth, fullSize.height());
-    layout.labelFont.setPointSizeF(layout.labelFont.pointSizeF() * scale);
+    fitLabelFont(layout);
     const QFontMetricsF metrics(layout.labelFont);
     layout.labelHeight = metrics.height();
     layout.yMarken = yMarken(layout.plot, size.height(), m_y, layout.labelHeight);
     layout.xMarken = xMarken(
         layout.plot, size.width(), m_x, [&](std::string_view text) { return metrics.horizontalAdvance(toQt(text)); });
     return layout;
+}
+
+/// Makes the labels' font as small as they need. Texts do not shrink in proportion to their font, so it takes a few
+/// steps.
+void conDisplay::fitLabelFont(Layout& layout)
+{
+    constexpr int Steps = 5;
+    for (int i = 0; i < Steps; ++i) {
+        const QFontMetricsF metrics(layout.labelFont);
+        const auto width = [&](std::string_view text) { return metrics.horizontalAdvance(toQt(text)); };
+        const double scale = labelScale(layout.yMarken, layout.plot, width, metrics.height());
+        if (scale >= 1)
+            return;
+        layout.labelFont.setPointSizeF(std::max(1.0, layout.labelFont.pointSizeF() * scale));
+    }
 }
 
 void conDisplay::relayout()

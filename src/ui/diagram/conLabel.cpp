@@ -27,6 +27,8 @@ conLabel::conLabel(QWidget* parent)
     }
 }
 
+std::array<QWidget*, 2> conLabel::buttons() const { return {m_buttons[1], m_buttons[0]}; }
+
 void conLabel::setValue(int value)
 {
     if (value == m_value)

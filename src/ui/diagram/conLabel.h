@@ -26,6 +26,9 @@ public:
     bool Enabled() const { return m_enabled; }
     void setEnabled(bool enabled); // NOLINT(bugprone-derived-method-shadowing-base-method): the control's own flag
 
+    /// The buttons from above.
+    std::array<QWidget*, 2> buttons() const;
+
     QSize sizeHint() const override { return {96, 34}; }
 
 signals:

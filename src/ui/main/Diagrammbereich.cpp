@@ -15,6 +15,7 @@
 #include "ui/diagram/conLabel.h"
 #include "ui/main/Kompositionsbereich.h"
 #include "ui/platform/QtText.h"
+#include "ui/platform/Tabreihenfolge.h"
 
 namespace zerna {
 
@@ -43,6 +44,7 @@ Diagrammbereich::Diagrammbereich(
     createSteps();
     createLabels();
     layOut();
+    orderTabs();
 }
 
 void Diagrammbereich::createControls()
@@ -157,6 +159,18 @@ void Diagrammbereich::layOut()
     column->addWidget(boxed(Top, lists, values, 4));
     column->addWidget(m_picDiagramm, 1);
     column->addWidget(boxed(Bottom, position, buttons, 8));
+}
+
+void Diagrammbereich::orderTabs()
+{
+    std::vector<QWidget*> order{m_cmbDiagrammTyp, m_cmbDiagramm, m_cmbDiagrammElement};
+    for (conLabel* const label : m_conLabel) {
+        const auto buttons = label->buttons();
+        order.insert(order.end(), buttons.begin(), buttons.end());
+    }
+    order.insert(order.end(), m_cmdSteps.begin(), m_cmdSteps.end());
+    order.insert(order.end(), {&m_picDiagramm->display(), m_picDiagramm, m_cmdKopieren, m_cmdSpeichern});
+    setTabReihenfolge(order);
 }
 
 void Diagrammbereich::load()

@@ -55,6 +55,7 @@ private:
     void createSteps();
     void createLabels();
     void layOut();
+    void orderTabs();
     void fillQuantities(std::span<const Groesseneintrag> quantities);
     void chooseType(int position);
     void stepResolution(int step);

@@ -19,6 +19,7 @@
 #include "ui/main/Wertanzeige.h"
 #include "ui/main/Wertfeld.h"
 #include "ui/platform/QtText.h"
+#include "ui/platform/Tabreihenfolge.h"
 
 namespace zerna {
 
@@ -62,6 +63,7 @@ Ergebnisbereich::Ergebnisbereich(
 {
     createControls();
     layOut();
+    orderTabs();
 }
 
 void Ergebnisbereich::createControls()
@@ -194,6 +196,22 @@ void Ergebnisbereich::layOutFriedel(QGridLayout& grid, int row, int column)
     grid.addWidget(line(Friedelzeile), row + 1, column + 1);
 }
 
+/// Down the left column, down the right one, then the buttons; a field comes before its unit.
+void Ergebnisbereich::orderTabs()
+{
+    std::vector<QWidget*> order;
+    for (const Ergebniszeile& zeile : ergebniszeilen()) {
+        if (zeile.index == Friedelzeile)
+            continue;
+        const auto* const field = std::ranges::find(ZeileOfField, zeile.index);
+        if (field != ZeileOfField.end())
+            order.push_back(m_txtMFE.at(static_cast<std::size_t>(field - ZeileOfField.begin())));
+        order.push_back(line(zeile.index));
+    }
+    order.insert(order.end(), {m_cmdKnopf2[1], m_cmdKnopf2[0], line(Friedelzeile), m_cmdKopieren, m_cmdSpeichern});
+    setTabReihenfolge(order);
+}
+
 /// Widths that follow from the font: all numbers end, and all units begin, in the same columns.
 void Ergebnisbereich::measure()
 {
@@ -268,6 +286,7 @@ void Ergebnisbereich::update(bool fromRows)
 bool Ergebnisbereich::showEditable()
 {
     const clsCalc& calc = m_programm.Calc();
+    const bool failed = istUnbekannt(calc.Valenz()); // the calculator then still has the 2kF of another alloy
     const auto show = [this](int field, float value) {
         Wertfeld& edit = *m_txtMFE.at(static_cast<std::size_t>(field));
         edit.setWert(toQt(FormatValue(value, "")).trimmed(), false);
@@ -276,7 +295,7 @@ bool Ergebnisbereich::showEditable()
     const auto isEmpty = [this](int field) { return m_txtMFE.at(static_cast<std::size_t>(field))->text().isEmpty(); };
     switch (m_modus) {
     case Eingabemodus::Zusammensetzung:
-        show(DichteField, orUnbekannt([&] { return calc.Teilchenzahldichte(); }));
+        show(DichteField, failed ? Unbekannt : orUnbekannt([&] { return calc.Teilchenzahldichte(); }));
         show(ValenzField, calc.Valenz());
         break;
     case Eingabemodus::ValenzOderDichte:
@@ -286,7 +305,7 @@ bool Ergebnisbereich::showEditable()
     case Eingabemodus::Kf2:
         return !isEmpty(Kf2Field);
     }
-    show(Kf2Field, calc.Kf_2());
+    show(Kf2Field, failed ? Unbekannt : calc.Kf_2());
     return true;
 }
 

@@ -47,6 +47,7 @@ private:
     void createLine(const Ergebniszeile& zeile);
     void layOut();
     void measure();
+    void orderTabs();
     void layOutLine(QGridLayout& grid, int row, int column, const Ergebniszeile& zeile);
     void layOutFriedel(QGridLayout& grid, int row, int column);
 

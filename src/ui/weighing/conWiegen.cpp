@@ -99,7 +99,6 @@ void conWiegen::createRow(int row)
         auto* label = new QLabel(this);
         label->setObjectName(numbered(name, row));
         label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
         return label;
     };
     z.Label = new QLabel(this);
