@@ -1,0 +1,16 @@
+#!/bin/bash
+# Installs what is missing, builds the benchmarks and runs them; the ratios stand at the end. Arguments go to the
+# benchmark program, such as --benchmark_filter=Formel.
+set -euo pipefail
+root=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
+
+fail() {
+    echo "Fehler: $1" >&2
+    exit 1
+}
+
+"$root/packaging/install-debian-packages.sh" bench
+cmake -S "$root" --preset release -B "$root/build/bench" -DZERNA_BENCH=ON -DZERNA_WINDOW=OFF ||
+    fail "Die Messungen ließen sich nicht einrichten."
+cmake --build "$root/build/bench" --target zerna_bench || fail "Die Messungen ließen sich nicht übersetzen."
+exec "$root/build/bench/bin/zerna_bench" "$@"

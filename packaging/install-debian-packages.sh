@@ -1,0 +1,56 @@
+#!/bin/bash
+# Installs the Debian packages that are missing for a purpose; asks for nothing if none is.
+#   program  build and run the program      tests  build and run the tests
+#   bench    build and run the benchmarks   ci     all of these, and format, lint and fuzz targets
+set -euo pipefail
+
+tools=(g++ cmake ninja-build libcli11-dev)
+window=(qt6-base-dev qt6-svg-dev qt6-translations-l10n fonts-dejavu-core)
+program=("${tools[@]}" "${window[@]}" qt6-wayland)
+tests=("${tools[@]}" "${window[@]}" libgtest-dev libgmock-dev)
+bench=("${tools[@]}" libbenchmark-dev libmuparser-dev)
+ci=("${program[@]}" "${tests[@]}" "${bench[@]}" clang-14 clang-format-14 clang-tidy-14 libclang-rt-14-dev)
+
+case ${1:-program} in
+program) wanted=("${program[@]}") ;;
+tests) wanted=("${tests[@]}") ;;
+ci) wanted=("${ci[@]}") ;;
+bench) wanted=("${bench[@]}") ;;
+*)
+    echo "Aufruf: ${0##*/} [program|tests|ci|bench]" >&2
+    exit 2
+    ;;
+esac
+
+if ! command -v dpkg-query >/dev/null; then
+    echo "Hinweis: Dies ist kein Debian. Nötig sind die Gegenstücke von: ${wanted[*]}" >&2
+    exit 0
+fi
+
+missing=()
+for package in "${wanted[@]}"; do
+    # A line per architecture; its second letter is the package's state, "i" for installed.
+    states=$(dpkg-query -W -f='\n${db:Status-Abbrev}' "$package" 2>/dev/null || true)
+    [[ $states == *$'\n'?i* ]] || missing+=("$package")
+done
+if ((${#missing[@]} == 0)); then
+    exit 0
+fi
+
+as_root=(env DEBIAN_FRONTEND=noninteractive)
+if ((EUID != 0)); then
+    if ! command -v sudo >/dev/null; then
+        echo "Fehler: Es fehlen Pakete. Bitte als Administrator eingeben:" >&2
+        echo "  apt-get update && apt-get install --no-install-recommends ${missing[*]}" >&2
+        exit 1
+    fi
+    as_root=(sudo "${as_root[@]}")
+fi
+
+echo "Fehlende Pakete werden installiert: ${missing[*]}"
+# A package source that does not answer need not be one of those that matter here.
+"${as_root[@]}" apt-get -q update || echo "Hinweis: Nicht alle Paketlisten ließen sich auffrischen." >&2
+if ! "${as_root[@]}" apt-get -qy install --no-install-recommends "${missing[@]}"; then
+    echo "Fehler: Die Pakete ließen sich nicht installieren: ${missing[*]}" >&2
+    exit 1
+fi
