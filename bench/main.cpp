@@ -1,0 +1,167 @@
+// Runs the benchmarks and prints at the end what they say in relation to each other. Only ratios from one and the same
+// run mean anything: times differ from machine to machine and from hour to hour.
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <iostream>
+#include <map>
+#include <string>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+#include "bench/Aufbau.h"
+
+namespace zerna {
+
+void registerParserBenchmarks();
+void registerLegierungBenchmarks();
+void registerElementdateiBenchmarks();
+void registerBearbeitungBenchmarks();
+
+namespace {
+
+/// Time of `first` over time of `second`, and the aim; without an aim it is only reported.
+struct Verhaeltnis {
+    const char* text;
+    const char* first;
+    const char* second;
+    enum { Mindestens, Hoechstens, OhneZiel } art;
+    double ziel;
+};
+
+constexpr auto Mindestens = Verhaeltnis::Mindestens;
+constexpr auto Hoechstens = Verhaeltnis::Hoechstens;
+constexpr auto OhneZiel = Verhaeltnis::OhneZiel;
+
+constexpr std::array Verhaeltnisse{
+    Verhaeltnis{"muParser : Formel \"3/2\"", "muParser/3/2", "Formel/3/2", Mindestens, 10},
+    Verhaeltnis{"muParser : Formel \"2*e-1\"", "muParser/2*e-1", "Formel/2*e-1", Mindestens, 10},
+    Verhaeltnis{"muParser : Formel \"sqrt(4)+pow(2;3)\"", "muParser/sqrt(4)+pow(2;3)", "Formel/sqrt(4)+pow(2;3)",
+        Mindestens, 10},
+    Verhaeltnis{"muParser : Formel \"z_Cu\"", "muParser/z_Cu", "Formel/z_Cu", Mindestens, 10},
+    Verhaeltnis{"Zahl \"3\" : from_chars+to_chars", "Zahl/3", "from_chars+to_chars/3", Hoechstens, 3},
+    Verhaeltnis{"Zahl \"1,5\" : from_chars+to_chars", "Zahl/1,5", "from_chars+to_chars/1,5", Hoechstens, 3},
+    Verhaeltnis{"Zahl \"63,546\" : from_chars+to_chars", "Zahl/63,546", "from_chars+to_chars/63,546", Hoechstens, 3},
+    Verhaeltnis{"Legierung, Zahlen : bloße Schleife", "Legierung/Zahlen", "Legierung/bloße Schleife", Hoechstens, 3},
+    Verhaeltnis{"Legierung, Formeln : bloße Schleife", "Legierung/Formeln", "Legierung/bloße Schleife", OhneZiel, 0},
+    Verhaeltnis{"Legierung, Zahlen : Schleife, einmal", "Legierung/Zahlen", "Legierung/Schleife, einmal", OhneZiel, 0},
+    Verhaeltnis{"Elemente laden : lesen und kopieren", "Elementdatei/laden", "Elementdatei/kopieren", Hoechstens, 2},
+};
+
+/// Prints the medians only and keeps CPU time (ns) and counters of each.
+class MedianReporter : public benchmark::ConsoleReporter {
+public:
+    MedianReporter()
+        : ConsoleReporter(OO_None)
+    {
+    }
+
+    struct Median {
+        double nanoseconds = 0;
+        std::map<std::string, double> counters;
+    };
+
+    void ReportRuns(const std::vector<Run>& runs) override
+    {
+        std::vector<Run> shown;
+        for (const Run& run : runs) {
+            m_failed = m_failed || run.error_occurred;
+            const bool isMedian = run.run_type == Run::RT_Aggregate && run.aggregate_name == "median";
+            if (isMedian || run.error_occurred)
+                shown.push_back(run);
+            if (!isMedian)
+                continue;
+            Median& median = m_medians[run.run_name.function_name];
+            median.nanoseconds = run.GetAdjustedCPUTime();
+            for (const auto& [name, counter] : run.counters)
+                median.counters[name] = counter.value;
+        }
+        ConsoleReporter::ReportRuns(shown);
+    }
+
+    const std::map<std::string, Median>& medians() const { return m_medians; }
+    bool failed() const { return m_failed; }
+
+private:
+    std::map<std::string, Median> m_medians;
+    bool m_failed = false;
+};
+
+/// The text filled up to the width of the table's first column; counts characters, not bytes.
+std::string column(std::string text)
+{
+    constexpr std::ptrdiff_t Breite = 44;
+    const auto length =
+        std::ranges::count_if(text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80; });
+    return text.append(static_cast<std::size_t>(std::max<std::ptrdiff_t>(Breite - length, 0)), ' ');
+}
+
+const char* verdict(bool reached) { return reached ? "erreicht" : "VERFEHLT"; }
+
+void printRatio(const Verhaeltnis& v, const MedianReporter& reporter)
+{
+    const auto first = reporter.medians().find(v.first);
+    const auto second = reporter.medians().find(v.second);
+    if (first == reporter.medians().end() || second == reporter.medians().end())
+        return; // left out by --benchmark_filter
+    const double ratio = first->second.nanoseconds / second->second.nanoseconds;
+    std::printf("%s %7.2f", column(v.text).c_str(), ratio);
+    if (v.art == OhneZiel)
+        std::puts("        (ohne Ziel)");
+    else if (v.art == Mindestens)
+        std::printf("   >= %2.0f  %s\n", v.ziel, verdict(ratio >= v.ziel));
+    else
+        std::printf("   <= %2.0f  %s\n", v.ziel, verdict(ratio <= v.ziel));
+}
+
+void printEdit(const char* name, const MedianReporter& reporter)
+{
+    constexpr double Ergebnistextzahl = 18;
+    const auto found = reporter.medians().find(name);
+    if (found == reporter.medians().end())
+        return;
+    const auto& [nanoseconds, counters] = found->second;
+    const double quantities = counters.at("Speicher_Groessen");
+    const double texts = counters.at("Speicher_Texte");
+    std::printf("%s %7.2f µs (ohne Ziel)\n", column(name).c_str(), nanoseconds / 1000);
+    std::printf("%s %7.0f   <=  0  %s\n", column("  Speicheranforderungen ohne Texte").c_str(), quantities,
+        verdict(quantities == 0));
+    std::printf("%s %7.0f   <= %2.0f  %s\n", column("  Speicheranforderungen der 18 Texte").c_str(), texts,
+        Ergebnistextzahl, verdict(texts <= Ergebnistextzahl));
+}
+
+} // namespace
+
+} // namespace zerna
+
+int main(int argc, char** argv)
+{
+    // Repetitions in mixed order, so that a busy moment of the machine does not fall on one side of a ratio alone. What
+    // the user gives comes later and so counts.
+    std::vector<std::string> arguments{argv[0], "--benchmark_repetitions=9", "--benchmark_min_time=0.05",
+        "--benchmark_enable_random_interleaving=true", "--benchmark_report_aggregates_only=true"};
+    arguments.insert(arguments.end(), argv + 1, argv + argc);
+    std::vector<char*> pointers;
+    std::ranges::transform(arguments, std::back_inserter(pointers), [](std::string& a) { return a.data(); });
+    int count = static_cast<int>(pointers.size());
+    benchmark::Initialize(&count, pointers.data());
+    if (benchmark::ReportUnrecognizedArguments(count, pointers.data()))
+        return 2;
+
+    zerna::registerParserBenchmarks();
+    zerna::registerLegierungBenchmarks();
+    zerna::registerElementdateiBenchmarks();
+    zerna::registerBearbeitungBenchmarks();
+    zerna::MedianReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+
+    std::cout << std::flush;
+    std::printf("\n%s gemessen   Ziel\n", zerna::column("Verhältnisse der Mediane dieses Laufs").c_str());
+    for (const auto& verhaeltnis : zerna::Verhaeltnisse)
+        zerna::printRatio(verhaeltnis, reporter);
+    zerna::printEdit("Bearbeitung/2 Komponenten", reporter);
+    zerna::printEdit("Bearbeitung/5 Komponenten", reporter);
+    return reporter.failed() ? 1 : 0;
+}
