@@ -80,8 +80,8 @@ struct FakeDesk : testing::Test {
     {
         std::string all;
         for (const char* const name : names)
-            all.append(all.empty() ? "" : "|").append(text(name));
-        return all;
+            all.append(text(name)).append("|");
+        return all.substr(0, all.size() - 1);
     }
 
     /// Replaces the text of a field letter by letter, so that the texts in between are seen too.

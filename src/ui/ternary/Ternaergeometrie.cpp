@@ -50,8 +50,10 @@ Projektion::Projektion(const Ansicht& ansicht, double width, double height)
     m_sinTurn = std::sin(turn);
     m_cosTurn = std::cos(turn);
     m_middle = SurfaceHeight / 2;
-    if (ansicht.flach) // the triangle's middle, not its centre, belongs into the middle of the picture
+    if (ansicht.flach) { // only the triangle must fit, and its middle, not its centre, belongs into the picture's
+        m_scale = ansicht.zoom * std::max(1.0, std::min(width, height / TriangleHeight)) * 0.95;
         m_centreY += m_scale * (TriangleHeight / 2 - TriangleHeight / 3);
+    }
 }
 
 Bildpunkt Projektion::project(const Raumpunkt& point) const
