@@ -1,0 +1,79 @@
+#include "model/Einwaage.h"
+
+#include <gmock/gmock.h>
+
+#include "support/FilesTest.h"
+
+namespace zerna {
+
+struct EinwaageTest : FilesTest {
+    using Alloy = std::vector<std::tuple<const char*, float, float>>; // symbol, g/mol, at%
+    using Masses = std::vector<float>;
+
+    void setAlloy(const Alloy& alloy)
+    {
+        elements.clear();
+        count = static_cast<int>(alloy.size());
+        for (int i = 0; const auto& [symbol, mass, percent] : alloy) {
+            const auto element = std::make_shared<clsElement>(files, boxes);
+            element->setsymbol(symbol);
+            element->setMasse(mass);
+            elements.Add(element, symbol);
+            calc.Element_Add(i++, symbol, percent);
+        }
+    }
+
+    static auto areNear(const Masses& expected) { return testing::Pointwise(testing::FloatEq(), expected); }
+
+    ElementCollection elements;
+    clsParser parser{elements, boxes};
+    int count = 0;
+    clsCalc calc{elements, count, parser};
+};
+
+TEST_F(EinwaageTest, TargetMassesAndBack)
+{
+    const std::tuple<Alloy, float, Masses, Masses> rows[] = {
+        {{{"Al", 26.98F, 50}, {"Cu", 63.55F, 50}}, 1000, {298.02275F, 701.97725F}, {50, 50}},
+        {{{"A", 10, 100}, {"B", 20, 0}}, 1e-6F, {1e-6F, 0}, {100, 0}},
+        {{{"A", 10, 120}, {"B", 20, -20}}, 8, {12, -4}, {120, -20}}, // while at% are being typed
+        {{{"A", 10, 50}, {"B", 20, 30}, {"C", 40, 20}}, 190, {50, 60, 80}, {50, 30, 20}},
+    };
+    for (const auto& [alloy, total, masses, percents] : rows) {
+        setAlloy(alloy);
+        EXPECT_THAT(sollmassen(calc, count, total), areNear(masses));
+        EXPECT_THAT(gewogeneAtomprozente(calc, masses), areNear(percents));
+    }
+    for (const auto& [reference, mass] : {std::pair(0, 10.0F), {1, 12.0F}, {2, 16.0F}})
+        EXPECT_THAT(sollmassenZu(calc, count, reference, mass), areNear({10, 12, 16}));
+}
+
+TEST_F(EinwaageTest, FirstComponentIsDividedByThoughTheResultWouldNotNeedIt)
+{
+    setAlloy({{"A", 10, 0}, {"B", 20, 100}});
+    EXPECT_EQ(errorNumber([this] { sollmassen(calc, count, 1000); }), 11);
+    const std::tuple<Masses, int, int> rows[] = {
+        {{0, 5}, 11, 0}, {{5, -10}, 11, 0}, {{0, 0}, 11, 6}, {{3e38F, 3e38F}, 0, 6}, {{3, -3}, 0, 11}};
+    for (const auto& [masses, atomicError, massError] : rows) {
+        EXPECT_EQ(errorNumber([&, m = masses] { gewogeneAtomprozente(calc, m); }), atomicError) << masses[0];
+        EXPECT_EQ(errorNumber([&, m = masses] { massenprozente(m); }), massError) << masses[0];
+    }
+}
+
+TEST_F(EinwaageTest, LossFallsOnOneComponentAfterTheOther)
+{
+    setAlloy({{"Al", 10, 50}, {"Cu", 20, 50}});
+    EXPECT_THAT(verlustliste(calc, Masses{10, 20}, 5),
+        testing::ElementsAre("abgewogene Gesamtmasse: 30 mg", "Masseverlust = 5 mg", "",
+            "Masseverlust komplett bei Al: ", "Al: 33,333 at% Cu: 66,667 at% ", "",
+            "Masseverlust komplett bei Cu: ", "Al: 57,143 at% Cu: 42,857 at% "));
+}
+
+TEST_F(EinwaageTest, MassesAsTexts)
+{
+    for (const auto& [mass, text] : {std::pair(2.980228e-7F, "2,98E-7"), {0.0123456F, "0,01235"}, {0.1F, "0,100"},
+             {298.0228F, "298,023"}, {1e9F, "1000000000,000"}, {0.0F, "0,000"}, {-20.0F, "-20,000"}})
+        EXPECT_EQ(massentext(mass), text);
+}
+
+} // namespace zerna

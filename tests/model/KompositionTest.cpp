@@ -1,0 +1,78 @@
+#include "model/Komposition.h"
+
+#include "support/FilesTest.h"
+
+namespace zerna {
+
+using KompositionTest = FilesTest;
+
+TEST_F(KompositionTest, ChoicesOfARow)
+{
+    clsElement element(files, boxes);
+    element.setDichte_Amorph(Unbekannt);
+    element.setDichte_Fluessig(2.5F);
+    element.setDichte_Kristallin(3);
+    element.setValenz(4);
+    element.setElektronen(1, 2); // 2s
+    element.setElektronen(6, 7); // 3d
+    EXPECT_EQ(dichteauswahl(element), (std::vector<std::string_view>{"flüssig", "kristallin", "<andere>"}));
+    for (const auto& [choice, dichte] : {std::pair("flüssig", 2.5F), {"kristallin", 3.0F}, {"<andere>", 0.0F}})
+        EXPECT_EQ(dichteFor(element, choice), dichte) << choice;
+    std::string choices;
+    for (const Valenzeintrag& eintrag : valenzauswahl(element))
+        choices.append(eintrag.text).append("=").append(feldtext(valenzFor(element, eintrag.code))).append(" ");
+    EXPECT_EQ(choices, "Standard=4 s-Elektronen=2 d-Elektronen=7 <andere>=0 ");
+
+    element.setElektronen(9, 250); // damaged: more d electrons than a record's byte can hold
+    element.setDichte_Fluessig(Unbekannt);
+    element.setDichte_Kristallin(Unbekannt);
+    EXPECT_EQ(valenzauswahl(element).size(), 3U);
+    EXPECT_EQ(dichteauswahl(element).size(), 1U);
+    EXPECT_EQ(feldtext(element.Dichte_Amorph()), "<unbekannt>");
+}
+
+TEST_F(KompositionTest, ComponentCountWrapsAndSurvivesDamagedSettings)
+{
+    for (const auto& [count, step, next] : {std::tuple(4, 1, 5), {5, 1, 1}, {1, -1, 5}, {2, -1, 1}, {0, 1, 1}})
+        EXPECT_EQ(naechsteKomponentenzahl(count, step), next) << count;
+    for (const auto& [setting, count] : {std::pair("0", 0), {"4", 4}, {"5", 5}, {"6", 2}, {"", 2}, {"abc", 2},
+             {"-3", 2}, {"99", 2}, {"04", 2}, {"4 ", 2}, {"/", 2}})
+        EXPECT_EQ(gespeicherteKomponentenzahl(setting), count) << setting;
+}
+
+TEST_F(KompositionTest, BalanceRowTakesWhatIsMissing)
+{
+    const std::pair<std::vector<std::string>, const char*> rows[] = {{{"30"}, "70"}, {{"120"}, "-20"},
+        {{"16,3", "20,4"}, "63,3"}, {{"33.3333", "33,3333"}, "33,3334"}, {{"1e-9"}, "100"}, {{"-5", "100"}, "5"},
+        {{}, "100"}};
+    for (const auto& [prozente, rest] : rows)
+        EXPECT_EQ(ausgleichstext(prozente), rest);
+    EXPECT_EQ(ausgleichstext(std::vector<std::string>{"50", "", "abc"}), std::nullopt) << "still being typed";
+    for (const auto& [text, error] : {std::pair("abc", 13), {" ", 13}, {"1.234,5", 13}, {"3e38", 6}})
+        EXPECT_EQ(errorNumber([&] { ausgleichstext(std::vector<std::string>{"3e38", text}); }), error) << text;
+}
+
+TEST_F(KompositionTest, FirstFaultyRowKeepsDiagramsFromBeingDrawn)
+{
+    const std::pair<Diagrammzeile, const char*> rows[] = {
+        {{"Kupfer", "8,96", false, true}, ""},
+        {{"Kupfer", "0", false, true}, "Dichte für Kupfer ist Null!"},
+        {{"Kupfer", "0,0", false, true}, "Dichte für Kupfer ist Null!"},
+        {{"Kupfer", "", false, true}, "Dichte für Kupfer ist unbekannt!"},
+        {{"Kupfer", "<unbekannt>", false, true}, "Dichte für Kupfer ist unbekannt!"},
+        {{"Kupfer", "8,9x", true, true}, "Dichte für Kupfer ist keine gültige Zahl!"},
+        {{"Kupfer", "8,96", true, true}, "Valenz für Kupfer ist unbekannt!"},
+        {{"Kupfer", "8,96", false, false}, "Valenz für Kupfer ist ungültig!"},
+    };
+    for (const auto& [zeile, text] : rows)
+        EXPECT_EQ(diagrammhindernis(std::vector{rows[0].first, zeile}), text) << zeile.dichte;
+}
+
+TEST_F(KompositionTest, FormulasAreToldFromNumbers)
+{
+    for (const auto& [text, formula] :
+        {std::pair("3/2", true), {"e", true}, {"-1", false}, {"1,5E-3", false}, {"&HFF", false}, {"1e999", false}})
+        EXPECT_EQ(istFormel(text), formula) << text;
+}
+
+} // namespace zerna

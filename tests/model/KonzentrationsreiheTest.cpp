@@ -1,0 +1,92 @@
+#include "model/Konzentrationsreihe.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/Unbekannt.h"
+#include "support/FilesTest.h"
+
+namespace zerna {
+
+/// 50 at% A (10 cm³/mol, valence 3), 30 at% B (20 cm³/mol, valence 1), 20 at% C (25 cm³/mol, valence 2,5).
+struct KonzentrationsreiheTest : FilesTest {
+    KonzentrationsreiheTest()
+    {
+        for (const auto& [symbol, masse, dichte, valenz, prozent] : {std::tuple("A", 27.0F, 2.7F, "3", 50.0F),
+                 {"B", 60.0F, 3.0F, "1", 30.0F}, {"C", 50.0F, 2.0F, "5/2", 20.0F}}) {
+            const auto element = std::make_shared<clsElement>(files, boxes);
+            element->setMasse(masse);
+            element->setDichte(dichte);
+            element->setValenz_Temp(valenz);
+            elements.Add(element, symbol);
+            alloy.push_back({element, prozent});
+        }
+    }
+
+    Reihe series(int variable, int groesse) { return konzentrationsreihe(calc, parser, alloy, variable, groesse); }
+
+    ElementCollection elements;
+    clsParser parser{elements, boxes};
+    int count = 3;
+    clsCalc calc{elements, count, parser};
+    std::vector<Reihenkomponente> alloy;
+};
+
+TEST_F(KonzentrationsreiheTest, OtherComponentsShareTheRestAsEntered)
+{
+    // Intended: at 0 at% A the others still have the 30 and 20 at% that were entered, not 60 and 40. Particles per nm³
+    // are 602,2142 over the volume: 11, 10,6 and 10 cm³/mol.
+    for (const auto& [step, particles] : {std::pair(0U, 54.74675), {40U, 56.81266}, {100U, 60.22142}})
+        EXPECT_NEAR(series(0, 1).at(step), particles, 1e-5);
+    EXPECT_FLOAT_EQ(series(2, 0).at(100), 2.5) << "another component along the axis";
+    alloy.at(1).prozent = alloy.at(2).prozent = 0;
+    EXPECT_TRUE(istUnbekannt(series(0, 4).at(0))) << "without particles";
+    EXPECT_FALSE(istUnbekannt(series(0, 4).at(1)));
+}
+
+TEST_F(KonzentrationsreiheTest, EachCodeHasItsQuantityAndUnit)
+{
+    calc.setTeilchenzahldichte(5e28F);
+    // At 40 at% A, from the textbook formulas.
+    for (const auto& [groesse, einheit, value] : {std::tuple(0, "e/a", 1.68), {1, "1/nm³", 56.8127},
+             {2, "e/nm³", 95.4453}, {4, "nm³", 1.76017e-29}, {5, "m³/As", -6.53936e-11}, {6, "V/K²", -9.62363e-9},
+             {7, "eV", 11.4719}, {8, "eV", 7.61564}, {9, "1/nm", 28.2762}, {10, "nm", 0.222207}}) {
+        EXPECT_EQ(reiheneinheit(groesse), einheit);
+        EXPECT_NEAR(series(0, groesse).at(40), value, std::abs(value) * 1e-4) << einheit;
+    }
+    EXPECT_FLOAT_EQ(calc.Teilchenzahldichte(), 50) << "the calculator keeps the alloy";
+}
+
+TEST_F(KonzentrationsreiheTest, FaultsReachTheCallerOnce)
+{
+    for (const auto& [variable, groesse, error] : {std::tuple(-1, 0, 9), {3, 0, 9}, {0, 3, 5}, {0, 11, 5}})
+        EXPECT_EQ(errorNumber([&] { series(variable, groesse); }), error) << variable << ' ' << groesse;
+    for (const auto& [dichte, error] : {std::pair(0.0F, 11), {Unbekannt, 5}, {1e-39F, 6}, {3.0F, 0}}) {
+        elements.Item("B")->setDichte(dichte);
+        EXPECT_EQ(errorNumber([this] { series(0, 0); }), error) << dichte;
+    }
+    elements.Item("C")->setValenz_Temp("foo(1)");
+    EXPECT_NE(errorNumber([this] { series(0, 0); }), 0);
+    EXPECT_EQ(boxes.shown.size(), 1U) << "a valence is evaluated once, not once per step";
+}
+
+TEST_F(KonzentrationsreiheTest, DensityRuleSharesTheRestInEqualParts)
+{
+    for (const auto& [step, value] : {std::pair(0U, 6.5F), {40U, 4.7F}, {100U, 2.0F}}) // 4,7 = 0,8 + 0,3·4 + 0,3·9
+        EXPECT_FLOAT_EQ(dichtereihe(std::array{2.0F, 4.0F, 9.0F}, 0).at(step), value);
+    EXPECT_EQ(errorNumber([] { dichtereihe(std::array{2.0F}, 0); }), 11);
+}
+
+TEST_F(KonzentrationsreiheTest, FileHasALinePerStepAndLeavesGapsOut)
+{
+    Reihe reihe{};
+    reihe.at(10) = Unbekannt;
+    reihe.at(99) = -1.4667e-29F;
+    EXPECT_EQ(
+        reihendatei("Fe", "e/nm³", reihe, 33), "Fe [at%]\te/nm³\r\n0\t0\r\n33\t0\r\n66\t0\r\n99\t-1.4667E-29\r\n");
+    for (const auto& [typed, lines] : {std::pair("1", 101), {" 3 ", 35}, {"10", 11}, {"2147483646", 2}, {"0,5", 1},
+             {"-1", 1}, {"100,5", 3}, {"abc", 101}, {"", 101}, {"1e30", 101}, {"1e999", 101}})
+        EXPECT_EQ(std::ranges::count(reihendatei("Fe", "e/a", reihe, schrittweite(typed)), '\n'), lines) << typed;
+}
+
+} // namespace zerna

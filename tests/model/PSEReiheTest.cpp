@@ -1,0 +1,78 @@
+#include "model/PSEReihe.h"
+
+#include <array>
+#include <cmath>
+
+#include "core/Unbekannt.h"
+#include "support/FilesTest.h"
+
+namespace zerna {
+
+/// A: liquid 200, crystalline 300 atoms per nm³, valence 2. B is the same, but known as a solid only.
+struct PSEReiheTest : FilesTest {
+    PSEReiheTest()
+    {
+        ElementRecord record;
+        for (std::size_t i = 0; i < ElementRecordNumbers.size(); ++i)
+            record.*ElementRecordNumbers.at(i) =
+                std::array{6.022136F, 11.0F, 12.0F, 2.0F, 2.0F, 3.0F, 0.0F, 16.0F, 17.0F, 18.0F}.at(i);
+        for (const auto& [symbol, oz, fluessig] : {std::tuple("A", 7, 2.0F), {"B", 9, Unbekannt}}) {
+            record.OZ = static_cast<std::int16_t>(oz);
+            record.Dichte_Fluessig = fluessig;
+            elements.Add(std::make_shared<clsElement>(files, boxes), symbol);
+            elements.Item(symbol)->setRecord(record);
+        }
+    }
+
+    ElementCollection elements;
+    clsParser parser{elements, boxes};
+    int count = 1;
+    clsCalc calc{elements, count, parser};
+};
+
+TEST_F(PSEReiheTest, EachCodeHasItsTitleAndValues)
+{
+    // The value of A, from the textbook formulas for 400 electrons per nm³. B has what needs no liquid density.
+    for (const auto& [code, titel, value, hasB] : {std::tuple(0, "Valenz", 2.0, false),
+             {2, "Elektronendichte [e/nm³]", 400.0, false}, {4, "Atomvolumen [nm³]", 5e-30, false},
+             {5, "Hall-Koeffizient [m³/As]", -1.56038e-11, false}, {6, "Thermokraft [V/K²]", -3.70227e-9, false},
+             {7, "Plasmonenenergie [eV]", 23.4848, false}, {8, "Fermienergie [eV]", 19.796, false},
+             {9, "2 Kf [1/nm]", 45.5887, false}, {10, "Friedel-Wellenlänge [nm]", 0.137823, false},
+             {11, "Schmelztemperatur [K]", 11, true}, {12, "Siedetemperatur [K]", 12, true},
+             {13, "flüssige Dichte [g/cm³]", 2, false}, {14, "kristalline Dichte [g/cm³]", 3, true},
+             {15, "Masse [amu]", 6.022136, true}, {16, "Atomradius [pm]", 16, true},
+             {17, "erste Ionisierungsenergie [eV]", 17, true}, {18, "Elektrononegativität", 18, true}, // Intended: so
+             {19, "Teilchenzahldichte (flüssig) [1/cm³]", 2e23, false},
+             {20, "Teilchenzahldichte (kristallin) [1/cm³]", 3e23, true},
+             {21, "Teilchenzahldichte (kristallin - flüssig) [%]", 50, false},
+             {22, "flüssige Dichte (kristallin - flüssig) [%]", 50, false}}) {
+        const PSEReihe reihe = pseReihe(elements, calc, code, "davor");
+        EXPECT_EQ(reihe.titel, titel);
+        EXPECT_NEAR(reihe.y.at(0), value, std::abs(value) * 1e-4) << titel;
+        EXPECT_EQ(istUnbekannt(reihe.y.at(1)), !hasB) << titel;
+    }
+    // Intended: 6,022136e23, not the 6,022142e23 of the concentration series.
+    EXPECT_FLOAT_EQ(pseReihe(elements, calc, 19).y.at(0), 2e23F);
+    EXPECT_FLOAT_EQ(pseReihe(elements, calc, 2).y.at(0), 400);
+}
+
+TEST_F(PSEReiheTest, OtherCodesFillNothingAndAreNotOffered)
+{
+    for (const int code : {-1, 1, 3, 23})
+        EXPECT_EQ(pseReihe(elements, calc, code).y, (std::vector<float>{0, 0}));
+    for (const Groesseneintrag& entry : psegroessen())
+        EXPECT_TRUE(istPSEGroesse(entry.code)) << entry.text << " would draw nothing";
+}
+
+TEST_F(PSEReiheTest, FileLeavesElementsWithoutAValueOut)
+{
+    calc.setTeilchenzahldichte(5e28F);
+    elements.Item("A")->setMasse(0);
+    EXPECT_EQ(psedatei(pseReihe(elements, calc, 20)), "OZ\tTeilchenzahldichte (kristallin) [1/cm³]\r\n9\t3E+23\r\n");
+    EXPECT_EQ(psedatei(pseReihe(elements, calc, 8)), "OZ\tFermienergie [eV]\r\n");
+    elements.Item("B")->setDichte_Fluessig(0);
+    EXPECT_EQ(psedatei(pseReihe(elements, calc, 22)), "OZ\tflüssige Dichte (kristallin - flüssig) [%]\r\n7\t50\r\n");
+    EXPECT_FLOAT_EQ(calc.Teilchenzahldichte(), 50) << "the calculator keeps the alloy";
+}
+
+} // namespace zerna

@@ -1,0 +1,157 @@
+#include "programm/Programm.h"
+
+#include <algorithm>
+#include <map>
+
+#include "programm/EingebauteTabelle.h"
+#include "support/FakeServices.h"
+#include "support/FilesTest.h"
+#include "support/FullDisk.h"
+
+namespace zerna {
+
+namespace {
+
+/// Remembers what start-up puts in.
+class FakeHauptfenster : public Hauptfenster {
+public:
+    explicit FakeHauptfenster(const Programm& programm)
+        : m_programm(programm)
+    {
+    }
+
+    void addElement(int list, std::string_view symbol, int itemData) override
+    {
+        lists[list].emplace_back(symbol);
+        EXPECT_EQ(itemData, std::ssize(lists[list]));
+    }
+    std::string elementEntry(int list, int position) const override
+    {
+        return lists.at(list).at(static_cast<std::size_t>(position));
+    }
+    int findElementEntry(int list, std::string_view text) const override
+    {
+        const auto& entries = lists.at(list);
+        const auto found = std::ranges::find(entries, text);
+        return found == entries.end() ? -1 : static_cast<int>(found - entries.begin());
+    }
+    void ComboElementListIndex(int index, int listIndex) override { log("row", index, listIndex); }
+    void addDiagramComponent(int list) override { log("component", list, 0); }
+    void selectFirstDiagram() override { log("diagram", 0, 0); }
+    void show() override { log("show", 0, m_programm.StartupDone() ? 1 : 0); }
+
+    std::map<int, std::vector<std::string>> lists;
+    std::string calls;
+
+private:
+    void log(const std::string& call, int index, int value)
+    {
+        calls += call + ' ' + std::to_string(index) + ' ' + std::to_string(value) + '\n';
+    }
+
+    const Programm& m_programm;
+};
+
+} // namespace
+
+struct ProgrammTest : FilesTest {
+    using Box = RecordingBoxes::Box;
+
+    ProgrammTest() { writeBytes(folder / "zerna", ""); }
+
+    bool start() { return start(programm); }
+
+    bool start(Programm& started)
+    {
+        return started.start([&]() -> Hauptfenster& { return window.emplace(started); });
+    }
+
+    static std::string builtIn(std::size_t from, std::size_t count)
+    {
+        return {EingebauteTabelle.begin() + from, EingebauteTabelle.begin() + from + count};
+    }
+
+    const std::filesystem::path dataFile = folder / "elemente.dat";
+    FakeSettings settings;
+    Programm programm{boxes, settings, folder.path()};
+    std::optional<FakeHauptfenster> window;
+};
+
+TEST_F(ProgrammTest, FirstStartWritesTheBuiltInTableAndFillsTheWindow)
+{
+    ASSERT_TRUE(start());
+    EXPECT_EQ(bytesOf(dataFile), builtIn(0, 540));
+    EXPECT_EQ(window->lists.size(), 5U);
+    for (const auto& [list, symbols] : window->lists)
+        EXPECT_EQ(symbols, (std::vector<std::string>{"H", "He", "Li", "Be", "B", "C"}));
+    EXPECT_EQ(window->calls,
+        "row 0 0\nrow 1 1\nrow 2 2\nrow 3 3\nrow 4 4\ncomponent 0 0\ncomponent 1 0\ncomponent 2 0\n"
+        "diagram 0 0\nshow 0 1\n");
+    EXPECT_EQ(programm.SelectedElement()->symbol(), "H");
+    EXPECT_EQ(programm.CurrentElement()->symbol(), "C");
+    EXPECT_EQ(programm.ElementCollection().Item("Li")->Dichte_Kristallin(), 0.534F);
+    EXPECT_TRUE(boxes.shown.empty() && settings.stored.empty());
+}
+
+TEST_F(ProgrammTest, StoredElementsAreChosenAgain)
+{
+    settings["Element_0"] = "C";
+    settings["Element_1"] = ""; // counts as none
+    settings["Element_2"] = "Qq"; // not in the list
+    ASSERT_TRUE(start());
+    EXPECT_TRUE(window->calls.starts_with("row 0 5\nrow 1 1\nrow 2 -1\nrow 3 3\nrow 4 4\n")) << window->calls;
+}
+
+TEST_F(ProgrammTest, BadDataFilesAreReportedAndNeverOverwritten)
+{
+    const std::string hydrogen = builtIn(4, 88);
+    const auto damaged = [this](const std::string& reason) {
+        return "Fehler beim Einlesen der Datei:\r\n" + dataFile.string() + "\r\n\r\n" + reason
+            + "\r\nProgramm wird beendet.";
+    };
+    const std::tuple<std::string, const char*, std::string, bool> rows[] = {
+        {std::string(4, '\0'), "KoltZerna", "Index außerhalb des gültigen Bereichs", true}, // no elements
+        {builtIn(0, 4) + hydrogen + hydrogen, "Zerna",
+            damaged("Dieser Schlüssel ist bereits einem Element dieser Auflistung zugeordnet"), false},
+        {"", "Zerna", damaged("Eingabe hinter Dateiende"), false},
+        {"\xFF\xFF\xFF\xFF" + hydrogen, "Zerna", damaged("Eingabe hinter Dateiende"), false},
+        {"\xFF\xFF\xFF\x7F" + hydrogen, "Zerna", damaged("Eingabe hinter Dateiende"), false},
+    };
+    for (const auto& [bytes, caption, text, runs] : rows) {
+        SCOPED_TRACE(text);
+        boxes.shown.clear();
+        writeBytes(dataFile, bytes);
+        EXPECT_EQ(start(), runs);
+        EXPECT_EQ(boxes.shown, std::vector({Box{Icon::Exclamation, caption, text}}));
+        EXPECT_EQ(window->calls, runs ? "show 0 0\n" : "");
+        EXPECT_EQ(bytesOf(dataFile), bytes);
+    }
+}
+
+TEST_F(ProgrammTest, EndsWithAMessageWhenTheDataFileCannotBeWritten)
+{
+    const Box missing{Icon::Exclamation, "Zerna - Loader",
+        "Sie benötigen eine neuere Version der Datei 'elemente.dat'.\r\nProgramm kann nicht ausgeführt werden."};
+    {
+        const FullDisk disk(100);
+        EXPECT_FALSE(start());
+        EXPECT_EQ(boxes.shown, std::vector{missing});
+    }
+    Programm nowhere(boxes, settings, folder / "fehlt");
+    EXPECT_FALSE(start(nowhere));
+    EXPECT_EQ(boxes.shown.back(), missing);
+    EXPECT_FALSE(window || std::filesystem::exists(dataFile));
+}
+
+TEST_F(ProgrammTest, AfterShutdownNothingIsLeft)
+{
+    ASSERT_TRUE(start());
+    programm.shutdown();
+    for (const std::function<void()>& use : {std::function<void()>([&] { programm.Loader(); }),
+             {[&] { programm.Calc(); }}, {[&] { programm.FileHandler(); }}, {[&] { programm.Parser(); }}})
+        EXPECT_EQ(errorNumber(use), 91);
+    EXPECT_EQ(programm.ElementCollection().Count(), 0);
+    EXPECT_FALSE(programm.CurrentElement() || programm.SelectedElement());
+}
+
+} // namespace zerna

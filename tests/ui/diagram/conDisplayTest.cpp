@@ -1,0 +1,163 @@
+#include "ui/diagram/conDisplay.h"
+
+#include "core/Unbekannt.h"
+#include "support/FakeDesk.h"
+#include "support/FilesTest.h"
+#include "support/FullDisk.h"
+#include "ui/diagram/Bildausgabe.h"
+
+namespace zerna {
+
+/// Asks for the step width.
+struct StepBox : InputBox {
+    std::optional<std::string> ask(std::string_view, std::string_view prompt, std::string_view) override
+    {
+        return prompt.ends_with("\r\nAluminium an.") ? answer : "wrong prompt";
+    }
+
+    std::optional<std::string> answer;
+};
+
+/// The density of aluminium and copper falls from 2 to 1: four pixels to the right and two and a half down per at%.
+struct conDisplayTest : FakeDesk {
+    conDisplayTest()
+    {
+        openAluminiumCopper();
+        display.emplace(*programm, Dialoge{saveDialog, steps});
+        QObject::connect(&*display, &conDisplay::PositionInfo, [this](auto& info) { position = info.toStdString(); });
+        display->resize(460, 330);
+        display->setKompositionBereit(true);
+        display->Element_Add(1, "Cu", -100);
+        display->Element_Add(0, "Al", 50);
+        display->setVariablesElement(0);
+        draw("1", "2");
+    }
+
+    void draw(const char* first, const char* second)
+    {
+        display->setDichtefelder({first, second});
+        display->Zeichne_Diagramm_2D(3, 0);
+    }
+
+    QImage picture(int ratio = 1) const
+    {
+        const auto maler = [this](QPainter& painter, const QSize& size) { display->paintPicture(painter, size); };
+        return imageOf(maler, display->size(), ratio);
+    }
+
+    /// The one colour of a part, transparent if it has several.
+    static QColor colour(QImage part)
+    {
+        const QImage before = part;
+        part.fill(before.pixelColor(0, 0));
+        return part == before ? before.pixelColor(0, 0) : Qt::transparent;
+    }
+
+    void save(const char* name, int type, std::optional<std::string> step = std::nullopt)
+    {
+        steps.answer = std::move(step);
+        saveDialog.answer = {(folder / name).string(), type};
+        display->Speichern_Diagramm_2D();
+    }
+
+    StepBox steps;
+    std::string position;
+    std::optional<conDisplay> display;
+};
+
+TEST_F(conDisplayTest, EachMappedPixelHasTheFullColour)
+{
+    display->Zeichne_Punkt(10, 1, 0x0000FF); // red
+    display->Zeichne_Punkt(59, 1, 0x00FF00); // a green spike
+    display->Zeichne_LinieZu(60, 2, 0x00FF00);
+    display->Zeichne_LinieZu(61, 1, 0x00FF00);
+    for (const int ratio : {1, 2, 3}) {
+        const QImage image = picture(ratio);
+        const auto at = [&](int x, int y) { return colour(image.copy(x * ratio, y * ratio, ratio, ratio)); };
+        for (int i = 0; i < 58; i += 2)
+            EXPECT_EQ(at(60 + 4 * i, 25 + 5 * i / 2), QColor(Qt::blue)) << i << " at " << ratio;
+        for (const auto& [x, y, expected] : {std::tuple(100, 275, Qt::red), {296, 275, Qt::green}, {300, 25, Qt::green},
+                 {304, 275, Qt::green}, {220, 120, Qt::white}, {59, 20, Qt::black}, {53, 270, Qt::black}})
+            EXPECT_EQ(at(x, y), QColor(expected)) << x << " at " << ratio;
+    }
+    display->Display_Loeschen();
+    EXPECT_EQ(picture().pixelColor(300, 25), QColor(Qt::white));
+    EXPECT_EQ(picture().pixelColor(220, 125), QColor(Qt::blue)) << "the series is the background";
+}
+
+TEST_F(conDisplayTest, UnknownValuesLeaveAGap)
+{
+    for (const auto& element : programm->ElementCollection())
+        element->setDichte(element->Masse());
+    display->Zeichne_Diagramm_2D(4, 0); // no volume at 50 at%, and so no particles
+    for (const auto& [x, y, expected] : {std::tuple(256, 153, Qt::blue), {260, 150, Qt::white}, {264, 147, Qt::blue}})
+        EXPECT_EQ(picture().pixelColor(x, y), QColor(expected)) << x;
+    Reihe reihe{};
+    reihe.fill(Unbekannt);
+    EXPECT_EQ(errorNumber([&] { endValues(reihe); }), 5);
+    reihe.at(7) = 3;
+    reihe.at(50) = 9; // Intended: only the ends count
+    reihe.at(99) = 2;
+    EXPECT_EQ(endValues(reihe), std::pair(2.0F, 3.0F));
+}
+
+TEST_F(conDisplayTest, LabelsAreWholeAtAnyFont)
+{
+    draw("1090", "900"); // the topmost label is the widest
+    for (const int points : {4, 9, 20, 30, 80}) {
+        display->setFont(QFont(display->font().family(), points));
+        EXPECT_NE(colour(picture().copy(5, 0, 46, 300)), QColor(Qt::white)) << points;
+        EXPECT_EQ(colour(picture().copy(52, 0, 1, 300)), QColor(Qt::white)) << "runs into the ticks at " << points;
+        EXPECT_EQ(colour(picture().copy(0, 329, 460, 1)), QColor(Qt::white)) << "cut off below at " << points;
+    }
+}
+
+TEST_F(conDisplayTest, FaultsKeepThePictureAndTheErrorDisplayReplacesIt)
+{
+    const QImage before = picture();
+    for (const auto& [density, error] : {std::pair("0", 11), {"abc", 13}, {"3,3e38", 6}})
+        EXPECT_EQ(errorNumber([this, d = density] { draw(d, d); }), error) << density;
+    for (const auto& [index, error] : {std::pair(5, 9), {-1, 9}, {4, 91}})
+        EXPECT_EQ(errorNumber([this, i = index] { display->setVariablesElement(i); }), error);
+    display->setKompositionBereit(false);
+    draw("7", "8");
+    EXPECT_EQ(picture(), before);
+    display->Zeichne_Fehler();
+    EXPECT_EQ(colour(picture().copy(0, 0, 460, 100)), QColor(Qt::white));
+    EXPECT_NE(colour(picture().copy(160, 120, 200, 60)), QColor(Qt::white));
+}
+
+TEST_F(conDisplayTest, MouseAndKeysReadValuesOut)
+{
+    display->show();
+    QTest::mouseMove(display->windowHandle(), QPoint(230, 125));
+    EXPECT_EQ(position, "42,50 at% Al - 1,6 g/cm³");
+    for (const auto& [key, text] : {std::pair(Qt::Key_Right, "0,00 at% Al - 2 g/cm³"),
+             {Qt::Key_Right, "1,00 at% Al - 1,99 g/cm³"}, {Qt::Key_End, "100,00 at% Al - 1 g/cm³"},
+             {Qt::Key_Right, "100,00 at% Al - 1 g/cm³"}, {Qt::Key_Left, "99,00 at% Al - 1,01 g/cm³"},
+             {Qt::Key_Home, "0,00 at% Al - 2 g/cm³"}, {Qt::Key_Left, "0,00 at% Al - 2 g/cm³"}}) {
+        QTest::keyClick(&*display, key);
+        EXPECT_EQ(position, text);
+    }
+}
+
+TEST_F(conDisplayTest, SavesValuesWithAStepOrThePicture)
+{
+    const std::string head = "Al [at%]\tg/cm\xB3\r\n";
+    for (const auto& [step, bytes] : {std::pair("10", 128U), {"3", 312U}, {"abc", 895U}, {"-1", head.size()}}) {
+        save("a.dat", 1, step);
+        EXPECT_EQ(bytesOf(folder / "a.dat").size(), bytes) << step;
+    }
+    save("a.dat", 1, "50");
+    save("b.dat", 1);
+    EXPECT_FALSE(std::filesystem::exists(folder / "b.dat")) << "cancelled";
+    save("c.bmp", 2);
+    EXPECT_EQ(QImage::fromData(QByteArray::fromStdString(bytesOf(folder / "c.bmp"))), picture().copy(60, 0, 400, 300));
+    const FullDisk disk(20);
+    save("a.dat", 1, "1");
+    save("c.bmp", 2);
+    EXPECT_EQ(boxes.shown.size(), 2U);
+    EXPECT_EQ(bytesOf(folder / "a.dat"), head + "0\t2\r\n50\t1.5\r\n100\t1\r\n") << "the earlier file stays";
+}
+
+} // namespace zerna

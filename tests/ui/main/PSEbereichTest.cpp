@@ -1,0 +1,135 @@
+#include "ui/main/PSEbereich.h"
+
+#include <QListWidget>
+#include <QPaintEvent>
+#include <QTimer>
+
+#include "support/FakeDesk.h"
+#include "ui/main/Periodentafel.h"
+
+namespace zerna {
+
+struct PSEbereichTest : FakeDesk {
+    PSEbereichTest()
+    {
+        openAluminiumCopper();
+        click("optButton_1_1");
+        table().setFocus();
+    }
+
+    Periodentafel& table() const { return find<Periodentafel>("picPSE"); }
+
+    /// A cell of the 18.2 by 10.2.
+    QRect cell(int column, int row) const
+    {
+        const QSizeF size(table().width() / 18.2, table().height() / 10.2);
+        return QRectF({(column - 1) * size.width(), (row - 1) * size.height()}, size).toRect();
+    }
+
+    QImage image(int column, int row) const { return table().grab(cell(column, row)).toImage(); }
+    void clickCell(int column, int row) { QTest::mouseClick(&table(), Qt::LeftButton, {}, cell(column, row).center()); }
+    std::string chosen() const { return programm->SelectedElement() ? programm->SelectedElement()->symbol() : ""; }
+
+    /// Presses keys in the menu that a double click opens; gives the number of its entries.
+    qsizetype answerMenu(std::initializer_list<Qt::Key> keys)
+    {
+        qsizetype entries = 0;
+        QTimer::singleShot(0, [&] {
+            QWidget* const menu = QApplication::activePopupWidget();
+            entries = menu->actions().size();
+            for (const Qt::Key key : keys)
+                QTest::keyClick(menu, key);
+        });
+        QTest::mouseDClick(&table(), Qt::LeftButton, {}, cell(2, 3).center());
+        return entries;
+    }
+};
+
+TEST_F(PSEbereichTest, ClicksAndKeysSelectElements)
+{
+    for (const auto& [column, row, symbol] : {std::tuple(11, 4, "Cu"), {2, 8, "Cu"}, {4, 9, "Ce"}, {18, 1, "He"}}) {
+        clickCell(column, row);
+        EXPECT_EQ(chosen(), symbol);
+        EXPECT_EQ(find<QListWidget>("lstInfo").item(0)->text().mid(8).toStdString(), symbol);
+    }
+    for (const auto& [key, symbol] : {std::pair(Qt::Key_Down, "Ne"), {Qt::Key_Right, "Ne"}, {Qt::Key_H, "H"},
+             {Qt::Key_Up, "H"}, {Qt::Key_Right, "He"}, {Qt::Key_Left, "H"}, {Qt::Key_C, "C"}, {Qt::Key_U, "Cu"},
+             {Qt::Key_A, "Al"}, {Qt::Key_G, "Ag"}, {Qt::Key_1, "Ag"}}) {
+        QTest::keyClick(&table(), key);
+        EXPECT_EQ(chosen(), symbol);
+    }
+    EXPECT_NE(table().accessibleDescription().indexOf("Silber"), -1);
+}
+
+TEST_F(PSEbereichTest, MenuPutsTheElementIntoARow)
+{
+    clickCell(2, 3);
+    EXPECT_EQ(answerMenu({Qt::Key_Down, Qt::Key_Down, Qt::Key_Return}), 2);
+    EXPECT_EQ(texts({"cmbElement_0", "cmbElement_1", "lblElement_1"}) + settings["Element_1"], "Al|Mg|MagnesiumMg");
+    answerMenu({Qt::Key_Escape});
+    EXPECT_EQ(text("cmbElement_0"), "Al");
+    answerMenu({Qt::Key_1});
+    EXPECT_EQ(text("cmbElement_0"), "Mg");
+    QTest::mouseDClick(&table(), Qt::LeftButton, {}, cell(2, 8).center()); // no menu to wait for
+}
+
+TEST_F(PSEbereichTest, CellsAreColouredByAProperty)
+{
+    const auto fill = [this](int column, int row) { return image(column, row).pixel(cell(1, 1).center().x(), 4); };
+    const QRgb group = fill(1, 1);
+    choose("cmbFarbe", "Masse");
+    EXPECT_EQ(fill(1, 1), 0xFF440154) << "the lightest";
+    choose("cmbFarbe", "Elektronegativität");
+    EXPECT_EQ(fill(17, 2), 0xFFFDE725) << "the highest";
+    EXPECT_NE(image(18, 1).copy(8, 18, 8, 2), image(18, 1).copy(9, 18, 8, 2)) << "unknown ones are hatched";
+    choose("cmbFarbe", "Gruppe");
+    EXPECT_EQ(fill(1, 1), group);
+}
+
+TEST_F(PSEbereichTest, HoverRepaintsOnlyTheCellsConcerned)
+{
+    struct : QObject {
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            if (event->type() == QEvent::Paint)
+                region += static_cast<QPaintEvent*>(event)->region();
+            return false;
+        }
+        QRegion region;
+    } painted;
+    const auto moveTo = [this](const QPoint& place) {
+        QTest::mouseMove(window->windowHandle(), table().mapTo(window.get(), place));
+        QCoreApplication::processEvents();
+    };
+    moveTo(cell(11, 4).center());
+    table().installEventFilter(&painted);
+    moveTo(cell(11, 4).center() + QPoint(3, 3));
+    EXPECT_TRUE(painted.region.isEmpty()) << "the same cell";
+    moveTo(cell(2, 3).center());
+    EXPECT_FALSE(painted.region.isEmpty());
+    EXPECT_TRUE(painted.region.subtracted(cell(11, 4) + QMargins(6, 6, 6, 6))
+                    .subtracted(cell(2, 3) + QMargins(6, 6, 6, 6))
+                    .isEmpty());
+}
+
+TEST_F(PSEbereichTest, OddElementsStayInTheirCells)
+{
+    const QImage neighbour = image(12, 4);
+    clsElement& copper = *programm->ElementCollection().Item("Cu");
+    copper.setsymbol("ABCDEFGHIJKLMNOPQRST");
+    copper.setName("");
+    EXPECT_EQ(image(12, 4), neighbour);
+    clickCell(11, 4);
+    find("PicInfo").grab();
+    copper.setX(40);
+    clickCell(12, 4);
+    QTest::keyClick(&table(), Qt::Key_Left);
+    EXPECT_EQ(chosen(), "Ni");
+    const ElementCollection none;
+    Periodentafel empty(none);
+    empty.grab();
+    QTest::keyClicks(&empty, "h\r");
+    QTest::mouseClick(&empty, Qt::LeftButton);
+}
+
+} // namespace zerna

@@ -1,0 +1,172 @@
+#include "ui/main/frmMain.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QTimer>
+
+#include <algorithm>
+#include <functional>
+#include <map>
+
+#include "support/FakeDesk.h"
+#include "support/FilesTest.h"
+#include "ui/main/frmAbout.h"
+
+namespace zerna {
+
+struct frmMainTest : FakeDesk {
+    /// The window with all its rows shows its areas one after the other.
+    void forEachView(const std::function<void()>& check)
+    {
+        settings["Komponenten"] = "4";
+        open();
+        for (const char* const areaSwitch : {"cmdKnopf1_0", "cmdKnopf1_1", "optButton_1_1"}) {
+            SCOPED_TRACE(areaSwitch);
+            click(areaSwitch);
+            check();
+        }
+    }
+
+    template <class Widget>
+    std::vector<Widget*> visible() const
+    {
+        std::vector<Widget*> widgets;
+        for (auto* const widget : window->findChildren<Widget*>()) {
+            if (widget->isVisible())
+                widgets.push_back(widget);
+        }
+        return widgets;
+    }
+
+    static std::string named(const QWidget& widget)
+    {
+        return (widget.parentWidget()->objectName() + '/' + widget.objectName()).toStdString();
+    }
+
+    QRect area(const QWidget& widget) const { return {widget.mapTo(window.get(), QPoint()), widget.size()}; }
+};
+
+TEST_F(frmMainTest, TabFollowsTheReadingOrder)
+{
+    forEachView([this] {
+        std::vector<QWidget*> stops;
+        find("optButton_1_0").setFocus();
+        do {
+            stops.push_back(QApplication::focusWidget());
+            QTest::keyClick(stops.back(), Qt::Key_Tab);
+        } while (QApplication::focusWidget() != stops.front() && stops.size() < 200);
+        EXPECT_GE(stops.size(), 5U);
+        for (auto later = stops.begin(); later != stops.end(); ++later) {
+            const QRect second = area(**later);
+            const auto outOfOrder = std::find_if(stops.begin(), later, [&](const QWidget* earlier) {
+                const QRect first = area(*earlier);
+                const bool sameColumn = first.left() <= second.right() && second.left() <= first.right();
+                const bool sameRow = first.top() <= second.bottom() && second.top() <= first.bottom();
+                return sameColumn ? second.top() < first.top() : sameRow && second.left() < first.left();
+            });
+            if (outOfOrder != later)
+                ADD_FAILURE() << named(**later) << " comes after " << named(**outOfOrder);
+        }
+    });
+}
+
+TEST_F(frmMainTest, EveryControlHasANameForScreenReaders)
+{
+    forEachView([this] {
+        for (QWidget* const widget : visible<QWidget>()) {
+            const QString name = QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+            EXPECT_TRUE(widget->focusPolicy() == Qt::NoFocus || !name.isEmpty()) << named(*widget);
+        }
+    });
+}
+
+TEST_F(frmMainTest, NoMnemonicComesTwice)
+{
+    forEachView([this] {
+        std::map<QString, int> uses;
+        for (const auto* const button : visible<QAbstractButton>())
+            ++uses[QKeySequence::mnemonic(button->text()).toString()];
+        for (const auto* const label : visible<QLabel>())
+            ++uses[label->buddy() != nullptr ? QKeySequence::mnemonic(label->text()).toString() : QString()];
+        uses.erase(QString());
+        EXPECT_GE(uses.size(), 3U);
+        for (const auto& [key, count] : uses)
+            EXPECT_EQ(count, 1) << key.toStdString();
+    });
+}
+
+TEST_F(frmMainTest, NothingIsCutOffInASmallWindow)
+{
+    forEachView([this] {
+        window->resize(1024, 700);
+        QCoreApplication::processEvents();
+        for (const QWidget* const widget : visible<QWidget>()) {
+            const auto* const label = qobject_cast<const QLabel*>(widget);
+            const auto* const button = qobject_cast<const QAbstractButton*>(widget);
+            // Long names of elements are cut on purpose.
+            if ((label == nullptr && button == nullptr) || widget->objectName().startsWith("lblElement"))
+                continue;
+            const int needed = label != nullptr
+                ? label->minimumSizeHint().width()
+                : button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width();
+            EXPECT_GE(widget->width(), needed) << named(*widget);
+            EXPECT_TRUE(window->rect().contains(area(*widget))) << named(*widget);
+        }
+        for (const QSize size : {QSize(200, 100), QSize(1, 1), QSize(1280, 800)}) {
+            window->resize(size);
+            window->grab();
+        }
+    });
+}
+
+TEST_F(frmMainTest, SwitchesShowOnePanelAndOneArea)
+{
+    open();
+    const auto shown = [this] {
+        std::string names;
+        for (const char* const name : {"Pic_1_0", "Pic_1_1", "lblMFE_7", "conWiegen1"})
+            names += find(name).isVisible() ? std::string(name) + ' ' : "";
+        return names;
+    };
+    const std::tuple<Qt::Key, const char*> rows[] = {{Qt::Key_W, "Pic_1_0 conWiegen1 "}, {Qt::Key_P, "Pic_1_1 "},
+        {Qt::Key_R, "Pic_1_0 conWiegen1 "}, {Qt::Key_E, "Pic_1_0 lblMFE_7 "}};
+    EXPECT_EQ(shown(), "Pic_1_0 lblMFE_7 ");
+    for (const auto& [key, names] : rows) {
+        QTest::keyClick(window.get(), key, Qt::AltModifier);
+        EXPECT_TRUE(QTest::qWaitFor([&, expected = names] { return shown() == expected; })) << shown();
+    }
+    EXPECT_EQ(text("lblSteps"), "Schritte: 5");
+    EXPECT_EQ(find<QComboBox>("cmbDiagramm").itemText(10), "Elektronendichte");
+}
+
+TEST_F(frmMainTest, ClosingReleasesTheProgram)
+{
+    open();
+    type("txtProzent_2", "7"); // the balance row writes its rest when it loses the focus
+    window->close();
+    EXPECT_EQ(errorNumber([this] { programm->Calc(); }), 91);
+    EXPECT_TRUE(boxes.shown.empty());
+}
+
+TEST_F(frmMainTest, AboutBoxTellsVersionAndBuild)
+{
+    open();
+    bool closed = false;
+    QTimer::singleShot(0, [&] {
+        auto* const box = QApplication::activeModalWidget();
+        const auto labelText = [box](const char* name) { return box->findChild<QLabel*>(name)->text().toStdString(); };
+        const clsLoader& loader = programm->Loader();
+        EXPECT_EQ(labelText("lblVersion"), "Version " + loader.Version());
+        EXPECT_EQ(labelText("lblKompiliert"),
+            "kompiliert am " + loader.Creation_Date() + " um " + loader.Creation_Time() + " Uhr\n7131 Codezeilen");
+        for (const char* const link : {"lblMail", "lblWeb"})
+            EXPECT_EQ(box->findChild<QLabel*>(link)->isVisible(), labelText(link).find("></a>") == std::string::npos)
+                << link;
+        QTest::mouseClick(box->findChild<QWidget*>("cmdSchliessen"), Qt::LeftButton);
+        closed = !box->isVisible();
+    });
+    click("cmdAbout");
+    EXPECT_TRUE(closed);
+}
+
+} // namespace zerna

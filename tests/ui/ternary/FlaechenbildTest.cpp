@@ -1,0 +1,85 @@
+#include "ui/ternary/Flaechenbild.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <random>
+
+namespace zerna {
+
+namespace {
+
+using Dreieck = std::array<Flaechenecke, 3>;
+
+const Flaechenstil Schlicht{0, 0, 1, {}, false};
+
+std::uint32_t at(const Flaechenbild& bild, int x, int y)
+{
+    return bild.pixels()[static_cast<std::size_t>(y * bild.width() + x)];
+}
+
+TEST(Flaechenbild, NearerOfTwoCrossingTrianglesIsSeenFromAboveAndFromBelow)
+{
+    for (const float side : {1.0F, -1.0F}) { // of the viewer
+        const Dreieck rising{{{0, 0, -side, 0}, {100, 0, side, 0}, {50, 90, 0, 0}}};
+        const Dreieck falling{{{0, 0, side, 1}, {100, 0, -side, 1}, {50, 90, 0, 1}}};
+        for (const bool risingFirst : {true, false}) {
+            Flaechenbild bild(100, 90);
+            for (const auto& [a, b, c] : {risingFirst ? rising : falling, risingFirst ? falling : rising})
+                bild.fill(a, b, c, Schlicht);
+            EXPECT_EQ(at(bild, side > 0 ? 70 : 30, 20), 0xFF440154) << "the lowest value's colour";
+            EXPECT_EQ(at(bild, side > 0 ? 30 : 70, 20), 0xFFFDE725) << "the highest value's";
+            float depth = 0;
+            EXPECT_TRUE(bild.depthAt(75, 0, depth));
+            EXPECT_NEAR(depth, 0.51, 1e-3);
+            EXPECT_FALSE(bild.depthAt(2, 88, depth) || bild.depthAt(-1, 0, depth) || bild.depthAt(0, 90, depth));
+        }
+    }
+}
+
+TEST(Flaechenbild, FansHaveNoCracks)
+{
+    std::minstd_rand random(1);
+    std::uniform_real_distribution<float> place(45, 55);
+    for (int count = 3; count < 50; ++count) {
+        Flaechenbild bild(100, 100);
+        const Flaechenecke hub{place(random), place(random), 0, 0.5F};
+        const auto rim = [count](int i) {
+            const float angle = static_cast<float>(i % count) * 6.2831853F / static_cast<float>(count);
+            return Flaechenecke{50 + 150 * std::cos(angle), 50 + 150 * std::sin(angle), 0, 0.5F};
+        };
+        for (int i = 0; i < count; ++i)
+            bild.fill(hub, rim(i), rim(i + 1), Schlicht);
+        EXPECT_EQ(std::ranges::count(bild.pixels(), 0xFF21918C), 100 * 100) << count;
+    }
+}
+
+TEST(Flaechenbild, WhatIsNoAreaOrBesideThePictureLeavesNoPixel)
+{
+    const Dreieck rows[] = {{{{1, 1}, {5, 5}, {9, 9}}}, {{{4, 4}, {4, 4}, {4, 4}}}, {{{1, 1}, {NAN, 5}, {9, 1}}},
+        {{{1, 1}, {5, 5}, {9, NAN}}}, {{{-9, -9}, {-1, -9}, {-5, -1}}}, {{{1, 1e6F}, {9, 1e6F}, {5, 2e6F}}}};
+    for (const auto& [a, b, c] : rows) {
+        for (const int size : {10, 0, -5}) {
+            Flaechenbild bild(size, size);
+            bild.fill(a, b, c, {});
+            EXPECT_EQ(std::ranges::count(bild.pixels(), 0U), std::ssize(bild.pixels())) << a.x << ' ' << b.x;
+        }
+    }
+}
+
+TEST(Flaechenbild, IsoLinesRunAtTheirLevelsAndMeshAlongTheEdges)
+{
+    for (const auto& [style, y] :
+        {std::pair(Flaechenstil{0, 0.9F, 2, {0.5F}, false}, 40), {{0.9F, 0, 4, {}, false}, 0}}) {
+        Flaechenbild bild(100, 100);
+        bild.fill({0, 0, 0, 0}, {100, 0, 0, 1}, {50, 100, 0, 0.5F}, style);
+        EXPECT_LT(at(bild, 49, y) >> 8U & 0xFFU, 60U) << y;
+        EXPECT_GT(at(bild, 40, 40) >> 8U & 0xFFU, 100U) << y;
+    }
+}
+
+} // namespace
+
+} // namespace zerna

@@ -1,0 +1,88 @@
+#include "ui/ternary/Ternaergeometrie.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <tuple>
+
+#include "core/Unbekannt.h"
+
+namespace zerna {
+
+TEST(Projektion, TiltsThenTurnsAndFindsBack)
+{
+    const Raumpunkt place{0.2, 0.3, 0.5}; // 0.2 above the centre of rotation
+    const std::tuple<double, double, Bildpunkt> rows[] = {{90, 0, {0.2, 0.3, 0.2}}, {0, 0, {0.2, 0.2, -0.3}},
+        {-90, 0, {0.2, -0.3, -0.2}}, {0, 90, {-0.3, 0.2, -0.2}}, {30, 0, {0.2, 0.323205, -0.159808}}};
+    for (const auto& [tilt, turn, expected] : rows) {
+        const Projektion projektion({tilt, turn, 1.5}, 800, 600);
+        const Bildpunkt shown = projektion.project(place);
+        EXPECT_NEAR((shown.x - 400) / projektion.scale(), expected.x, 1e-6) << tilt << ' ' << turn;
+        EXPECT_NEAR((300 - shown.y) / projektion.scale(), expected.y, 1e-6) << tilt << ' ' << turn;
+        EXPECT_NEAR(shown.depth, expected.depth, 1e-6) << tilt << ' ' << turn;
+        const Raumpunkt back = projektion.unproject(shown);
+        EXPECT_NEAR(std::hypot(back.x - place.x, back.y - place.y, back.z - place.z), 0, 1e-12);
+    }
+    for (double turn = 0; turn < 360; turn += 15) { // nothing sticks out while the diagram turns
+        const Bildpunkt corner = Projektion({turn, 2 * turn, 1}, 900, 300).project({0, 1 / std::sqrt(3), 0.6});
+        EXPECT_LE(std::hypot(corner.x - 450, corner.y - 150), 150 + 1e-9);
+    }
+}
+
+TEST(Ansicht, StaysWithinItsLimits)
+{
+    const std::tuple<double, double, Ansicht> rows[] = {{64, -60, {89, -90}}, {66, 211, {90, -179}},
+        {-115, -150, {-90, -180}}, {-200, 215, {-90, -175}}, {0, 3600, {25, -30}}};
+    for (const auto& [tilt, turn, expected] : rows)
+        EXPECT_EQ(rotated({}, tilt, turn), expected) << tilt;
+    for (const auto& [factor, zoom] : {std::pair(2.0, 2.0), {1e300, 3.0}, {HUGE_VAL, 3.0}, {0.0, 0.5}})
+        EXPECT_EQ(zoomed({}, factor).zoom, zoom);
+}
+
+TEST(Zusammensetzung, HasItsPlaceInTheTriangle)
+{
+    const std::tuple<Anteile3, double, double> rows[] = {
+        {{1, 0, 0}, -0.5, -0.288675}, {{0, 0, 1}, 0, 0.577350}, {{0.2, 0.5, 0.3}, 0.15, -0.028868}};
+    for (const auto& [anteile, x, y] : rows) {
+        const Raumpunkt place = placeOf(anteile, 7);
+        EXPECT_NEAR(std::hypot(place.x - x, place.y - y), 0, 1e-6);
+        const Anteile3 back = compositionAt(place).value_or(Anteile3{});
+        EXPECT_NEAR(std::hypot(back[0] - anteile[0], back[1] - anteile[1], back[2] - anteile[2]), 0, 1e-9);
+    }
+    for (const auto& [x, y] : {std::pair(0.0, -0.29), {0.0, 0.58}, {0.4, 0.0}, {-0.4, 0.0}})
+        EXPECT_FALSE(compositionAt({x, y, 0})) << x;
+}
+
+TEST(Ternaerflaeche, IsInterpolatedAndHasHoles)
+{
+    Ternaergitter gitter{2, {}, {}, {0, 10, 20, 5, 15, 10}}; // 10 for all of the first, 20 of the second component
+    const std::pair<Anteile3, double> rows[] = {{{1, 0, 0}, 10}, {{0, 1, 0}, 20}, {{0, 0, 1}, 0},
+        {{0.25, 0.5, 0.25}, 12.5}, {{0.2, 0.2, 0.6}, 6}, {{0.4, 0.4, 0.2}, 12}, {{1 + 1e-7, -1e-7, 0}, 10}};
+    for (const auto& [anteile, value] : rows)
+        EXPECT_NEAR(interpolated(gitter, anteile).value_or(-1), value, 1e-5);
+    gitter.werte[5] = Unbekannt;
+    EXPECT_EQ(triangulate(gitter).size(), 3U) << "without a corner";
+    EXPECT_FALSE(interpolated(gitter, {0.8, 0.1, 0.1}));
+    EXPECT_TRUE(interpolated(gitter, {0.1, 0.1, 0.8}));
+    gitter.werte[1] = Unbekannt;
+    EXPECT_TRUE(triangulate(gitter).empty()) << "nor the middle of an edge";
+}
+
+TEST(Achsenstriche, AreFiveToTenRoundedValuesInside)
+{
+    for (const float low : {0.0F, 0.05F, -0.05F, -1.13F, 7.3e-30F, -2e30F, 12345.6F}) {
+        for (float width = 1e-3F; width < 1e4F; width *= 1.07F) {
+            const Wertebereich range{low, low + width * (low == 0 ? 1 : std::abs(low)), true};
+            const std::vector<double> ticks = axisTicks(range);
+            const double slack = (static_cast<double>(range.max) - range.min) * 1e-6;
+            EXPECT_TRUE(ticks.size() >= 5 && ticks.size() <= 10) << low << ' ' << width << ": " << ticks.size();
+            EXPECT_TRUE(ticks.front() >= range.min - slack && ticks.back() <= range.max + slack) << low;
+            EXPECT_NEAR(ticks[2] - ticks[1], ticks[1] - ticks[0], slack);
+        }
+    }
+    EXPECT_EQ(axisTicks({-20, -10, true}), (std::vector<double>{-20, -18, -16, -14, -12, -10}));
+    EXPECT_EQ(axisTicks({3, 3, true}), std::vector<double>{3}) << "a constant quantity";
+    EXPECT_EQ(heightShare(3, {3, 3, true}), 0.5);
+}
+
+} // namespace zerna
