@@ -13,12 +13,19 @@
 
 #include "bench/Aufbau.h"
 
+#ifdef ZERNA_WINDOW
+#include <QApplication>
+#endif
+
 namespace zerna {
 
 void registerParserBenchmarks();
 void registerLegierungBenchmarks();
 void registerElementdateiBenchmarks();
 void registerBearbeitungBenchmarks();
+void registerEinwaageBenchmarks();
+void registerPeriodentafelBenchmarks();
+void registerTernaerBenchmarks();
 
 namespace {
 
@@ -48,6 +55,10 @@ constexpr std::array Verhaeltnisse{
     Verhaeltnis{"Legierung, Formeln : bloße Schleife", "Legierung/Formeln", "Legierung/bloße Schleife", OhneZiel, 0},
     Verhaeltnis{"Legierung, Zahlen : Schleife, einmal", "Legierung/Zahlen", "Legierung/Schleife, einmal", OhneZiel, 0},
     Verhaeltnis{"Elemente laden : lesen und kopieren", "Elementdatei/laden", "Elementdatei/kopieren", Hoechstens, 2},
+    Verhaeltnis{"Periodentafel : 103 Rechtecke", "Periodentafel/zeichnen", "Periodentafel/Rechtecke", Hoechstens, 1.3},
+    Verhaeltnis{
+        "Ternärgitter : bloße Schleife", "Ternaergitter/rechnen", "Ternaergitter/bloße Schleife", Hoechstens, 2.5},
+    Verhaeltnis{"Ternärdiagramm : Dreiecke füllen", "Ternaerdiagramm/drehen", "Ternaerdiagramm/Dreiecke", OhneZiel, 0},
 };
 
 /// Prints the medians only and keeps CPU time (ns) and counters of each.
@@ -113,7 +124,7 @@ void printRatio(const Verhaeltnis& v, const MedianReporter& reporter)
     else if (v.art == Mindestens)
         std::printf("   >= %2.0f  %s\n", v.ziel, verdict(ratio >= v.ziel));
     else
-        std::printf("   <= %2.0f  %s\n", v.ziel, verdict(ratio <= v.ziel));
+        std::printf("   <= %2.3g  %s\n", v.ziel, verdict(ratio <= v.ziel));
 }
 
 void printEdit(const char* name, const MedianReporter& reporter)
@@ -154,6 +165,13 @@ int main(int argc, char** argv)
     zerna::registerLegierungBenchmarks();
     zerna::registerElementdateiBenchmarks();
     zerna::registerBearbeitungBenchmarks();
+    zerna::registerEinwaageBenchmarks();
+#ifdef ZERNA_WINDOW
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    zerna::registerPeriodentafelBenchmarks();
+    zerna::registerTernaerBenchmarks();
+#endif
     zerna::MedianReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
 

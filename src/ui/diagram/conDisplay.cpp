@@ -179,10 +179,8 @@ conDisplay::Layout conDisplay::layOut(const QSize& size) const
     layout.labelFont = font();
     if (!m_hasAxes || layout.plot.width == 0 || layout.plot.height == 0)
         return layout;
-    const QFontMetricsF fullSize(layout.labelFont);
     layout.abbildung = Abbildung(layout.plot.width, layout.plot.height, m_x, m_y);
-    layout.yMarken = yMarken(layout.plot, size.height(), m_y, fullSize.height());
-    fitLabelFont(layout);
+    fitLabelFont(layout, size.height());
     const QFontMetricsF metrics(layout.labelFont);
     layout.labelHeight = metrics.height();
     layout.yMarken = yMarken(layout.plot, size.height(), m_y, layout.labelHeight);
@@ -191,14 +189,15 @@ conDisplay::Layout conDisplay::layOut(const QSize& size) const
     return layout;
 }
 
-/// Makes the labels' font as small as they need. Texts do not shrink in proportion to their font, so it takes a few
-/// steps.
-void conDisplay::fitLabelFont(Layout& layout)
+/// Makes the labels' font as small as they need. Texts do not shrink in proportion to their font, and smaller labels
+/// leave room for more of them, so it takes a few steps.
+void conDisplay::fitLabelFont(Layout& layout, int height) const
 {
     constexpr int Steps = 5;
     for (int i = 0; i < Steps; ++i) {
         const QFontMetricsF metrics(layout.labelFont);
         const auto width = [&](std::string_view text) { return metrics.horizontalAdvance(toQt(text)); };
+        layout.yMarken = yMarken(layout.plot, height, m_y, metrics.height());
         const double scale = labelScale(layout.yMarken, layout.plot, width, metrics.height());
         if (scale >= 1)
             return;

@@ -95,7 +95,7 @@ private:
     };
 
     Layout layOut(const QSize& size) const;
-    static void fitLabelFont(Layout& layout);
+    void fitLabelFont(Layout& layout, int height) const;
     void relayout();
     Reihe computeSeries(int groesse) const;
     void drawSeries(const Reihe& reihe);

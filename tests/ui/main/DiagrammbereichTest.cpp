@@ -15,8 +15,6 @@ namespace zerna {
 struct DiagrammbereichTest : FakeDesk {
     DiagrammbereichTest() { openAluminiumCopper(); }
 
-    Diagrammflaeche& area() const { return find<Diagrammflaeche>("picDiagramm"); }
-
     /// What the area shows, as it is copied.
     QImage picture()
     {
@@ -24,152 +22,114 @@ struct DiagrammbereichTest : FakeDesk {
         return QApplication::clipboard()->image();
     }
 
-    /// The picture that has a text only.
-    QImage message(const char* reason)
+    std::string quantities() const
     {
-        Diagrammflaeche other(*programm, Dialoge{saveDialog, inputBox});
-        other.setFont(area().font());
-        other.resize(area().size());
-        other.showFehler(QString::fromUtf8(reason));
-        other.copyPicture();
-        return QApplication::clipboard()->image();
+        std::string codes;
+        for (int i = 0; i < find<QComboBox>("cmbDiagramm").count(); ++i)
+            codes += find<QComboBox>("cmbDiagramm").itemData(i).toString().toStdString() + ' ';
+        return codes;
     }
 
-    std::string entries(const char* list) const
-    {
-        std::string all;
-        for (int i = 0; i < find<QComboBox>(list).count(); ++i)
-            all += std::to_string(find<QComboBox>(list).itemData(i).toInt()) + ' ';
-        return all;
-    }
-
-    void stepLabel(const char* label, const char* button)
-    {
-        QTest::mouseClick(find(label).findChild<QWidget*>(button), Qt::LeftButton);
-    }
-
-    /// Opens the menu with the right button and chooses an entry; its texts are returned.
-    QString chooseFromMenu(int entry)
+    /// Presses keys in the menu that the right button opens on the area; the menu's texts are returned.
+    QString menu(const std::vector<Qt::Key>& keys)
     {
         QString texts;
         QTimer::singleShot(0, [&] {
-            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-            for (const QAction* const action : menu->actions())
+            auto* const popup = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            for (const QAction* const action : popup->actions())
                 texts += action->text() + '|';
-            for (int i = 0; i <= entry; ++i)
-                QTest::keyClick(menu, Qt::Key_Down);
-            QTest::keyClick(menu, Qt::Key_Return);
+            for (const Qt::Key key : keys)
+                QTest::keyClick(popup, key);
         });
-        QTest::mouseClick(window->windowHandle(), Qt::RightButton, {}, area().mapTo(window.get(), QPoint(200, 200)));
+        QTest::mouseClick(window->windowHandle(), Qt::RightButton, {}, QPoint(900, 300));
         return texts;
     }
 };
 
 TEST_F(DiagrammbereichTest, EveryEditRedrawsAndCalcKeepsTheAlloy)
 {
-    choose("cmbDiagramm", "Fermienergie");
-    std::string values = area().display().values(1);
+    auto& display = find<conDisplay>("conDisplay1");
+    std::string values = display.values(1);
     QImage image = picture();
-    const std::pair<const char*, const char*> edits[] = {{"txtProzent_0", "60"}, {"cmdDichte_0", "flüssig"},
-        {"cmbValenz_0", "p-Elektronen"}, {"cmbElement_0", "Zn"}, {"cmbDiagramm_Element", "Cu"},
-        {"cmbDiagramm", "2 Kf"}};
+    const std::pair<const char*, const char*> edits[] = {{"cmbDiagramm", "Fermienergie"}, {"cmdDichte_0", "flüssig"},
+        {"cmbValenz_0", "p-Elektronen"}, {"cmbElement_0", "Zn"}, {"cmbDiagramm_Element", "Cu"}, {"txtProzent_0", "60"}};
     for (const auto& [control, entry] : edits) {
-        SCOPED_TRACE(control);
-        if (qobject_cast<QLineEdit*>(&find(control)) != nullptr)
+        if (std::string_view(control).starts_with("txt"))
             type(control, entry);
         else
             choose(control, entry);
-        EXPECT_NE(std::exchange(values, area().display().values(1)), values);
-        EXPECT_NE(std::exchange(image, picture()), image);
+        EXPECT_NE(std::exchange(values, display.values(1)), values) << control;
+        EXPECT_NE(std::exchange(image, picture()), image) << control;
     }
-    EXPECT_EQ(values.substr(0, 15), "Cu [at%]\t1/nm\r\n");
     EXPECT_EQ(picture(), image) << "copying leaves it as it is";
-    EXPECT_FLOAT_EQ(programm->Calc().Valenz(), 1.6F); // 60 at% zinc with 2, copper with 1
-    EXPECT_EQ(text("txtMFE_0"), "1,6");
+    EXPECT_FLOAT_EQ(programm->Calc().Valenz(), 1.6F) << "of 60 at% zinc, not of the last step";
 }
 
-TEST_F(DiagrammbereichTest, WhatCannotBeComputedSaysWhy)
+TEST_F(DiagrammbereichTest, WhatCannotBeComputedSaysWhyUntilTheNextGoodEdit)
 {
     const QImage before = picture();
     choose("cmdDichte_1", "<andere>");
-    EXPECT_EQ(picture(), message("Dichte für Kupfer ist Null!"));
+    EXPECT_FALSE(find("conDisplay1").isVisible()) << "density 0";
+    const QImage isZero = picture();
     type("txtDichte_1", "");
-    EXPECT_EQ(picture(), message("Dichte für Kupfer ist unbekannt!"));
+    EXPECT_NE(picture(), isZero) << "another text";
     type("txtDichte_1", "8,96");
-    EXPECT_EQ(picture(), before);
-    choose("cmbValenz_0", "<andere>");
-    type("txtValenz_0", "1/0");
-    EXPECT_EQ(picture(), message("Valenz für Aluminium ist ungültig!"));
-    type("txtValenz_0", "3");
     EXPECT_EQ(picture(), before);
     type("txtProzent_0", "5x");
     EXPECT_TRUE(find("conDisplay1").isVisible()) << "stays while an at% is being typed";
-    type("txtProzent_0", "50");
-    EXPECT_EQ(picture(), before);
     click("cmdKom_1");
-    EXPECT_FALSE(find("conDisplay1").isVisible()) << "one component";
+    EXPECT_FALSE(find("conDisplay1").isVisible()) << "a single component";
     EXPECT_TRUE(boxes.shown.empty());
 }
 
 TEST_F(DiagrammbereichTest, TypesHaveTheirListsAndSteps)
 {
-    EXPECT_EQ(entries("cmbDiagramm"), "0 1 3 4 5 6 7 8 9 10 2 ");
-    QTest::keyClick(&find("cmbDiagramm_Typ"), Qt::Key_End);
-    EXPECT_EQ(entries("cmbDiagramm"), "0 19 20 21 13 14 22 2 15 16 4 11 12 17 18 5 6 7 8 9 10 ");
+    EXPECT_EQ(quantities(), "0 1 3 4 5 6 7 8 9 10 2 ");
     auto& types = find<QComboBox>("cmbDiagramm_Typ");
+    QTest::keyClick(&types, Qt::Key_End);
+    EXPECT_EQ(quantities(), "0 19 20 21 13 14 22 2 15 16 4 11 12 17 18 5 6 7 8 9 10 ");
+    QTest::keyClick(&find("picDiagramm"), Qt::Key_Right);
+    EXPECT_EQ(text("LabelPos"), "H   OZ 1   1");
     QTest::keyClick(&types, Qt::Key_Up);
     EXPECT_EQ(types.currentIndex(), 0) << "ternary needs three rows";
-    EXPECT_EQ(entries("cmbDiagramm"), "0 1 3 4 2 5 6 7 8 9 10 ");
-    EXPECT_FALSE(find("lblSteps").isVisible());
+    EXPECT_EQ(quantities(), "0 1 3 4 2 5 6 7 8 9 10 ");
     EXPECT_EQ(text("lblSteps"), "Schritte: 5");
     click("cmdKom_0");
-    choose("cmbDiagramm_Typ", "3 D - ternär");
+    QTest::keyClick(&types, Qt::Key_Down);
     const QImage coarse = picture();
-    click("cmdSteps_1");
-    EXPECT_EQ(text("lblSteps"), "Auflösung: 6");
+    std::string captions;
+    for (const char* const button : {"1", "1", "1", "1", "1", "1", "0"}) {
+        click(("cmdSteps_" + std::string(button)).c_str());
+        captions += text("lblSteps") + '|';
+    }
+    EXPECT_EQ(
+        captions, "Auflösung: 6|Auflösung: 7|Auflösung: 8|Auflösung: 9|Auflösung: 10|Auflösung: 1|Auflösung: 10|");
     EXPECT_NE(picture(), coarse);
-    for (int i = 0; i < 5; ++i)
-        click("cmdSteps_1");
-    EXPECT_EQ(text("lblSteps"), "Auflösung: 1");
-    click("cmdSteps_0");
-    EXPECT_EQ(text("lblSteps"), "Auflösung: 10");
-    EXPECT_TRUE(find("lblSteps").isVisible());
 }
 
 TEST_F(DiagrammbereichTest, ValueLabelsStepTheirRow)
 {
-    type("txtProzent_0", "99,6");
-    stepLabel("conLabel_0", "cmdStep_1"); // 100, and so on to 0
-    EXPECT_EQ(texts({"txtProzent_0", "txtProzent_1"}), "0|100");
-    stepLabel("conLabel_0", "cmdStep_0");
-    stepLabel("conLabel_0", "cmdStep_0");
-    stepLabel("conLabel_1", "cmdStep_0"); // the balance row's cannot
-    EXPECT_EQ(texts({"txtProzent_0", "txtProzent_1"}), "99|1");
-    EXPECT_FLOAT_EQ(programm->Calc().Valenz(), 2.98F);
+    type("txtProzent_0", "98,6");
+    for (const auto& [label, button, shown] : {std::tuple("conLabel_0", "cmdStep_1", "100|0"),
+             {"conLabel_0", "cmdStep_1", "0|100"}, {"conLabel_1", "cmdStep_0", "0|100"} /* balance row */}) {
+        QTest::mouseClick(find(label).findChild<QWidget*>(button), Qt::LeftButton);
+        EXPECT_EQ(texts({"txtProzent_0", "txtProzent_1"}), shown);
+    }
+    EXPECT_FLOAT_EQ(programm->Calc().Valenz(), 1) << "copper";
     EXPECT_FALSE(find("conLabel_2").isVisible());
 }
 
 TEST_F(DiagrammbereichTest, MenuCopiesAndSaves)
 {
-    EXPECT_EQ(chooseFromMenu(0), "Bild kopieren|Werte kopieren||Bild speichern ...|Drucken ...|");
+    EXPECT_EQ(menu({Qt::Key_Down, Qt::Key_Return}), "Bild kopieren|Werte kopieren||Bild speichern ...|Drucken ...|");
     EXPECT_EQ(QApplication::clipboard()->image(), picture());
-    chooseFromMenu(1);
+    menu({Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
     EXPECT_EQ(clipboard().substr(0, 28), "Al [at%]\te/a\r\n0\t0.5\r\n1\t0.525");
-    QTest::keyClick(&find("cmbDiagramm_Typ"), Qt::Key_End);
-    QTest::keyClick(&area(), Qt::Key_Right);
-    EXPECT_EQ(text("LabelPos"), "H   OZ 1   1");
-    QFont font = area().font();
-    font.setPointSizeF(40);
-    area().setFont(font);
-    for (const auto& [name, type, start] :
-        {std::tuple("a.png", 1, "\x89PNG"), {"a.svg", 2, "<?xml"}, {"a.pdf", 3, "%PDF"}}) {
-        saveDialog.answer = {(folder / name).string(), type};
-        chooseFromMenu(2);
-        EXPECT_EQ(bytesOf(folder / name).substr(0, 4), std::string(start).substr(0, 4));
+    for (const auto& [type, name] : {std::pair(1, "a.png"), {2, "a.svg"}, {3, "a.pdf"}}) {
+        saveDialog.answer = {(folder / "a").string(), type};
+        menu({Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
+        EXPECT_GT(bytesOf(folder / name).size(), 1000U) << name;
     }
-    const std::string svg = bytesOf(folder / "a.svg");
-    const std::size_t caption = svg.rfind(" y=\"", svg.find(">OZ</text>"));
-    EXPECT_LT(std::stoi(svg.substr(caption + 4)), area().height()) << "no label is cut off";
 }
 
 TEST_F(DiagrammbereichTest, RandomEditsLeaveNoTrace)
@@ -179,21 +139,26 @@ TEST_F(DiagrammbereichTest, RandomEditsLeaveNoTrace)
     std::mt19937 generator(1);
     const auto random = [&generator](
                             auto count) { return static_cast<int>(generator() % static_cast<unsigned>(count)); };
-    const int edits = qEnvironmentVariableIsSet("ZERNA_EDITS") ? qEnvironmentVariableIntValue("ZERNA_EDITS") : 2000;
+    const auto any = [&random](const auto& list) { return list.at(static_cast<std::size_t>(random(list.size()))); };
     const QImage before = picture();
-    for (int i = 0; i < edits; ++i) {
-        QList<QWidget*> widgets = window->findChildren<QWidget*>();
-        erase_if(widgets, [](auto* w) { return !w->isVisible() || !w->isEnabled() || w->objectName() == "cmdAbout"; });
-        QWidget* const widget = widgets.at(random(widgets.size()));
+    bool isSet = false;
+    const int edits = qEnvironmentVariableIntValue("ZERNA_EDITS", &isSet);
+    for (int i = 0; i < (isSet ? edits : 2000); ++i) {
+        std::vector<QWidget*> widgets;
+        for (QWidget* const w : window->findChildren<QWidget*>()) {
+            if (w->isVisible() && w->isEnabled() && w->focusPolicy() != Qt::NoFocus && w->objectName() != "cmdAbout")
+                widgets.push_back(w);
+        }
+        QWidget* const widget = any(widgets);
         if (auto* const field = qobject_cast<QLineEdit*>(widget)) {
             field->setFocus();
             field->selectAll();
             QTest::keyClick(field, Qt::Key_Delete);
-            QTest::keyClicks(field, Typed.at(static_cast<std::size_t>(random(Typed.size()))));
+            QTest::keyClicks(field, any(Typed));
         } else if (qobject_cast<QAbstractButton*>(widget) != nullptr) {
             QTest::mouseClick(widget, Qt::LeftButton);
         } else {
-            QTest::keyClick(widget, Keys.at(static_cast<std::size_t>(random(Keys.size()))));
+            QTest::keyClick(widget, any(Keys));
             QTest::mouseMove(window->windowHandle(), {random(window->width()), random(window->height())});
         }
         if (i % 50 == 0)
@@ -204,10 +169,10 @@ TEST_F(DiagrammbereichTest, RandomEditsLeaveNoTrace)
     click("optButton_1_0");
     while (text("lblAnzahl") != "2")
         click("cmdKom_1");
-    for (const auto& [control, entry] : {std::pair("cmbElement_0", "Al"), {"cmbElement_1", "Cu"},
+    for (const auto& [list, entry] : {std::pair("cmbElement_0", "Al"), {"cmbElement_1", "Cu"},
              {"cmdDichte_0", "kristallin"}, {"cmdDichte_1", "kristallin"}, {"cmbValenz_0", "Standard"},
              {"cmbValenz_1", "Standard"}, {"cmbDiagramm", "Valenz"}, {"cmbDiagramm_Element", "Al"}})
-        choose(control, entry);
+        choose(list, entry);
     type("txtProzent_0", "50");
     EXPECT_EQ(picture(), before);
     EXPECT_EQ(text("lblMFE_7"), "9,8778 eV");
