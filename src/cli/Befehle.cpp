@@ -134,6 +134,9 @@ public:
     {
         const float gesamt = wiegezahlArgument();
         const auto count = static_cast<int>(loadAlloy().size());
+        if (m_kern.calc().Element_Prozente(0) == 0)
+            throw Datenfehler(
+                "Komponente \"" + m_optionen.komponenten.front() + "\": hat 0 at% und ist der Bezug der Rechnung");
         putTable(wiegetabelle(m_kern.calc(), count, gesamt));
     }
 
@@ -247,6 +250,7 @@ void defineCommands(CLI::App& app, Optionen& optionen, Befehl& chosen)
         CLI::App* const command = parent.add_subcommand(name, description);
         command->callback([&chosen, befehl] { chosen = befehl; });
         command->option_defaults()->group("Optionen");
+        command->group("Befehle");
         return command;
     };
     app.option_defaults()->group("Optionen");
@@ -278,6 +282,7 @@ void defineCommands(CLI::App& app, Optionen& optionen, Befehl& chosen)
         addOutput(*command, optionen);
     }
     CLI::App* const elemente = app.add_subcommand("elemente", "Elementdaten umwandeln");
+    elemente->group("Befehle");
     elemente->require_subcommand(1);
     CLI::App* const exportieren =
         add(*elemente, "exportieren", "Elementdaten als CSV-Tabelle", &Befehle::elementeExportieren);
@@ -347,7 +352,7 @@ int runCommandLine(int argc, char** argv)
         return 0;
     } catch (const CLI::CallForHelp&) {
         const auto chosenApps = app.get_subcommands();
-        std::cout << (chosenApps.empty() ? app : *chosenApps.front()).help();
+        std::cout << (chosenApps.empty() ? app.help() : chosenApps.front()->help("zerna-cli"));
         return 0;
     } catch (const CLI::ParseError& error) {
         std::cerr << "zerna-cli: " << germanReason(app, error) << " (Hilfe: zerna-cli --hilfe)\n";

@@ -110,10 +110,13 @@ std::vector<Komponentenzeile> Rechenkern::setAlloy(std::span<const Komponentenan
     for (const Komponentenangabe& angabe : angaben)
         zeilen.push_back(setElement(angabe));
     m_komponenten.clear();
-    for (const Komponentenzeile& zeile : zeilen) {
+    for (Komponentenzeile& zeile : zeilen) {
+        const auto& element = m_elements.Item(zeile.symbol);
+        zeile.dichte = textOfSingle(element->Dichte()); // an element given twice has the values given last
+        zeile.valenz = element->Valenz_Temp();
         const float prozent = singleFromText(zeile.prozent);
         m_calc.Element_Add(static_cast<int>(m_komponenten.size()), zeile.symbol, prozent);
-        m_komponenten.push_back({m_elements.Item(zeile.symbol), prozent});
+        m_komponenten.push_back({element, prozent});
     }
     if (istUnbekannt(m_calc.Valenz()))
         throw Datenfehler("Die Legierung lässt sich mit diesen Dichten und Valenzen nicht berechnen");

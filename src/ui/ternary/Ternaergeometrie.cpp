@@ -13,6 +13,8 @@ namespace {
 constexpr double TriangleHeight = std::numbers::sqrt3 / 2;
 constexpr double BaseLine = -TriangleHeight / 3; // y of the first two corners
 
+constexpr double CornerSpace = 60; // pixels for the corners' symbols beside the flat triangle
+
 double radians(double degrees) { return degrees * std::numbers::pi / 180; }
 
 double wrapped(double degrees)
@@ -51,7 +53,7 @@ Projektion::Projektion(const Ansicht& ansicht, double width, double height)
     m_cosTurn = std::cos(turn);
     m_middle = SurfaceHeight / 2;
     if (ansicht.flach) { // only the triangle must fit, and its middle, not its centre, belongs into the picture's
-        m_scale = ansicht.zoom * std::max(1.0, std::min(width, height / TriangleHeight)) * 0.95;
+        m_scale = ansicht.zoom * std::max(1.0, std::min(width - CornerSpace, (height - CornerSpace) / TriangleHeight));
         m_centreY += m_scale * (TriangleHeight / 2 - TriangleHeight / 3);
     }
 }
