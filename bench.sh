@@ -10,7 +10,7 @@ fail() {
 }
 
 "$root/packaging/install-debian-packages.sh" bench
-cmake -S "$root" --preset release -B "$root/build/bench" -DZERNA_BENCH=ON -DZERNA_WINDOW=OFF ||
+cmake -S "$root" --preset release -B "$root/build/bench" -DZERNA_BENCH=ON -DZERNA_WINDOW=ON ||
     fail "Die Messungen ließen sich nicht einrichten."
 cmake --build "$root/build/bench" --target zerna_bench || fail "Die Messungen ließen sich nicht übersetzen."
 exec "$root/build/bench/bin/zerna_bench" "$@"

@@ -26,6 +26,7 @@ void registerBearbeitungBenchmarks();
 void registerEinwaageBenchmarks();
 void registerPeriodentafelBenchmarks();
 void registerTernaerBenchmarks();
+void registerDiagrammBenchmarks();
 
 namespace {
 
@@ -59,6 +60,9 @@ constexpr std::array Verhaeltnisse{
     Verhaeltnis{
         "Ternärgitter : bloße Schleife", "Ternaergitter/rechnen", "Ternaergitter/bloße Schleife", Hoechstens, 2.5},
     Verhaeltnis{"Ternärdiagramm : Dreiecke füllen", "Ternaerdiagramm/drehen", "Ternaerdiagramm/Dreiecke", OhneZiel, 0},
+    Verhaeltnis{"Reihe : bloße Schleife", "Reihe/rechnen", "Reihe/bloße Schleife", Hoechstens, 2.5},
+    Verhaeltnis{"Dichtereihe : bloße Schleife", "Dichtereihe/rechnen", "Dichtereihe/bloße Schleife", Hoechstens, 2.5},
+    Verhaeltnis{"Diagramm : bloßes Zeichnen", "Diagramm/neu zeichnen", "Diagramm/nur zeichnen", Hoechstens, 1.2},
 };
 
 /// Prints the medians only and keeps CPU time (ns) and counters of each.
@@ -143,6 +147,17 @@ void printEdit(const char* name, const MedianReporter& reporter)
         Ergebnistextzahl, verdict(texts <= Ergebnistextzahl));
 }
 
+/// The benchmark's own time or one of its counters, in milliseconds.
+void printTime(const char* name, const char* counter, double ziel, const MedianReporter& reporter)
+{
+    const auto found = reporter.medians().find(name);
+    if (found == reporter.medians().end())
+        return;
+    const double ms = counter != nullptr ? found->second.counters.at(counter) : found->second.nanoseconds * 1e-6;
+    const std::string text = std::string(name) + (counter != nullptr ? std::string(" ").append(counter, 3) : "");
+    std::printf("%s %7.2f ms <= %2.0f  %s\n", column(text).c_str(), ms, ziel, verdict(ms <= ziel));
+}
+
 } // namespace
 
 } // namespace zerna
@@ -171,6 +186,7 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     zerna::registerPeriodentafelBenchmarks();
     zerna::registerTernaerBenchmarks();
+    zerna::registerDiagrammBenchmarks();
 #endif
     zerna::MedianReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
@@ -181,5 +197,8 @@ int main(int argc, char** argv)
         zerna::printRatio(verhaeltnis, reporter);
     zerna::printEdit("Bearbeitung/2 Komponenten", reporter);
     zerna::printEdit("Bearbeitung/5 Komponenten", reporter);
+    zerna::printTime("Diagramm/neu zeichnen", nullptr, 2, reporter);
+    zerna::printTime("Diagramm/Taste", "p50_ms", 8, reporter);
+    zerna::printTime("Diagramm/Taste", "p99_ms", 8, reporter);
     return reporter.failed() ? 1 : 0;
 }

@@ -44,9 +44,9 @@ Datei::Datei(const std::filesystem::path& path, Zugriff zugriff)
         throw Laufzeitfehler(folderMissing ? Fehler::PfadNichtGefunden : fehlerOfSystem(errno));
     }
     std::error_code noOrdinaryFile;
-    if (std::filesystem::is_directory(path, noOrdinaryFile)) // opens for reading here and there, but has no end
-        throw Laufzeitfehler(Fehler::PfadZugriff);
     const auto size = std::filesystem::file_size(path, noOrdinaryFile);
+    if (noOrdinaryFile == std::errc::is_a_directory) // opens for reading here and there, but has no end
+        throw Laufzeitfehler(Fehler::PfadZugriff);
     m_size = noOrdinaryFile ? 0 : size;
 }
 
@@ -97,15 +97,6 @@ void Datei::fill(std::size_t count)
         return;
     m_next = m_buffer.size(); // else the rest of a cut-off record would be taken for the next ones
     throw Laufzeitfehler(Fehler::HinterDateiende);
-}
-
-std::string Datei::readText(std::size_t count)
-{
-    if (m_buffer.size() - m_next < count)
-        fill(count);
-    std::string text = m_buffer.substr(m_next, count);
-    m_next += count;
-    return text;
 }
 
 std::string Datei::readLine()

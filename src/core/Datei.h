@@ -39,8 +39,15 @@ public:
         m_next += count;
     }
 
-    /// The next `count` bytes as text. Error 62 if there are fewer.
-    std::string readText(std::size_t count);
+    /// The next `count` bytes as text, valid until the next call. Error 62 if there are fewer.
+    std::string_view readText(std::size_t count)
+    {
+        if (m_buffer.size() - m_next < count)
+            fill(count);
+        const std::string_view text(m_buffer.data() + m_next, count);
+        m_next += count;
+        return text;
+    }
 
     /// The next line without its end (CR LF, CR or LF). Error 62 at the end of the file.
     std::string readLine();

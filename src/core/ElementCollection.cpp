@@ -8,6 +8,11 @@ namespace zerna {
 
 void ElementCollection::Add(Element element, std::string_view key)
 {
+    if (m_elements.empty()) { // a full table fits without growing
+        constexpr std::size_t Tafelgroesse = 128;
+        m_elements.reserve(Tafelgroesse);
+        m_positions.reserve(Tafelgroesse);
+    }
     if (!m_positions.try_emplace(std::string(key), m_elements.size()).second)
         throw Laufzeitfehler(Fehler::SchluesselVergeben);
     m_elements.push_back(std::move(element));

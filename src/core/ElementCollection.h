@@ -35,8 +35,10 @@ public:
     auto end() const { return m_elements.end(); }
 
 private:
-    struct Hash : std::hash<std::string_view> {
+    struct Hash {
         using is_transparent = void;
+        // Not noexcept, so that the library keeps each key's hash instead of computing it anew at every step.
+        std::size_t operator()(std::string_view key) const { return std::hash<std::string_view>()(key); }
     };
 
     std::vector<Element> m_elements;

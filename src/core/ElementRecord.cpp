@@ -32,7 +32,7 @@ void readField(Datei& file, std::string& field)
 {
     std::uint16_t length = 0;
     file.read(&length, sizeof length);
-    field = fromWindows1252(file.readText(length));
+    readWindows1252(file.readText(length), field);
 }
 
 template <class Field>

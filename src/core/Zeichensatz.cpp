@@ -15,7 +15,10 @@ constexpr std::array<std::uint16_t, 32> Sonderzeichen{0x20AC, 0x0081, 0x201A, 0x
 
 bool isAscii(std::string_view text)
 {
-    return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    unsigned char bits = 0; // without an early end, so that many bytes are looked at in one step
+    for (const char c : text)
+        bits |= static_cast<unsigned char>(c);
+    return bits < 0x80;
 }
 
 char byteOf(std::uint32_t codePoint)
@@ -89,16 +92,24 @@ std::string toWindows1252(std::string_view utf8)
 
 std::string fromWindows1252(std::string_view bytes)
 {
-    if (isAscii(bytes))
-        return std::string(bytes);
     std::string text;
+    readWindows1252(bytes, text);
+    return text;
+}
+
+void readWindows1252(std::string_view bytes, std::string& text)
+{
+    if (isAscii(bytes)) {
+        text.assign(bytes);
+        return;
+    }
+    text.clear();
     text.reserve(bytes.size() * 2);
     for (const char c : bytes) {
         const auto byte = static_cast<unsigned char>(c);
         const bool special = byte >= 0x80 && byte < 0xA0;
         appendUtf8(text, special ? Sonderzeichen.at(byte - 0x80U) : byte);
     }
-    return text;
 }
 
 } // namespace zerna

@@ -13,4 +13,7 @@ std::string toWindows1252(std::string_view utf8);
 /// the same number, so that every byte text survives there and back.
 std::string fromWindows1252(std::string_view bytes);
 
+/// The same into an existing text.
+void readWindows1252(std::string_view bytes, std::string& text);
+
 } // namespace zerna

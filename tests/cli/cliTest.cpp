@@ -18,7 +18,7 @@ struct cliTest : FilesTest {
     /// Runs the program with arguments as a shell reads them.
     Answer run(const std::string& arguments) const
     {
-        const std::string command = "exec 2>&1; cd " + folder.path().string() + "; " ZERNA_BIN_DIR "/zerna-cli ";
+        const std::string command = "exec 2>&1; cd '" + folder.path().string() + "'; '" ZERNA_BIN_DIR "/zerna-cli' ";
         Answer answer;
         FILE* const pipe = popen((command + arguments).c_str(), "r");
         for (int c = std::fgetc(pipe); c != EOF; c = std::fgetc(pipe))

@@ -49,7 +49,11 @@ TEST_F(KompositionTest, BalanceRowTakesWhatIsMissing)
         EXPECT_EQ(ausgleichstext(prozente), rest);
     EXPECT_EQ(ausgleichstext(std::vector<std::string>{"50", "", "abc"}), std::nullopt) << "still being typed";
     for (const auto& [text, error] : {std::pair("abc", 13), {" ", 13}, {"1.234,5", 13}, {"3e38", 6}})
-        EXPECT_EQ(errorNumber([&] { ausgleichstext(std::vector<std::string>{"3e38", text}); }), error) << text;
+        EXPECT_EQ(errorNumber([&, text = text] {
+            ausgleichstext(std::vector<std::string>{"3e38", text});
+        }),
+            error)
+            << text;
 }
 
 TEST_F(KompositionTest, FirstFaultyRowKeepsDiagramsFromBeingDrawn)

@@ -1,7 +1,6 @@
 #include "model/Konzentrationsreihe.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "core/Unbekannt.h"
 #include "support/FilesTest.h"
@@ -39,9 +38,6 @@ TEST_F(KonzentrationsreiheTest, OtherComponentsShareTheRestAsEntered)
     for (const auto& [step, particles] : {std::pair(0U, 54.74675), {40U, 56.81266}, {100U, 60.22142}})
         EXPECT_NEAR(series(0, 1).at(step), particles, 1e-5);
     EXPECT_FLOAT_EQ(series(2, 0).at(100), 2.5) << "another component along the axis";
-    alloy.at(1).prozent = alloy.at(2).prozent = 0;
-    EXPECT_TRUE(istUnbekannt(series(0, 4).at(0))) << "without particles";
-    EXPECT_FALSE(istUnbekannt(series(0, 4).at(1)));
 }
 
 TEST_F(KonzentrationsreiheTest, EachCodeHasItsQuantityAndUnit)
@@ -52,7 +48,7 @@ TEST_F(KonzentrationsreiheTest, EachCodeHasItsQuantityAndUnit)
              {2, "e/nm³", 95.4453}, {4, "nm³", 1.76017e-29}, {5, "m³/As", -6.53936e-11}, {6, "V/K²", -9.62363e-9},
              {7, "eV", 11.4719}, {8, "eV", 7.61564}, {9, "1/nm", 28.2762}, {10, "nm", 0.222207}}) {
         EXPECT_EQ(reiheneinheit(groesse), einheit);
-        EXPECT_NEAR(series(0, groesse).at(40), value, std::abs(value) * 1e-4) << einheit;
+        EXPECT_NEAR(series(0, groesse).at(40) / value, 1, 1e-4) << einheit;
     }
     EXPECT_FLOAT_EQ(calc.Teilchenzahldichte(), 50) << "the calculator keeps the alloy";
 }

@@ -1,7 +1,6 @@
 #include "model/PSEReihe.h"
 
 #include <array>
-#include <cmath>
 
 #include "core/Unbekannt.h"
 #include "support/FilesTest.h"
@@ -48,12 +47,11 @@ TEST_F(PSEReiheTest, EachCodeHasItsTitleAndValues)
              {22, "flüssige Dichte (kristallin - flüssig) [%]", 50, false}}) {
         const PSEReihe reihe = pseReihe(elements, calc, code, "davor");
         EXPECT_EQ(reihe.titel, titel);
-        EXPECT_NEAR(reihe.y.at(0), value, std::abs(value) * 1e-4) << titel;
+        EXPECT_NEAR(reihe.y.at(0) / value, 1, 1e-4) << titel;
         EXPECT_EQ(istUnbekannt(reihe.y.at(1)), !hasB) << titel;
     }
     // Intended: 6,022136e23, not the 6,022142e23 of the concentration series.
     EXPECT_FLOAT_EQ(pseReihe(elements, calc, 19).y.at(0), 2e23F);
-    EXPECT_FLOAT_EQ(pseReihe(elements, calc, 2).y.at(0), 400);
 }
 
 TEST_F(PSEReiheTest, OtherCodesFillNothingAndAreNotOffered)

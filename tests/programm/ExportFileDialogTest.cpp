@@ -13,7 +13,7 @@ struct ExportFileDialogTest : FilesTest {
         return ExportFileDialog(dialog, filterIndex, isDiagram, is3D);
     }
 
-    const KeptCurrentFolder kept;
+    KeptCurrentFolder kept;
     FakeSaveDialog dialog;
     int filterIndex = 7;
 };

@@ -67,7 +67,7 @@ TEST_F(RechenkernTest, BadComponentsAreNamed)
         {"Li=50:valenz=2+1/0", "Komponente \"Li=50:valenz=2+1/0\": Valenz \"2+1/0\": Division durch Null (Zeichen 4)"},
     };
     for (const auto& [text, message] : rows)
-        EXPECT_EQ(fault([&] { alloy({text}); }), message);
+        EXPECT_EQ(fault([&, text = text] { alloy({text}); }), message);
     EXPECT_EQ(fault([&] { alloy(std::vector<std::string>(6, "Li=10")); }),
         "! Eine Legierung hat eine bis fünf Komponenten, angegeben sind 6");
     EXPECT_NE(fault([&] { alloy({}); }), "");

@@ -85,7 +85,7 @@ struct FakeDesk : testing::Test {
     }
 
     /// Replaces the text of a field letter by letter, so that the texts in between are seen too.
-    void type(const char* name, const char* typed)
+    void type(const char* name, const char* typed) const
     {
         auto& field = find<QLineEdit>(name);
         QTest::mouseClick(&field, Qt::LeftButton);
@@ -96,7 +96,7 @@ struct FakeDesk : testing::Test {
     }
 
     /// Moves the selection of a list with the arrow keys.
-    void choose(const char* name, const char* entry)
+    void choose(const char* name, const char* entry) const
     {
         auto& list = find<QComboBox>(name);
         const int target = list.findText(QString::fromUtf8(entry));
@@ -106,11 +106,11 @@ struct FakeDesk : testing::Test {
             QTest::keyClick(&list, list.currentIndex() < target ? Qt::Key_Down : Qt::Key_Up);
     }
 
-    void click(const char* name) { QTest::mouseClick(&find(name), Qt::LeftButton); }
+    void click(const char* name) const { QTest::mouseClick(&find(name), Qt::LeftButton); }
 
     static std::string clipboard() { return QApplication::clipboard()->text().toStdString(); }
 
-    const KeptCurrentFolder kept;
+    KeptCurrentFolder kept;
     TemporaryFolder folder;
     RecordingBoxes boxes;
     FakeSettings settings;

@@ -67,7 +67,7 @@ struct StyledButtonTest : testing::Test {
     }
     ~StyledButtonTest() override { StyledButton::setApplicationTheme({}); }
 
-    void moveMouseTo(const QPoint& place) { QTest::mouseMove(window.windowHandle(), place); }
+    void moveMouseTo(const QPoint& place) const { QTest::mouseMove(window.windowHandle(), place); }
 
     QWidget window;
     QVBoxLayout layout{&window};

@@ -1,6 +1,8 @@
 #include "ui/diagram/Achsen.h"
 
-#include "support/FilesTest.h"
+#include <gtest/gtest.h>
+
+#include <tuple>
 
 namespace zerna {
 
@@ -27,8 +29,6 @@ TEST(AchsenTest, RangeHasAMarginOfTheLargestValue)
         EXPECT_NEAR(yBereich(smallest, largest).min, bottom, 1e-5) << smallest;
         EXPECT_NEAR(yBereich(smallest, largest).max, top, 1e-6) << smallest;
     }
-    EXPECT_EQ(errorNumber([] { yBereich(0, 0); }), 11);
-    EXPECT_EQ(errorNumber([] { yBereich(0, 3.3e38F); }), 6);
 }
 
 TEST(AchsenTest, LabelsTurnScientificWhereTheLogarithmExceedsSeven)
@@ -73,7 +73,6 @@ TEST(AchsenTest, PixelsAreWholeHalvesToEvenAndMapBack)
     for (const auto& [y, row] : {std::pair(0.0, 100), {0.0625, 99}, {10.0, 0}, {9.75, 2}, {9.65, 4}, {-1.0, 110}})
         EXPECT_EQ(abbildung.row(y), row) << y;
     EXPECT_EQ(std::pair(abbildung.x(50), abbildung.y(25)), std::pair(25.0, 7.5));
-    EXPECT_EQ(errorNumber([] { Abbildung(200, 100, {0, 100}, {5, 5}); }), 11);
 }
 
 } // namespace zerna

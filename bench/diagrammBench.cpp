@@ -1,0 +1,242 @@
+#include <QApplication>
+#include <QComboBox>
+#include <QImage>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPainter>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+
+#include <benchmark/benchmark.h>
+
+#include "bench/Aufbau.h"
+#include "model/Konstanten.h"
+#include "model/Konzentrationsreihe.h"
+#include "tests/support/FakeServices.h"
+#include "ui/diagram/Achsen.h"
+#include "ui/diagram/Striche.h"
+#include "ui/diagram/conDisplay.h"
+#include "ui/main/frmMain.h"
+#include "ui/platform/QtText.h"
+
+namespace zerna {
+
+namespace {
+
+constexpr int Fermienergie = 8;
+constexpr std::array<float, MaxKomponenten> Prozente{40, 20, 20, 10, 10};
+constexpr QSize Bildgroesse(1200, 800);
+
+std::vector<Reihenkomponente> komponenten(const Aufbau& aufbau)
+{
+    std::vector<Reihenkomponente> result;
+    for (std::size_t i = 0; i < Prozente.size(); ++i)
+        result.push_back({aufbau.elements.Item(Aufbau::Symbole.at(i)), Prozente.at(i)});
+    return result;
+}
+
+void reihe(benchmark::State& state)
+{
+    Aufbau aufbau;
+    const auto alloy = komponenten(aufbau);
+    for (auto _ : state) // NOLINT(clang-analyzer-deadcode.DeadStores)
+        benchmark::DoNotOptimize(konzentrationsreihe(aufbau.calc, aufbau.parser, alloy, 0, Fermienergie));
+}
+
+/// The same formulas from ready numbers, without a check anywhere.
+Reihe bareSeries(const std::array<Anteil, MaxKomponenten>& teile)
+{
+    const double factor =
+        1.0545716e-34 * 1.0545716e-34 / 2 / 9.109382e-31 * std::pow(3 * Pi * Pi, 2.0 / 3.0) / ElektronvoltInJoule;
+    Reihe values{};
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        double valenz = 0;
+        float volumen = 0;
+        for (std::size_t k = 0; k < teile.size(); ++k) {
+            const auto step = static_cast<double>(i);
+            const double prozent = k == 0 ? step : static_cast<double>(Prozente[k]) * (100 - step) / 100;
+            valenz += prozent * teile[k].valenz;
+            volumen = static_cast<float>(volumen + prozent * teile[k].molvolumen);
+        }
+        const double electrons = valenz / 100 * static_cast<float>(AvogadroProKubikmeter / (volumen / 100.0));
+        values[i] = static_cast<float>(factor * std::pow(electrons, 2.0 / 3.0));
+    }
+    return values;
+}
+
+void reiheBloss(benchmark::State& state)
+{
+    Aufbau aufbau;
+    const auto alloy = komponenten(aufbau);
+    auto teile = anteile(aufbau.parser, alloy);
+    const Reihe expected = konzentrationsreihe(aufbau.calc, aufbau.parser, alloy, 0, Fermienergie);
+    if (std::abs(bareSeries(teile)[40] - expected[40]) > 1e-5F * expected[40])
+        state.SkipWithError("rechnet anders als die Reihe");
+    for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
+        benchmark::DoNotOptimize(teile);
+        benchmark::DoNotOptimize(bareSeries(teile));
+    }
+}
+
+constexpr std::array<float, MaxKomponenten> Dichten{2.7F, 8.96F, 7.14F, 1.738F, 8.908F};
+
+void dichte(benchmark::State& state)
+{
+    auto dichten = Dichten;
+    for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
+        benchmark::DoNotOptimize(dichten);
+        benchmark::DoNotOptimize(dichtereihe(dichten, 0));
+    }
+}
+
+void dichteBloss(benchmark::State& state)
+{
+    auto dichten = Dichten;
+    for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
+        benchmark::DoNotOptimize(dichten);
+        Reihe values{};
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            double sum = static_cast<double>(dichten[0]) * static_cast<double>(i) / 100;
+            for (std::size_t j = 1; j < dichten.size(); ++j)
+                sum += (100 - static_cast<double>(i)) / static_cast<double>(dichten.size() - 1) / 100 * dichten[j];
+            values[i] = static_cast<float>(sum);
+        }
+        benchmark::DoNotOptimize(values);
+    }
+}
+
+/// The program with its window, five components and the Fermi energy in the diagram.
+class Fenster {
+public:
+    Fenster()
+        : m_programm(m_boxes, m_settings, pathFromUtf8(Datenpfad).parent_path())
+    {
+        m_settings["Komponenten"] = "4";
+        for (std::size_t i = 0; i < Aufbau::Symbole.size(); ++i)
+            m_settings["Element_" + std::to_string(i)] = Aufbau::Symbole.at(i);
+        m_programm.start([this]() -> Hauptfenster& {
+            m_window = std::make_unique<frmMain>(m_programm, Dialoge{m_saveDialog, m_inputBox});
+            return *m_window;
+        });
+        auto& quantities = find<QComboBox>("cmbDiagramm");
+        quantities.setCurrentIndex(quantities.findData(Fermienergie));
+        emit quantities.activated(quantities.currentIndex());
+        QCoreApplication::processEvents();
+    }
+
+    template <class Widget>
+    Widget& find(const char* name) const
+    {
+        return *m_window->findChild<Widget*>(QLatin1String(name));
+    }
+
+private:
+    StummeMeldungen m_boxes;
+    FakeSettings m_settings;
+    FakeSaveDialog m_saveDialog;
+    FakeInputBox m_inputBox;
+    Programm m_programm;
+    std::unique_ptr<frmMain> m_window;
+};
+
+void neuzeichnen(benchmark::State& state)
+{
+    const Fenster fenster;
+    auto& display = fenster.find<conDisplay>("conDisplay1");
+    display.resize(Bildgroesse);
+    QImage image(Bildgroesse, QImage::Format_RGB32);
+    for (auto _ : state) // NOLINT(clang-analyzer-deadcode.DeadStores)
+        display.render(&image);
+}
+
+/// The same lines, ticks and labels at ready places, and nothing else.
+void nurZeichnen(benchmark::State& state)
+{
+    const Rechteck plot = plotArea(Bildgroesse.width(), Bildgroesse.height());
+    QPolygonF curve;
+    for (int i = 0; i <= 100; ++i)
+        curve << QPointF(60.5 + std::round(plot.width * i / 100), 700.5 - std::round(6.0 * i));
+    QImage image(Bildgroesse, QImage::Format_RGB32);
+    for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
+        QPainter painter(&image);
+        painter.fillRect(image.rect(), Qt::white);
+        painter.setPen(Qt::black);
+        for (int k = 0; k < 10; ++k) {
+            painter.fillRect(QRectF(53, 770 - 77 * k, 7, 1), Qt::black);
+            painter.drawText(QPointF(5, 776 - 77 * k), QStringLiteral("10,%1").arg(100 + k));
+        }
+        for (int k = 0; k <= 10; ++k) {
+            painter.fillRect(QRectF(60 + 114 * k, 770, 1, 7), Qt::black);
+            painter.drawText(QPointF(54 + 114 * k, 795), QString::number(10 * k));
+        }
+        painter.fillRect(QRectF(59, 0, 1, 770), Qt::black);
+        painter.fillRect(QRectF(59, 770, 1141, 1), Qt::black);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(Qt::blue, Kurvenbreite, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.drawPolyline(curve);
+    }
+}
+
+/// Counts how often a widget is painted.
+class Malzaehler : public QObject {
+public:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
+};
+
+/// One key in an at% field until nothing is left to do and everything is painted.
+void taste(benchmark::State& state)
+{
+    const Fenster fenster;
+    auto& field = fenster.find<QLineEdit>("txtProzent_0");
+    Malzaehler paintings;
+    fenster.find<QWidget>("pic").installEventFilter(&paintings);
+    field.setFocus();
+    field.setText(QStringLiteral("2"));
+    QCoreApplication::processEvents();
+    paintings.count = 0;
+    int keys = 0;
+    std::vector<double> milliseconds;
+    for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
+        const auto start = std::chrono::steady_clock::now();
+        const int digit = keys / 2 % 10;
+        const bool types = keys++ % 2 == 0;
+        const int key = types ? Qt::Key_0 + digit : static_cast<int>(Qt::Key_Backspace);
+        const QString text = types ? QString::number(digit) : QString();
+        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(type, key, Qt::NoModifier, text);
+            QCoreApplication::sendEvent(&field, &event);
+        }
+        QCoreApplication::processEvents();
+        milliseconds.push_back(
+            std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
+    }
+    if (paintings.count < keys)
+        state.SkipWithError("nicht nach jeder Taste gezeichnet");
+    std::ranges::sort(milliseconds);
+    state.counters["p50_ms"] = milliseconds[milliseconds.size() / 2];
+    state.counters["p99_ms"] = milliseconds[milliseconds.size() * 99 / 100];
+}
+
+} // namespace
+
+void registerDiagrammBenchmarks()
+{
+    constexpr int Tasten = 500;
+    benchmark::RegisterBenchmark("Reihe/rechnen", reihe);
+    benchmark::RegisterBenchmark("Reihe/bloße Schleife", reiheBloss);
+    benchmark::RegisterBenchmark("Dichtereihe/rechnen", dichte);
+    benchmark::RegisterBenchmark("Dichtereihe/bloße Schleife", dichteBloss);
+    benchmark::RegisterBenchmark("Diagramm/neu zeichnen", neuzeichnen);
+    benchmark::RegisterBenchmark("Diagramm/nur zeichnen", nurZeichnen);
+    benchmark::RegisterBenchmark("Diagramm/Taste", taste)->Iterations(Tasten);
+}
+
+} // namespace zerna

@@ -1,0 +1,63 @@
+#include <QImage>
+#include <QPainter>
+
+#include <benchmark/benchmark.h>
+
+#include "bench/Aufbau.h"
+#include "model/PSETafel.h"
+#include "ui/main/Periodentafel.h"
+#include "ui/platform/QtText.h"
+
+namespace zerna {
+
+namespace {
+
+constexpr int Breite = 1600;
+constexpr int Hoehe = 1000;
+
+void periodentafel(benchmark::State& state)
+{
+    const Aufbau aufbau;
+    Periodentafel tafel(aufbau.elements);
+    tafel.resize(Breite, Hoehe);
+    QImage image(tafel.size(), QImage::Format_ARGB32_Premultiplied);
+    for (auto _ : state) // NOLINT(clang-analyzer-deadcode.DeadStores)
+        tafel.render(&image);
+}
+
+/// A filled and framed rectangle per element with its number, symbol and name, and nothing else.
+void rechtecke(benchmark::State& state)
+{
+    const Aufbau aufbau;
+    const Tafelmassstab scale(Breite, Hoehe);
+    QImage image(Breite, Hoehe, QImage::Format_ARGB32_Premultiplied);
+    QFont small;
+    small.setPixelSize(14);
+    QFont large;
+    large.setPixelSize(33);
+    for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        painter.setBrush(Qt::lightGray);
+        for (const auto& element : aufbau.elements) {
+            const Zelle cell = scale.cell(element->X(), element->Y());
+            const QRectF area(cell.left, cell.top, cell.width, cell.height);
+            painter.drawRect(area);
+            painter.setFont(small);
+            painter.drawText(area, Qt::AlignLeft | Qt::AlignTop, QString::number(element->OZ()));
+            painter.drawText(area, Qt::AlignHCenter | Qt::AlignBottom, toQt(element->Name()));
+            painter.setFont(large);
+            painter.drawText(area, Qt::AlignCenter, toQt(element->symbol()));
+        }
+    }
+}
+
+} // namespace
+
+void registerPeriodentafelBenchmarks()
+{
+    benchmark::RegisterBenchmark("Periodentafel/zeichnen", periodentafel);
+    benchmark::RegisterBenchmark("Periodentafel/Rechtecke", rechtecke);
+}
+
+} // namespace zerna
