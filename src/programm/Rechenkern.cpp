@@ -60,6 +60,8 @@ Komponentenangabe komponentenangabe(std::string_view text)
             fail("unbekannte Angabe " + inQuotes(key));
         }
     }
+    if (text.ends_with(':'))
+        fail("hinter \":\" fehlt eine Angabe");
     if (!isNumber(angabe.prozent))
         fail("at% " + inQuotes(angabe.prozent) + " ist keine gültige Zahl");
     return angabe;

@@ -220,8 +220,9 @@ void Ergebnisbereich::measure()
         const bool aligned = !zeile.editable && zeile.index != Friedelzeile;
         line(zeile.index)->setEinheit(toQt(zeile.unit), aligned ? numberWidth : 0);
     }
+    constexpr int FieldFrame = 10;
     for (Wertfeld* const edit : m_txtMFE)
-        edit->setFixedWidth(numberWidth);
+        edit->setFixedWidth(numberWidth + FieldFrame);
     m_label7->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral(" n = 21 ")));
 }
 

@@ -18,6 +18,7 @@ namespace {
 
 constexpr std::array<const char*, MaxKomponenten> AnfangsProzente{"50", "50", "0", "0", "0"};
 constexpr int Zeilenhoehe = 26;
+constexpr int Zeilenabstand = 4;
 
 /// Why a text is no number; empty if it is one.
 QString numberFault(const QString& text)
@@ -138,7 +139,7 @@ void Kompositionsbereich::layOut()
 
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(6);
-    grid->setVerticalSpacing(4);
+    grid->setVerticalSpacing(0); // the toolkit drops the spacing of hidden rows
     grid->addWidget(m_heads[0], 0, 0, 1, 2);
     grid->addWidget(m_heads[1], 0, 2);
     grid->addWidget(m_heads[2], 0, 3, 1, 2);
@@ -166,7 +167,7 @@ void Kompositionsbereich::layOutRow(QGridLayout& grid, int row)
     }
     // A long name must not push the columns; it is cut and the tool tip has it whole.
     at(row).lblElement->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    grid.setRowMinimumHeight(row + 1, Zeilenhoehe);
+    grid.setRowMinimumHeight(row + 1, Zeilenhoehe + Zeilenabstand);
 }
 
 void Kompositionsbereich::restoreCount()

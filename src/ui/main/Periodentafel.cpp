@@ -79,6 +79,9 @@ QFont sized(QFont font, double pixels)
     return font;
 }
 
+/// Size in pixels of all texts of a cell but its symbol.
+double smallTextSize(double width, double height) { return std::clamp(std::min(width, height) * 0.2, 6.0, 14.0); }
+
 QString numberText(double value)
 {
     const std::string text(trimmed(FormatValue(static_cast<float>(value), "")));
@@ -86,6 +89,7 @@ QString numberText(double value)
 }
 
 constexpr double Gap = 1.5; // between cells
+constexpr double CellMargin = 4; // beside the texts of a cell, together
 constexpr double Lift = 2; // of the cell under the mouse
 
 } // namespace
@@ -325,14 +329,14 @@ void Periodentafel::paintCell(QPainter& painter, const clsElement& element, std:
     }
 }
 
-/// Atomic number and symbol; below them the name, or the mass where the name is too long, where there is room.
+/// Atomic number and symbol; below them name or mass where there is room.
 void Periodentafel::paintCellTexts(
     QPainter& painter, const clsElement& element, const QRectF& cell, const QColor& text) const
 {
     constexpr double SmallestText = 8; // pixels
     const double unit = std::min(cell.width(), cell.height());
     painter.setPen(text);
-    const double small = std::clamp(unit * 0.2, 6.0, 14.0);
+    const double small = smallTextSize(cell.width(), cell.height());
     const QFont smallFont = sized(font(), small);
     painter.setFont(smallFont);
     painter.drawText(cell.adjusted(4, 2, -2, 0), Qt::AlignLeft | Qt::AlignTop, QString::number(element.OZ()));
@@ -347,11 +351,20 @@ void Periodentafel::paintCellTexts(
         return;
     painter.setFont(smallFont);
     const QFontMetricsF metrics(smallFont);
-    QString line = toQt(element.Name());
-    if (metrics.horizontalAdvance(line) > cell.width() - 4)
-        line = istUnbekannt(element.Masse()) ? QString() : toQt(textWithDigits(element.Masse(), 5));
-    if (metrics.horizontalAdvance(line) <= cell.width() - 4)
+    const QString mass = istUnbekannt(element.Masse()) ? QString() : toQt(textWithDigits(element.Masse(), 5));
+    const QString line = m_namesFit ? toQt(element.Name()) : mass;
+    if (metrics.horizontalAdvance(line) <= cell.width() - CellMargin)
         painter.drawText(cell.adjusted(2, 0, -2, -3), Qt::AlignHCenter | Qt::AlignBottom, line);
+}
+
+/// Names are shown only if all of them fit: a mixture of names and masses would look like a mistake.
+void Periodentafel::resizeEvent(QResizeEvent*)
+{
+    const Zelle cell = scale().cell(1, 1);
+    const QFontMetricsF metrics(sized(font(), smallTextSize(cell.width, cell.height)));
+    m_namesFit = std::ranges::all_of(m_elements, [&](const auto& element) {
+        return metrics.horizontalAdvance(toQt(element->Name())) <= cell.width - 2 * Gap - CellMargin;
+    });
 }
 
 void Periodentafel::paintLegend(QPainter& painter) const

@@ -42,6 +42,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     Tafelmassstab scale() const;
@@ -67,6 +68,7 @@ private:
     PSEReihe m_reihe; // empty while coloured by group
     double m_smallest = 0; // range of its known values
     double m_largest = 0;
+    bool m_namesFit = false; // else the cells show masses
     QString m_typed;
     QElapsedTimer m_sinceLetter;
 };
