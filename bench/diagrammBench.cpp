@@ -154,25 +154,31 @@ void neuzeichnen(benchmark::State& state)
 /// The same lines, ticks and labels at ready places, and nothing else.
 void nurZeichnen(benchmark::State& state)
 {
+    Aufbau aufbau;
     const Rechteck plot = plotArea(Bildgroesse.width(), Bildgroesse.height());
+    const Reihe values = konzentrationsreihe(aufbau.calc, aufbau.parser, komponenten(aufbau), 0, Fermienergie);
+    const auto [smallest, largest] = endValues(values);
+    const Bereich range = yBereich(smallest, largest);
+    const Abbildung abbildung(plot.width, plot.height, {0, 100}, range);
     QPolygonF curve;
-    for (int i = 0; i <= 100; ++i)
-        curve << QPointF(60.5 + std::round(plot.width * i / 100), 700.5 - std::round(6.0 * i));
+    for (std::size_t i = 0; i < values.size(); ++i)
+        curve << QPointF(plot.left + abbildung.column(static_cast<double>(i)) + 0.5, abbildung.row(values.at(i)) + 0.5);
+    std::vector<std::pair<QRectF, QString>> ticks;
+    for (const Achsenmarke& marke : yMarken(plot, Bildgroesse.height(), range, 16))
+        ticks.emplace_back(QRectF(plot.left - TickLength, marke.position, TickLength, 1), toQt(marke.label));
+    for (int k = 0; k <= 10; ++k)
+        ticks.emplace_back(QRectF(60 + 114 * k, plot.height, 1, TickLength), QString::number(10 * k));
     QImage image(Bildgroesse, QImage::Format_RGB32);
     for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
         QPainter painter(&image);
         painter.fillRect(image.rect(), Qt::white);
         painter.setPen(Qt::black);
-        for (int k = 0; k < 10; ++k) {
-            painter.fillRect(QRectF(53, 770 - 77 * k, 7, 1), Qt::black);
-            painter.drawText(QPointF(5, 776 - 77 * k), QStringLiteral("10,%1").arg(100 + k));
+        for (const auto& [tick, label] : ticks) {
+            painter.fillRect(tick, Qt::black);
+            painter.drawText(tick.bottomLeft() + QPointF(-tick.width(), tick.height() + 12), label);
         }
-        for (int k = 0; k <= 10; ++k) {
-            painter.fillRect(QRectF(60 + 114 * k, 770, 1, 7), Qt::black);
-            painter.drawText(QPointF(54 + 114 * k, 795), QString::number(10 * k));
-        }
-        painter.fillRect(QRectF(59, 0, 1, 770), Qt::black);
-        painter.fillRect(QRectF(59, 770, 1141, 1), Qt::black);
+        painter.fillRect(QRectF(plot.left - 1, 0, 1, plot.height), Qt::black);
+        painter.fillRect(QRectF(plot.left - 1, plot.height, plot.width + 1, 1), Qt::black);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(Qt::blue, Kurvenbreite, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         painter.drawPolyline(curve);

@@ -16,11 +16,11 @@ TEST(Projektion, TiltsThenTurnsAndFindsBack)
         {-90, 0, {0.2, -0.3, -0.2}}, {0, 90, {-0.3, 0.2, -0.2}}, {30, 0, {0.2, 0.323205, -0.159808}}};
     for (const auto& [tilt, turn, expected] : rows) {
         const Projektion projektion({tilt, turn, 1.5}, 800, 600);
-        const Bildpunkt shown = projektion.project(place);
-        EXPECT_NEAR((shown.x - 400) / projektion.scale(), expected.x, 1e-6) << tilt << ' ' << turn;
-        EXPECT_NEAR((300 - shown.y) / projektion.scale(), expected.y, 1e-6) << tilt << ' ' << turn;
-        EXPECT_NEAR(shown.depth, expected.depth, 1e-6) << tilt << ' ' << turn;
-        const Raumpunkt back = projektion.unproject(shown);
+        const double side = projektion.scale();
+        const auto [x, y, depth] = projektion.project(place);
+        EXPECT_NEAR(std::hypot((x - 400) / side - expected.x, (300 - y) / side - expected.y), 0, 1e-6) << tilt << turn;
+        EXPECT_NEAR(depth, expected.depth, 1e-6) << tilt << ' ' << turn;
+        const Raumpunkt back = projektion.unproject({x, y, depth});
         EXPECT_NEAR(std::hypot(back.x - place.x, back.y - place.y, back.z - place.z), 0, 1e-12);
     }
     for (double turn = 0; turn < 360; turn += 15) { // nothing sticks out while the diagram turns
