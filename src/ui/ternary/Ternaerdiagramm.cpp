@@ -118,8 +118,11 @@ void Ternaerdiagramm::paint(QPainter& painter, const QSize& size, const QFont& f
     painter.save();
     painter.translate(plot.topLeft());
     const bool fromBelow = !m_ansicht.flach && m_ansicht.tilt < 0;
+    const bool hidesEdges = !fromBelow && !m_ansicht.flach; // the surface then stands before some of them
     if (!fromBelow)
         paintBase(painter);
+    if (hidesEdges)
+        paintEdges(painter);
     const QImage image(reinterpret_cast<const uchar*>(m_bild->pixels().data()), m_bild->width(), m_bild->height(),
         QImage::Format_ARGB32_Premultiplied);
     painter.drawImage(QRectF(QPointF(0, 0), plot.size().toSize()), image);
@@ -127,7 +130,8 @@ void Ternaerdiagramm::paint(QPainter& painter, const QSize& size, const QFont& f
         paintBase(painter);
     paintCurrent(painter);
     paintCorners(painter);
-    paintEdges(painter);
+    if (!hidesEdges)
+        paintEdges(painter);
     if (!m_ansicht.flach)
         paintAxis(painter);
     painter.restore();
@@ -183,8 +187,11 @@ void Ternaerdiagramm::paintCorners(QPainter& painter) const
     bold.setPointSizeF(plain.pointSizeF() * 1.3);
     painter.setFont(bold);
     painter.setPen(Qt::black);
-    for (std::size_t k = 0; k < 3; ++k)
-        paintText(painter, outwards(at(along(k, k, 1), 0), Distance), toQt(m_gitter.symbole.at(k)));
+    for (std::size_t k = 0; k < 3; ++k) {
+        const bool belowAxis = !m_ansicht.flach && k == axisCorner(); // whose labels stand beside it
+        const QPointF shift(0, belowAxis ? Distance * 0.7 : 0);
+        paintText(painter, outwards(at(along(k, k, 1), 0), Distance) + shift, toQt(m_gitter.symbole.at(k)));
+    }
     painter.setFont(plain);
 }
 
@@ -212,16 +219,22 @@ QString Ternaerdiagramm::tickText(double value) const
     return text.empty() ? toQt("0 " + m_gitter.einheit) : toQt(text);
 }
 
-/// The vertical axis stands at the corner farthest to the left, where the surface never hides it.
-void Ternaerdiagramm::paintAxis(QPainter& painter) const
+/// The corner farthest to the left, where the surface never hides the vertical axis.
+std::size_t Ternaerdiagramm::axisCorner() const
 {
-    constexpr double Shortest = 60; // pixels for labels that do not overlap
-    constexpr double Tick = 6;
     std::size_t corner = 0;
     for (std::size_t k = 1; k < 3; ++k) {
         if (at(along(k, k, 1), 0).x() < at(along(corner, corner, 1), 0).x())
             corner = k;
     }
+    return corner;
+}
+
+void Ternaerdiagramm::paintAxis(QPainter& painter) const
+{
+    constexpr double Shortest = 60; // pixels for labels that do not overlap
+    constexpr double Tick = 6;
+    const std::size_t corner = axisCorner();
     const Anteile3 place = along(corner, corner, 1);
     const QPointF bottom = at(place, 0);
     const QPointF top = at(place, SurfaceHeight);

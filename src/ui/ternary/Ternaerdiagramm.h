@@ -44,6 +44,7 @@ private:
     void paintColourBar(QPainter& painter, const QSize& size) const;
     void paintText(QPainter& painter, const QPointF& centre, const QString& text) const;
     QPointF at(const Anteile3& anteile, double z) const;
+    std::size_t axisCorner() const;
     QPointF plotOrigin() const;
     QPointF outwards(const QPointF& from, double distance) const;
     QString tickText(double value) const;
