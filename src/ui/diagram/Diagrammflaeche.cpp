@@ -308,7 +308,7 @@ void Diagrammflaeche::mouseMoveEvent(QMouseEvent* event)
     } else if (m_inhalt == Inhalt::Ternaer && m_dragging) {
         const QPointF moved = event->position() - m_lastPosition;
         m_lastPosition = event->position();
-        changeView(rotated(m_ternaer.ansicht(), moved.y(), -moved.x()));
+        turnBy(moved.y(), -moved.x());
     } else if (m_inhalt == Inhalt::Ternaer) {
         emit positionChanged(m_ternaer.positionText(event->position()));
     }
@@ -322,6 +322,13 @@ void Diagrammflaeche::wheelEvent(QWheelEvent* event)
         return QWidget::wheelEvent(event);
     changeView(zoomed(m_ternaer.ansicht(), std::pow(FactorPerNotch, event->angleDelta().y() / Notch)));
     event->accept();
+}
+
+/// The flat diagram stands still.
+void Diagrammflaeche::turnBy(double tilt, double turn)
+{
+    if (!m_ternaer.ansicht().flach)
+        changeView(rotated(m_ternaer.ansicht(), tilt, turn));
 }
 
 void Diagrammflaeche::changeView(const Ansicht& ansicht)
@@ -353,16 +360,16 @@ void Diagrammflaeche::turnView(QKeyEvent& event)
     const Ansicht& ansicht = m_ternaer.ansicht();
     switch (event.key()) {
     case Qt::Key_Left:
-        changeView(rotated(ansicht, 0, Step));
+        turnBy(0, Step);
         break;
     case Qt::Key_Right:
-        changeView(rotated(ansicht, 0, -Step));
+        turnBy(0, -Step);
         break;
     case Qt::Key_Up:
-        changeView(rotated(ansicht, -Step, 0));
+        turnBy(-Step, 0);
         break;
     case Qt::Key_Down:
-        changeView(rotated(ansicht, Step, 0));
+        turnBy(Step, 0);
         break;
     case Qt::Key_Plus:
         changeView(zoomed(ansicht, Factor));

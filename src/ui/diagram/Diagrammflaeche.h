@@ -75,6 +75,7 @@ private:
     void pointAt(std::size_t element);
     void moveCursor(QKeyEvent& event);
     void turnView(QKeyEvent& event);
+    void turnBy(double tilt, double turn);
     void changeView(const Ansicht& ansicht);
     std::string values() const;
 

@@ -147,17 +147,19 @@ std::vector<double> axisTicks(const Wertebereich& range)
     if (!(width > 0))
         return {range.min};
     constexpr std::size_t Fewest = 5;
+    constexpr std::size_t Most = 10;
     constexpr double RoundingError = 1e-9;
     const double magnitude = std::pow(10.0, std::floor(std::log10(width)));
     std::vector<double> ticks;
-    for (const double step : {magnitude, magnitude / 2, magnitude / 5, magnitude / 10}) {
+    for (const double share : {2.0, 1.0, 0.5, 0.2, 0.25, 0.1}) {
+        const double step = share * magnitude;
         ticks.clear();
         const double first = std::ceil(range.min / step - RoundingError);
         const double last = std::floor(range.max / step + RoundingError);
         const auto count = static_cast<int>(last - first) + 1;
         for (int k = 0; k < count; ++k)
             ticks.push_back((first + k) * step);
-        if (ticks.size() >= Fewest)
+        if (ticks.size() >= Fewest && ticks.size() <= Most)
             break;
     }
     return ticks;

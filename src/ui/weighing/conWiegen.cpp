@@ -291,8 +291,9 @@ void conWiegen::showWeighed()
 void conWiegen::showDeviation(Zeile& zeile, float difference)
 {
     constexpr float Tolerance = 0.1F; // at%
-    const std::string sign = difference > 0 ? "+" : "";
-    zeile.Abweichung->setText(toQt(sign + fixedText(difference, 2)));
+    const std::string text = fixedText(difference, 2);
+    const bool isMore = difference > 0 && text != fixedText(0, 2);
+    zeile.Abweichung->setText(toQt((isMore ? "+" : "") + text));
     QPalette colours = palette();
     if (std::abs(difference) > Tolerance) {
         const bool dark = colours.color(QPalette::Window).lightness() < 128;

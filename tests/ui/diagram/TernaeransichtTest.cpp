@@ -145,9 +145,9 @@ TEST_F(TernaeransichtTest, RandomDragsLeaveNoTrace)
     for (int i = 0; i < drags; ++i) {
         drag({QPointF(any(-300, 300), any(-300, 300)), QPointF(any(-9, 9), any(-9, 9))});
         wheel(any(-3, 3));
-        area().resize(any(1, 900), any(1, 600));
+        area().resize(any(1, 500), any(1, 400));
         picture();
-        mouse(QEvent::MouseMove, QPointF(any(0, 900), any(0, 600)), {});
+        mouse(QEvent::MouseMove, QPointF(any(0, 500), any(0, 400)), {});
     }
     for (const QSize size : {QSize(50, 50), QSize(4000, 2500), QSize(1280, 800)}) {
         window->resize(size);
