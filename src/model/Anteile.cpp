@@ -38,8 +38,8 @@ void setComposition(clsCalc& calc, std::span<const Anteil> anteile, std::span<co
         valenz += prozente[j] * anteile[j].valenz;
         volumen = toSingle(volumen + prozente[j] * anteile[j].molvolumen);
     }
-    calc.setTeilchenzahldichte(volumen == 0 ? 0 : toSingle(AvogadroProKubikmeter / (volumen / 100.0)));
-    calc.setValenz(toSingle(valenz / 100));
+    const float density = volumen == 0 ? 0 : toSingle(AvogadroProKubikmeter / (volumen / 100.0));
+    calc.setBasis(density, toSingle(valenz / 100));
 }
 
 } // namespace zerna

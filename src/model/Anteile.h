@@ -24,7 +24,7 @@ struct Anteil {
 /// Reads each component; the valence texts are evaluated. Run-time errors reach the caller.
 std::array<Anteil, MaxKomponenten> anteile(clsParser& parser, std::span<const Reihenkomponente> komponenten);
 
-/// Sets the calculator to a composition (at%, one per component): particle density first, valence second.
+/// Sets the calculator to a composition (at%, one per component).
 void setComposition(clsCalc& calc, std::span<const Anteil> anteile, std::span<const double> prozente);
 
 } // namespace zerna

@@ -114,6 +114,13 @@ void clsCalc::setValenz(float electronsPerAtom)
     Kf_2_Berechnen();
 }
 
+void clsCalc::setBasis(float perCubicMetre, float electronsPerAtom)
+{
+    m_teilchenzahldichte = perCubicMetre;
+    m_valenz = electronsPerAtom;
+    Kf_2_Berechnen();
+}
+
 float clsCalc::Atomvolumen() const
 {
     return hasParticles() ? orUnbekannt([&] { return toSingle(quotient(1, m_teilchenzahldichte)); }) : Unbekannt;

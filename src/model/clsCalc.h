@@ -74,6 +74,9 @@ public:
     float Valenz() const { return m_valenz; } ///< z, electrons per atom
     void setValenz(float electronsPerAtom); ///< refreshes Kf_2
 
+    /// Both base quantities at once (N in 1/m³), with one refresh of Kf_2: for stepping through many compositions.
+    void setBasis(float perCubicMetre, float electronsPerAtom);
+
     float Atomvolumen() const; ///< 1/N in m³; answers Unbekannt
     float Elektrondichte() const; ///< n_e in 1/nm³; answers Unbekannt
 

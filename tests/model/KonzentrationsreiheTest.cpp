@@ -56,7 +56,7 @@ TEST_F(KonzentrationsreiheTest, EachCodeHasItsQuantityAndUnit)
 TEST_F(KonzentrationsreiheTest, FaultsReachTheCallerOnce)
 {
     for (const auto& [variable, groesse, error] : {std::tuple(-1, 0, 9), {3, 0, 9}, {0, 3, 5}, {0, 11, 5}})
-        EXPECT_EQ(errorNumber([&] { series(variable, groesse); }), error) << variable << ' ' << groesse;
+        EXPECT_EQ(errorNumber([this, v = variable, g = groesse] { series(v, g); }), error) << groesse;
     for (const auto& [dichte, error] : {std::pair(0.0F, 11), {Unbekannt, 5}, {1e-39F, 6}, {3.0F, 0}}) {
         elements.Item("B")->setDichte(dichte);
         EXPECT_EQ(errorNumber([this] { series(0, 0); }), error) << dichte;

@@ -27,11 +27,14 @@ struct PSEbereichTest : FakeDesk {
     }
 
     QImage image(int column, int row) const { return table().grab(cell(column, row)).toImage(); }
-    void clickCell(int column, int row) { QTest::mouseClick(&table(), Qt::LeftButton, {}, cell(column, row).center()); }
+    void clickCell(int column, int row) const
+    {
+        QTest::mouseClick(&table(), Qt::LeftButton, {}, cell(column, row).center());
+    }
     std::string chosen() const { return programm->SelectedElement() ? programm->SelectedElement()->symbol() : ""; }
 
     /// Presses keys in the menu that a double click opens.
-    void answerMenu(const QKeySequence& keys)
+    void answerMenu(const QKeySequence& keys) const
     {
         QTimer::singleShot(0, [&] { QTest::keySequence(QApplication::activePopupWidget(), keys); });
         QTest::mouseDClick(&table(), Qt::LeftButton, {}, cell(2, 3).center());

@@ -16,7 +16,7 @@ const Flaechenstil Schlicht{0, 0, 1, {}, false};
 
 std::uint32_t at(const Flaechenbild& bild, int x, int y)
 {
-    return bild.pixels()[static_cast<std::size_t>(y * bild.width() + x)];
+    return bild.pixels().begin()[std::ptrdiff_t{y} * bild.width() + x];
 }
 
 TEST(Flaechenbild, NearerOfTwoCrossingTrianglesIsSeenFromAboveAndFromBelow)

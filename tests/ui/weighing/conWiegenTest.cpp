@@ -21,7 +21,7 @@ struct conWiegenTest : FakeDesk {
     {
         std::string all;
         for (const auto& [icon, caption, message] : std::exchange(boxes.shown, {}))
-            all += (icon == Icon::Exclamation ? "! " : "") + caption + ": " + message + '\n';
+            all.append(icon == Icon::Exclamation ? "! " : "").append(caption).append(": ").append(message).append("\n");
         return all;
     }
 
