@@ -4,9 +4,6 @@ if(ZERNA_SANITIZE)
     target_compile_options(zerna_sanitizers INTERFACE
         -fsanitize=${ZERNA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(zerna_sanitizers INTERFACE -fsanitize=${ZERNA_SANITIZE})
-    # The address sanitizer's instrumentation makes this GCC see uninitialised values where there are none.
-    target_compile_options(zerna_sanitizers INTERFACE
-        $<$<CXX_COMPILER_ID:GNU>:-Wno-error=maybe-uninitialized>)
 endif()
 if(ZERNA_FUZZ)
     target_compile_options(zerna_sanitizers INTERFACE -fsanitize=fuzzer-no-link)
