@@ -12,10 +12,10 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/Aufbau.h"
+#include "bild/Achsen.h"
 #include "model/Konstanten.h"
 #include "model/Konzentrationsreihe.h"
 #include "tests/support/FakeServices.h"
-#include "ui/diagram/Achsen.h"
 #include "ui/diagram/Striche.h"
 #include "ui/diagram/conDisplay.h"
 #include "ui/main/frmMain.h"

@@ -4,7 +4,7 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/Aufbau.h"
-#include "model/PSETafel.h"
+#include "bild/PSETafel.h"
 #include "ui/main/Periodentafel.h"
 #include "ui/platform/QtText.h"
 

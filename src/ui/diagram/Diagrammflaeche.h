@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "bild/PSEGeometrie.h"
 #include "model/PSEReihe.h"
 #include "programm/Programm.h"
-#include "ui/diagram/PSEGeometrie.h"
 #include "ui/platform/Dialoge.h"
 #include "ui/ternary/Ternaerdiagramm.h"
 

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-#include "ui/diagram/Achsen.h"
+#include "bild/Achsen.h"
 
 namespace zerna {
 

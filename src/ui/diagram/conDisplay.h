@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
+#include "bild/Achsen.h"
 #include "model/Konzentrationsreihe.h"
 #include "programm/Programm.h"
-#include "ui/diagram/Achsen.h"
 #include "ui/diagram/Striche.h"
 #include "ui/platform/Dialoge.h"
 

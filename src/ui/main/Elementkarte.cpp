@@ -3,7 +3,7 @@
 #include <QPainter>
 
 #include "model/PSEAuskunft.h"
-#include "ui/main/Auskunftsliste.h"
+#include "ui/controls/Auskunftsliste.h"
 #include "ui/platform/QtText.h"
 
 namespace zerna {

@@ -15,9 +15,9 @@
 #include "core/Zahlentext.h"
 #include "programm/Exportspeicherung.h"
 #include "ui/button/StyledButton.h"
+#include "ui/controls/Wertanzeige.h"
+#include "ui/controls/Wertfeld.h"
 #include "ui/main/Kompositionsbereich.h"
-#include "ui/main/Wertanzeige.h"
-#include "ui/main/Wertfeld.h"
 #include "ui/platform/QtText.h"
 #include "ui/platform/Tabreihenfolge.h"
 

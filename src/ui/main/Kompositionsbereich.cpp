@@ -9,7 +9,7 @@
 #include "core/CheckedArithmetic.h"
 #include "core/Zahlentext.h"
 #include "ui/button/StyledButton.h"
-#include "ui/main/Wertfeld.h"
+#include "ui/controls/Wertfeld.h"
 #include "ui/platform/QtText.h"
 
 namespace zerna {

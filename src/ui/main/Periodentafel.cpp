@@ -10,10 +10,10 @@
 #include <algorithm>
 #include <array>
 
+#include "bild/Farbskala.h"
+#include "bild/PSETafel.h"
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
-#include "model/Farbskala.h"
-#include "model/PSETafel.h"
 #include "ui/platform/QtText.h"
 
 namespace zerna {

@@ -6,8 +6,8 @@
 
 #include <optional>
 
-#include "ui/ternary/Flaechenbild.h"
-#include "ui/ternary/Ternaergeometrie.h"
+#include "bild/Flaechenbild.h"
+#include "bild/Ternaergeometrie.h"
 
 class QPainter;
 

@@ -17,7 +17,7 @@
 #include "model/Einwaage.h"
 #include "programm/Exportspeicherung.h"
 #include "ui/button/StyledButton.h"
-#include "ui/main/Wertfeld.h"
+#include "ui/controls/Wertfeld.h"
 #include "ui/platform/QtText.h"
 
 namespace zerna {

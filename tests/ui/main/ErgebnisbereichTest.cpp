@@ -8,7 +8,7 @@
 #include "support/ErwarteteTexte.h"
 #include "support/FakeDesk.h"
 #include "support/FullDisk.h"
-#include "ui/main/Wertfeld.h"
+#include "ui/controls/Wertfeld.h"
 
 namespace zerna {
 

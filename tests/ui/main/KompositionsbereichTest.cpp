@@ -3,7 +3,7 @@
 #include <tuple>
 
 #include "support/FakeDesk.h"
-#include "ui/main/Wertfeld.h"
+#include "ui/controls/Wertfeld.h"
 
 namespace zerna {
 

@@ -5,7 +5,7 @@
 
 #include "core/Zahlentext.h"
 #include "support/FakeDesk.h"
-#include "ui/main/Wertfeld.h"
+#include "ui/controls/Wertfeld.h"
 
 namespace zerna {
 

@@ -1,4 +1,4 @@
-#include "model/PSETafel.h"
+#include "bild/PSETafel.h"
 
 #include <cmath>
 #include <cstdlib>

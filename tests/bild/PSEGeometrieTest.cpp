@@ -1,4 +1,4 @@
-#include "ui/diagram/PSEGeometrie.h"
+#include "bild/PSEGeometrie.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "ui/ternary/Flaechenbild.h"
+#include "bild/Flaechenbild.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "model/Farbskala.h"
+#include "bild/Farbskala.h"
 
 #include <algorithm>
 #include <array>

@@ -4,7 +4,7 @@
 #include <span>
 #include <vector>
 
-#include "model/Farbskala.h"
+#include "bild/Farbskala.h"
 
 namespace zerna {
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "bild/Achsen.h"
 #include "model/PSEReihe.h"
-#include "ui/diagram/Achsen.h"
 
 /// Geometry of the element-property diagram: everything that is painted, as numbers in logical pixels.
 namespace zerna {

@@ -1,4 +1,4 @@
-#include "ui/main/Auskunftsliste.h"
+#include "ui/controls/Auskunftsliste.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>

@@ -1,4 +1,4 @@
-#include "ui/main/Wertanzeige.h"
+#include "ui/controls/Wertanzeige.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>

@@ -1,4 +1,4 @@
-#include "ui/diagram/Achsen.h"
+#include "bild/Achsen.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "ui/main/Wertfeld.h"
+#include "ui/controls/Wertfeld.h"
 
 #include <QFocusEvent>
 #include <QPainter>

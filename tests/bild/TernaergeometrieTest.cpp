@@ -1,4 +1,4 @@
-#include "ui/ternary/Ternaergeometrie.h"
+#include "bild/Ternaergeometrie.h"
 
 #include <gtest/gtest.h>
 
