@@ -36,8 +36,8 @@ void bearbeitung(benchmark::State& state, int components)
     const std::size_t start = speicheranforderungen();
     aufbau.enterAlloy(prozente(components, ++step));
     float values = 0;
-    for (const Ergebniszeile& zeile : ergebniszeilen())
-        values += zeile.value(aufbau.calc);
+    for (const Groesse& zeile : ergebniszeilen())
+        values += zeile.wert(aufbau.calc);
     benchmark::DoNotOptimize(values);
     const std::size_t quantities = speicheranforderungen() - start;
     complete = edit() && complete;

@@ -12,6 +12,7 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/Aufbau.h"
+#include "model/Groessen.h"
 
 #ifdef ZERNA_WINDOW
 #include <QApplication>
@@ -133,7 +134,7 @@ void printRatio(const Verhaeltnis& v, const MedianReporter& reporter)
 
 void printEdit(const char* name, const MedianReporter& reporter)
 {
-    constexpr double Ergebnistextzahl = 18;
+    const auto textCount = static_cast<double>(ergebniszeilen().size());
     const auto found = reporter.medians().find(name);
     if (found == reporter.medians().end())
         return;
@@ -143,8 +144,8 @@ void printEdit(const char* name, const MedianReporter& reporter)
     std::printf("%s %7.2f µs (ohne Ziel)\n", column(name).c_str(), nanoseconds / 1000);
     std::printf("%s %7.0f   <=  0  %s\n", column("  Speicheranforderungen ohne Texte").c_str(), quantities,
         verdict(quantities == 0));
-    std::printf("%s %7.0f   <= %2.0f  %s\n", column("  Speicheranforderungen der 18 Texte").c_str(), texts,
-        Ergebnistextzahl, verdict(texts <= Ergebnistextzahl));
+    std::printf("%s %7.0f   <= %2.0f  %s\n", column("  Speicheranforderungen der Texte").c_str(), texts,
+        textCount, verdict(texts <= textCount));
 }
 
 /// The benchmark's own time or one of its counters, in milliseconds.

@@ -95,9 +95,7 @@ public:
 
     void reihe()
     {
-        const bool known = m_optionen.groesse >= 0 && m_optionen.groesse <= LetzteReihengroesse;
-        if (!known)
-            throw Aufruffehler("--groesse " + std::to_string(m_optionen.groesse) + ": erwartet wird 0 bis 10");
+        requireReihengroesse();
         loadAlloy();
         const std::vector<Reihenkomponente> komponenten = m_kern.komponenten();
         const int variabel = indexOfVariabel(komponenten);
@@ -118,8 +116,7 @@ public:
 
     void ternaer()
     {
-        if (m_optionen.groesse < 0 || m_optionen.groesse > LetzteReihengroesse)
-            throw Aufruffehler("--groesse " + std::to_string(m_optionen.groesse) + ": erwartet wird 0 bis 10");
+        requireReihengroesse();
         if (m_optionen.aufloesung < 1 || m_optionen.aufloesung > 10)
             throw Aufruffehler("--aufloesung " + std::to_string(m_optionen.aufloesung) + ": erwartet wird 1 bis 10");
         if (m_optionen.komponenten.size() != 3)
@@ -183,6 +180,13 @@ private:
             angaben.push_back(komponentenangabe(text));
         load();
         return m_kern.setAlloy(angaben);
+    }
+
+    void requireReihengroesse() const
+    {
+        if (findReihengroesse(m_optionen.groesse) == nullptr)
+            throw Aufruffehler("--groesse " + std::to_string(m_optionen.groesse) + ": erwartet wird 0 bis "
+                + std::to_string(letzteReihenkennzahl()));
     }
 
     float wiegezahlArgument() const

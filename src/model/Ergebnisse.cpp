@@ -12,37 +12,19 @@ constexpr std::string_view Friedelvorspann = "r(n) = ";
 constexpr int Friedelzeilen = 11;
 constexpr int LetzteTextzeile = 9;
 
-constexpr std::array<Ergebniszeile, 18> Zeilen{{
-    {0, "mittlere Valenz:", "e/a", [](const clsCalc& c) { return c.Valenz(); }, true},
-    {1, "mittlere Teilchenzahldichte:", "1/nm³", [](const clsCalc& c) { return c.Teilchenzahldichte(); }, true},
-    {2, "mittlere Dichte:", "g/cm³", [](const clsCalc& c) { return c.Dichte(); }},
-    {3, "mittleres Atomvolumen:", "m³", [](const clsCalc& c) { return c.Atomvolumen(); }},
-    {4, "Hall - Koeffizient:", "m³/As", [](const clsCalc& c) { return c.HallKoeffizient(); }},
-    {5, "Thermokraft:", "V/K²", [](const clsCalc& c) { return c.Thermokraft(); }},
-    {6, "Plasmonenenergie:", "eV", [](const clsCalc& c) { return c.Plasmonenenergie(); }},
-    {7, "Fermienergie:", "eV", [](const clsCalc& c) { return c.Fermienergie(); }},
-    {8, "2 kF:", "1/nm", [](const clsCalc& c) { return c.Kf_2(); }, true},
-    {9, "Friedelwellenlänge:", "nm", [](const clsCalc& c) { return c.Friedelwellenlaenge(); }},
-    {Friedelzeile, "Friedelminima:", "nm", [](const clsCalc& c) { return c.Friedelminima(0); }},
-    {11, "mittlere Elektronendichte:", "e/nm³", [](const clsCalc& c) { return c.Elektrondichte(); }},
-    {13, "Raumausfüllung:", "%", [](const clsCalc& c) { return toSingle(c.Raumausfuellung() * 100.0); }},
-    {14, "D(EF):", "states/eV atom", [](const clsCalc& c) { return c.D_EF(); }},
-    {15, "Fermitemperatur:", "K", [](const clsCalc& c) { return c.Fermitemperatur(); }},
-    {16, "m. Energie/Elektron:", "eV", [](const clsCalc& c) { return c.Energie_Elektron(); }},
-    {17, "Energie El-System:", "eV/nm³", [](const clsCalc& c) { return c.Energie_El_System(); }},
-    {18, "Kompressionsmodul:", "N/m²", [](const clsCalc& c) { return c.Kompressionsmodul(); }},
-}};
-
 std::string kompositionszeile(const Komponentenzeile& k)
 {
     return k.symbol + ": Konzentration = " + k.prozent + " at% ,Dichte(" + k.dichtewahl + ") = " + k.dichte
         + " g/cm³ ,Valenz(" + k.valenzwahl + ") = " + k.valenz;
 }
 
+/// Numbers that a result line can have, those of no line included.
+std::size_t positionen() { return static_cast<std::size_t>(ergebniszeilen().back().zeile) + 1; }
+
 /// Whether the line belongs to the results text and has something to say there.
-bool isExported(const Ergebniszeile& zeile, const Ergebnistexte& texte)
+bool isExported(const Groesse& zeile, const Ergebnistexte& texte)
 {
-    return zeile.index <= LetzteTextzeile && texte.at(static_cast<std::size_t>(zeile.index)).known;
+    return zeile.zeile <= LetzteTextzeile && texte.at(static_cast<std::size_t>(zeile.zeile)).known;
 }
 
 /// (n + 5/4)·λ in nm.
@@ -62,26 +44,27 @@ std::string_view withoutCharacters(std::string_view text, std::size_t count)
 
 } // namespace
 
-std::span<const Ergebniszeile> ergebniszeilen() { return Zeilen; }
+Ergebnistexte keineErgebnisse() { return Ergebnistexte(positionen()); }
 
 bool berechneErgebnisse(const clsCalc& calc, Ergebnistexte& texte)
 {
+    texte.resize(positionen());
     bool computable = !istUnbekannt(calc.Valenz()); // else the composition could not be computed, and nothing follows
-    for (const Ergebniszeile& zeile : Zeilen) {
-        Ergebnistext& ergebnis = texte.at(static_cast<std::size_t>(zeile.index));
+    for (const Groesse& zeile : ergebniszeilen()) {
+        Ergebnistext& ergebnis = texte.at(static_cast<std::size_t>(zeile.zeile));
         ergebnis.text.clear();
         ergebnis.known = false;
-        if (zeile.editable) {
-            ergebnis.known = computable && !istUnbekannt(orUnbekannt([&] { return zeile.value(calc); }));
-            ergebnis.text = zeile.unit;
+        if (zeile.tippbar) {
+            ergebnis.known = computable && !istUnbekannt(orUnbekannt([&] { return zeile.wert(calc); }));
+            ergebnis.text = zeile.einheit;
             continue;
         }
         if (!computable)
             continue;
         try {
-            const float value = zeile.value(calc);
+            const float value = zeile.wert(calc);
             ergebnis.known = !istUnbekannt(value);
-            ergebnis.text = zeile.index == Friedelzeile ? friedelanzeige(calc, 0) : FormatValue(value, zeile.unit);
+            ergebnis.text = zeile.zeile == Friedelzeile ? friedelanzeige(calc, 0) : FormatValue(value, zeile.einheit);
         } catch (const Laufzeitfehler&) {
             computable = false;
         }
@@ -110,9 +93,9 @@ std::string ergebnistext(const clsCalc& calc, std::span<const Komponentenzeile> 
     for (const Komponentenzeile& komponente : komponenten)
         text.append(Zeilenende).append(kompositionszeile(komponente));
     text += Zeilenende;
-    for (const Ergebniszeile& zeile : Zeilen) {
+    for (const Groesse& zeile : ergebniszeilen()) {
         if (isExported(zeile, texte))
-            text.append(Zeilenende).append(texte.at(static_cast<std::size_t>(zeile.index)).text);
+            text.append(Zeilenende).append(texte.at(static_cast<std::size_t>(zeile.zeile)).text);
     }
     text.append(Zeilenende).append("Friedelminima:");
     const float wavelength = calc.Friedelwellenlaenge();
@@ -131,9 +114,9 @@ std::string ergebnisdatei(
     for (const Komponentenzeile& komponente : komponenten)
         line(kompositionszeile(komponente));
     line("");
-    for (const Ergebniszeile& zeile : Zeilen) {
+    for (const Groesse& zeile : ergebniszeilen()) {
         if (isExported(zeile, texte))
-            line(std::string(zeile.caption) + " " + texte.at(static_cast<std::size_t>(zeile.index)).text);
+            line(std::string(zeile.beschriftung) + " " + texte.at(static_cast<std::size_t>(zeile.zeile)).text);
     }
     line("");
     line("Friedelminima:");

@@ -1,33 +1,14 @@
 #pragma once
 
-#include <array>
-#include <cstddef>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
-#include "model/clsCalc.h"
+#include "model/Groessen.h"
 
-/// The result lines of an alloy: what they are called, how they are formatted, and the texts made of them.
+/// The result lines of an alloy as texts, and what is copied and saved of them.
 namespace zerna {
-
-/// One result line.
-struct Ergebniszeile {
-    int index = 0; ///< 0 to 18; there is no line 12
-    std::string_view caption; ///< with colon
-    std::string_view unit;
-    float (*value)(const clsCalc&) = nullptr; ///< may throw
-    bool editable = false; ///< shown in a field of its own; the line itself then holds the unit only
-};
-
-/// Index of the first free line position; lines are 0 to 11 and 13 to 18.
-inline constexpr std::size_t Ergebnispositionen = 19;
-
-/// Line of the Friedel-minimum read-out; its value is the first minimum.
-inline constexpr int Friedelzeile = 10;
-
-/// All 18 lines in the order of their index.
-std::span<const Ergebniszeile> ergebniszeilen();
 
 /// The text of one line as shown, and whether its value was known (the text of 0 is empty, too).
 struct Ergebnistext {
@@ -35,8 +16,11 @@ struct Ergebnistext {
     bool known = false;
 };
 
-/// By line index.
-using Ergebnistexte = std::array<Ergebnistext, Ergebnispositionen>;
+/// By result line; a number that no line has is empty.
+using Ergebnistexte = std::vector<Ergebnistext>;
+
+/// Texts of which none is known.
+Ergebnistexte keineErgebnisse();
 
 /// Formats all lines. From the first line that cannot be computed on all value lines are empty, the Friedel read-out
 /// too, and false is returned; an alloy that could not be computed has no lines at all. The three editable lines hold

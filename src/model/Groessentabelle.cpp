@@ -2,20 +2,19 @@
 
 #include "core/CheckedArithmetic.h"
 #include "core/Zahlentext.h"
-#include "model/Ergebnisse.h"
+#include "model/Groessen.h"
 
 namespace zerna {
 
 Tabelle groessentabelle(const clsCalc& calc)
 {
     Tabelle tabelle{{{"name"}, {"wert", true}, {"einheit"}}, {}};
-    for (const Ergebniszeile& zeile : ergebniszeilen()) {
-        const float value = orUnbekannt([&] { return zeile.value(calc); });
+    for (const Groesse& zeile : ergebniszeilen()) {
+        const float value = orUnbekannt([&] { return zeile.wert(calc); });
         if (istUnbekannt(value))
             continue;
-        const std::string_view name = zeile.caption.substr(0, zeile.caption.size() - 1);
         tabelle.zeilen.push_back(
-            {std::string(name), textOfSingle(value, Dezimaltrenner::Punkt), std::string(zeile.unit)});
+            {std::string(zeile.bezeichnung()), textOfSingle(value, Dezimaltrenner::Punkt), std::string(zeile.einheit)});
     }
     return tabelle;
 }

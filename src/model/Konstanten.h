@@ -11,6 +11,9 @@ inline constexpr double ElektronvoltInJoule = 1.60217646e-19;
 /// Particles per mole times cm³ per m³: over a molar volume in cm³/mol it gives particles per m³.
 inline constexpr double AvogadroProKubikmeter = 6.022142e29;
 
+/// Intended: other last digits than above; pure elements are computed with it.
+inline constexpr double AvogadroProMol = 6.022136e23;
+
 inline constexpr double KubiknanometerInKubikmeter = 1e-27;
 inline constexpr double NanometerInMeter = 1e-9;
 

@@ -9,25 +9,6 @@ namespace zerna {
 
 namespace {
 
-struct Reihengroesse {
-    std::string_view einheit;
-    float (clsCalc::*value)() const;
-};
-
-constexpr std::array<Reihengroesse, LetzteReihengroesse + 1> Groessen{{
-    {"e/a", &clsCalc::Valenz},
-    {"1/nm³", &clsCalc::Teilchenzahldichte},
-    {"e/nm³", &clsCalc::Elektrondichte},
-    {"g/cm³", nullptr},
-    {"nm³", &clsCalc::Atomvolumen}, // the value itself is in m³
-    {"m³/As", &clsCalc::HallKoeffizient},
-    {"V/K²", &clsCalc::Thermokraft},
-    {"eV", &clsCalc::Plasmonenenergie},
-    {"eV", &clsCalc::Fermienergie},
-    {"1/nm", &clsCalc::Kf_2},
-    {"nm", &clsCalc::Friedelwellenlaenge},
-}};
-
 std::size_t checkedIndex(int index, std::size_t count)
 {
     if (index < 0 || static_cast<std::size_t>(index) >= count || count > MaxKomponenten)
@@ -39,20 +20,22 @@ std::size_t checkedIndex(int index, std::size_t count)
 
 std::string_view reiheneinheit(int groesse)
 {
-    return groesse >= 0 && groesse <= LetzteReihengroesse ? Groessen.at(static_cast<std::size_t>(groesse)).einheit : "";
+    const Groesse* const found = findReihengroesse(groesse);
+    return found != nullptr ? found->reiheneinheit : std::string_view();
 }
 
-float (clsCalc::*reihengroesse(int groesse))() const
+float (*reihenwert(int groesse))(const clsCalc&)
 {
-    if (groesse < 0 || groesse > LetzteReihengroesse || groesse == GroesseDichte)
+    const Groesse* const found = findReihengroesse(groesse);
+    if (found == nullptr || groesse == GroesseDichte)
         throw Laufzeitfehler(Fehler::UngueltigesArgument);
-    return Groessen.at(static_cast<std::size_t>(groesse)).value;
+    return found->wert;
 }
 
 Reihe konzentrationsreihe(
     const clsCalc& calc, clsParser& parser, std::span<const Reihenkomponente> komponenten, int variable, int groesse)
 {
-    const auto value = reihengroesse(groesse);
+    const auto wert = reihenwert(groesse);
     const std::size_t index = checkedIndex(variable, komponenten.size());
     const auto teile = anteile(parser, komponenten);
     const auto used = std::span(teile).first(komponenten.size());
@@ -63,7 +46,7 @@ Reihe konzentrationsreihe(
         for (std::size_t j = 0; j < used.size(); ++j)
             prozente.at(j) = j == index ? i : static_cast<double>(komponenten[j].prozent) * (100 - i) / 100;
         setComposition(scratch, used, prozente);
-        reihe.at(static_cast<std::size_t>(i)) = (scratch.*value)();
+        reihe.at(static_cast<std::size_t>(i)) = wert(scratch);
     }
     return reihe;
 }

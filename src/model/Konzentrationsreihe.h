@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "model/Anteile.h"
+#include "model/Groessen.h"
 
 /// A free-electron quantity of an alloy over the at% of one of its components.
 namespace zerna {
@@ -13,20 +14,16 @@ namespace zerna {
 /// 101 values, index = at% of the variable component.
 using Reihe = std::array<float, 101>;
 
-/// Quantity code of the density, which has a series rule of its own.
-inline constexpr int GroesseDichte = 3;
-/// Codes of the concentration quantities run from 0 to this.
-inline constexpr int LetzteReihengroesse = 10;
-
-/// Unit text of quantity `groesse`, 0 to 10; empty for any other.
+/// Unit text of quantity `groesse` over compositions; empty for any other code.
 std::string_view reiheneinheit(int groesse);
 
-/// How quantity `groesse` is read from the calculator. Error 5 for the density and for any other code.
-float (clsCalc::*reihengroesse(int groesse))() const;
+/// How quantity `groesse` is read from the calculator at each composition. Error 5 for the density, which has a rule of
+/// its own, and for a code without a quantity over compositions.
+float (*reihenwert(int groesse))(const clsCalc&);
 
-/// The series of quantity `groesse` (0 to 10, but not the density) for component `variable`. The others keep their
-/// entered proportions and share what is left. The calculator is not changed; its constants and formulas are used, and
-/// each valence text is evaluated once. Run-time errors reach the caller, error 5 for another quantity.
+/// The series of quantity `groesse` (any over compositions but the density) for component `variable`. The others keep
+/// their entered proportions and share what is left. The calculator is not changed; its constants and formulas are
+/// used, and each valence text is evaluated once. Run-time errors reach the caller, error 5 for another quantity.
 Reihe konzentrationsreihe(
     const clsCalc& calc, clsParser& parser, std::span<const Reihenkomponente> komponenten, int variable, int groesse);
 

@@ -6,13 +6,10 @@
 #include <vector>
 
 #include "core/ElementCollection.h"
-#include "model/clsCalc.h"
+#include "model/Groessen.h"
 
 /// One property of every element over its atomic number.
 namespace zerna {
-
-/// Codes of element properties run from 0 to this; 1 and 3 have none.
-inline constexpr int LetztePSEGroesse = 22;
 
 /// x and y have one value per element, in collection order; a missing y is Unbekannt.
 struct PSEReihe {
@@ -21,14 +18,8 @@ struct PSEReihe {
     std::vector<float> y;
 };
 
-/// A quantity with the code that lists and series know it by.
-struct Groesseneintrag {
-    std::string_view text;
-    int code = 0;
-};
-
-/// The properties in the order in which they are offered.
-std::span<const Groesseneintrag> psegroessen();
+/// The codes of the element properties in the order in which they are offered.
+std::span<const int> psegroessen();
 
 /// Whether a code is an element property.
 bool istPSEGroesse(int groesse);

@@ -49,12 +49,12 @@ Ternaergitter ternaergitter(
             [&](int, int, const auto& prozente) { gitter.werte.push_back(meanDensity(komponenten, prozente)); });
         return gitter;
     }
-    const auto value = reihengroesse(groesse);
+    const auto wert = reihenwert(groesse);
     clsCalc scratch = calc;
     forEachPoint(gitter.n, [&](int, int, const auto& prozente) {
         gitter.werte.push_back(orUnbekannt([&] {
             setComposition(scratch, used, prozente);
-            return (scratch.*value)();
+            return wert(scratch);
         }));
     });
     return gitter;

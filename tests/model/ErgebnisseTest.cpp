@@ -49,11 +49,11 @@ TEST_F(ErgebnisseTest, FromTheFirstErrorOnLinesAreEmptyAndUnknownOnesAreNotExpor
 {
     calc.setTeilchenzahldichte(Unbekannt);
     calc.setValenz(3); // a negative number of electrons: the Fermi temperature, line 15, overflows
-    texte.fill({"alt", true});
+    texte.assign(keineErgebnisse().size(), {"alt", true});
     EXPECT_FALSE(berechneErgebnisse(calc, texte));
-    for (const Ergebniszeile& zeile : ergebniszeilen()) {
-        const bool computed = zeile.editable || zeile.index == 4 || zeile.index == 14;
-        EXPECT_EQ(texte.at(static_cast<std::size_t>(zeile.index)).text.empty(), !computed) << zeile.caption;
+    for (const Groesse& zeile : ergebniszeilen()) {
+        const bool computed = zeile.tippbar || zeile.zeile == 4 || zeile.zeile == 14;
+        EXPECT_EQ(texte.at(static_cast<std::size_t>(zeile.zeile)).text.empty(), !computed) << zeile.beschriftung;
     }
     const std::string text = ergebnistext(calc, {}, texte);
     EXPECT_EQ(text.find("eV"), std::string::npos) << text;

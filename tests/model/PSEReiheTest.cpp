@@ -58,8 +58,8 @@ TEST_F(PSEReiheTest, OtherCodesFillNothingAndAreNotOffered)
 {
     for (const int code : {-1, 1, 3, 23})
         EXPECT_EQ(pseReihe(elements, calc, code).y, (std::vector<float>{0, 0}));
-    for (const Groesseneintrag& entry : psegroessen())
-        EXPECT_TRUE(istPSEGroesse(entry.code)) << entry.text << " would draw nothing";
+    for (const int kennzahl : psegroessen())
+        EXPECT_TRUE(istPSEGroesse(kennzahl)) << kennzahl << " would draw nothing";
 }
 
 TEST_F(PSEReiheTest, FileLeavesElementsWithoutAValueOut)

@@ -121,7 +121,7 @@ void conDisplay::Zeichne_Diagramm_2D(int groesse, int variable)
     if (!m_bereit)
         return;
     m_variable = variable;
-    const bool known = groesse >= 0 && groesse <= LetzteReihengroesse;
+    const bool known = findReihengroesse(groesse) != nullptr;
     const Reihe reihe = known ? computeSeries(groesse) : m_reihe;
     if (known)
         m_einheit = reiheneinheit(groesse);

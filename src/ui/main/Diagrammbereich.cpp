@@ -22,13 +22,9 @@ namespace zerna {
 namespace {
 
 /// Intended: right after the start "Elektronendichte" stands last although its code is 2.
-constexpr std::array<Groesseneintrag, 11> AnfangsGroessen{{{"Valenz", 0}, {"Teilchenzahldichte", 1}, {"Dichte", 3},
-    {"Atomvolumen", 4}, {"Hall-Koeffizient", 5}, {"Thermokraft", 6}, {"Plasmonenenergie", 7}, {"Fermienergie", 8},
-    {"2 Kf", 9}, {"Friedel-Wellenlänge", 10}, {"Elektronendichte", 2}}};
+constexpr std::array AnfangsGroessen{0, 1, 3, 4, 5, 6, 7, 8, 9, 10, 2};
 
-constexpr std::array<Groesseneintrag, 11> Legierungsgroessen{{{"Valenz", 0}, {"Teilchenzahldichte", 1}, {"Dichte", 3},
-    {"Atomvolumen", 4}, {"Elektronendichte", 2}, {"Hall-Koeffizient", 5}, {"Thermokraft", 6}, {"Plasmonenenergie", 7},
-    {"Fermienergie", 8}, {"2 Kf", 9}, {"Friedel-Wellenlänge", 10}}};
+constexpr std::array Legierungsgroessen{0, 1, 3, 4, 2, 5, 6, 7, 8, 9, 10};
 
 } // namespace
 
@@ -182,12 +178,12 @@ void Diagrammbereich::load()
 }
 
 /// Fills the quantity list and keeps the chosen quantity if the list has it.
-void Diagrammbereich::fillQuantities(std::span<const Groesseneintrag> quantities)
+void Diagrammbereich::fillQuantities(std::span<const int> quantities)
 {
     const int chosen = groesse();
     m_cmbDiagramm->clear();
-    for (const Groesseneintrag& quantity : quantities)
-        m_cmbDiagramm->addItem(toQt(quantity.text), quantity.code);
+    for (const int kennzahl : quantities)
+        m_cmbDiagramm->addItem(toQt(findGroesse(kennzahl)->name), kennzahl);
     m_cmbDiagramm->setCurrentIndex(qMax(0, m_cmbDiagramm->findData(chosen)));
 }
 
@@ -224,7 +220,7 @@ void Diagrammbereich::chooseType(int position)
         type = Diagrammtyp::Konzentration; // silently
     m_cmbDiagrammTyp->setCurrentIndex(static_cast<int>(type));
     m_typ = type;
-    fillQuantities(type == Diagrammtyp::PSE ? psegroessen() : std::span<const Groesseneintrag>(Legierungsgroessen));
+    fillQuantities(type == Diagrammtyp::PSE ? psegroessen() : std::span<const int>(Legierungsgroessen));
     m_cmbDiagrammElement->setVisible(type == Diagrammtyp::Konzentration);
     m_lblSteps->setVisible(type == Diagrammtyp::Ternaer);
     for (StyledButton* const button : m_cmdSteps)

@@ -56,7 +56,7 @@ private:
     void createLabels();
     void layOut();
     void orderTabs();
-    void fillQuantities(std::span<const Groesseneintrag> quantities);
+    void fillQuantities(std::span<const int> quantities);
     void chooseType(int position);
     void stepResolution(int step);
     void drawConcentration(bool keepSelection);

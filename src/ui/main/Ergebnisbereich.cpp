@@ -41,6 +41,7 @@ constexpr int captionIndex(int line)
 }
 
 constexpr int RightColumn = 3; // of the grid
+constexpr int ErsteRechteZeile = 13;
 
 QString numbered(const char* name, int index) { return QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(index); }
 
@@ -68,7 +69,9 @@ Ergebnisbereich::Ergebnisbereich(
 
 void Ergebnisbereich::createControls()
 {
-    for (const Ergebniszeile& zeile : ergebniszeilen())
+    m_label6.resize(m_texte.size());
+    m_lblMFE.resize(m_texte.size());
+    for (const Groesse& zeile : ergebniszeilen())
         createLine(zeile);
     m_label7 = new QLabel(this);
     m_label7->setObjectName(QStringLiteral("Label7"));
@@ -105,21 +108,21 @@ void Ergebnisbereich::createControls()
         [this] { copyToClipboard(shownValue(m_menuLine)); });
 }
 
-void Ergebnisbereich::createLine(const Ergebniszeile& zeile)
+void Ergebnisbereich::createLine(const Groesse& zeile)
 {
-    const auto k = static_cast<std::size_t>(zeile.index);
-    m_label6.at(k) = new QLabel(toQt(zeile.caption), this);
-    m_label6.at(k)->setObjectName(numbered("Label6", captionIndex(zeile.index)));
+    const auto k = static_cast<std::size_t>(zeile.zeile);
+    m_label6.at(k) = new QLabel(toQt(zeile.beschriftung), this);
+    m_label6.at(k)->setObjectName(numbered("Label6", captionIndex(zeile.zeile)));
     m_lblMFE.at(k) = new Wertanzeige(this);
-    m_lblMFE.at(k)->setObjectName(numbered("lblMFE", zeile.index));
-    m_lblMFE.at(k)->setAccessibleName(toQt(zeile.caption.substr(0, zeile.caption.size() - 1)));
+    m_lblMFE.at(k)->setObjectName(numbered("lblMFE", zeile.zeile));
+    m_lblMFE.at(k)->setAccessibleName(toQt(zeile.bezeichnung()));
     connect(m_lblMFE.at(k), &Wertanzeige::menuRequested, this,
-        [this, index = zeile.index](const QPoint& position) { openMenu(index, position); });
+        [this, index = zeile.zeile](const QPoint& position) { openMenu(index, position); });
     connect(m_lblMFE.at(k), &Wertanzeige::copyRequested, this,
-        [this, index = zeile.index] { copyToClipboard(shownValue(index)); });
-    if (!zeile.editable)
+        [this, index = zeile.zeile] { copyToClipboard(shownValue(index)); });
+    if (!zeile.tippbar)
         return;
-    const auto field = std::ranges::find(ZeileOfField, zeile.index) - ZeileOfField.begin();
+    const auto field = std::ranges::find(ZeileOfField, zeile.zeile) - ZeileOfField.begin();
     auto* const edit = new Wertfeld(this);
     edit->setObjectName(numbered("txtMFE", static_cast<int>(field)));
     edit->setAccessibleName(m_lblMFE.at(k)->accessibleName());
@@ -135,10 +138,10 @@ void Ergebnisbereich::layOut()
     m_grid->setHorizontalSpacing(6);
     m_grid->setVerticalSpacing(2);
     std::array<int, 2> rows{0, 0};
-    for (const Ergebniszeile& zeile : ergebniszeilen()) {
-        if (zeile.index == Friedelzeile)
+    for (const Groesse& zeile : ergebniszeilen()) {
+        if (zeile.zeile == Friedelzeile)
             continue;
-        const bool right = zeile.index > 11;
+        const bool right = zeile.zeile >= ErsteRechteZeile;
         layOutLine(*m_grid, rows.at(right ? 1 : 0)++, right ? RightColumn : 0, zeile);
     }
     layOutFriedel(*m_grid, rows[1] + 1, RightColumn);
@@ -161,15 +164,15 @@ void Ergebnisbereich::layOut()
     column->addLayout(buttons);
 }
 
-void Ergebnisbereich::layOutLine(QGridLayout& grid, int row, int column, const Ergebniszeile& zeile)
+void Ergebnisbereich::layOutLine(QGridLayout& grid, int row, int column, const Groesse& zeile)
 {
-    const auto k = static_cast<std::size_t>(zeile.index);
+    const auto k = static_cast<std::size_t>(zeile.zeile);
     grid.addWidget(m_label6.at(k), row, column);
-    if (!zeile.editable) {
+    if (!zeile.tippbar) {
         grid.addWidget(m_lblMFE.at(k), row, column + 1);
         return;
     }
-    const auto field = static_cast<std::size_t>(std::ranges::find(ZeileOfField, zeile.index) - ZeileOfField.begin());
+    const auto field = static_cast<std::size_t>(std::ranges::find(ZeileOfField, zeile.zeile) - ZeileOfField.begin());
     Wertfeld* const edit = m_txtMFE.at(field);
     auto* pair = new QHBoxLayout;
     pair->setSpacing(4);
@@ -200,13 +203,13 @@ void Ergebnisbereich::layOutFriedel(QGridLayout& grid, int row, int column)
 void Ergebnisbereich::orderTabs()
 {
     std::vector<QWidget*> order;
-    for (const Ergebniszeile& zeile : ergebniszeilen()) {
-        if (zeile.index == Friedelzeile)
+    for (const Groesse& zeile : ergebniszeilen()) {
+        if (zeile.zeile == Friedelzeile)
             continue;
-        const auto* const field = std::ranges::find(ZeileOfField, zeile.index);
+        const auto* const field = std::ranges::find(ZeileOfField, zeile.zeile);
         if (field != ZeileOfField.end())
             order.push_back(m_txtMFE.at(static_cast<std::size_t>(field - ZeileOfField.begin())));
-        order.push_back(line(zeile.index));
+        order.push_back(line(zeile.zeile));
     }
     order.insert(order.end(), {m_cmdKnopf2[1], m_cmdKnopf2[0], line(Friedelzeile), m_cmdKopieren, m_cmdSpeichern});
     setTabReihenfolge(order);
@@ -216,9 +219,9 @@ void Ergebnisbereich::orderTabs()
 void Ergebnisbereich::measure()
 {
     const int numberWidth = fontMetrics().horizontalAdvance(QStringLiteral("-3,4561 E-11"));
-    for (const Ergebniszeile& zeile : ergebniszeilen()) {
-        const bool aligned = !zeile.editable && zeile.index != Friedelzeile;
-        line(zeile.index)->setEinheit(toQt(zeile.unit), aligned ? numberWidth : 0);
+    for (const Groesse& zeile : ergebniszeilen()) {
+        const bool aligned = !zeile.tippbar && zeile.zeile != Friedelzeile;
+        line(zeile.zeile)->setEinheit(toQt(zeile.einheit), aligned ? numberWidth : 0);
     }
     constexpr int FieldFrame = 10;
     for (Wertfeld* const edit : m_txtMFE)
@@ -275,7 +278,7 @@ void Ergebnisbereich::update(bool fromRows)
 {
     if (fromRows && !readComposition())
         return;
-    m_texte = {};
+    m_texte = keineErgebnisse();
     if (showEditable())
         berechneErgebnisse(m_programm.Calc(), m_texte);
     showLines();
@@ -312,8 +315,8 @@ bool Ergebnisbereich::showEditable()
 
 void Ergebnisbereich::showLines()
 {
-    for (const Ergebniszeile& zeile : ergebniszeilen())
-        line(zeile.index)->setText(toQt(m_texte.at(static_cast<std::size_t>(zeile.index)).text));
+    for (const Groesse& zeile : ergebniszeilen())
+        line(zeile.zeile)->setText(toQt(m_texte.at(static_cast<std::size_t>(zeile.zeile)).text));
 }
 
 void Ergebnisbereich::fieldChanged(int field)

@@ -44,11 +44,11 @@ private:
     enum class Eingabemodus { Zusammensetzung = 0, ValenzOderDichte = 1, Kf2 = 2 };
 
     void createControls();
-    void createLine(const Ergebniszeile& zeile);
+    void createLine(const Groesse& zeile);
     void layOut();
     void measure();
     void orderTabs();
-    void layOutLine(QGridLayout& grid, int row, int column, const Ergebniszeile& zeile);
+    void layOutLine(QGridLayout& grid, int row, int column, const Groesse& zeile);
     void layOutFriedel(QGridLayout& grid, int row, int column);
 
     void update(bool fromRows);
@@ -71,10 +71,10 @@ private:
     Eingabemodus m_modus = Eingabemodus::Zusammensetzung;
     bool m_editable = true; // false while the panel itself writes the three fields
     float m_friedelindex = 0; // n, 0 to 20
-    Ergebnistexte m_texte;
+    Ergebnistexte m_texte = keineErgebnisse();
     QGridLayout* m_grid = nullptr;
-    std::array<QLabel*, Ergebnispositionen> m_label6{};
-    std::array<Wertanzeige*, Ergebnispositionen> m_lblMFE{};
+    std::vector<QLabel*> m_label6; // by result line
+    std::vector<Wertanzeige*> m_lblMFE;
     std::array<Wertfeld*, 3> m_txtMFE{};
     QLabel* m_label7 = nullptr;
     std::array<StyledButton*, 2> m_cmdKnopf2{};

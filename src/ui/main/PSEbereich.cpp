@@ -31,8 +31,8 @@ PSEbereich::PSEbereich(Programm& programm, QWidget* parent)
     m_cmbFarbe->setObjectName(QStringLiteral("cmbFarbe"));
     m_cmbFarbe->setAccessibleName(QStringLiteral("Färbung der Zellen"));
     m_cmbFarbe->addItem(QStringLiteral("Gruppe"), NachGruppe);
-    for (const Groesseneintrag& quantity : psegroessen())
-        m_cmbFarbe->addItem(toQt(quantity.text), quantity.code);
+    for (const int kennzahl : psegroessen())
+        m_cmbFarbe->addItem(toQt(findGroesse(kennzahl)->name), kennzahl);
     caption->setBuddy(m_cmbFarbe);
     auto* row = new QHBoxLayout(m_farbe);
     row->setContentsMargins(0, 0, 0, 0);

@@ -80,9 +80,9 @@ TEST_F(ErgebnisbereichTest, LinesFromTheFirstErrorOnAreEmptyNotStale)
 {
     const auto emptyLines = [this] {
         std::string empty;
-        for (const Ergebniszeile& zeile : ergebniszeilen()) {
-            if (text(("lblMFE_" + std::to_string(zeile.index)).c_str()).empty())
-                empty += std::to_string(zeile.index) + ' ';
+        for (const Groesse& zeile : ergebniszeilen()) {
+            if (text(("lblMFE_" + std::to_string(zeile.zeile)).c_str()).empty())
+                empty += std::to_string(zeile.zeile) + ' ';
         }
         return empty;
     };

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "model/clsCalc.h"
+
+namespace zerna {
+
+/// A quantity of an alloy or an element: all that is said of it anywhere. Who shows quantities takes them from this one
+/// table and keeps only an order of its own.
+struct Groesse {
+    int kennzahl = -1; ///< code by which lists, series and command line know it; -1 for none
+    int zeile = -1; ///< its result line; -1 if it is not among the results
+    std::string_view name = {}; ///< in lists
+    std::string_view beschriftung = {}; ///< of the result line, with colon
+    std::string_view einheit = {}; ///< of the result
+    std::string_view reiheneinheit = {}; ///< over compositions; empty if it is not shown there
+    std::string_view elementtitel = {}; ///< over the elements, with unit; empty if it is not shown there
+    float (*wert)(const clsCalc&) = nullptr; ///< may throw; null for a property of the element itself
+    float (*elementwert)(const clsElement&) = nullptr; ///< may throw; null for what is computed
+    bool tippbar = false; ///< its result can be typed; the line itself then holds the unit only
+
+    bool ueberLegierungen() const { return !reiheneinheit.empty(); }
+    bool ueberElementen() const { return !elementtitel.empty(); }
+
+    /// The result line's caption without the colon.
+    std::string_view bezeichnung() const { return beschriftung.substr(0, beschriftung.size() - 1); }
+};
+
+/// Code of the density, whose series has a rule of its own.
+inline constexpr int GroesseDichte = 3;
+
+/// Result line of the Friedel-minimum read-out; its value is the first minimum.
+inline constexpr int Friedelzeile = 10;
+
+/// All quantities: the result lines in their order, then the others.
+std::span<const Groesse> groessen();
+
+/// The result lines in their order.
+std::span<const Groesse> ergebniszeilen();
+
+/// The quantity of a code; null if there is none.
+const Groesse* findGroesse(int kennzahl);
+
+/// The quantity over compositions of a code; null if there is none.
+const Groesse* findReihengroesse(int kennzahl);
+
+/// The largest code of a quantity over compositions.
+int letzteReihenkennzahl();
+
+} // namespace zerna
