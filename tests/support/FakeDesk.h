@@ -102,8 +102,10 @@ struct FakeDesk : testing::Test {
         const int target = list.findText(QString::fromUtf8(entry));
         ASSERT_GE(target, 0) << entry;
         list.setFocus();
-        while (list.currentIndex() != target)
+        for (int presses = 0; list.currentIndex() != target; ++presses) {
+            ASSERT_LT(presses, list.count()) << entry << " cannot be reached";
             QTest::keyClick(&list, list.currentIndex() < target ? Qt::Key_Down : Qt::Key_Up);
+        }
     }
 
     void click(const char* name) const { QTest::mouseClick(&find(name), Qt::LeftButton); }

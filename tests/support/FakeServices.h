@@ -61,15 +61,16 @@ public:
     std::vector<std::string> asked; ///< names of files to replace
 };
 
-/// An input box that is always cancelled.
+/// An input box that gives its answer at once; no answer is a cancel.
 class FakeInputBox : public InputBox {
 public:
     std::optional<std::string> ask(std::string_view, std::string_view prompt, std::string_view) override
     {
         prompts.emplace_back(prompt);
-        return std::nullopt;
+        return answer;
     }
 
+    std::optional<std::string> answer;
     std::vector<std::string> prompts;
 };
 

@@ -1,0 +1,186 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QCryptographicHash>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QRegularExpression>
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "core/Zeichensatz.h"
+
+/// What changed on the controls of a window and what came out of it, as compact lines.
+namespace zerna {
+
+/// "a_0-2" means a_0, a_1 and a_2.
+inline std::vector<std::string> expanded(const std::string& name)
+{
+    static const QRegularExpression range(QStringLiteral("^(.*_)(\\d+)-(\\d+)$"));
+    const auto match = range.match(QString::fromStdString(name));
+    if (!match.hasMatch())
+        return {name};
+    std::vector<std::string> names;
+    for (int i = match.captured(2).toInt(); i <= match.captured(3).toInt(); ++i)
+        names.push_back(match.captured(1).toStdString() + std::to_string(i));
+    return names;
+}
+
+/// The other way round: names with consecutive numbers become one.
+inline std::vector<std::string> contracted(const std::vector<std::string>& names)
+{
+    std::vector<std::string> ranges;
+    for (std::size_t first = 0, next = 0; first < names.size(); first = next) {
+        const std::string& name = names[first];
+        const std::size_t digits = name.find_last_not_of("0123456789") + 1;
+        const int number = digits < name.size() ? std::stoi(name.substr(digits)) : 0;
+        int last = number;
+        for (next = first + 1; next < names.size() && digits < name.size(); ++next, ++last) {
+            if (names[next] != name.substr(0, digits) + std::to_string(last + 1))
+                break;
+        }
+        ranges.push_back(last > number ? name + '-' + std::to_string(last) : name);
+    }
+    return ranges;
+}
+
+inline std::string oneLine(QString text) { return text.replace("\r\n", " / ").replace('\n', " / ").toStdString(); }
+
+/// Texts end in CR LF or LF; today's date is not the recorded one.
+inline std::string indented(QString text)
+{
+    static const QRegularExpression date(QStringLiteral("Einwaage vom [\\d.]+"));
+    text.replace(date, QStringLiteral("Einwaage vom (date)"));
+    text.replace("\r\n", "\n");
+    std::string lines;
+    for (const QString& line : text.split('\n'))
+        lines += "    " + line.toStdString() + '\n';
+    return lines;
+}
+
+inline std::string checksum(const QByteArray& bytes)
+{
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex().left(16).toStdString();
+}
+
+/// A short text as it is, the number of lines and the checksum of a long one.
+inline std::string textContent(const QString& text)
+{
+    constexpr int LongestText = 30;
+    if (const auto lines = text.count('\n'); lines > LongestText)
+        return ": " + std::to_string(lines) + " lines " + checksum(text.toUtf8()) + '\n';
+    return '\n' + indented(text);
+}
+
+/// Of a bitmap the pixels.
+inline std::string fileContent(const std::string& name, const std::string& bytes)
+{
+    if (!name.ends_with(".bmp"))
+        return textContent(QString::fromStdString(fromWindows1252(bytes)));
+    const QImage image = QImage::fromData(QByteArray::fromStdString(bytes)).convertToFormat(QImage::Format_RGB32);
+    const QByteArray pixels(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes());
+    return ": " + std::to_string(image.width()) + " x " + std::to_string(image.height()) + ' ' + checksum(pixels)
+        + '\n';
+}
+
+/// Entries of one kind in lines that are not too long; each line begins with the kind.
+class Protokoll {
+public:
+    void add(const std::string& kind, const std::string& entry)
+    {
+        constexpr std::size_t Widest = 140;
+        const bool goesOn = kind == m_kind && m_width + entry.size() < Widest;
+        const std::string piece = (goesOn ? " | " : "\n  " + kind + ": ") + entry;
+        m_width = (goesOn ? m_width : 0) + piece.size();
+        m_text += piece;
+        m_kind = kind;
+    }
+
+    std::string text() const { return m_text.empty() ? "" : m_text.substr(1) + '\n'; }
+
+private:
+    std::string m_kind;
+    std::size_t m_width = 0;
+    std::string m_text;
+};
+
+/// What the user sees of a control.
+struct Anblick {
+    std::string text;
+    std::string entries;
+    std::string hint; // the fault of a field, or what its formula comes to
+    bool isVisible = false;
+    bool isEnabled = true;
+};
+
+inline Anblick lookAt(QWidget& widget)
+{
+    Anblick seen{{}, {}, {}, widget.isVisible(), widget.isEnabled()};
+    QStringList entries;
+    if (const auto* const field = qobject_cast<QLineEdit*>(&widget)) {
+        seen.text = field->text().toStdString();
+        seen.hint = field->toolTip().toStdString();
+    } else if (const auto* const label = qobject_cast<QLabel*>(&widget)) {
+        seen.text = oneLine(label->text());
+    } else if (const auto* const button = qobject_cast<QAbstractButton*>(&widget)) {
+        seen.text = button->accessibleName().toStdString() + (button->isChecked() ? " (checked)" : "");
+    } else if (const auto* const lines = qobject_cast<QListWidget*>(&widget)) {
+        for (int i = 0; i < lines->count(); ++i)
+            entries += lines->item(i)->text();
+    } else if (const auto* const list = qobject_cast<QComboBox*>(&widget)) {
+        seen.text = list->currentText().toStdString();
+        for (int i = 0; i < list->count(); ++i)
+            entries += list->itemText(i);
+    }
+    constexpr int LongestList = 40;
+    if (entries.size() > LongestList)
+        entries = {entries.front(), QStringLiteral("…"), entries.back(), QString::number(entries.size())};
+    seen.entries = entries.join(QStringLiteral(", ")).toStdString();
+    return seen;
+}
+
+using Anblicke = std::map<std::string, Anblick>;
+
+inline void logTexts(Protokoll& log, const std::string& name, const Anblick& before, const Anblick& now)
+{
+    const std::size_t underscore = name.rfind('_');
+    const bool isNumbered = name.find_last_not_of("0123456789") == underscore;
+    if (now.text != before.text && isNumbered)
+        log.add(name.substr(0, underscore), name.substr(underscore + 1) + " = " + now.text);
+    else if (now.text != before.text)
+        log.add(name, now.text);
+}
+
+/// Logs what differs on the named controls.
+inline void logChanges(
+    Protokoll& log, const std::vector<std::string>& names, const Anblicke& before, const Anblicke& now)
+{
+    std::map<std::string, std::vector<std::string>> states;
+    for (const std::string& name : names)
+        logTexts(log, name, before.at(name), now.at(name));
+    for (const std::string& name : names) {
+        const Anblick& was = before.at(name);
+        const Anblick& is = now.at(name);
+        if (is.entries != was.entries)
+            log.add("entries of " + name, is.entries);
+        if (is.isVisible != was.isVisible)
+            states[is.isVisible ? "shown" : "hidden"].push_back(name);
+        if (is.isEnabled != was.isEnabled)
+            states[is.isEnabled ? "enabled" : "disabled"].push_back(name);
+    }
+    for (const std::string& name : names) {
+        if (now.at(name).hint != before.at(name).hint)
+            log.add("hint", name + " = " + now.at(name).hint);
+    }
+    for (const auto& [state, changed] : states) {
+        for (const std::string& range : contracted(changed))
+            log.add(state, range);
+    }
+}
+
+} // namespace zerna
