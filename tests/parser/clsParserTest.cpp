@@ -1,6 +1,5 @@
 #include "parser/clsParser.h"
 
-#include "core/OncePerEdit.h"
 #include "core/Unbekannt.h"
 #include "support/FilesTest.h"
 
@@ -28,9 +27,8 @@ struct clsParserTest : FilesTest {
         }
     }
 
-    OncePerEdit oncePerEdit{boxes};
     ElementCollection elements;
-    clsParser parser{elements, oncePerEdit};
+    clsParser parser{elements, boxes};
 };
 
 TEST_F(clsParserTest, Operators)
@@ -98,16 +96,58 @@ TEST_F(clsParserTest, ErrorsGiveZeroAndTellWhere)
     EXPECT_TRUE(boxes.shown.empty());
 }
 
-TEST_F(clsParserTest, NamesAnUnknownFunctionOncePerEditAndCountsItAsZero)
+TEST_F(clsParserTest, NamesAnUnknownFunctionAndCountsItAsZero)
 {
     EXPECT_EQ(parser.Parse("2+foo(1)"), "2");
     parser.Parse("foo(2)+hex(2e9)+hex(2e9)"); // too large for hexadecimal digits, but that is not the first error
     EXPECT_EQ(parser.LastError()->Nummer, 5);
     const RecordingBoxes::Box box{Icon::None, "Formelparser", "Fehler in Formel. (Funktion 'foo' nicht definiert?)"};
-    EXPECT_EQ(boxes.shown, std::vector({box}));
-    oncePerEdit.beginEdit();
-    parser.Parse("foo(3)");
-    EXPECT_EQ(boxes.shown.size(), 2U);
+    EXPECT_EQ(boxes.shown, std::vector({box, box}));
+}
+
+/// Evaluates a formula of its own whenever a box is shown.
+struct EvaluatingBoxes : RecordingBoxes {
+    void show(Icon icon, std::string_view caption, std::string_view text) override
+    {
+        RecordingBoxes::show(icon, caption, text);
+        if (shown.size() == 1)
+            nested = parser->Parse("1+2*z_Qq");
+        else
+            nested = parser->Parse("hex(7)*(1+2)+10");
+    }
+    clsParser* parser = nullptr;
+    std::string nested;
+};
+
+TEST_F(clsParserTest, AnEvaluationBehindAMessageLeavesTheFirstAlone)
+{
+    EvaluatingBoxes evaluating;
+    clsParser reentrant(elements, evaluating);
+    evaluating.parser = &reentrant;
+    EXPECT_EQ(reentrant.Parse("2*(3+foo(1))+z_Cu*bar(2)+5"), "11");
+    EXPECT_EQ(evaluating.shown.size(), 2U);
+    EXPECT_EQ(evaluating.nested, "0x1F");
+    EXPECT_EQ(reentrant.FormatLastResult("Standard"), "11");
+    ASSERT_TRUE(reentrant.LastError());
+    EXPECT_EQ(reentrant.LastError()->Grund, "Funktion \"foo\" ist nicht definiert");
+}
+
+TEST_F(clsParserTest, AValueCarriesItsErrorAndAtMostTenMessages)
+{
+    const Formelwert value = formelwert("hex(255)" + repeated(12, "+foo(1)") + "+1/0", elements);
+    EXPECT_EQ(value.text, "0");
+    EXPECT_EQ(value.wert, 0);
+    EXPECT_FALSE(value.hexadezimal);
+    EXPECT_EQ(value.fehler->Stelle, 10U); // the first foo, though only the division ends the evaluation
+    EXPECT_EQ(value.meldungen, std::vector<std::string>(10, "Fehler in Formel. (Funktion 'foo' nicht definiert?)"));
+
+    for (int time = 0; time < 2; ++time) {
+        const Formelwert hexadecimal = formelwert("hex(z_Cu*2)", elements);
+        EXPECT_EQ(hexadecimal.text, "0x3");
+        EXPECT_EQ(hexadecimal.wert, 3);
+        EXPECT_TRUE(hexadecimal.hexadezimal);
+        EXPECT_FALSE(hexadecimal.fehler);
+    }
 }
 
 TEST_F(clsParserTest, RemovesBlanksInItsOwnWay)

@@ -1,0 +1,277 @@
+#include "parser/Auswertung.h"
+
+#include <cmath>
+#include <utility>
+
+#include "core/CheckedArithmetic.h"
+#include "core/Zahlentext.h"
+#include "parser/Formelfunktionen.h"
+
+namespace zerna {
+
+namespace {
+
+/// Parentheses and function calls may stand this deep inside each other.
+constexpr int MaxDepth = 200;
+constexpr int MaxArguments = 100;
+
+/// Nobody reads more messages about one formula.
+constexpr std::size_t MaxMessages = 10;
+
+[[noreturn]] void abort(Fehler fehler, std::string grund, std::size_t position)
+{
+    throw Abbruch{fehler, std::move(grund), position};
+}
+
+/// The value of the arithmetic, whose run-time errors get a place in the formula.
+template <class Arithmetic>
+auto located(std::size_t position, Arithmetic&& arithmetic)
+{
+    try {
+        return arithmetic();
+    } catch (const Laufzeitfehler& error) {
+        abort(static_cast<Fehler>(error.Nummer()), error.what(), position);
+    }
+}
+
+bool isOperator(char c) { return c == '+' || c == '-' || c == '*' || c == '/' || c == '^'; }
+
+/// A part of the formula as it may appear in a message.
+std::string quoted(std::string_view text)
+{
+    constexpr std::size_t Longest = 40;
+    if (text.size() <= Longest)
+        return std::string(text);
+    std::size_t end = Longest;
+    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80) // not inside a character
+        --end;
+    return std::string(text.substr(0, end)) + "…";
+}
+
+/// Digits with at most one decimal separator: what can stand before the "e" of an exponent.
+bool isMantissa(std::string_view text)
+{
+    bool digits = false;
+    int separators = 0;
+    for (const char c : text) {
+        if (c >= '0' && c <= '9')
+            digits = true;
+        else if (c == ',' || c == '.')
+            ++separators;
+        else
+            return false;
+    }
+    return digits && separators <= 1;
+}
+
+/// A value rounded as if it had been written as text (15 significant digits) and read back.
+double throughText(double value)
+{
+    constexpr double ExactIntegers = 1e15;
+    if (value == std::trunc(value) && std::abs(value) < ExactIntegers)
+        return value;
+    return doubleFromText(textOfDouble(value));
+}
+
+double combine(double left, char op, double right)
+{
+    switch (op) {
+    case '^':
+        return power(left, right);
+    case '*':
+        return left * right;
+    case '/':
+        return quotient(left, right);
+    case '+':
+        return left + right;
+    default:
+        return left - right;
+    }
+}
+
+} // namespace
+
+Auswertung::Auswertung(std::string_view text, const ElementCollection& elements)
+    : m_text(text)
+    , m_elements(elements)
+{
+}
+
+double Auswertung::evaluate() { return expression(0, m_text.size()); }
+
+std::size_t Auswertung::skipBlanks(std::size_t i, std::size_t end) const
+{
+    while (i < end && m_text[i] == ' ')
+        ++i;
+    return i;
+}
+
+/// The value of the text from begin up to end; 0 if it is blank.
+double Auswertung::expression(std::size_t begin, std::size_t end)
+{
+    if (trimmed(part(begin, end)).empty())
+        return 0;
+    if (++m_depth > MaxDepth)
+        abort(Fehler::UngueltigesArgument, "zu tief verschachtelt", begin);
+    std::size_t i = begin;
+    double value = nextOperand(i, end);
+    if (i < end)
+        value = chain(value, i, end);
+    --m_depth;
+    return value;
+}
+
+/// The value of an operand and of what follows it from the operator at i up to end.
+double Auswertung::chain(double first, std::size_t i, std::size_t end)
+{
+    const std::size_t base = m_terms.size();
+    m_terms.push({0, first, i});
+    while (i < end) {
+        const std::size_t position = i++;
+        const double value = nextOperand(i, end);
+        m_terms.push({m_text[position], value, position});
+    }
+    reduce(base, "^");
+    reduce(base, "*/");
+    reduce(base, "+-");
+    const double value = m_terms[base].value;
+    m_terms.shrink(base);
+    return value;
+}
+
+/// Reads the operand that begins at i and moves i to the operator behind it or to the end.
+double Auswertung::nextOperand(std::size_t& i, std::size_t end)
+{
+    const std::size_t begin = i;
+    while (i < end && m_text[i] != '(' && m_text[i] != ')' && !splitsAt(i, begin))
+        ++i;
+    const std::string_view text = trimmed(part(begin, i));
+    if (i < end && m_text[i] == ')')
+        abort(Fehler::TypenUnvertraeglich, "\")\" ohne \"(\"", i);
+    if (i == end || m_text[i] != '(') {
+        if (text.empty())
+            abort(Fehler::TypenUnvertraeglich, "Operand fehlt", i);
+        return operand(text, begin);
+    }
+    const std::size_t open = i;
+    const std::size_t close = matchingParenthesis(open, end);
+    i = skipBlanks(close + 1, end);
+    if (i < end && !isOperator(m_text[i]))
+        abort(Fehler::TypenUnvertraeglich, "Operator fehlt", i);
+    return text.empty() ? expression(open + 1, close) : function(text, begin, open + 1, close);
+}
+
+/// Whether the operator character at i ends the operand that begins at `begin`; the sign of an exponent does not.
+bool Auswertung::splitsAt(std::size_t i, std::size_t begin) const
+{
+    if (!isOperator(m_text[i]))
+        return false;
+    const bool afterE = i > begin && (m_text[i - 1] == 'e' || m_text[i - 1] == 'E');
+    return !afterE || !isMantissa(trimmed(part(begin, i - 1)));
+}
+
+std::size_t Auswertung::matchingParenthesis(std::size_t open, std::size_t end) const
+{
+    int depth = 0;
+    for (std::size_t i = open; i < end; ++i) {
+        if (m_text[i] == '(')
+            ++depth;
+        else if (m_text[i] == ')' && --depth == 0)
+            return i;
+    }
+    abort(Fehler::TypenUnvertraeglich, "\")\" fehlt", open);
+}
+
+double Auswertung::operand(std::string_view text, std::size_t position) const
+{
+    if (const std::optional<double> number = located(position, [&] { return numberIn(text); }))
+        return *number;
+    const std::string name = lowerCase(text.substr(0, 3));
+    if (text.size() == 2 && name == "pi")
+        return KonstantePi;
+    if (name == "e")
+        return KonstanteE;
+    if (name.starts_with("z_"))
+        return valenceOf(text.substr(2), position);
+    abort(Fehler::TypenUnvertraeglich, "\"" + quoted(text) + "\" ist keine Zahl", position);
+}
+
+double Auswertung::valenceOf(std::string_view key, std::size_t position) const
+{
+    const auto element = m_elements.find(key, true);
+    if (!element)
+        abort(Fehler::UngueltigesArgument, "Element \"" + quoted(key) + "\" ist nicht bekannt", position);
+    if (istUnbekannt(element->Valenz()))
+        abort(Fehler::UngueltigesArgument, "Valenz von \"" + quoted(key) + "\" ist nicht bekannt", position);
+    return located(position, [&] { return doubleFromText(textOfSingle(element->Valenz())); });
+}
+
+/// The value of a function whose arguments stand from begin up to end.
+double Auswertung::function(std::string_view name, std::size_t namePosition, std::size_t begin, std::size_t end)
+{
+    std::array<double, 2> argument{};
+    int count = 0;
+    for (std::size_t i = begin; count == 0 || i <= end; ++count) {
+        const std::size_t argumentEnd = endOfArgument(i, end);
+        if (count == MaxArguments)
+            abort(Fehler::IndexAusserhalb, "zu viele Argumente", i);
+        if (trimmed(part(i, argumentEnd)).empty())
+            abort(Fehler::TypenUnvertraeglich, "Argument fehlt", i);
+        const double value = expression(i, argumentEnd);
+        if (count < 2)
+            argument.at(static_cast<std::size_t>(count)) = value;
+        i = argumentEnd + 1;
+    }
+    const Formelfunktion* const found = findFunction(lowerCase(name));
+    if (found == nullptr)
+        return unknownFunction(name, namePosition);
+    if (count < found->arguments)
+        abort(Fehler::TypenUnvertraeglich, "Argument fehlt", end);
+    return located(namePosition, [&] {
+        if (found->value != nullptr)
+            return throughText(checked(found->value(argument[0], argument[1])));
+        m_hexadecimal = true;
+        return doubleFromText("&H" + hexDigits(argument[0]));
+    });
+}
+
+/// The ";" that ends the argument beginning at i, on the outermost level, or the end.
+std::size_t Auswertung::endOfArgument(std::size_t i, std::size_t end) const
+{
+    for (int depth = 0; i < end; ++i) {
+        if (m_text[i] == '(')
+            ++depth;
+        else if (m_text[i] == ')')
+            --depth;
+        else if (m_text[i] == ';' && depth == 0)
+            break;
+    }
+    return i;
+}
+
+double Auswertung::unknownFunction(std::string_view name, std::size_t position)
+{
+    if (m_messages.size() < MaxMessages)
+        m_messages.push_back("Fehler in Formel. (Funktion '" + quoted(name) + "' nicht definiert?)");
+    if (!m_unknownFunction)
+        m_unknownFunction =
+            Abbruch{Fehler::UngueltigesArgument, "Funktion \"" + quoted(name) + "\" ist nicht definiert", position};
+    return 0;
+}
+
+/// Combines the terms from `base` on whose operator is one of `operators`, from left to right.
+void Auswertung::reduce(std::size_t base, std::string_view operators)
+{
+    std::size_t last = base;
+    for (std::size_t k = base + 1; k < m_terms.size(); ++k) {
+        const Term& term = m_terms[k];
+        if (operators.find(term.op) == std::string_view::npos)
+            m_terms[++last] = term;
+        else
+            m_terms[last].value =
+                located(term.position, [&] { return checked(combine(m_terms[last].value, term.op, term.value)); });
+    }
+    m_terms.shrink(last + 1);
+}
+
+} // namespace zerna

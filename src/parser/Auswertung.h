@@ -1,0 +1,97 @@
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/ElementCollection.h"
+#include "core/Laufzeitfehler.h"
+
+namespace zerna {
+
+/// Ends an evaluation; `position` counts bytes of the formula without its blanks, from 0.
+struct Abbruch {
+    Fehler fehler;
+    std::string grund;
+    std::size_t position;
+};
+
+/// One operand with the operator in front of it; the first of an expression has none.
+struct Term {
+    char op;
+    double value;
+    std::size_t position; ///< of the operator
+};
+
+/// A stack of terms that asks for memory only when it grows past those of an ordinary formula.
+class Termstapel {
+public:
+    std::size_t size() const { return m_size; }
+    Term& operator[](std::size_t i) { return i < m_first.size() ? m_first[i] : m_rest[i - m_first.size()]; }
+
+    void push(const Term& term)
+    {
+        if (m_size < m_first.size())
+            m_first[m_size] = term;
+        else
+            m_rest.push_back(term);
+        ++m_size;
+    }
+
+    void shrink(std::size_t size)
+    {
+        m_size = size;
+        if (!m_rest.empty())
+            m_rest.resize(std::max(size, m_first.size()) - m_first.size());
+    }
+
+private:
+    std::array<Term, 16> m_first;
+    std::vector<Term> m_rest;
+    std::size_t m_size = 0;
+};
+
+/// One evaluation of a formula without blanks: evaluate once, then read what else came out.
+class Auswertung {
+public:
+    Auswertung(std::string_view text, const ElementCollection& elements);
+    Auswertung(const Auswertung&) = delete;
+    Auswertung& operator=(const Auswertung&) = delete;
+
+    /// The formula's value; throws Abbruch.
+    double evaluate();
+
+    bool hexadecimal() const { return m_hexadecimal; }
+    const std::optional<Abbruch>& unknownFunction() const { return m_unknownFunction; } ///< the first one
+    std::vector<std::string> takeMessages() { return std::move(m_messages); }
+
+private:
+    double expression(std::size_t begin, std::size_t end);
+    double chain(double first, std::size_t i, std::size_t end);
+    double nextOperand(std::size_t& i, std::size_t end);
+    double operand(std::string_view text, std::size_t position) const;
+    double valenceOf(std::string_view key, std::size_t position) const;
+    double function(std::string_view name, std::size_t namePosition, std::size_t begin, std::size_t end);
+    double unknownFunction(std::string_view name, std::size_t position);
+    void reduce(std::size_t base, std::string_view operators);
+
+    std::string_view part(std::size_t begin, std::size_t end) const { return m_text.substr(begin, end - begin); }
+    std::size_t skipBlanks(std::size_t i, std::size_t end) const;
+    bool splitsAt(std::size_t i, std::size_t begin) const;
+    std::size_t matchingParenthesis(std::size_t open, std::size_t end) const;
+    std::size_t endOfArgument(std::size_t i, std::size_t end) const;
+
+    std::string_view m_text;
+    const ElementCollection& m_elements;
+    Termstapel m_terms;
+    int m_depth = 0;
+    bool m_hexadecimal = false;
+    std::optional<Abbruch> m_unknownFunction;
+    std::vector<std::string> m_messages;
+};
+
+} // namespace zerna

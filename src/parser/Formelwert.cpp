@@ -1,0 +1,81 @@
+#include "parser/Formelwert.h"
+
+#include <algorithm>
+
+#include "core/Zahlentext.h"
+#include "parser/Auswertung.h"
+
+namespace zerna {
+
+namespace {
+
+/// Passes the formula without its blanks on character by character: put(character, place in the formula).
+template <class Put>
+void withoutBlanks(std::string_view formula, Put&& put)
+{
+    std::size_t next = 0;
+    for (std::size_t i = 1; i < formula.size() && next < formula.size(); ++i) {
+        if (formula[next] == ' ')
+            ++next; // the character that moves to this place is passed over
+        if (next < formula.size()) {
+            put(formula[next], next);
+            ++next;
+        }
+    }
+    for (; next < formula.size(); ++next)
+        put(formula[next], next);
+}
+
+/// The character (from 1) of the formula at which byte `compact` of the formula without blanks stands.
+std::size_t characterOf(std::string_view formula, std::size_t compact)
+{
+    std::size_t place = formula.size();
+    std::size_t written = 0;
+    withoutBlanks(formula, [&](char, std::size_t from) {
+        if (written++ == compact)
+            place = from;
+    });
+    const auto startsCharacter = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80; };
+    return static_cast<std::size_t>(std::ranges::count_if(formula.substr(0, place), startsCharacter)) + 1;
+}
+
+Formelfehler formelfehler(const Abbruch& abbruch, std::string_view formula)
+{
+    return {static_cast<int>(abbruch.fehler), abbruch.grund, characterOf(formula, abbruch.position)};
+}
+
+} // namespace
+
+Formelwert formelwert(std::string_view formula, const ElementCollection& elements)
+{
+    const bool hasBlanks = formula.find(' ') != std::string_view::npos;
+    const std::string compact = hasBlanks ? removeBlanks(formula) : std::string();
+    Auswertung auswertung(hasBlanks ? compact : formula, elements);
+    const auto unknown = [&] {
+        const auto& abbruch = auswertung.unknownFunction();
+        return abbruch ? std::optional(formelfehler(*abbruch, formula)) : std::nullopt;
+    };
+    std::optional<Formelfehler> end;
+    try {
+        const double value = auswertung.evaluate();
+        const bool hexadecimal = auswertung.hexadecimal();
+        return {hexadecimal ? "0x" + hexDigits(value) : textOfDouble(value), value, hexadecimal, unknown(),
+            auswertung.takeMessages()};
+    } catch (const Abbruch& abbruch) {
+        end = formelfehler(abbruch, formula);
+    } catch (const Laufzeitfehler& error) { // a hexadecimal result that is too large
+        end = Formelfehler{error.Nummer(), error.what(), 1};
+    }
+    auto first = unknown();
+    return {"0", 0, false, first ? first : end, auswertung.takeMessages()};
+}
+
+std::string removeBlanks(std::string_view formula)
+{
+    std::string compact;
+    compact.reserve(formula.size());
+    withoutBlanks(formula, [&](char c, std::size_t) { compact += c; });
+    return compact;
+}
+
+} // namespace zerna
