@@ -144,8 +144,8 @@ void printEdit(const char* name, const MedianReporter& reporter)
     std::printf("%s %7.2f µs (ohne Ziel)\n", column(name).c_str(), nanoseconds / 1000);
     std::printf("%s %7.0f   <=  0  %s\n", column("  Speicheranforderungen ohne Texte").c_str(), quantities,
         verdict(quantities == 0));
-    std::printf("%s %7.0f   <= %2.0f  %s\n", column("  Speicheranforderungen der Texte").c_str(), texts,
-        textCount, verdict(texts <= textCount));
+    std::printf("%s %7.0f   <= %2.0f  %s\n", column("  Speicheranforderungen der Texte").c_str(), texts, textCount,
+        verdict(texts <= textCount));
 }
 
 /// The benchmark's own time or one of its counters, in milliseconds.

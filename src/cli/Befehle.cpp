@@ -15,6 +15,7 @@
 #include "core/Zahlentext.h"
 #include "core/Zeichensatz.h"
 #include "model/Einwaage.h"
+#include "model/Ergebnisse.h"
 #include "model/Groessentabelle.h"
 #include "model/Konzentrationsreihe.h"
 #include "model/PSEReihe.h"
@@ -80,7 +81,8 @@ public:
 
     void text()
     {
-        const std::vector<Komponentenzeile> zeilen = loadAlloy();
+        loadAlloy();
+        const std::vector<Komponentenzeile> zeilen = m_kern.eingabe().komponentenzeilen();
         Ergebnistexte texte;
         berechneErgebnisse(m_kern.calc(), texte);
         const bool toFile = !m_optionen.ausgabe.empty();
@@ -97,11 +99,11 @@ public:
     {
         requireReihengroesse();
         loadAlloy();
-        const std::vector<Reihenkomponente> komponenten = m_kern.komponenten();
+        const auto komponenten = m_kern.komponenten();
         const int variabel = indexOfVariabel(komponenten);
         const Reihe werte = m_optionen.groesse == GroesseDichte
             ? dichtereihe(dichten(komponenten), variabel)
-            : konzentrationsreihe(m_kern.calc(), m_kern.parser(), komponenten, variabel, m_optionen.groesse);
+            : konzentrationsreihe(m_kern.calc(), komponenten, variabel, m_optionen.groesse);
         put(reihendatei(komponenten[static_cast<std::size_t>(variabel)].element->symbol(),
             reiheneinheit(m_optionen.groesse), werte, m_optionen.schritt));
     }
@@ -123,14 +125,15 @@ public:
             throw Aufruffehler("Ein ternäres Diagramm hat drei Komponenten, angegeben sind "
                 + std::to_string(m_optionen.komponenten.size()));
         loadAlloy();
-        put(ternaerdatei(ternaergitter(
-            m_kern.calc(), m_kern.parser(), m_kern.komponenten(), m_optionen.groesse, m_optionen.aufloesung)));
+        put(ternaerdatei(
+            ternaergitter(m_kern.calc(), m_kern.komponenten(), m_optionen.groesse, m_optionen.aufloesung)));
     }
 
     void wiegen()
     {
         const float gesamt = wiegezahlArgument();
-        const auto count = static_cast<int>(loadAlloy().size());
+        loadAlloy();
+        const int count = m_kern.eingabe().anzahl();
         if (m_kern.calc().Element_Prozente(0) == 0)
             throw Datenfehler(
                 "Komponente \"" + m_optionen.komponenten.front() + "\": hat 0 at% und ist der Bezug der Rechnung");
@@ -173,13 +176,13 @@ private:
             m_kern.loadBuiltIn();
     }
 
-    std::vector<Komponentenzeile> loadAlloy()
+    void loadAlloy()
     {
         std::vector<Komponentenangabe> angaben;
         for (const std::string& text : m_optionen.komponenten)
             angaben.push_back(komponentenangabe(text));
         load();
-        return m_kern.setAlloy(angaben);
+        m_kern.setAlloy(angaben);
     }
 
     void requireReihengroesse() const
@@ -198,20 +201,20 @@ private:
         }
     }
 
-    int indexOfVariabel(const std::vector<Reihenkomponente>& komponenten) const
+    int indexOfVariabel(std::span<const Legierungskomponente> komponenten) const
     {
         const auto wanted = m_kern.elements().find(m_optionen.variabel, true);
-        const auto found = std::ranges::find(komponenten, wanted, &Reihenkomponente::element);
+        const auto found = std::ranges::find(komponenten, wanted, &Legierungskomponente::element);
         if (!wanted || found == komponenten.end())
             throw Aufruffehler("--variabel " + m_optionen.variabel + ": keine Komponente der Legierung");
         return static_cast<int>(found - komponenten.begin());
     }
 
-    static std::vector<float> dichten(const std::vector<Reihenkomponente>& komponenten)
+    static std::vector<float> dichten(std::span<const Legierungskomponente> komponenten)
     {
         std::vector<float> result;
-        for (const Reihenkomponente& komponente : komponenten)
-            result.push_back(komponente.element->Dichte());
+        for (const Legierungskomponente& komponente : komponenten)
+            result.push_back(komponente.dichte);
         return result;
     }
 

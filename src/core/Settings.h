@@ -34,9 +34,11 @@ public:
         return value.empty() ? std::string(standard) : value;
     }
 
+    /// Stores the value unless it is there already: a store that is a file would be written again.
     void SaveSetting(std::string_view key, std::string_view value)
     {
-        m_store.setValue(m_application, Section, key, value);
+        if (m_store.value(m_application, Section, key) != value)
+            m_store.setValue(m_application, Section, key, value);
     }
 
 private:

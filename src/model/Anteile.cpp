@@ -6,26 +6,24 @@
 
 namespace zerna {
 
-namespace {
-
-float valenzOf(const clsElement& element, clsParser& parser)
+Legierungskomponente gelesen(std::shared_ptr<const clsElement> element, float prozent, clsParser& parser)
 {
-    const std::string value = parser.Parse(element.Valenz_Temp());
+    const std::string valenz = parser.Parse(element->Valenz_Temp());
     if (parser.LastError())
         throw Laufzeitfehler(static_cast<Fehler>(parser.LastError()->Nummer));
-    return singleFromText(value);
+    const float dichte = element->Dichte();
+    return {std::move(element), prozent, dichte, singleFromText(valenz)};
 }
 
-} // namespace
-
-std::array<Anteil, MaxKomponenten> anteile(clsParser& parser, std::span<const Reihenkomponente> komponenten)
+std::array<Anteil, MaxKomponenten> anteile(std::span<const Legierungskomponente> komponenten)
 {
     std::array<Anteil, MaxKomponenten> result;
     for (std::size_t j = 0; j < komponenten.size(); ++j) {
-        const clsElement& element = *komponenten[j].element;
-        if (istUnbekannt(element.Dichte()) || istUnbekannt(element.Masse()))
+        const Legierungskomponente& k = komponenten[j];
+        const float masse = k.element->Masse();
+        if (istUnbekannt(k.dichte) || istUnbekannt(masse) || istUnbekannt(k.valenz))
             throw Laufzeitfehler(Fehler::UngueltigesArgument);
-        result.at(j) = {valenzOf(element, parser), quotient(element.Masse(), element.Dichte())};
+        result.at(j) = {k.valenz, quotient(masse, k.dichte)};
     }
     return result;
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <memory>
 #include <span>
 
 #include "model/clsCalc.h"
@@ -9,20 +8,17 @@
 /// Stepping a calculator through many compositions of the same components.
 namespace zerna {
 
-/// One component of a series or grid: its element with the working density and valence text, and its entered at%.
-struct Reihenkomponente {
-    std::shared_ptr<const clsElement> element;
-    float prozent = 0;
-};
+/// A component whose density and valence text its element holds. The errors of the text reach the caller.
+Legierungskomponente gelesen(std::shared_ptr<const clsElement> element, float prozent, clsParser& parser);
 
-/// What compositions need of a component, read once.
+/// What compositions need of a component.
 struct Anteil {
     double valenz = 0;
     double molvolumen = 0; ///< cm³/mol
 };
 
-/// Reads each component; the valence texts are evaluated. Run-time errors reach the caller.
-std::array<Anteil, MaxKomponenten> anteile(clsParser& parser, std::span<const Reihenkomponente> komponenten);
+/// Error 5 for an unknown density, mass or valence, error 11 for a density of 0.
+std::array<Anteil, MaxKomponenten> anteile(std::span<const Legierungskomponente> komponenten);
 
 /// Sets the calculator to a composition (at%, one per component).
 void setComposition(clsCalc& calc, std::span<const Anteil> anteile, std::span<const double> prozente);

@@ -92,12 +92,11 @@ std::vector<std::string> verlustliste(const clsCalc& calc, std::span<const float
     return lines;
 }
 
-float wiegezahl(std::string_view text)
+float wiegezahl(float masse)
 {
-    const float value = ParseValue(text);
-    if (istUnbekannt(value))
+    if (istUnbekannt(masse))
         throw Laufzeitfehler(Fehler::TypenUnvertraeglich);
-    return value;
+    return masse;
 }
 
 std::string massentext(float masse)

@@ -32,8 +32,8 @@ float gesamtmasse(std::span<const float> massen);
 /// The loss analysis: what composition is left when the whole loss falls on one component, for each of them.
 std::vector<std::string> verlustliste(const clsCalc& calc, std::span<const float> massen, float verlust);
 
-/// The number in a field: 0 for an empty text, error 13 for a text that is no number (a sign makes it none).
-float wiegezahl(std::string_view text);
+/// The mass that a field's text came to; error 13 for a text that came to none.
+float wiegezahl(float masse);
 
 /// A computed mass as text: three decimals, or four significant digits where those would not tell it.
 std::string massentext(float masse);

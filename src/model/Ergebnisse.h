@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "model/Groessen.h"
+#include "model/Komponentenzeile.h"
 
 /// The result lines of an alloy as texts, and what is copied and saved of them.
 namespace zerna {
@@ -33,16 +34,6 @@ std::string friedelanzeige(const clsCalc& calc, float n);
 /// The running index of the read-out kept within 0 to 20.
 /// Intended: 20 is reached downwards from 0, upwards 0 follows 19.
 float friedelindex(float n);
-
-/// A component as the results text names it, all texts as shown.
-struct Komponentenzeile {
-    std::string symbol;
-    std::string prozent;
-    std::string dichtewahl;
-    std::string dichte;
-    std::string valenzwahl;
-    std::string valenz;
-};
 
 /// The text for the clipboard: CR LF between lines. Lines of unknown values are left out.
 /// Intended: every Friedel line carries the Friedel wavelength, n counts from 0, and editable lines are their bare

@@ -4,7 +4,7 @@
 
 #include "core/CheckedArithmetic.h"
 #include "core/Zahlentext.h"
-#include "model/clsCalc.h"
+#include "model/Legierung.h"
 
 namespace zerna {
 
@@ -64,8 +64,6 @@ float valenzFor(const clsElement& element, int code)
     return code == ValenzAndere ? 0 : electronsOf(element, code);
 }
 
-std::string feldtext(float value) { return istUnbekannt(value) ? std::string(UnbekannterWert) : textOfSingle(value); }
-
 int naechsteKomponentenzahl(int count, int step)
 {
     const int next = count + step;
@@ -81,45 +79,13 @@ int gespeicherteKomponentenzahl(std::string_view setting)
     return valid ? setting.front() - '0' : Standard;
 }
 
-std::optional<std::string> ausgleichstext(std::span<const std::string> prozente)
+std::string ausgleichstext(std::span<const float> prozente)
 {
     constexpr int Stellen = 7;
     float sum = 0;
-    for (const std::string& text : prozente) {
-        if (text.empty())
-            return std::nullopt;
-        sum = toSingle(static_cast<double>(sum) + singleFromText(text));
-    }
+    for (const float prozent : prozente)
+        sum = toSingle(static_cast<double>(sum) + prozent);
     return textWithDigits(toSingle(100.0 - sum), Stellen);
-}
-
-std::string diagrammhindernis(std::span<const Diagrammzeile> zeilen)
-{
-    for (const Diagrammzeile& zeile : zeilen) {
-        if (zeile.name.empty())
-            return "Es ist nicht für jede Komponente ein Element gewählt!";
-        const float dichte = orUnbekannt([&] { return singleFromText(zeile.dichte); });
-        if (dichte == 0)
-            return "Dichte für " + zeile.name + " ist Null!";
-        if (zeile.dichte.empty() || zeile.dichte == UnbekannterWert)
-            return "Dichte für " + zeile.name + " ist unbekannt!";
-        if (istUnbekannt(dichte))
-            return "Dichte für " + zeile.name + " ist keine gültige Zahl!";
-        if (zeile.valenzUnbekannt)
-            return "Valenz für " + zeile.name + " ist unbekannt!";
-        if (!zeile.valenzGueltig)
-            return "Valenz für " + zeile.name + " ist ungültig!";
-    }
-    return {};
-}
-
-bool istFormel(std::string_view valenztext)
-{
-    try {
-        return !numberIn(valenztext);
-    } catch (const Laufzeitfehler&) {
-        return false; // a number, though too large
-    }
 }
 
 } // namespace zerna

@@ -1,22 +1,17 @@
 #pragma once
 
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "core/Unbekannt.h"
 #include "core/clsElement.h"
 
-/// The rules of composition entry: what a row offers and how typed texts become an alloy.
+/// The rules of composition entry: what a row offers, how many rows there are and what the last of them holds.
 namespace zerna {
 
 /// Entry of the density and the valence choice for a value that is typed.
 inline constexpr std::string_view AndereWahl = "<andere>";
-
-/// What a value field shows for a missing value.
-inline constexpr std::string_view UnbekannterWert = "<unbekannt>";
 
 /// Codes of the valence choice; 0 to 3 are the orbital groups s, p, d, f.
 inline constexpr int ValenzStandard = 1000;
@@ -39,9 +34,6 @@ std::vector<Valenzeintrag> valenzauswahl(const clsElement& element);
 /// The element's valence for a code; 0 for ValenzAndere.
 float valenzFor(const clsElement& element, int code);
 
-/// What a value field shows: the shortest text of the single, or "<unbekannt>".
-std::string feldtext(float value);
-
 /// The component count after one step up (+1) or down (-1).
 /// Intended: wraps from 5 to 1 and from 1 to 5.
 int naechsteKomponentenzahl(int count, int step);
@@ -49,22 +41,8 @@ int naechsteKomponentenzahl(int count, int step);
 /// The stored component count, which is one less than the number of rows. Anything but 0 to 5 counts as "2".
 int gespeicherteKomponentenzahl(std::string_view setting);
 
-/// The at% text of the balance row for the at% texts of the rows above it: 100 less their sum, at most seven
-/// significant digits, maybe negative. No value if one of them is empty; error 13 or 6 for a text that is no number.
-std::optional<std::string> ausgleichstext(std::span<const std::string> prozente);
-
-/// What a diagram over compositions asks of a row.
-struct Diagrammzeile {
-    std::string name; ///< of the element
-    std::string dichte; ///< text of the density field
-    bool valenzUnbekannt = false;
-    bool valenzGueltig = true; ///< the valence text can be evaluated
-};
-
-/// Why no diagram can be computed for the rows, in German; empty if it can.
-std::string diagrammhindernis(std::span<const Diagrammzeile> zeilen);
-
-/// Whether a valence text is a formula rather than a plain number.
-bool istFormel(std::string_view valenztext);
+/// The at% text of the balance row for the at% of the rows above it: 100 less their sum, at most seven significant
+/// digits, maybe negative. Error 6 for a sum that no single can hold.
+std::string ausgleichstext(std::span<const float> prozente);
 
 } // namespace zerna

@@ -33,11 +33,11 @@ float (*reihenwert(int groesse))(const clsCalc&)
 }
 
 Reihe konzentrationsreihe(
-    const clsCalc& calc, clsParser& parser, std::span<const Reihenkomponente> komponenten, int variable, int groesse)
+    const clsCalc& calc, std::span<const Legierungskomponente> komponenten, int variable, int groesse)
 {
     const auto wert = reihenwert(groesse);
     const std::size_t index = checkedIndex(variable, komponenten.size());
-    const auto teile = anteile(parser, komponenten);
+    const auto teile = anteile(komponenten);
     const auto used = std::span(teile).first(komponenten.size());
     std::array<double, MaxKomponenten> prozente{};
     clsCalc scratch = calc;

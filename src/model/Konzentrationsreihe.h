@@ -23,9 +23,9 @@ float (*reihenwert(int groesse))(const clsCalc&);
 
 /// The series of quantity `groesse` (any over compositions but the density) for component `variable`. The others keep
 /// their entered proportions and share what is left. The calculator is not changed; its constants and formulas are
-/// used, and each valence text is evaluated once. Run-time errors reach the caller, error 5 for another quantity.
+/// used. Run-time errors reach the caller, error 5 for another quantity.
 Reihe konzentrationsreihe(
-    const clsCalc& calc, clsParser& parser, std::span<const Reihenkomponente> komponenten, int variable, int groesse);
+    const clsCalc& calc, std::span<const Legierungskomponente> komponenten, int variable, int groesse);
 
 /// The density series (g/cm³) from the densities of all components.
 /// Intended: the other components share what is left in equal parts, not in their entered proportions. A single

@@ -21,18 +21,18 @@ void forEachPoint(int n, Point&& point)
     }
 }
 
-float meanDensity(std::span<const Reihenkomponente> komponenten, const std::array<double, 3>& prozente)
+float meanDensity(std::span<const Legierungskomponente> komponenten, const std::array<double, 3>& prozente)
 {
     double sum = 0;
     for (std::size_t k = 0; k < prozente.size(); ++k)
-        sum += prozente.at(k) * komponenten[k].element->Dichte();
+        sum += prozente.at(k) * komponenten[k].dichte;
     return toSingle(sum / 100);
 }
 
 } // namespace
 
 Ternaergitter ternaergitter(
-    const clsCalc& calc, clsParser& parser, std::span<const Reihenkomponente> komponenten, int groesse, int aufloesung)
+    const clsCalc& calc, std::span<const Legierungskomponente> komponenten, int groesse, int aufloesung)
 {
     if (komponenten.size() != 3 || aufloesung < 1 || aufloesung > 10)
         throw Laufzeitfehler(Fehler::UngueltigesArgument);
@@ -40,9 +40,9 @@ Ternaergitter ternaergitter(
     gitter.n = DivisionsPerResolution * aufloesung;
     gitter.einheit = reiheneinheit(groesse);
     std::ranges::transform(
-        komponenten, gitter.symbole.begin(), [](const Reihenkomponente& k) { return k.element->symbol(); });
+        komponenten, gitter.symbole.begin(), [](const Legierungskomponente& k) { return k.element->symbol(); });
     gitter.werte.reserve(static_cast<std::size_t>((gitter.n + 1) * (gitter.n + 2) / 2));
-    const auto teile = anteile(parser, komponenten);
+    const auto teile = anteile(komponenten);
     const auto used = std::span(teile).first<3>();
     if (groesse == GroesseDichte) {
         forEachPoint(gitter.n,

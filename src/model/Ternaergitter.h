@@ -31,7 +31,7 @@ struct Ternaergitter {
 /// matter; for the density it is the at%-weighted mean. The calculator is not changed. Errors of the components'
 /// densities and valences reach the caller, error 5 for anything but three components.
 Ternaergitter ternaergitter(
-    const clsCalc& calc, clsParser& parser, std::span<const Reihenkomponente> komponenten, int groesse, int aufloesung);
+    const clsCalc& calc, std::span<const Legierungskomponente> komponenten, int groesse, int aufloesung);
 
 /// Smallest and largest known value; no value if there is none.
 struct Wertebereich {

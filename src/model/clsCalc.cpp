@@ -1,5 +1,7 @@
 #include "model/clsCalc.h"
 
+#include <algorithm>
+
 #include "core/CheckedArithmetic.h"
 #include "core/Zahlentext.h"
 #include "model/Konstanten.h"
@@ -74,10 +76,18 @@ void clsCalc::Element_Add(int index, std::string_view key, float prozent)
     const auto& element = m_elements.Item(key);
     if (index < 0 || index >= MaxKomponenten)
         throw Laufzeitfehler(Fehler::IndexAusserhalb);
-    Komponente& komponente = m_komponenten.at(static_cast<std::size_t>(index));
+    Legierungskomponente& komponente = m_komponenten.at(static_cast<std::size_t>(index));
     komponente.element = element;
     komponente.prozent = prozent;
     Neu_Berechnen();
+}
+
+void clsCalc::Legierung_Setzen(std::span<const Legierungskomponente> komponenten)
+{
+    if (komponenten.empty() || komponenten.size() > m_komponenten.size())
+        throw Laufzeitfehler(Fehler::IndexAusserhalb);
+    std::ranges::copy(komponenten, m_komponenten.begin());
+    berechne(komponenten);
 }
 
 float clsCalc::Fermienergie() const
@@ -151,31 +161,44 @@ const clsElement* clsCalc::elementAt(int index) const
     return valid ? m_komponenten.at(static_cast<std::size_t>(index)).element.get() : nullptr;
 }
 
+/// Calculates from the components in the slots, whose densities and valence texts their elements hold.
+void clsCalc::Neu_Berechnen()
+{
+    try {
+        if (m_komponentenzahl > MaxKomponenten)
+            throw Laufzeitfehler(Fehler::IndexAusserhalb);
+        const auto used = std::span(m_komponenten).first(static_cast<std::size_t>(std::max(0, m_komponentenzahl)));
+        for (std::size_t i = 0; i < used.size(); ++i) {
+            if (!used[i].element)
+                throw Laufzeitfehler(Fehler::ObjektNichtFestgelegt);
+            used[i].dichte = used[i].element->Dichte();
+            used[i].valenz = valenzOf(*used[i].element, m_gelesen.at(i));
+        }
+        berechne(used);
+    } catch (const Laufzeitfehler&) {
+        berechnungGescheitert();
+    }
+}
+
 /// Sums at%-weighted valence, molar volume and density. Any error makes all three unknown and leaves Kf_2 as it was.
 /// Intended: at% are not normalised to a sum of 100; the density is weighted by at%, not by mass, and does not enter
 /// the particle number density, which comes from the molar volume.
-void clsCalc::Neu_Berechnen()
+void clsCalc::berechne(std::span<const Legierungskomponente> komponenten)
 {
     try {
         float valenz = 0;
         float molvolumen = 0; // cm³/mol, times 100
         float dichte = 0;
-        for (int i = 0; i < m_komponentenzahl; ++i) {
-            if (i >= MaxKomponenten)
-                throw Laufzeitfehler(Fehler::IndexAusserhalb);
-            Komponente& komponente = m_komponenten.at(static_cast<std::size_t>(i));
-            if (!komponente.element)
-                throw Laufzeitfehler(Fehler::ObjektNichtFestgelegt);
-            const double prozent = komponente.prozent;
-            const double dichteOfElement = komponente.element->Dichte();
+        for (const Legierungskomponente& k : komponenten) {
+            const double prozent = k.prozent;
+            const float masse = k.element->Masse();
             // A missing density or mass weighed by a small at% would pass for a plausible one.
-            const bool missing =
-                istUnbekannt(komponente.element->Dichte()) || istUnbekannt(komponente.element->Masse());
-            if (prozent != 0 && missing)
+            const bool missing = prozent != 0 && (istUnbekannt(k.dichte) || istUnbekannt(masse));
+            if (missing || istUnbekannt(k.valenz))
                 throw Laufzeitfehler(Fehler::UngueltigesArgument);
-            valenz = toSingle(valenz + valenzOf(komponente) * prozent);
-            molvolumen = toSingle(molvolumen + quotient(prozent * komponente.element->Masse(), dichteOfElement));
-            dichte = toSingle(dichte + dichteOfElement * prozent);
+            valenz = toSingle(valenz + k.valenz * prozent);
+            molvolumen = toSingle(molvolumen + quotient(prozent * masse, k.dichte));
+            dichte = toSingle(dichte + k.dichte * prozent);
         }
         m_valenz = toSingle(valenz / 100.0);
         m_dichte = toSingle(dichte / 100.0);
@@ -183,10 +206,15 @@ void clsCalc::Neu_Berechnen()
         m_teilchenzahldichte = molvolumen == 0 ? Unbekannt : toSingle(AvogadroProKubikmeter / molvolumen);
         Kf_2_Berechnen();
     } catch (const Laufzeitfehler&) {
-        m_valenz = Unbekannt;
-        m_teilchenzahldichte = Unbekannt;
-        m_dichte = Unbekannt;
+        berechnungGescheitert();
     }
+}
+
+void clsCalc::berechnungGescheitert()
+{
+    m_valenz = Unbekannt;
+    m_teilchenzahldichte = Unbekannt;
+    m_dichte = Unbekannt;
 }
 
 void clsCalc::Class_Initialize()
@@ -218,20 +246,18 @@ void clsCalc::Kf_2_Berechnen()
     m_kf2 = orUnbekannt([&] { return toSingle(m_kf2Factor * power(electronDensity(), 1.0 / 3.0)); });
 }
 
-/// The component's valence; error 13 or the formula's own error if its text gives none.
-float clsCalc::valenzOf(Komponente& komponente)
+/// What the element's valence text comes to; error 13 or the formula's own error if it gives none.
+float clsCalc::valenzOf(const clsElement& element, GeleseneValenz& gelesen)
 {
-    const std::string& text = komponente.element->Valenz_Temp();
-    if (komponente.valenzKnown && komponente.valenztext == text)
-        return komponente.valenz;
+    const std::string& text = element.Valenz_Temp();
+    if (gelesen.gilt && gelesen.text == text)
+        return gelesen.valenz;
     const std::string result = m_parser.Parse(text);
     if (m_parser.LastError())
         throw Laufzeitfehler(static_cast<Fehler>(m_parser.LastError()->Nummer));
-    komponente.valenz = singleFromText(result);
-    komponente.valenztext = text;
     // A reference to another element (z_Cu) is looked up each time.
-    komponente.valenzKnown = text.find('_') == std::string::npos;
-    return komponente.valenz;
+    gelesen = {text, singleFromText(result), text.find('_') == std::string::npos};
+    return gelesen.valenz;
 }
 
 bool clsCalc::hasParticles() const { return m_teilchenzahldichte != 0 && !istUnbekannt(m_teilchenzahldichte); }

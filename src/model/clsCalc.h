@@ -1,22 +1,21 @@
 #pragma once
 
 #include <array>
-#include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 
 #include "core/ElementCollection.h"
+#include "model/Legierung.h"
 #include "parser/clsParser.h"
 
 namespace zerna {
 
-/// The largest number of components of an alloy.
-inline constexpr int MaxKomponenten = 5;
-
 /// The alloy under study: up to five components and the free-electron quantities that follow from them.
 ///
-/// Set the component count that was handed over, then call Element_Add for 0, 1, … in order; each call recalculates,
-/// and only the state after the last one counts. Or write Teilchenzahldichte and Valenz directly.
+/// Hand a whole alloy over with Legierung_Setzen. Or set the component count that was handed over, then call
+/// Element_Add for 0, 1, … in order; each call recalculates, and only the state after the last one counts. Or write
+/// Teilchenzahldichte and Valenz directly.
 ///
 /// In the formulas N is the particle number density in 1/m³, z the mean valence and n_e = z·N. Members that "answer
 /// Unbekannt" or 0 do so on any run-time error; the others let it reach their caller.
@@ -54,6 +53,9 @@ public:
     /// for an index outside 0 to 4.
     void Element_Add(int index, std::string_view key, float prozent);
 
+    /// Takes one to five components with their numbers and calculates once. Error 9 for any other count.
+    void Legierung_Setzen(std::span<const Legierungskomponente> komponenten);
+
     float Fermienergie() const; ///< E_F in eV; answers Unbekannt
     float HallKoeffizient() const; ///< −1/(e·n_e) in m³/As; answers Unbekannt
 
@@ -88,20 +90,20 @@ public:
     float Friedelminima(int n) const;
 
 private:
-    /// A component; its last valence text and what it came to are kept, since recalculations by far outnumber edits.
-    struct Komponente {
-        std::shared_ptr<const clsElement> element;
-        float prozent = 0;
-        std::string valenztext;
+    /// The last valence text of a slot and what it came to: recalculations by far outnumber edits.
+    struct GeleseneValenz {
+        std::string text;
         float valenz = 0;
-        bool valenzKnown = false;
+        bool gilt = false;
     };
 
     void Neu_Berechnen();
+    void berechne(std::span<const Legierungskomponente> komponenten);
+    void berechnungGescheitert();
     void Class_Initialize();
     void Kf_2_Berechnen();
     const clsElement* elementAt(int index) const;
-    float valenzOf(Komponente& komponente);
+    float valenzOf(const clsElement& element, GeleseneValenz& gelesen);
     double electronDensity() const { return static_cast<double>(m_valenz) * m_teilchenzahldichte; } // n_e, 1/m³
     bool hasParticles() const;
 
@@ -121,7 +123,8 @@ private:
     float m_teilchenzahldichte = 0; // N, 1/m³
     float m_valenz = 0; // z
     float m_dichte = 0; // g/cm³
-    std::array<Komponente, MaxKomponenten> m_komponenten;
+    std::array<Legierungskomponente, MaxKomponenten> m_komponenten;
+    std::array<GeleseneValenz, MaxKomponenten> m_gelesen; // of Element_Add
     float m_kf2 = 0; // 1/nm
 };
 

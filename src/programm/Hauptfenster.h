@@ -22,11 +22,11 @@ public:
     /// Selects an entry of an element list and fills its row; nothing for a position outside the list.
     virtual void ComboElementListIndex(int index, int listIndex) = 0;
 
-    /// Appends the current text of an element list to the component list of the diagrams.
-    virtual void addDiagramComponent(int list) = 0;
-
     /// Selects the first diagram type and the first component.
     virtual void selectFirstDiagram() = 0;
+
+    /// Computes and shows everything from the rows as they are now.
+    virtual void compute() = 0;
 
     virtual void show() = 0;
 };

@@ -22,7 +22,6 @@ Object& existing(const std::unique_ptr<Object>& object)
 
 Programm::Programm(MessageBoxes& boxes, SettingsStore& settings, std::filesystem::path programFolder)
     : m_boxes(boxes)
-    , m_parserBoxes(boxes)
     , m_settings(settings, std::string(clsLoader::ApplicationName()))
     , m_programFolder(std::move(programFolder))
 {
@@ -53,16 +52,15 @@ bool Programm::startSteps(const CreateWindow& createWindow, Hauptfenster*& windo
     m_startupDone = false;
     window = &createWindow();
     m_fileHandler = std::make_unique<clsFileHandler>(m_files, m_boxes);
-    m_parser = std::make_unique<clsParser>(m_elementCollection, m_parserBoxes);
+    m_parser = std::make_unique<clsParser>(m_elementCollection, m_boxes);
     m_calc = std::make_unique<clsCalc>(m_elementCollection, m_komponentenzahl, *m_parser);
     if (!LoadElements(*window))
         return false;
     m_selectedElement = m_elementCollection.Item(1);
     restoreElements(*window);
-    for (int list = 0; list < 3; ++list)
-        window->addDiagramComponent(list);
     window->selectFirstDiagram();
     m_startupDone = true;
+    window->compute();
     return true;
 }
 
@@ -106,7 +104,7 @@ bool Programm::LoadElements(Hauptfenster& window)
     if (!m_fileHandler->OpenFile(name, Binaer))
         return true;
     const auto fill = [&](const std::shared_ptr<clsElement>& element, int position) {
-        m_currentElement = element;
+        m_eingabe.setCurrentElement(element);
         for (int list = 0; list < MaxKomponenten; ++list)
             window.addElement(list, element->symbol(), position);
     };
@@ -130,11 +128,23 @@ void Programm::restoreElements(Hauptfenster& window)
     }
 }
 
+bool Programm::uebernehmen()
+{
+    const auto legierung = m_eingabe.legierung();
+    if (!m_eingabe.istVollstaendig() || !legierung)
+        return false;
+    m_eingabe.elementeSetzen();
+    m_komponentenzahl = m_eingabe.anzahl();
+    Calc().Legierung_Setzen(legierung->komponenten());
+    m_gerechnet = m_eingabe;
+    return true;
+}
+
 void Programm::shutdown() noexcept
 {
     m_parser.reset();
     m_elementCollection.clear();
-    m_currentElement.reset();
+    m_eingabe.setCurrentElement(nullptr);
     m_selectedElement.reset();
     m_calc.reset();
     m_loader.reset();

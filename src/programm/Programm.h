@@ -3,12 +3,13 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <utility>
 
 #include "core/ElementCollection.h"
-#include "core/OncePerEdit.h"
 #include "core/Settings.h"
 #include "core/clsFileHandler.h"
 #include "core/clsLoader.h"
+#include "model/Eingabe.h"
 #include "model/clsCalc.h"
 #include "parser/clsParser.h"
 #include "programm/Hauptfenster.h"
@@ -38,8 +39,7 @@ public:
     clsParser& Parser();
 
     /// The element that a row handler looked up last; typed density and valence go into it. Maybe null.
-    const std::shared_ptr<clsElement>& CurrentElement() const { return m_currentElement; }
-    void setCurrentElement(std::shared_ptr<clsElement> element) { m_currentElement = std::move(element); }
+    const std::shared_ptr<clsElement>& CurrentElement() const { return m_eingabe.CurrentElement(); }
 
     /// The element chosen in the periodic table. Maybe null.
     const std::shared_ptr<clsElement>& SelectedElement() const { return m_selectedElement; }
@@ -47,17 +47,39 @@ public:
 
     /// False while the window is being filled; change events then do no work.
     bool StartupDone() const { return m_startupDone; }
-    void setStartupDone(bool done) { m_startupDone = done; }
 
-    /// Rows of the composition, 1 to 5.
+    /// While it lives StartupDone is false; then it is again what it was.
+    class Fuellung {
+    public:
+        explicit Fuellung(Programm& programm)
+            : m_programm(programm)
+            , m_before(std::exchange(programm.m_startupDone, false))
+        {
+        }
+        ~Fuellung() { m_programm.m_startupDone = m_before; }
+        Fuellung(const Fuellung&) = delete;
+        Fuellung& operator=(const Fuellung&) = delete;
+
+    private:
+        Programm& m_programm;
+        bool m_before;
+    };
+
+    /// The alloy as it is being entered.
+    zerna::Eingabe& Eingabe() { return m_eingabe; }
+
+    /// The entered alloy as it was when Calc got it.
+    const zerna::Eingabe& gerechneteEingabe() const { return m_gerechnet; }
+
+    /// Hands the entered alloy to Calc, all of it at once; false, and nothing changed, while a row has no element or no
+    /// readable at%.
+    bool uebernehmen();
+
+    /// Components of the alloy in Calc.
     int Komponentenzahl() const { return m_komponentenzahl; }
-    void setKomponentenzahl(int count) { m_komponentenzahl = count; }
 
     Settings& settings() { return m_settings; }
     MessageBoxes& boxes() { return m_boxes; }
-
-    /// A new edit of a formula: the parser's messages may appear again.
-    void beginEdit() { m_parserBoxes.beginEdit(); }
 
 private:
     bool startSteps(const CreateWindow& createWindow, Hauptfenster*& window);
@@ -68,14 +90,14 @@ private:
     std::filesystem::path dataFile();
 
     MessageBoxes& m_boxes;
-    OncePerEdit m_parserBoxes;
     Settings m_settings;
     std::filesystem::path m_programFolder;
     Dateinummern m_files;
     std::unique_ptr<clsLoader> m_loader;
     zerna::ElementCollection m_elementCollection;
-    std::shared_ptr<clsElement> m_currentElement;
     std::shared_ptr<clsElement> m_selectedElement;
+    zerna::Eingabe m_eingabe{m_elementCollection};
+    zerna::Eingabe m_gerechnet{m_elementCollection};
     bool m_startupDone = false;
     int m_komponentenzahl = 0;
     std::unique_ptr<clsFileHandler> m_fileHandler;

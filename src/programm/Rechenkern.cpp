@@ -3,8 +3,9 @@
 #include <algorithm>
 
 #include "core/Elementdatei.h"
+#include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
-#include "model/Komposition.h"
+#include "parser/Formelwert.h"
 #include "programm/EingebauteTabelle.h"
 
 namespace zerna {
@@ -102,70 +103,65 @@ void Rechenkern::load(int number, const std::string& name)
         throw Datenfehler("Datei " + inQuotes(name) + " enthält keine Elemente");
 }
 
-std::vector<Komponentenzeile> Rechenkern::setAlloy(std::span<const Komponentenangabe> angaben)
+void Rechenkern::setAlloy(std::span<const Komponentenangabe> angaben)
 {
     if (angaben.empty() || angaben.size() > MaxKomponenten)
         throw Aufruffehler(
             "Eine Legierung hat eine bis fünf Komponenten, angegeben sind " + std::to_string(angaben.size()));
-    m_komponentenzahl = static_cast<int>(angaben.size());
-    std::vector<Komponentenzeile> zeilen;
-    for (const Komponentenangabe& angabe : angaben)
-        zeilen.push_back(setElement(angabe));
-    m_komponenten.clear();
-    for (Komponentenzeile& zeile : zeilen) {
-        const auto& element = m_elements.Item(zeile.symbol);
-        zeile.dichte = textOfSingle(element->Dichte()); // an element given twice has the values given last
-        zeile.valenz = element->Valenz_Temp();
-        const float prozent = singleFromText(zeile.prozent);
-        m_calc.Element_Add(static_cast<int>(m_komponenten.size()), zeile.symbol, prozent);
-        m_komponenten.push_back({element, prozent});
-    }
+    m_eingabe = Eingabe(m_elements);
+    m_eingabe.setAnzahl(static_cast<int>(angaben.size()));
+    for (int zeile = 0; const Komponentenangabe& angabe : angaben)
+        enterElement(zeile++, angabe);
+    for (int zeile = 0; const Komponentenangabe& angabe : angaben) // the last one over the balance of those before
+        m_eingabe.setProzent(zeile++, textOfSingle(singleFromText(angabe.prozent)));
+    m_legierung = m_eingabe.legierung().value();
+    m_eingabe.elementeSetzen();
+    m_komponentenzahl = m_eingabe.anzahl();
+    m_calc.Legierung_Setzen(m_legierung.komponenten());
     if (istUnbekannt(m_calc.Valenz()))
         throw Datenfehler("Die Legierung lässt sich mit diesen Dichten und Valenzen nicht berechnen");
-    return zeilen;
 }
 
-Komponentenzeile Rechenkern::setElement(const Komponentenangabe& angabe)
+void Rechenkern::enterElement(int zeile, const Komponentenangabe& angabe)
 {
     const auto element = m_elements.find(angabe.symbol, true);
     if (!element)
         throw Datenfehler(
             "Komponente " + inQuotes(angabe.text) + ": Element " + inQuotes(angabe.symbol) + " ist nicht bekannt");
-    Komponentenzeile zeile;
-    zeile.symbol = element->symbol();
-    zeile.prozent = textOfSingle(singleFromText(angabe.prozent));
-    setDichte(*element, angabe, zeile);
-    setValenz(*element, angabe, zeile);
-    return zeile;
+    m_eingabe.waehleElement(zeile, element->symbol());
+    enterDichte(zeile, angabe);
+    enterValenz(zeile, angabe);
 }
 
-void Rechenkern::setDichte(clsElement& element, const Komponentenangabe& angabe, Komponentenzeile& zeile)
+void Rechenkern::enterDichte(int zeile, const Komponentenangabe& angabe)
 {
-    const std::vector<std::string_view> known = dichteauswahl(element);
-    const std::string_view choice = angabe.dichte.empty() ? known.front() : dichtewahl(angabe.dichte);
+    const std::string_view choice =
+        angabe.dichte.empty() ? m_eingabe.zeile(zeile).dichtewahl : dichtewahl(angabe.dichte);
+    const std::vector<std::string_view> known = dichteauswahl(*m_eingabe.zeile(zeile).element);
     if (isNumber(choice)) {
-        element.setDichte(singleFromText(choice));
-        zeile.dichtewahl = AndereWahl;
+        m_eingabe.waehleDichte(zeile, AndereWahl);
+        m_eingabe.setDichte(zeile, textOfSingle(singleFromText(choice)));
     } else if (choice != AndereWahl && std::ranges::find(known, choice) != known.end()) {
-        element.setDichte(dichteFor(element, choice));
-        zeile.dichtewahl = choice;
+        m_eingabe.waehleDichte(zeile, choice);
     } else {
         const std::string reason = angabe.dichte.empty() ? "keine Dichte bekannt, dichte=ZAHL angeben"
                                                          : "Dichte " + inQuotes(angabe.dichte) + " ist nicht bekannt";
         throw Datenfehler("Komponente " + inQuotes(angabe.text) + ": " + reason);
     }
-    zeile.dichte = textOfSingle(element.Dichte());
 }
 
-void Rechenkern::setValenz(clsElement& element, const Komponentenangabe& angabe, Komponentenzeile& zeile)
+void Rechenkern::enterValenz(int zeile, const Komponentenangabe& angabe)
 {
-    zeile.valenz = angabe.valenz.empty() ? feldtext(element.Valenz()) : angabe.valenz;
-    zeile.valenzwahl = angabe.valenz.empty() ? std::string_view("Standard") : AndereWahl;
-    element.setValenz_Temp(zeile.valenz);
-    m_parser.Parse(zeile.valenz);
-    if (const auto& error = m_parser.LastError())
-        throw Datenfehler("Komponente " + inQuotes(angabe.text) + ": Valenz " + inQuotes(zeile.valenz) + ": "
-            + error->Grund + " (Zeichen " + std::to_string(error->Stelle) + ")");
+    if (!angabe.valenz.empty()) {
+        m_eingabe.waehleValenz(zeile, ValenzAndere);
+        m_eingabe.setValenz(zeile, angabe.valenz);
+    }
+    const Eingabefeld& valenz = m_eingabe.zeile(zeile).valenz;
+    for (const std::string& meldung : valenz.meldungen)
+        m_boxes.show(Icon::None, Formelmeldungstitel, meldung);
+    if (valenz.fehler)
+        throw Datenfehler(
+            "Komponente " + inQuotes(angabe.text) + ": Valenz " + inQuotes(valenz.text) + ": " + valenz.fehler->text());
 }
 
 } // namespace zerna

@@ -5,11 +5,9 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "core/ElementCollection.h"
-#include "model/Ergebnisse.h"
-#include "model/Konzentrationsreihe.h"
+#include "model/Eingabe.h"
 #include "model/clsCalc.h"
 #include "parser/clsParser.h"
 
@@ -50,12 +48,13 @@ public:
     /// Replaces the elements by the built-in table.
     void loadBuiltIn();
 
-    /// Makes the alloy of one to five components the calculator's and returns its rows as the results text names them.
-    /// At% are taken as given. Throws Aufruffehler or Datenfehler.
-    std::vector<Komponentenzeile> setAlloy(std::span<const Komponentenangabe> angaben);
+    /// Makes the alloy of one to five components the calculator's. At% are taken as given, the last one too. Throws
+    /// Aufruffehler or Datenfehler.
+    void setAlloy(std::span<const Komponentenangabe> angaben);
 
-    /// The components of the last setAlloy as a series takes them.
-    const std::vector<Reihenkomponente>& komponenten() const { return m_komponenten; }
+    /// The alloy of the last setAlloy as it was entered, and as numbers.
+    const Eingabe& eingabe() const { return m_eingabe; }
+    std::span<const Legierungskomponente> komponenten() const { return m_legierung.komponenten(); }
 
     const ElementCollection& elements() const { return m_elements; }
     clsParser& parser() { return m_parser; }
@@ -63,15 +62,16 @@ public:
 
 private:
     void load(int number, const std::string& name);
-    Komponentenzeile setElement(const Komponentenangabe& angabe);
-    void setDichte(clsElement& element, const Komponentenangabe& angabe, Komponentenzeile& zeile);
-    void setValenz(clsElement& element, const Komponentenangabe& angabe, Komponentenzeile& zeile);
+    void enterElement(int zeile, const Komponentenangabe& angabe);
+    void enterDichte(int zeile, const Komponentenangabe& angabe);
+    void enterValenz(int zeile, const Komponentenangabe& angabe);
 
     MessageBoxes& m_boxes;
     Dateinummern m_files;
     ElementCollection m_elements;
     int m_komponentenzahl = 0;
-    std::vector<Reihenkomponente> m_komponenten;
+    Eingabe m_eingabe{m_elements};
+    Legierung m_legierung;
     clsParser m_parser;
     clsCalc m_calc;
 };

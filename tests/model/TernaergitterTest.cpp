@@ -13,18 +13,17 @@ struct TernaergitterTest : FilesTest {
         for (const ElementRecord& record : readElementCsv(bytesOf(ZERNA_DATA_DIR "/elemente.csv"))) {
             const auto element = std::make_shared<clsElement>(files, boxes);
             element->setRecord(record);
-            element->setDichte(record.Dichte_Kristallin);
-            element->setValenz_Temp("z_" + record.symbol);
             elements.Add(element, record.symbol);
+        }
+        for (std::size_t i = 0; const char* const symbol : {"Al", "Cu", "Mg"}) {
+            const auto& element = elements.Item(symbol);
+            alloy.at(i++) = {element, 100, element->Dichte_Kristallin(), element->Valenz()};
         }
     }
 
-    Ternaergitter grid(int groesse, int aufloesung = 1)
-    {
-        const Reihenkomponente three[] = {{elements.Item("Al"), 0}, {elements.Item("Cu"), 0}, {elements.Item("Mg"), 0}};
-        return ternaergitter(calc, parser, three, groesse, aufloesung);
-    }
+    Ternaergitter grid(int groesse, int aufloesung = 1) { return ternaergitter(calc, alloy, groesse, aufloesung); }
 
+    std::array<Legierungskomponente, 3> alloy;
     ElementCollection elements;
     clsParser parser{elements, boxes};
     int count = 0;
@@ -47,12 +46,12 @@ TEST_F(TernaergitterTest, CornersArePureElementsAndTheMiddleIsTheirMean)
 
 TEST_F(TernaergitterTest, EdgesAreTheSeriesOfTwoComponents)
 {
-    const Reihenkomponente al{elements.Item("Al"), 100}, cu{elements.Item("Cu"), 100}, mg{elements.Item("Mg"), 100};
+    const auto& [al, cu, mg] = alloy;
     for (const int groesse : {0, 1, 2, 4, 5, 6, 7, 8, 9, 10}) {
         const Ternaergitter gitter = grid(groesse, 10);
-        const Reihe alCu = konzentrationsreihe(calc, parser, std::array{al, cu}, 0, groesse);
-        const Reihe alMg = konzentrationsreihe(calc, parser, std::array{al, mg}, 0, groesse);
-        const Reihe cuMg = konzentrationsreihe(calc, parser, std::array{cu, mg}, 0, groesse);
+        const Reihe alCu = konzentrationsreihe(calc, std::array{al, cu}, 0, groesse);
+        const Reihe alMg = konzentrationsreihe(calc, std::array{al, mg}, 0, groesse);
+        const Reihe cuMg = konzentrationsreihe(calc, std::array{cu, mg}, 0, groesse);
         for (int i = 0; i <= 100; ++i) {
             EXPECT_FLOAT_EQ(gitter.wert(i, 100 - i), alCu.at(static_cast<std::size_t>(i))) << groesse;
             EXPECT_FLOAT_EQ(gitter.wert(i, 0), alMg.at(static_cast<std::size_t>(i))) << groesse;
@@ -63,7 +62,7 @@ TEST_F(TernaergitterTest, EdgesAreTheSeriesOfTwoComponents)
 
 TEST_F(TernaergitterTest, PointsThatCannotBeComputedAreMissing)
 {
-    elements.Item("Mg")->setValenz_Temp("0");
+    alloy[2].valenz = 0;
     const std::vector<float> hall = grid(5).werte;
     EXPECT_TRUE(istUnbekannt(hall[0]));
     EXPECT_EQ(std::count(hall.begin(), hall.end(), Unbekannt), 1);
@@ -76,10 +75,14 @@ TEST_F(TernaergitterTest, ErrorsOfComponentsReachTheCaller)
 {
     for (const auto& [groesse, aufloesung] : {std::pair(0, 0), {0, 11}, {-1, 1}, {11, 1}})
         EXPECT_EQ(errorNumber([&, q = groesse, r = aufloesung] { grid(q, r); }), 5) << groesse << ' ' << aufloesung;
-    EXPECT_EQ(errorNumber([this] { ternaergitter(calc, parser, std::array<Reihenkomponente, 2>{}, 0, 1); }), 5);
-    for (const auto& [density, valence, error] : {std::tuple(0.0F, "3", 11), {Unbekannt, "3", 5}, {2.7F, "1/0", 11}}) {
-        elements.Item("Al")->setDichte(density);
-        elements.Item("Al")->setValenz_Temp(valence);
+    EXPECT_EQ(errorNumber([this] { ternaergitter(calc, std::array<Legierungskomponente, 2>{}, 0, 1); }), 5);
+    struct Row {
+        float dichte, valenz;
+        int error;
+    };
+    for (const auto& [dichte, valenz, error] : {Row{0, 3, 11}, {Unbekannt, 3, 5}, {2.7F, Unbekannt, 5}}) {
+        alloy[0].dichte = dichte;
+        alloy[0].valenz = valenz;
         EXPECT_EQ(errorNumber([this] { grid(0); }) + errorNumber([this] { grid(GroesseDichte); }), 2 * error);
     }
 }

@@ -36,8 +36,8 @@ public:
         return found == entries.end() ? -1 : static_cast<int>(found - entries.begin());
     }
     void ComboElementListIndex(int index, int listIndex) override { log("row", index, listIndex); }
-    void addDiagramComponent(int list) override { log("component", list, 0); }
     void selectFirstDiagram() override { log("diagram", 0, 0); }
+    void compute() override { log("compute", 0, m_programm.StartupDone() ? 1 : 0); }
     void show() override { log("show", 0, m_programm.StartupDone() ? 1 : 0); }
 
     std::map<int, std::vector<std::string>> lists;
@@ -84,9 +84,7 @@ TEST_F(ProgrammTest, FirstStartWritesTheBuiltInTableAndFillsTheWindow)
     EXPECT_EQ(window->lists.size(), 5U);
     for (const auto& [list, symbols] : window->lists)
         EXPECT_EQ(symbols, (std::vector<std::string>{"H", "He", "Li", "Be", "B", "C"}));
-    EXPECT_EQ(window->calls,
-        "row 0 0\nrow 1 1\nrow 2 2\nrow 3 3\nrow 4 4\ncomponent 0 0\ncomponent 1 0\ncomponent 2 0\n"
-        "diagram 0 0\nshow 0 1\n");
+    EXPECT_EQ(window->calls, "row 0 0\nrow 1 1\nrow 2 2\nrow 3 3\nrow 4 4\ndiagram 0 0\ncompute 0 1\nshow 0 1\n");
     EXPECT_EQ(programm.SelectedElement()->symbol(), "H");
     EXPECT_EQ(programm.CurrentElement()->symbol(), "C");
     EXPECT_EQ(programm.ElementCollection().Item("Li")->Dichte_Kristallin(), 0.534F);

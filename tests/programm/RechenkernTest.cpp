@@ -25,7 +25,8 @@ struct RechenkernTest : FilesTest {
         for (const std::string& text : texts)
             angaben.push_back(komponentenangabe(text));
         kern.loadBuiltIn();
-        return kern.setAlloy(angaben);
+        kern.setAlloy(angaben);
+        return kern.eingabe().komponentenzeilen();
     }
 
     Rechenkern kern{boxes};
@@ -48,7 +49,7 @@ TEST_F(RechenkernTest, RowsAsTheResultsTextNamesThem)
     }
     alloy({"Li=50", "Be=50:valenz=4"});
     EXPECT_EQ(kern.calc().Valenz(), 2.5F);
-    EXPECT_EQ(kern.komponenten().at(1).element->symbol(), "Be");
+    EXPECT_EQ(kern.komponenten()[1].element->symbol(), "Be");
 }
 
 TEST_F(RechenkernTest, BadComponentsAreNamed)

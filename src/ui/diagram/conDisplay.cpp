@@ -65,7 +65,7 @@ conDisplay::conDisplay(Programm& programm, Dialoge dialoge, QWidget* parent)
 
 void conDisplay::setVariablesElement(int index)
 {
-    const auto& element = m_komponenten.at(slot(index)).element;
+    const auto& element = m_komponenten.at(slot(index)).komponente.element;
     m_variable = index;
     if (!element)
         throw Laufzeitfehler(Fehler::ObjektNichtFestgelegt);
@@ -74,7 +74,13 @@ void conDisplay::setVariablesElement(int index)
 
 void conDisplay::Element_Add(int index, std::string_view key, float prozent)
 {
-    m_komponenten.at(slot(index)) = {m_programm.ElementCollection().Item(key), prozent};
+    m_komponenten.at(slot(index)) = {{m_programm.ElementCollection().Item(key), prozent}, false};
+}
+
+void conDisplay::setLegierung(const Legierung& legierung)
+{
+    for (std::size_t i = 0; const Legierungskomponente& komponente : legierung.komponenten())
+        m_komponenten.at(i++) = {komponente, true};
 }
 
 void conDisplay::Zeichne_Punkt(float x, float y, std::uint32_t colour)
@@ -128,25 +134,25 @@ void conDisplay::Zeichne_Diagramm_2D(int groesse, int variable)
     drawSeries(reihe);
 }
 
-std::span<const Reihenkomponente> conDisplay::components() const
+Legierung conDisplay::components() const
 {
-    const auto count =
-        std::clamp<std::size_t>(static_cast<std::size_t>(m_programm.Komponentenzahl()), 1, MaxKomponenten);
-    const std::span<const Reihenkomponente> used(m_komponenten.data(), count);
-    if (std::ranges::any_of(used, [](const Reihenkomponente& k) { return !k.element; }))
-        throw Laufzeitfehler(Fehler::ObjektNichtFestgelegt);
-    return used;
+    Legierung legierung;
+    const int count = std::clamp(m_programm.Komponentenzahl(), 1, MaxKomponenten);
+    for (int i = 0; i < count; ++i) {
+        const auto& [komponente, isRead] = m_komponenten.at(slot(i));
+        if (!komponente.element)
+            throw Laufzeitfehler(Fehler::ObjektNichtFestgelegt);
+        legierung.add(isRead ? komponente : gelesen(komponente.element, komponente.prozent, m_programm.Parser()));
+    }
+    return legierung;
 }
 
 Reihe conDisplay::computeSeries(int groesse) const
 {
-    const auto used = components();
-    if (groesse != GroesseDichte)
-        return konzentrationsreihe(m_programm.Calc(), m_programm.Parser(), used, m_variable, groesse);
-    std::array<float, MaxKomponenten> dichten{};
-    for (std::size_t i = 0; i < used.size(); ++i)
-        dichten.at(i) = singleFromText(m_dichtefelder.at(i));
-    return dichtereihe(std::span(dichten).first(used.size()), m_variable);
+    const Legierung legierung = components();
+    if (groesse == GroesseDichte)
+        return dichtereihe(std::span(m_dichtefelder).first(legierung.komponenten().size()), m_variable);
+    return konzentrationsreihe(m_programm.Calc(), legierung.komponenten(), m_variable, groesse);
 }
 
 void conDisplay::drawSeries(const Reihe& reihe)
@@ -352,7 +358,7 @@ void conDisplay::Speichern_Diagramm_2D()
 
 void conDisplay::saveValues(const std::string& name)
 {
-    const auto& element = m_komponenten.at(slot(m_variable)).element;
+    const auto& element = m_komponenten.at(slot(m_variable)).komponente.element;
     const std::string prompt =
         "Bitte geben Sie die Schrittweite der at% für\r\n" + (element ? element->Name() : std::string()) + " an.";
     if (const auto answer = m_dialoge.input.ask("Diagramm speichern", prompt, "1"))

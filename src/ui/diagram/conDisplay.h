@@ -65,8 +65,11 @@ public:
     /// Whether all rows of the composition can be read; kept by the main window.
     void setKompositionBereit(bool bereit) { m_bereit = bereit; }
 
-    /// The texts of the density fields of the rows, for the density series.
-    void setDichtefelder(std::array<std::string, MaxKomponenten> texte) { m_dichtefelder = std::move(texte); }
+    /// Fills the slots with a whole alloy, its numbers read already.
+    void setLegierung(const Legierung& legierung);
+
+    /// The numbers in the density fields of the rows (g/cm³), for the density series.
+    void setDichtefelder(const std::array<float, MaxKomponenten>& dichten) { m_dichtefelder = dichten; }
 
     /// The saved file's content for a step width.
     std::string values(int schritt) const;
@@ -97,9 +100,9 @@ private:
     Layout layOut(const QSize& size) const;
     void fitLabelFont(Layout& layout, int height) const;
     void relayout();
+    Legierung components() const;
     Reihe computeSeries(int groesse) const;
     void drawSeries(const Reihe& reihe);
-    std::span<const Reihenkomponente> components() const;
     void paintSurface(QPainter& painter, const QSize& size, const Layout& layout) const;
     void paintPlot(QPainter& painter, const Layout& layout) const;
     void paintCursor(QPainter& painter) const;
@@ -112,7 +115,14 @@ private:
     Programm& m_programm;
     Dialoge m_dialoge;
     Plotflaeche* m_pic = nullptr;
-    std::array<Reihenkomponente, MaxKomponenten> m_komponenten;
+    /// One component. Those that Element_Add brings are read from their elements' records whenever a series is
+    /// computed.
+    struct Platz {
+        Legierungskomponente komponente;
+        bool gelesen = false;
+    };
+
+    std::array<Platz, MaxKomponenten> m_komponenten;
     int m_variable = 0;
     std::string m_symbol; // of the variable element
     std::string m_einheit;
@@ -122,7 +132,7 @@ private:
     bool m_hasAxes = false;
     bool m_fehler = false; // the error display is shown
     bool m_bereit = false;
-    std::array<std::string, MaxKomponenten> m_dichtefelder;
+    std::array<float, MaxKomponenten> m_dichtefelder{};
     std::vector<Strichzug> m_hintergrund;
     std::vector<Strichzug> m_striche;
     Layout m_layout;

@@ -5,15 +5,14 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <cmath>
 
 #include "core/CheckedArithmetic.h"
-#include "core/Zahlentext.h"
 #include "ui/button/StyledButton.h"
 #include "ui/diagram/Diagrammflaeche.h"
 #include "ui/diagram/conDisplay.h"
 #include "ui/diagram/conLabel.h"
-#include "ui/main/Kompositionsbereich.h"
 #include "ui/platform/QtText.h"
 #include "ui/platform/Tabreihenfolge.h"
 
@@ -28,11 +27,10 @@ constexpr std::array Legierungsgroessen{0, 1, 3, 4, 2, 5, 6, 7, 8, 9, 10};
 
 } // namespace
 
-Diagrammbereich::Diagrammbereich(
-    Programm& programm, Dialoge dialoge, const Kompositionsbereich& komposition, QWidget* parent)
+Diagrammbereich::Diagrammbereich(Programm& programm, Dialoge dialoge, QWidget* parent)
     : QWidget(parent)
     , m_programm(programm)
-    , m_komposition(komposition)
+    , m_eingabe(programm.Eingabe())
     , m_picDiagramm(new Diagrammflaeche(programm, dialoge, this))
 {
     m_picDiagramm->setObjectName(QStringLiteral("picDiagramm"));
@@ -189,18 +187,25 @@ void Diagrammbereich::fillQuantities(std::span<const int> quantities)
 
 int Diagrammbereich::groesse() const { return m_cmbDiagramm->currentData().toInt(); }
 
-void Diagrammbereich::rebuildComponents()
+void Diagrammbereich::zeige(const Eingabe& eingabe, const Aenderung& aenderung)
 {
-    m_cmbDiagrammElement->clear();
-    for (int row = 0; row < m_programm.Komponentenzahl(); ++row)
-        addComponent(row);
+    m_eingabe = eingabe;
+    if (aenderung.anzahl || aenderung.element)
+        listComponents();
+    if (aenderung.anzahl)
+        selectFirstType();
+    else
+        aktualisieren(aenderung.element || !aenderung.dichte);
 }
 
-void Diagrammbereich::addComponent(int row)
+/// Lists the elements of the rows; the first one is then chosen.
+void Diagrammbereich::listComponents()
 {
-    const bool isListed = m_cmbDiagrammElement->findData(row) >= 0;
-    if (row < m_programm.Komponentenzahl() && !isListed)
-        m_cmbDiagrammElement->addItem(toQt(m_komposition.element(row)), row);
+    m_cmbDiagrammElement->clear();
+    for (int row = 0; row < m_eingabe.anzahl(); ++row) {
+        const auto& element = m_eingabe.zeile(row).element;
+        m_cmbDiagrammElement->addItem(element ? toQt(element->symbol()) : QString(), row);
+    }
 }
 
 void Diagrammbereich::selectFirstComponent() { m_cmbDiagrammElement->setCurrentIndex(0); }
@@ -216,7 +221,7 @@ void Diagrammbereich::selectFirstType()
 void Diagrammbereich::chooseType(int position)
 {
     auto type = static_cast<Diagrammtyp>(position);
-    if (type == Diagrammtyp::Ternaer && m_programm.Komponentenzahl() != 3)
+    if (type == Diagrammtyp::Ternaer && m_eingabe.anzahl() != 3)
         type = Diagrammtyp::Konzentration; // silently
     m_cmbDiagrammTyp->setCurrentIndex(static_cast<int>(type));
     m_typ = type;
@@ -262,16 +267,15 @@ void Diagrammbereich::drawConcentration(bool keepSelection)
 {
     if (!keepSelection)
         selectFirstComponent();
-    const int count = m_programm.Komponentenzahl();
-    if (count == 1) {
+    if (m_eingabe.anzahl() == 1) {
         m_picDiagramm->showHinweis(
             QStringLiteral("Für ein Konzentrationsdiagramm sind\nmindestens zwei Komponenten nötig."));
         return;
     }
     if (showObstacle())
         return;
-    m_picDiagramm->display().setKompositionBereit(canRead());
-    if (!canRead()) // while an at% is being typed the diagram stays, as the results do
+    m_picDiagramm->display().setKompositionBereit(m_eingabe.istVollstaendig());
+    if (!m_eingabe.istVollstaendig()) // while an at% is being typed the diagram stays, as the results do
         return;
     try {
         drawSeries();
@@ -284,13 +288,10 @@ void Diagrammbereich::drawConcentration(bool keepSelection)
 /// Shows why no diagram can be computed for the rows; false if it can.
 bool Diagrammbereich::showObstacle()
 {
-    std::vector<Diagrammzeile> zeilen;
-    for (int row = 0; row < m_programm.Komponentenzahl(); ++row)
-        zeilen.push_back(m_komposition.diagrammzeile(row));
-    const std::string hindernis = diagrammhindernis(zeilen);
-    if (!hindernis.empty())
-        m_picDiagramm->showFehler(toQt(hindernis));
-    return !hindernis.empty();
+    const auto hindernis = m_eingabe.hindernis();
+    if (hindernis)
+        m_picDiagramm->showFehler(toQt(hindernis->grund));
+    return hindernis.has_value();
 }
 
 void Diagrammbereich::showError(const Laufzeitfehler& error)
@@ -300,47 +301,32 @@ void Diagrammbereich::showError(const Laufzeitfehler& error)
 
 void Diagrammbereich::drawTernary()
 {
-    if (m_programm.Komponentenzahl() != 3) {
+    if (m_eingabe.anzahl() != 3) {
         chooseType(0);
         return;
     }
     if (showObstacle())
         return;
     try {
-        std::vector<Reihenkomponente> komponenten;
+        const Legierung legierung = m_eingabe.legierung().value();
         Anteile3 current{};
-        for (int row = 0; row < 3; ++row) {
-            const float prozent = orUnbekannt([&] { return singleFromText(m_komposition.prozent(row)); });
-            komponenten.push_back({m_programm.ElementCollection().Item(m_komposition.element(row)), prozent});
-            current.at(static_cast<std::size_t>(row)) = prozent / 100.0;
-        }
+        std::ranges::transform(legierung.komponenten(), current.begin(),
+            [](const Legierungskomponente& komponente) { return komponente.prozent / 100.0; });
         m_picDiagramm->showTernaer(
-            ternaergitter(m_programm.Calc(), m_programm.Parser(), komponenten, groesse(), m_steps), current);
+            ternaergitter(m_programm.Calc(), legierung.komponenten(), groesse(), m_steps), current);
     } catch (const Laufzeitfehler& error) {
         showError(error);
     }
 }
 
-/// Whether all visible rows have an element and a readable at%.
-bool Diagrammbereich::canRead()
-{
-    for (int row = 0; row < m_programm.Komponentenzahl(); ++row) {
-        const bool hasElement = m_programm.ElementCollection().find(m_komposition.element(row)) != nullptr;
-        if (!hasElement || istUnbekannt(orUnbekannt([&] { return singleFromText(m_komposition.prozent(row)); })))
-            return false;
-    }
-    return true;
-}
-
 void Diagrammbereich::drawSeries()
 {
     conDisplay& display = m_picDiagramm->display();
-    std::array<std::string, MaxKomponenten> dichten;
-    for (int row = 0; row < m_programm.Komponentenzahl(); ++row) {
-        display.Element_Add(row, m_komposition.element(row), singleFromText(m_komposition.prozent(row)));
-        dichten.at(static_cast<std::size_t>(row)) = m_komposition.dichte(row);
-    }
-    display.setDichtefelder(std::move(dichten));
+    std::array<float, MaxKomponenten> dichten{};
+    for (int row = 0; row < m_eingabe.anzahl(); ++row)
+        dichten.at(static_cast<std::size_t>(row)) = m_eingabe.zeile(row).dichte.wert;
+    display.setLegierung(m_eingabe.legierung().value());
+    display.setDichtefelder(dichten);
     const int variable = qMax(0, m_cmbDiagrammElement->currentData().toInt());
     display.setVariablesElement(variable);
     display.Zeichne_Diagramm_2D(groesse(), variable);
@@ -359,21 +345,20 @@ void Diagrammbereich::drawPSE()
     }
 }
 
-/// Each visible row has its label; the balance row's cannot be stepped.
+/// Each row has its label; the balance row's cannot be stepped.
 void Diagrammbereich::refreshLabels()
 {
-    const int count = m_programm.Komponentenzahl();
+    constexpr float Shown = 1e6F; // what no label has room for is left as it was
     for (int row = 0; row < MaxKomponenten; ++row) {
         conLabel& label = *m_conLabel.at(static_cast<std::size_t>(row));
-        label.setVisible(row < count && m_typ == Diagrammtyp::Konzentration);
-        if (row >= count)
+        label.setVisible(row < m_eingabe.anzahl() && m_typ == Diagrammtyp::Konzentration);
+        if (row >= m_eingabe.anzahl())
             continue;
-        label.setLabel(toQt(m_komposition.element(row)) + QLatin1Char(' '));
-        label.setEnabled(row < count - 1);
-        const float prozent = orUnbekannt([&] { return singleFromText(m_komposition.prozent(row)); });
-        constexpr float Shown = 1e6F; // what no label has room for is left as it was
-        if (!istUnbekannt(prozent) && std::abs(prozent) < Shown)
-            label.setValue(static_cast<int>(std::lround(prozent)));
+        const auto& [element, prozent, dichtewahl, dichte, valenzwahl, valenz] = m_eingabe.zeile(row);
+        label.setLabel((element ? toQt(element->symbol()) : QString()) + QLatin1Char(' '));
+        label.setEnabled(!m_eingabe.istAusgleich(row));
+        if (!prozent.fehler && std::abs(prozent.wert) < Shown)
+            label.setValue(static_cast<int>(std::lround(prozent.wert)));
     }
 }
 

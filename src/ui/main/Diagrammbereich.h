@@ -15,7 +15,6 @@ class QLabel;
 namespace zerna {
 
 class Diagrammflaeche;
-class Kompositionsbereich;
 class StyledButton;
 class conLabel;
 
@@ -25,24 +24,18 @@ class Diagrammbereich : public QWidget {
     Q_OBJECT
 
 public:
-    Diagrammbereich(
-        Programm& programm, Dialoge dialoge, const Kompositionsbereich& komposition, QWidget* parent = nullptr);
+    Diagrammbereich(Programm& programm, Dialoge dialoge, QWidget* parent = nullptr);
 
     /// The lists' and read-outs' state right after the window's load.
     void load();
 
-    /// Lists the elements of the visible rows.
-    void rebuildComponents();
-
-    /// Lists the element of one more row, unless the row is hidden or listed already.
-    void addComponent(int row);
+    /// Takes over an entered alloy and draws what depends on the change. Another number of rows returns to the
+    /// concentration diagram; another element or density puts the first component along the axis.
+    void zeige(const Eingabe& eingabe, const Aenderung& aenderung);
 
     /// Returns to the concentration diagram and draws it.
     void selectFirstType();
     void selectFirstComponent();
-
-    /// Draws the current type's diagram anew. Without `keepSelection` the first component runs along the axis.
-    void aktualisieren(bool keepSelection);
 
 signals:
     /// A value label has stepped the at% of a row.
@@ -54,6 +47,8 @@ private:
     void createControls();
     void createSteps();
     void createLabels();
+    void listComponents();
+    void aktualisieren(bool keepSelection);
     void layOut();
     void orderTabs();
     void fillQuantities(std::span<const int> quantities);
@@ -65,12 +60,11 @@ private:
     void showError(const Laufzeitfehler& error);
     bool showObstacle();
     void drawPSE();
-    bool canRead();
     void refreshLabels();
     int groesse() const;
 
     Programm& m_programm;
-    const Kompositionsbereich& m_komposition;
+    Eingabe m_eingabe; // the alloy that is drawn
     Diagrammtyp m_typ = Diagrammtyp::Konzentration;
     int m_steps = 5; // resolution of the ternary diagram, 1 to 10
     QComboBox* m_cmbDiagrammTyp = nullptr;

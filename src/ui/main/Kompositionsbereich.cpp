@@ -1,53 +1,16 @@
 #include "ui/main/Kompositionsbereich.h"
 
-#include <QComboBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QSignalBlocker>
 
-#include "core/CheckedArithmetic.h"
 #include "core/Zahlentext.h"
+#include "parser/Formelwert.h"
 #include "ui/button/StyledButton.h"
-#include "ui/controls/Wertfeld.h"
+#include "ui/main/Kompositionszeile.h"
 #include "ui/platform/QtText.h"
 
 namespace zerna {
-
-namespace {
-
-constexpr std::array<const char*, MaxKomponenten> AnfangsProzente{"50", "50", "0", "0", "0"};
-constexpr int Zeilenhoehe = 26;
-constexpr int Zeilenabstand = 4;
-
-/// Why a text is no number; empty if it is one.
-QString numberFault(const QString& text)
-{
-    try {
-        singleFromText(fromQt(text));
-        return {};
-    } catch (const Laufzeitfehler& error) {
-        return QStringLiteral("Keine gültige Zahl (%1)").arg(toQt(error.what()));
-    }
-}
-
-QString named(const char* name, int row) { return QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(row); }
-
-template <class Widget>
-Widget* make(QWidget* parent, const char* name, int row, const QString& accessibleName)
-{
-    auto* widget = new Widget(parent);
-    widget->setObjectName(named(name, row));
-    widget->setAccessibleName(QStringLiteral("%1, Komponente %2").arg(accessibleName).arg(row + 1));
-    return widget;
-}
-
-} // namespace
-
-std::array<QWidget*, 7> Kompositionsbereich::Zeile::widgets() const
-{
-    return {cmbElement, lblElement, txtProzent, cmdDichte, txtDichte, cmbValenz, txtValenz};
-}
 
 Kompositionsbereich::Kompositionsbereich(Programm& programm, QWidget* parent)
     : QWidget(parent)
@@ -67,14 +30,14 @@ void Kompositionsbereich::createControls()
     const std::array<QString, 2> hints{QStringLiteral("Komponente hinzufügen"), QStringLiteral("Komponente entfernen")};
     for (std::size_t i = 0; i < m_cmdKom.size(); ++i) {
         m_cmdKom.at(i) = new StyledButton(captions.at(i), this);
-        m_cmdKom.at(i)->setObjectName(named("cmdKom", static_cast<int>(i)));
+        m_cmdKom.at(i)->setObjectName(QStringLiteral("cmdKom_%1").arg(i));
         m_cmdKom.at(i)->setAccessibleName(hints.at(i));
         m_cmdKom.at(i)->setToolTipText(hints.at(i));
+        const int step = i == 0 ? 1 : -1;
+        connect(m_cmdKom.at(i), &StyledButton::clicked, this,
+            [this, step] { setAnzahl(naechsteKomponentenzahl(eingabe().anzahl(), step)); });
     }
     m_label1->setBuddy(m_cmdKom[0]);
-    connect(m_cmdKom[0], &StyledButton::clicked, this, [this] { changeCount(1); });
-    connect(m_cmdKom[1], &StyledButton::clicked, this, [this] { changeCount(-1); });
-
     const std::array<std::pair<const char*, QString>, 4> heads{
         {{"Label5", QStringLiteral("Komponente")}, {"Label2", QStringLiteral("at %")},
             {"Label3", QStringLiteral("Dichte [g/cm³]")}, {"Label4", QStringLiteral("Valenz")}}};
@@ -83,43 +46,34 @@ void Kompositionsbereich::createControls()
         m_heads.at(i)->setObjectName(QLatin1String(heads.at(i).first));
     }
     for (int row = 0; row < MaxKomponenten; ++row) {
-        createRow(row);
+        m_zeilen.at(static_cast<std::size_t>(row)) = new Kompositionszeile(row, this);
         connectRow(row);
     }
 }
 
-void Kompositionsbereich::createRow(int row)
-{
-    Zeile& z = at(row);
-    z.cmbElement = make<QComboBox>(this, "cmbElement", row, QStringLiteral("Element"));
-    z.lblElement = make<QLabel>(this, "lblElement", row, QStringLiteral("Elementname"));
-    z.txtProzent = make<Wertfeld>(this, "txtProzent", row, QStringLiteral("Atomprozent"));
-    z.cmdDichte = make<QComboBox>(this, "cmdDichte", row, QStringLiteral("Auswahl der Dichte"));
-    z.txtDichte = make<Wertfeld>(this, "txtDichte", row, QStringLiteral("Dichte in Gramm je Kubikzentimeter"));
-    z.cmbValenz = make<QComboBox>(this, "cmbValenz", row, QStringLiteral("Auswahl der Valenz"));
-    z.txtValenz = make<Wertfeld>(this, "txtValenz", row, QStringLiteral("Valenz"));
-    z.txtProzent->setWert(QLatin1String(AnfangsProzente.at(static_cast<std::size_t>(row))), false);
-    z.txtDichte->setEnabled(false);
-    z.txtValenz->setEnabled(false);
-    for (QWidget* const widget : z.widgets())
-        widget->hide();
-}
-
+/// Each edit becomes one operation on the entered alloy.
 void Kompositionsbereich::connectRow(int row)
 {
-    const Zeile& z = at(row);
-    connect(z.cmbElement, &QComboBox::activated, this, [this, row] { elementChosen(row); });
-    connect(z.cmdDichte, &QComboBox::activated, this, [this, row] { dichteChosen(row); });
-    connect(z.cmbValenz, &QComboBox::activated, this, [this, row] { valenzChosen(row); });
-    connect(z.txtProzent, &Wertfeld::textChanged, this, [this, row] { prozentChanged(row); });
-    connect(z.txtDichte, &Wertfeld::textChanged, this, [this, row] { dichteChanged(row); });
-    connect(z.txtValenz, &Wertfeld::textChanged, this, [this, row] { valenzChanged(row); });
+    using Zeile = Kompositionszeile;
+    const Zeile* const zeile = &at(row);
+    connect(zeile, &Zeile::elementChosen, this, [this, row](const auto& key) { elementChosen(row, fromQt(key)); });
+    connect(zeile, &Zeile::prozentEntered, this,
+        [this, row](const QString& text) { taken(eingabe().setProzent(row, fromQt(text))); });
+    connect(zeile, &Zeile::dichteChosen, this,
+        [this, row](const QString& wahl) { taken(eingabe().waehleDichte(row, fromQt(wahl))); });
+    connect(zeile, &Zeile::dichteEntered, this,
+        [this, row](const QString& text) { taken(eingabe().setDichte(row, fromQt(text))); });
+    connect(zeile, &Zeile::valenzChosen, this,
+        [this, row](int wahl) { valenzEdited(row, eingabe().waehleValenz(row, wahl)); });
+    connect(zeile, &Zeile::valenzEntered, this,
+        [this, row](const QString& text) { valenzEdited(row, eingabe().setValenz(row, fromQt(text))); });
     // What a person types must reach the element of the row they type in.
-    connect(z.txtDichte, &Wertfeld::focusEntered, this, [this, row] { makeCurrent(row); });
-    connect(z.txtValenz, &Wertfeld::focusEntered, this, [this, row] { makeCurrent(row); });
-    connect(z.txtProzent, &Wertfeld::focusLeft, this, [this, row] {
-        if (isBalanceRow(row)) // what was typed there must not pass for the at% in force
-            balance();
+    connect(zeile, &Zeile::valueFocused, this, [this, row] { eingabe().nachschlagen(row); });
+    connect(zeile, &Zeile::prozentLeft, this, [this, row] {
+        if (!eingabe().istAusgleich(row))
+            return;
+        eingabe().gleicheAus(); // what was typed there must not pass for the at% in force
+        zeige();
     });
 }
 
@@ -145,7 +99,7 @@ void Kompositionsbereich::layOut()
     grid->addWidget(m_heads[2], 0, 3, 1, 2);
     grid->addWidget(m_heads[3], 0, 5, 1, 2);
     for (int row = 0; row < MaxKomponenten; ++row)
-        layOutRow(*grid, row);
+        at(row).layOut(*grid, row + 1);
     grid->setColumnStretch(1, 1);
 
     auto* column = new QVBoxLayout(this);
@@ -155,261 +109,80 @@ void Kompositionsbereich::layOut()
     column->addLayout(grid);
 }
 
-void Kompositionsbereich::layOutRow(QGridLayout& grid, int row)
-{
-    constexpr std::array<int, 7> Breiten{62, 0, 66, 98, 76, 106, 90};
-    const auto widgets = at(row).widgets();
-    for (std::size_t column = 0; column < widgets.size(); ++column) {
-        if (Breiten.at(column) > 0)
-            widgets.at(column)->setFixedWidth(Breiten.at(column));
-        widgets.at(column)->setFixedHeight(Zeilenhoehe);
-        grid.addWidget(widgets.at(column), row + 1, static_cast<int>(column));
-    }
-    // A long name must not push the columns; it is cut and the tool tip has it whole.
-    at(row).lblElement->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    grid.setRowMinimumHeight(row + 1, Zeilenhoehe + Zeilenabstand);
-}
-
 void Kompositionsbereich::restoreCount()
 {
-    m_programm.setKomponentenzahl(gespeicherteKomponentenzahl(m_programm.settings().LoadSetting("Komponenten", "2")));
-    // Intended: the stored value is one less than the number of rows; this adds it again.
-    changeCount(1);
+    // Intended: the stored value is one less than the number of rows.
+    setAnzahl(
+        naechsteKomponentenzahl(gespeicherteKomponentenzahl(m_programm.settings().LoadSetting("Komponenten", "2")), 1));
 }
 
 void Kompositionsbereich::addElement(int list, std::string_view symbol, int itemData)
 {
-    at(list).cmbElement->addItem(toQt(symbol), itemData);
-    if (at(list).cmbElement->count() == 1)
-        at(list).cmbElement->setCurrentIndex(-1); // the toolkit selects the first entry, start-up chooses
+    at(list).addElement(symbol, itemData);
 }
 
 std::string Kompositionsbereich::elementEntry(int list, int position) const
 {
-    return fromQt(at(list).cmbElement->itemText(position));
+    return fromQt(at(list).elementEntry(position));
 }
 
 int Kompositionsbereich::findElementEntry(int list, std::string_view text) const
 {
-    return at(list).cmbElement->findText(toQt(text), Qt::MatchFixedString | Qt::MatchCaseSensitive);
+    return at(list).findElementEntry(text);
 }
 
 void Kompositionsbereich::chooseElement(int row, int position)
 {
-    if (position < 0 || position >= at(row).cmbElement->count())
-        return;
-    at(row).cmbElement->setCurrentIndex(position);
-    elementChosen(row);
+    if (const std::string key = elementEntry(row, position); !key.empty())
+        elementChosen(row, key);
 }
 
-void Kompositionsbereich::stepProzent(int row, int prozent)
+void Kompositionsbereich::enterProzent(int row, int prozent)
 {
-    at(row).txtProzent->setText(QString::fromStdString(textOfSingle(static_cast<float>(prozent))));
+    taken(eingabe().setProzent(row, textOfSingle(static_cast<float>(prozent))));
 }
 
-std::string Kompositionsbereich::element(int row) const { return fromQt(at(row).cmbElement->currentText()); }
-
-std::string Kompositionsbereich::elementName(int row) const { return fromQt(at(row).lblElement->text()); }
-
-std::string Kompositionsbereich::prozent(int row) const { return fromQt(at(row).txtProzent->text()); }
-
-std::string Kompositionsbereich::dichte(int row) const { return fromQt(at(row).txtDichte->text()); }
-
-Diagrammzeile Kompositionsbereich::diagrammzeile(int row) const
+void Kompositionsbereich::setAnzahl(int count)
 {
-    const Wertfeld& valenz = *at(row).txtValenz;
-    return {elementName(row), dichte(row), valenz.istWertUnbekannt(), valenz.fehler().isEmpty()};
-}
-
-Komponentenzeile Kompositionsbereich::zeile(int row) const
-{
-    const Zeile& z = at(row);
-    return {m_symbole.at(static_cast<std::size_t>(row)), prozent(row), fromQt(z.cmdDichte->currentText()), dichte(row),
-        fromQt(z.cmbValenz->currentText()), fromQt(z.txtValenz->text())};
-}
-
-void Kompositionsbereich::changeCount(int step)
-{
-    const int count = naechsteKomponentenzahl(m_programm.Komponentenzahl(), step);
-    m_programm.setKomponentenzahl(count);
     // Intended: one less than the number of rows is stored, see restoreCount.
     m_programm.settings().SaveSetting("Komponenten", std::to_string(count - 1));
-    for (int row = 0; row < MaxKomponenten; ++row) {
-        for (QWidget* const widget : at(row).widgets())
-            widget->setVisible(row < count);
-        const bool isBalance = row == count - 1;
-        at(row).txtProzent->setHinweis(isBalance ? QStringLiteral("Rest auf 100 at%") : QString());
+    taken(eingabe().setAnzahl(count));
+}
+
+void Kompositionsbereich::elementChosen(int row, std::string_view key)
+{
+    Aenderung aenderung;
+    {
+        const Programm::Fuellung fuellung(m_programm); // nothing is computed while the row is refilled
+        aenderung = eingabe().waehleElement(row, key);
+        if (aenderung.element)
+            m_programm.settings().SaveSetting("Element_" + std::to_string(row), key);
+        zeige();
     }
-    balance();
-    emit componentsChanged();
-    emit firstDiagramTypeRequested();
-    emit resultsRequested();
-    emit weighingRequested();
-    m_lblAnzahl->setText(QString::number(count));
+    taken(aenderung);
 }
 
-/// Writes what is missing to 100 at% into the balance row; false, and nothing written, at an empty text or one that is
-/// no number.
-bool Kompositionsbereich::balance()
+void Kompositionsbereich::valenzEdited(int row, const Aenderung& aenderung)
 {
-    const int last = m_programm.Komponentenzahl() - 1;
-    std::array<std::string, MaxKomponenten> prozente;
-    for (int row = 0; row < last; ++row)
-        prozente.at(static_cast<std::size_t>(row)) = prozent(row);
-    try {
-        const auto rest = ausgleichstext({prozente.data(), static_cast<std::size_t>(last)});
-        if (!rest)
-            return false;
-        at(last).txtProzent->setWert(toQt(*rest), false);
-        at(last).txtProzent->setFehler({});
-        return true;
-    } catch (const Laufzeitfehler&) {
-        return false; // the field with that text is marked
-    }
+    taken(aenderung);
+    for (const std::string& meldung :
+        std::vector(eingabe().zeile(row).valenz.meldungen)) // may change while one is shown
+        m_programm.boxes().show(Icon::None, Formelmeldungstitel, meldung);
 }
 
-void Kompositionsbereich::elementChosen(int row)
+/// Shows what an operation has made of the alloy and passes on what it has changed.
+void Kompositionsbereich::taken(const Aenderung& aenderung)
 {
-    m_programm.setStartupDone(false); // nothing is recomputed while the row is refilled
-    try {
-        const auto& element = m_programm.ElementCollection().Item(this->element(row));
-        m_programm.setCurrentElement(element);
-        m_symbole.at(static_cast<std::size_t>(row)) = element->symbol();
-        at(row).lblElement->setText(toQt(element->Name()));
-        at(row).lblElement->setToolTip(toQt(element->Name()));
-        m_programm.settings().SaveSetting("Element_" + std::to_string(row), this->element(row));
-        fillChoices(row);
-    } catch (const Laufzeitfehler&) {
-        // An entry without a record leaves the row as it is.
-    }
-    emit componentsChanged();
-    m_programm.setStartupDone(true);
-    emit firstDiagramComponentRequested();
-    emit resultsRequested();
-    emit weighingRequested();
-    emit diagramRequested();
+    zeige();
+    if (aenderung != Aenderung())
+        emit geaendert(aenderung);
 }
 
-void Kompositionsbereich::fillChoices(int row)
+void Kompositionsbereich::zeige()
 {
-    const clsElement& element = *m_programm.CurrentElement();
-    QComboBox& dichten = *at(row).cmdDichte;
-    dichten.clear();
-    for (const std::string_view choice : dichteauswahl(element))
-        dichten.addItem(toQt(choice));
-    dichteChosen(row);
-    QComboBox& valenzen = *at(row).cmbValenz;
-    valenzen.clear();
-    for (const Valenzeintrag& choice : valenzauswahl(element))
-        valenzen.addItem(toQt(choice.text), choice.code);
-    valenzChosen(row);
-}
-
-/// Makes the row's element the current one; nothing if the row has none.
-void Kompositionsbereich::makeCurrent(int row)
-{
-    if (auto element = m_programm.ElementCollection().find(this->element(row)))
-        m_programm.setCurrentElement(std::move(element));
-}
-
-void Kompositionsbereich::dichteChosen(int row)
-{
-    makeCurrent(row);
-    if (!m_programm.CurrentElement())
-        return;
-    const std::string choice = fromQt(at(row).cmdDichte->currentText());
-    const float dichte = dichteFor(*m_programm.CurrentElement(), choice);
-    at(row).txtDichte->setWert(toQt(feldtext(dichte)), istUnbekannt(dichte));
-    at(row).txtDichte->setEnabled(choice == AndereWahl);
-    dichteChanged(row);
-}
-
-void Kompositionsbereich::valenzChosen(int row)
-{
-    makeCurrent(row);
-    if (!m_programm.CurrentElement())
-        return;
-    const int code = at(row).cmbValenz->currentData().toInt();
-    const float valenz = valenzFor(*m_programm.CurrentElement(), code);
-    at(row).txtValenz->setWert(toQt(feldtext(valenz)), istUnbekannt(valenz));
-    at(row).txtValenz->setEnabled(code == ValenzAndere);
-    valenzChanged(row);
-}
-
-void Kompositionsbereich::prozentChanged(int row)
-{
-    const QString text = at(row).txtProzent->text();
-    at(row).txtProzent->setFehler(text.isEmpty() ? QString() : numberFault(text));
-    if (isBalanceRow(row) || !balance())
-        return;
-    emit resultsRequested();
-    emit weighingRequested();
-    emit diagramRequested();
-}
-
-void Kompositionsbereich::dichteChanged(int row)
-{
-    Wertfeld& field = *at(row).txtDichte;
-    field.setFehler(numberFault(field.text()));
-    if (field.fehler().isEmpty() && m_programm.CurrentElement())
-        m_programm.CurrentElement()->setDichte(singleFromText(fromQt(field.text())));
-    mirror(row);
-    emit resultsRequested();
-    emit densityDiagramRequested();
-}
-
-void Kompositionsbereich::valenzChanged(int row)
-{
-    m_programm.beginEdit();
-    Wertfeld& field = *at(row).txtValenz;
-    if (m_programm.CurrentElement())
-        m_programm.CurrentElement()->setValenz_Temp(fromQt(field.text()));
-    judgeValenz(field);
-    mirror(row);
-    emit resultsRequested();
-    emit diagramRequested();
-}
-
-/// Shows what the field's formula comes to, or why it is none.
-void Kompositionsbereich::judgeValenz(Wertfeld& field)
-{
-    const std::string text = fromQt(field.text());
-    const std::string value = m_programm.Parser().Parse(text);
-    const auto& error = m_programm.Parser().LastError();
-    const bool hexadecimal = value.starts_with("0x"); // a form that the calculator cannot take
-    QString fault;
-    if (error)
-        fault = QStringLiteral("%1 (Zeichen %2)").arg(toQt(error->Grund)).arg(error->Stelle);
-    else if (hexadecimal)
-        fault = QStringLiteral("Hexadezimalzahl als Valenz (%1)").arg(toQt(value));
-    field.setEcho(
-        fault.isEmpty() && !text.empty() && istFormel(text) ? QStringLiteral("= %1").arg(toQt(value)) : QString());
-    field.setFehler(fault);
-}
-
-/// Rows of the same element share one density and one valence: all show what this row shows.
-void Kompositionsbereich::mirror(int row)
-{
-    const auto copyList = [](const QComboBox& from, QComboBox& to) {
-        const QSignalBlocker blocker(to);
-        to.setCurrentIndex(from.currentIndex());
-    };
-    const auto copyField = [](const Wertfeld& from, Wertfeld& to) {
-        to.setWert(from.text(), from.istWertUnbekannt());
-        to.setEnabled(from.isEnabled());
-        to.setEcho(from.echo());
-        to.setFehler(from.fehler());
-    };
-    for (int other = 0; other < MaxKomponenten; ++other) {
-        const bool same = element(other) == element(row) && at(other).cmdDichte->count() == at(row).cmdDichte->count()
-            && at(other).cmbValenz->count() == at(row).cmbValenz->count();
-        if (other == row || !same)
-            continue;
-        copyList(*at(row).cmdDichte, *at(other).cmdDichte);
-        copyField(*at(row).txtDichte, *at(other).txtDichte);
-        copyList(*at(row).cmbValenz, *at(other).cmbValenz);
-        copyField(*at(row).txtValenz, *at(other).txtValenz);
-    }
+    for (Kompositionszeile* const zeile : m_zeilen)
+        zeile->zeige(eingabe());
+    m_lblAnzahl->setText(QString::number(eingabe().anzahl()));
 }
 
 } // namespace zerna

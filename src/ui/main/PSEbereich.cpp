@@ -83,7 +83,7 @@ void PSEbereich::offerComponents(const QPoint& position)
     if (!element)
         return;
     QMenu menu(this);
-    for (int row = 0; row < m_programm.Komponentenzahl(); ++row)
+    for (int row = 0; row < m_programm.Eingabe().anzahl(); ++row)
         menu.addAction(QStringLiteral("Als Komponente &%1 übernehmen").arg(row + 1), this,
             [this, row, element] { emit componentChosen(row, toQt(element->symbol())); });
     menu.exec(position);

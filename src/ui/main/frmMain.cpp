@@ -103,10 +103,10 @@ void frmMain::createCalculatorPanel(Dialoge dialoge)
     m_komposition = new Kompositionsbereich(m_programm, m_left);
     m_cmdKnopf1[0] = makeSwitch(m_left, QStringLiteral("&Ergebnisse"), QStringLiteral("cmdKnopf1_0"));
     m_cmdKnopf1[1] = makeSwitch(m_left, QStringLiteral("Ein&waage"), QStringLiteral("cmdKnopf1_1"));
-    m_ergebnisse = new Ergebnisbereich(m_programm, dialoge.save, *m_komposition, m_left);
+    m_ergebnisse = new Ergebnisbereich(m_programm, dialoge.save, m_left);
     m_conWiegen1 = new conWiegen(m_programm, dialoge.save, m_left);
     m_conWiegen1->setObjectName(QStringLiteral("conWiegen1"));
-    m_diagramm = new Diagrammbereich(m_programm, dialoge, *m_komposition, m_pic1);
+    m_diagramm = new Diagrammbereich(m_programm, dialoge, m_pic1);
 
     auto* switches = new QHBoxLayout;
     switches->setSpacing(4);
@@ -134,19 +134,10 @@ void frmMain::connectPanels()
         connect(m_cmdKnopf1.at(k), &StyledButton::clicked, this, [this, i] { showLowerArea(i); });
     }
     connect(m_cmdAbout, &StyledButton::clicked, this, [this] { frmAbout(m_programm.Loader(), this).exec(); });
-    connect(m_komposition, &Kompositionsbereich::resultsRequested, this, [this] { m_ergebnisse->aktualisieren(true); });
-    connect(m_komposition, &Kompositionsbereich::weighingRequested, m_conWiegen1, &conWiegen::Aktualisieren);
-    connect(m_komposition, &Kompositionsbereich::componentsChanged, m_diagramm, &Diagrammbereich::rebuildComponents);
-    connect(
-        m_komposition, &Kompositionsbereich::firstDiagramTypeRequested, m_diagramm, &Diagrammbereich::selectFirstType);
-    connect(m_komposition, &Kompositionsbereich::firstDiagramComponentRequested, m_diagramm,
-        &Diagrammbereich::selectFirstComponent);
-    connect(m_komposition, &Kompositionsbereich::densityDiagramRequested, this,
-        [this] { m_diagramm->aktualisieren(false); });
-    connect(m_komposition, &Kompositionsbereich::diagramRequested, this, [this] { m_diagramm->aktualisieren(true); });
+    connect(m_komposition, &Kompositionsbereich::geaendert, this, &frmMain::uebernehmen);
     connect(m_pse, &PSEbereich::componentChosen, this,
         [this](int row, const QString& symbol) { ComboElementListIndex(row, findElementEntry(row, fromQt(symbol))); });
-    connect(m_diagramm, &Diagrammbereich::prozentStepped, m_komposition, &Kompositionsbereich::stepProzent);
+    connect(m_diagramm, &Diagrammbereich::prozentStepped, m_komposition, &Kompositionsbereich::enterProzent);
 }
 
 void frmMain::ComboElementListIndex(int index, int listIndex) { m_komposition->chooseElement(index, listIndex); }
@@ -163,12 +154,26 @@ int frmMain::findElementEntry(int list, std::string_view text) const
     return m_komposition->findElementEntry(list, text);
 }
 
-void frmMain::addDiagramComponent(int list) { m_diagramm->addComponent(list); }
-
 void frmMain::selectFirstDiagram()
 {
     m_diagramm->selectFirstType();
     m_diagramm->selectFirstComponent();
+}
+
+void frmMain::compute()
+{
+    uebernehmen({.anzahl = true, .element = true, .anteil = true, .dichte = true, .valenz = true});
+}
+
+/// The way of every edit: the calculator gets the alloy once, then the panels that show it get it.
+void frmMain::uebernehmen(const Aenderung& aenderung)
+{
+    if (m_programm.StartupDone() && m_programm.uebernehmen()) {
+        m_ergebnisse->zeige(m_programm.gerechneteEingabe());
+        if (aenderung.anzahl || aenderung.element || aenderung.anteil) // nothing else is weighed
+            m_conWiegen1->Aktualisieren(m_programm.gerechneteEingabe());
+    }
+    m_diagramm->zeige(m_programm.Eingabe(), aenderung);
 }
 
 void frmMain::show() { QWidget::show(); }

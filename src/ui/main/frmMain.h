@@ -17,7 +17,8 @@ class StyledButton;
 class conWiegen;
 
 /// The main window: a strip with the panel switches, and below it the calculator panel or the periodic table. It ties
-/// the panels together: an edit of the composition asks here for what depends on it.
+/// the panels together: an edit of the composition is handed to the calculator here, and then to the panels that show
+/// it.
 class frmMain : public QWidget, public Hauptfenster {
     Q_OBJECT
 
@@ -31,8 +32,8 @@ public:
     void addElement(int list, std::string_view symbol, int itemData) override;
     std::string elementEntry(int list, int position) const override;
     int findElementEntry(int list, std::string_view text) const override;
-    void addDiagramComponent(int list) override;
     void selectFirstDiagram() override;
+    void compute() override;
     void show() override;
 
 protected:
@@ -45,6 +46,7 @@ private:
     void createCalculatorPanel(Dialoge dialoge);
     void connectPanels();
     void layOutPanels();
+    void uebernehmen(const Aenderung& aenderung);
     void showPanel(int panel);
     void showLowerArea(int area);
 

@@ -60,6 +60,7 @@ void conWiegen::createControls()
     m_sollMasseCaption = new QLabel(QStringLiteral("&Gesamtmasse [mg]:"), this);
     m_txtSollMasse = makeField("txtSollMasse", QStringLiteral("Gewünschte Gesamtmasse in Milligramm"));
     m_txtSollMasse->setText(QStringLiteral("1000"));
+    read(*m_txtSollMasse, m_sollmasse);
     m_sollMasseCaption->setBuddy(m_txtSollMasse);
     const std::array<QString, 6> heads{QStringLiteral("Komponente"), QStringLiteral("Sollmasse [mg]"),
         QStringLiteral("Istmasse [mg]"), QStringLiteral("Ist [at%]"), QStringLiteral("Ist − Soll"),
@@ -86,8 +87,14 @@ void conWiegen::createControls()
     m_speichern = new StyledButton(QStringLiteral("&Speichern"), this);
     m_speichern->setObjectName(QStringLiteral("cmdWiegen_Speichern"));
     m_speichern->setToolTipText(QStringLiteral("Wiegeprotokoll als Textdatei speichern"));
-    connect(m_txtSollMasse, &Wertfeld::textChanged, this, &conWiegen::sollMasseChanged);
-    connect(m_txtVerlust, &Wertfeld::textChanged, this, &conWiegen::verlustChanged);
+    connect(m_txtSollMasse, &Wertfeld::textChanged, this, [this] {
+        read(*m_txtSollMasse, m_sollmasse);
+        sollMasseChanged();
+    });
+    connect(m_txtVerlust, &Wertfeld::textChanged, this, [this] {
+        read(*m_txtVerlust, m_verlust);
+        verlustChanged();
+    });
     connect(m_kopieren, &StyledButton::clicked, this, &conWiegen::copy);
     connect(m_speichern, &StyledButton::clicked, this, &conWiegen::save);
 }
@@ -112,7 +119,7 @@ void conWiegen::createRow(int row)
     z.Istmasse->setAlignment(Qt::AlignRight);
     z.Istmasse->setHinweis(QStringLiteral("Gewogene Masse; Eingabetaste: die übrigen Sollmassen darauf beziehen"));
     z.Istmasse->installEventFilter(this);
-    connect(z.Istmasse, &Wertfeld::textChanged, this, &conWiegen::Istmasse_Change);
+    connect(z.Istmasse, &Wertfeld::textChanged, this, [this, row] { Istmasse_Change(row); });
     for (QWidget* const widget : z.widgets())
         widget->hide();
 }
@@ -168,18 +175,23 @@ void conWiegen::layOutTable(QGridLayout& grid)
     grid.setColumnStretch(0, 1);
 }
 
-void conWiegen::Aktualisieren()
+/// Reads a field that has just been edited and marks it if it holds no number.
+void conWiegen::read(Wertfeld& field, float& masse)
 {
-    if (!m_programm.StartupDone())
-        return;
-    const clsCalc& calc = m_programm.Calc();
+    masse = ParseValue(fromQt(field.text()));
+    field.setFehler(istUnbekannt(masse) ? QStringLiteral("Keine gültige Zahl") : QString());
+}
+
+void conWiegen::Aktualisieren(const Eingabe& eingabe)
+{
+    m_anzahl = eingabe.anzahl();
     for (int row = 0; row < MaxKomponenten; ++row) {
         Zeile& z = at(row);
         for (QWidget* const widget : z.widgets())
-            widget->setVisible(row < count());
-        if (row >= count())
+            widget->setVisible(row < m_anzahl);
+        if (row >= m_anzahl)
             continue;
-        z.Label->setText(toQt(calc.Element_Name(row)));
+        z.Label->setText(toQt(m_programm.Calc().Element_Name(row)));
         z.Istmasse->setAccessibleName(QStringLiteral("Gewogene Masse von %1 in Milligramm").arg(z.Label->text()));
     }
     sollMasseChanged();
@@ -194,7 +206,6 @@ void conWiegen::Aktualisieren()
 void conWiegen::sollMasseChanged()
 {
     m_hinweis->clear();
-    m_txtSollMasse->setFehler({});
     try {
         showTargets();
     } catch (const Laufzeitfehler& error) {
@@ -203,9 +214,7 @@ void conWiegen::sollMasseChanged()
             if (!isAnythingWeighed())
                 z.MassProzent->clear();
         }
-        if (error.Nummer() == static_cast<int>(Fehler::TypenUnvertraeglich))
-            m_txtSollMasse->setFehler(QStringLiteral("Keine gültige Zahl"));
-        else
+        if (!istUnbekannt(m_sollmasse)) // else the field is marked
             m_hinweis->setText(
                 QStringLiteral("Sollmassen nicht berechenbar: %1 hat 0 at% und ist der Bezug der Rechnung.")
                     .arg(toQt(m_programm.Calc().Element_Name(0))));
@@ -215,10 +224,10 @@ void conWiegen::sollMasseChanged()
 /// Target masses and, until something is weighed, the mass percents that they mean.
 void conWiegen::showTargets()
 {
-    const float wanted = wiegezahl(fromQt(m_txtSollMasse->text()));
-    const std::vector<float> massen = sollmassen(m_programm.Calc(), count(), wanted);
+    const float wanted = wiegezahl(m_sollmasse);
+    const std::vector<float> massen = sollmassen(m_programm.Calc(), m_anzahl, wanted);
     const bool weighed = isAnythingWeighed();
-    for (int row = 0; row < count(); ++row) {
+    for (int row = 0; row < m_anzahl; ++row) {
         const float masse = massen.at(static_cast<std::size_t>(row));
         at(row).Sollmasse->setText(toQt(massentext(masse)));
         if (weighed)
@@ -231,29 +240,25 @@ void conWiegen::showTargets()
 std::vector<float> conWiegen::istmassen() const
 {
     std::vector<float> massen;
-    for (int row = 0; row < count(); ++row)
-        massen.push_back(wiegezahl(fromQt(at(row).Istmasse->text())));
+    for (int row = 0; row < m_anzahl; ++row)
+        massen.push_back(wiegezahl(at(row).istmasse));
     return massen;
 }
 
 bool conWiegen::isAnythingWeighed() const
 {
-    for (int row = 0; row < count(); ++row) {
+    for (int row = 0; row < m_anzahl; ++row) {
         if (!at(row).Istmasse->text().isEmpty())
             return true;
     }
     return false;
 }
 
-void conWiegen::Istmasse_Change()
+void conWiegen::Istmasse_Change(int row)
 {
+    read(*at(row).Istmasse, at(row).istmasse);
     reporting(m_programm.boxes(), "Istmasse_Change", Steuerelement, [this] {
         try {
-            for (int row = 0; row < count(); ++row) {
-                const QString text = at(row).Istmasse->text();
-                at(row).Istmasse->setFehler(
-                    istUnbekannt(ParseValue(fromQt(text))) ? QStringLiteral("Keine gültige Zahl") : QString());
-            }
             showWeighed();
         } catch (const Laufzeitfehler&) {
             clearWeighed();
@@ -279,7 +284,7 @@ void conWiegen::showWeighed()
     const clsCalc& calc = m_programm.Calc();
     const std::vector<float> atomprozente = gewogeneAtomprozente(calc, massen);
     const std::vector<float> shares = massenprozente(massen);
-    for (int row = 0; row < count(); ++row) {
+    for (int row = 0; row < m_anzahl; ++row) {
         const auto k = static_cast<std::size_t>(row);
         at(row).IstProzent->setText(atomprozentText(atomprozente[k]));
         at(row).MassProzent->setText(toQt(fixedText(shares[k], 2)));
@@ -316,7 +321,7 @@ bool conWiegen::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::KeyPress) {
         const int key =
             static_cast<QKeyEvent*>(event)->key(); // NOLINT(cppcoreguidelines-pro-type-static-cast-downcast)
-        for (int row = 0; row < count() && (key == Qt::Key_Return || key == Qt::Key_Enter); ++row) {
+        for (int row = 0; row < m_anzahl && (key == Qt::Key_Return || key == Qt::Key_Enter); ++row) {
             if (watched == at(row).Istmasse) {
                 Istmasse_KeyDown(row);
                 return true;
@@ -341,9 +346,8 @@ void conWiegen::Istmasse_KeyDown(int row)
         return;
     }
     reporting(m_programm.boxes(), "Istmasse_KeyDown", Steuerelement, [&] {
-        const float masse = wiegezahl(fromQt(at(row).Istmasse->text()));
-        const std::vector<float> massen = sollmassenZu(calc, count(), row, masse);
-        for (int other = 0; other < count(); ++other) {
+        const std::vector<float> massen = sollmassenZu(calc, m_anzahl, row, wiegezahl(at(row).istmasse));
+        for (int other = 0; other < m_anzahl; ++other) {
             if (other != row)
                 at(other).Sollmasse->setText(toQt(massentext(massen.at(static_cast<std::size_t>(other)))));
         }
@@ -353,16 +357,10 @@ void conWiegen::Istmasse_KeyDown(int row)
 void conWiegen::verlustChanged()
 {
     m_lstVerlust->clear();
-    m_txtVerlust->setFehler({});
-    const QString text = m_txtVerlust->text();
-    if (text.isEmpty())
+    if (m_txtVerlust->text().isEmpty() || istUnbekannt(m_verlust))
         return;
-    if (istUnbekannt(ParseValue(fromQt(text)))) {
-        m_txtVerlust->setFehler(QStringLiteral("Keine gültige Zahl"));
-        return;
-    }
     try {
-        for (const std::string& line : verlustliste(m_programm.Calc(), istmassen(), wiegezahl(fromQt(text))))
+        for (const std::string& line : verlustliste(m_programm.Calc(), istmassen(), m_verlust))
             m_lstVerlust->addItem(toQt(line));
     } catch (const Laufzeitfehler& error) {
         m_lstVerlust->addItem(QStringLiteral("Nicht berechenbar: %1").arg(toQt(error.what())));
@@ -373,7 +371,7 @@ std::string conWiegen::protokoll() const
 {
     const clsCalc& calc = m_programm.Calc();
     std::vector<Einwaagezeile> zeilen;
-    for (int row = 0; row < count(); ++row) {
+    for (int row = 0; row < m_anzahl; ++row) {
         const Zeile& z = at(row);
         zeilen.push_back(
             {calc.Element_Symbol(row), textOfSingle(calc.Element_Prozente(row)), fromQt(z.Sollmasse->text()),

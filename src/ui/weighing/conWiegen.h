@@ -26,8 +26,8 @@ class conWiegen : public QWidget {
 public:
     conWiegen(Programm& programm, SaveFileDialog& saveDialog, QWidget* parent = nullptr);
 
-    /// Rebuilds the panel for the current composition.
-    void Aktualisieren();
+    /// Rebuilds the panel for an alloy that the calculator has just been given.
+    void Aktualisieren(const Eingabe& eingabe);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -40,6 +40,7 @@ private:
         QLabel* IstProzent = nullptr;
         QLabel* Abweichung = nullptr;
         QLabel* MassProzent = nullptr;
+        float istmasse = 0; // mg; Unbekannt while the field holds no number
 
         std::array<QWidget*, 6> widgets() const;
     };
@@ -50,7 +51,7 @@ private:
     void layOutTable(QGridLayout& grid);
 
     void sollMasseChanged();
-    void Istmasse_Change();
+    void Istmasse_Change(int row);
     void Istmasse_KeyDown(int row);
     void verlustChanged();
     void showTargets();
@@ -63,12 +64,16 @@ private:
     void copy();
     void save();
 
-    int count() const { return m_programm.Komponentenzahl(); }
     Zeile& at(int row) { return m_zeilen.at(static_cast<std::size_t>(row)); }
     const Zeile& at(int row) const { return m_zeilen.at(static_cast<std::size_t>(row)); }
 
+    void read(Wertfeld& field, float& masse);
+
     Programm& m_programm;
     SaveFileDialog& m_saveDialog;
+    int m_anzahl = 0; // components of the alloy that is weighed
+    float m_sollmasse = 0; // mg; Unbekannt while its field holds no number
+    float m_verlust = 0; // mg, likewise
     QLabel* m_sollMasseCaption = nullptr;
     Wertfeld* m_txtSollMasse = nullptr;
     std::array<QLabel*, 6> m_heads{};

@@ -30,10 +30,10 @@ struct conDisplayTest : FakeDesk {
         display->Element_Add(1, "Cu", -100);
         display->Element_Add(0, "Al", 50);
         display->setVariablesElement(0);
-        draw("1", "2");
+        draw(1, 2);
     }
 
-    void draw(const char* first, const char* second)
+    void draw(float first, float second)
     {
         display->setDichtefelder({first, second});
         display->Zeichne_Diagramm_2D(3, 0);
@@ -103,7 +103,7 @@ TEST_F(conDisplayTest, UnknownValuesLeaveAGap)
 
 TEST_F(conDisplayTest, LabelsAreWholeAtAnyFont)
 {
-    draw("1090", "900"); // the topmost label is the widest
+    draw(1090, 900); // the topmost label is the widest
     for (const int points : {4, 9, 20, 30, 80}) {
         display->setFont(QFont(display->font().family(), points));
         EXPECT_NE(colour(picture().copy(5, 0, 46, 300)), QColor(Qt::white)) << points;
@@ -115,12 +115,12 @@ TEST_F(conDisplayTest, LabelsAreWholeAtAnyFont)
 TEST_F(conDisplayTest, FaultsKeepThePictureAndTheErrorDisplayReplacesIt)
 {
     const QImage before = picture();
-    for (const auto& [density, error] : {std::pair("0", 11), {"abc", 13}, {"3,3e38", 6}})
+    for (const auto& [density, error] : {std::pair(0.0F, 11), {3.3e38F, 6}})
         EXPECT_EQ(errorNumber([this, d = density] { draw(d, d); }), error) << density;
     for (const auto& [index, error] : {std::pair(5, 9), {-1, 9}, {4, 91}})
         EXPECT_EQ(errorNumber([this, i = index] { display->setVariablesElement(i); }), error);
     display->setKompositionBereit(false);
-    draw("7", "8");
+    draw(7, 8);
     EXPECT_EQ(picture(), before);
     display->Zeichne_Fehler();
     EXPECT_EQ(colour(picture().copy(0, 0, 460, 100)), QColor(Qt::white));

@@ -1,0 +1,232 @@
+#include "model/Eingabe.h"
+
+#include <algorithm>
+
+#include "core/CheckedArithmetic.h"
+#include "core/Zahlentext.h"
+
+namespace zerna {
+
+namespace {
+
+constexpr std::array<std::string_view, MaxKomponenten> AnfangsProzente{"50", "50", "0", "0", "0"};
+
+/// The field of a value that was chosen, not typed.
+Eingabefeld wertfeld(float wert) { return {feldtext(wert), wert}; }
+
+std::string dichtehindernis(const std::string& name, const Eingabefeld& dichte)
+{
+    if (dichte.text.empty() || dichte.istUnbekannterWert())
+        return "Dichte für " + name + " ist unbekannt!";
+    if (dichte.fehler)
+        return "Dichte für " + name + " ist keine gültige Zahl!";
+    return dichte.wert == 0 ? "Dichte für " + name + " ist Null!" : "";
+}
+
+std::string hindernisIn(const Eingabe::Zeile& zeile)
+{
+    if (!zeile.element)
+        return "Es ist nicht für jede Komponente ein Element gewählt!";
+    const std::string& name = zeile.element->Name();
+    if (std::string grund = dichtehindernis(name, zeile.dichte); !grund.empty())
+        return grund;
+    if (zeile.valenz.istUnbekannterWert())
+        return "Valenz für " + name + " ist unbekannt!";
+    return zeile.valenz.fehler ? "Valenz für " + name + " ist ungültig!" : "";
+}
+
+std::string_view valenzwahltext(const Eingabe::Zeile& zeile)
+{
+    for (const Valenzeintrag& eintrag : valenzauswahl(*zeile.element)) {
+        if (eintrag.code == zeile.valenzwahl)
+            return eintrag.text;
+    }
+    return {};
+}
+
+} // namespace
+
+Eingabe::Eingabe(const ElementCollection& elements)
+    : m_elements(&elements)
+{
+    for (std::size_t i = 0; i < m_zeilen.size(); ++i)
+        m_zeilen.at(i).prozent = zahlenfeld(AnfangsProzente.at(i));
+}
+
+Aenderung Eingabe::setAnzahl(int anzahl)
+{
+    if (anzahl < 1 || anzahl > MaxKomponenten)
+        throw Laufzeitfehler(Fehler::IndexAusserhalb);
+    m_anzahl = anzahl;
+    balance();
+    return {.anzahl = true, .anteil = true};
+}
+
+Aenderung Eingabe::waehleElement(int zeile, std::string_view key)
+{
+    auto element = m_elements->find(key);
+    if (!element)
+        return {};
+    at(zeile).element = std::move(element);
+    waehleDichte(zeile, dichteauswahl(*at(zeile).element).front());
+    waehleValenz(zeile, ValenzStandard);
+    return {.element = true, .dichte = true, .valenz = true};
+}
+
+Aenderung Eingabe::setProzent(int zeile, std::string_view text)
+{
+    at(zeile).prozent = zahlenfeld(text);
+    return {.anteil = !istAusgleich(zeile) && balance()};
+}
+
+void Eingabe::gleicheAus() { balance(); }
+
+/// False, and nothing written, if a row above the last one is empty or no number.
+bool Eingabe::balance()
+{
+    std::array<float, MaxKomponenten> prozente{};
+    const auto above = std::span(prozente).first(static_cast<std::size_t>(m_anzahl) - 1);
+    for (std::size_t i = 0; i < above.size(); ++i) {
+        if (m_zeilen.at(i).prozent.fehler)
+            return false;
+        above[i] = m_zeilen.at(i).prozent.wert;
+    }
+    try {
+        at(m_anzahl - 1).prozent = zahlenfeld(ausgleichstext(above));
+        return true;
+    } catch (const Laufzeitfehler&) {
+        return false;
+    }
+}
+
+Aenderung Eingabe::waehleDichte(int zeile, std::string_view wahl)
+{
+    if (!at(zeile).element)
+        return {};
+    nachschlagen(zeile);
+    at(zeile).dichtewahl = wahl;
+    writeDichte(zeile, wertfeld(dichteFor(*m_current, wahl)));
+    return {.dichte = true};
+}
+
+Aenderung Eingabe::waehleValenz(int zeile, int wahl)
+{
+    if (!at(zeile).element)
+        return {};
+    nachschlagen(zeile);
+    at(zeile).valenzwahl = wahl;
+    writeValenz(zeile, valenzfeld(feldtext(valenzFor(*m_current, wahl)), *m_elements));
+    return {.valenz = true};
+}
+
+Aenderung Eingabe::setDichte(int zeile, std::string_view text)
+{
+    writeDichte(zeile, zahlenfeld(text));
+    return {.dichte = true};
+}
+
+Aenderung Eingabe::setValenz(int zeile, std::string_view text)
+{
+    writeValenz(zeile, valenzfeld(text, *m_elements));
+    return {.valenz = true};
+}
+
+void Eingabe::writeDichte(int zeile, Eingabefeld feld)
+{
+    at(zeile).dichte = std::move(feld);
+    if (!at(zeile).dichte.fehler && m_current)
+        werteOf(m_current).dichte = at(zeile).dichte.wert;
+    mirror(zeile);
+}
+
+void Eingabe::writeValenz(int zeile, Eingabefeld feld)
+{
+    at(zeile).valenz = std::move(feld);
+    if (m_current) {
+        Arbeitswerte& werte = werteOf(m_current);
+        werte.valenztext = at(zeile).valenz.text;
+        werte.valenz = at(zeile).valenz.wert;
+    }
+    mirror(zeile);
+}
+
+void Eingabe::nachschlagen(int zeile)
+{
+    if (at(zeile).element)
+        m_current = at(zeile).element;
+}
+
+/// All rows of the row's element show what it shows.
+void Eingabe::mirror(int zeile)
+{
+    const Zeile& from = at(zeile);
+    for (Zeile& to : m_zeilen) {
+        if (&to == &from || !from.element || to.element != from.element)
+            continue;
+        to.dichtewahl = from.dichtewahl;
+        to.dichte = from.dichte;
+        to.valenzwahl = from.valenzwahl;
+        to.valenz = from.valenz;
+    }
+}
+
+Eingabe::Arbeitswerte& Eingabe::werteOf(const std::shared_ptr<clsElement>& element)
+{
+    const auto found = std::ranges::find(m_werte, element, &Arbeitswerte::element);
+    if (found != m_werte.end())
+        return *found;
+    std::erase_if(m_werte, [this](const Arbeitswerte& werte) {
+        return std::ranges::find(m_zeilen, werte.element, &Zeile::element) == m_zeilen.end();
+    });
+    return m_werte.emplace_back(Arbeitswerte{element, 0, {}, 0});
+}
+
+bool Eingabe::istVollstaendig() const
+{
+    return std::ranges::all_of(std::span(m_zeilen).first(static_cast<std::size_t>(m_anzahl)),
+        [](const Zeile& zeile) { return zeile.element && !zeile.prozent.fehler; });
+}
+
+std::optional<Legierung> Eingabe::legierung() const
+{
+    Legierung legierung;
+    for (int i = 0; i < m_anzahl; ++i) {
+        const Zeile& row = zeile(i);
+        const auto werte = std::ranges::find(m_werte, row.element, &Arbeitswerte::element);
+        if (werte == m_werte.end())
+            return std::nullopt;
+        legierung.add({row.element, row.prozent.wert, werte->dichte, werte->valenz});
+    }
+    return legierung;
+}
+
+std::optional<Hindernis> Eingabe::hindernis() const
+{
+    for (int i = 0; i < m_anzahl; ++i) {
+        if (std::string grund = hindernisIn(zeile(i)); !grund.empty())
+            return Hindernis{i, std::move(grund)};
+    }
+    return std::nullopt;
+}
+
+void Eingabe::elementeSetzen() const
+{
+    for (const Arbeitswerte& werte : m_werte) {
+        werte.element->setDichte(werte.dichte);
+        werte.element->setValenz_Temp(werte.valenztext);
+    }
+}
+
+std::vector<Komponentenzeile> Eingabe::komponentenzeilen() const
+{
+    std::vector<Komponentenzeile> zeilen;
+    for (int i = 0; i < m_anzahl; ++i) {
+        const Zeile& row = zeile(i);
+        if (row.element)
+            zeilen.push_back({row.element->symbol(), row.prozent.text, row.dichtewahl, row.dichte.text,
+                std::string(valenzwahltext(row)), row.valenz.text});
+    }
+    return zeilen;
+}
+
+} // namespace zerna

@@ -1,0 +1,132 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/ElementCollection.h"
+#include "model/Eingabefeld.h"
+#include "model/Komponentenzeile.h"
+#include "model/Komposition.h"
+#include "model/Legierung.h"
+
+namespace zerna {
+
+/// What an edit of the entered alloy has changed for those who compute with it.
+struct Aenderung {
+    bool anzahl = false; ///< the number of rows
+    bool element = false;
+    bool anteil = false; ///< at%
+    bool dichte = false;
+    bool valenz = false;
+
+    bool operator==(const Aenderung&) const = default;
+};
+
+/// Why nothing can be drawn over compositions.
+struct Hindernis {
+    int zeile = 0; ///< of the first row that is to blame
+    std::string grund; ///< in German
+};
+
+/// The entered alloy as a value: one to five rows of element, at%, density and valence, each text read once when it is
+/// entered. The rows behind the last one keep what they hold. Operations take rows 0 to 4 and say what they changed.
+///
+/// The last row in use is the balance row: it takes what is missing to 100 at%, and entering its own at% changes
+/// nothing that is computed. Rows of the same element share one density and one valence.
+class Eingabe {
+public:
+    struct Zeile {
+        std::shared_ptr<clsElement> element; ///< null until one is chosen
+        Eingabefeld prozent; ///< at%
+        std::string dichtewahl; ///< one of dichteauswahl(), empty without an element
+        Eingabefeld dichte; ///< g/cm³
+        int valenzwahl = ValenzStandard; ///< code of the valence choice
+        Eingabefeld valenz;
+
+        bool operator==(const Zeile&) const = default;
+    };
+
+    /// One row of 100 at%, without an element; the others prepared with their first at%.
+    explicit Eingabe(const ElementCollection& elements);
+
+    /// Sets the number of rows, 1 to 5 (error 9 outside), and balances.
+    Aenderung setAnzahl(int anzahl);
+
+    /// Chooses an element by its key, with its first density and its standard valence. Nothing for an unknown key.
+    Aenderung waehleElement(int zeile, std::string_view key);
+
+    /// Enters an at%. Nothing changes while one of the rows above the balance row is empty or no number.
+    Aenderung setProzent(int zeile, std::string_view text);
+
+    /// Writes the balance row's at% again, over what was entered there.
+    void gleicheAus();
+
+    /// Chooses one of dichteauswahl(); "<andere>" begins at 0. Nothing for a row without an element.
+    Aenderung waehleDichte(int zeile, std::string_view wahl);
+
+    /// Chooses a valence by its code; ValenzAndere begins at 0. Nothing for a row without an element.
+    Aenderung waehleValenz(int zeile, int wahl);
+
+    /// Enters a density; a text that is no number leaves the last one in force.
+    /// Intended: the value goes to the element looked up last, see nachschlagen, whatever the row.
+    Aenderung setDichte(int zeile, std::string_view text);
+
+    /// Enters a valence, a number or a formula; goes to the element looked up last, like a density.
+    Aenderung setValenz(int zeile, std::string_view text);
+
+    /// Looks the row's element up, so that entered densities and valences go to it; choosing anything does so, too.
+    void nachschlagen(int zeile);
+    const std::shared_ptr<clsElement>& CurrentElement() const { return m_current; }
+    void setCurrentElement(std::shared_ptr<clsElement> element) { m_current = std::move(element); }
+
+    int anzahl() const { return m_anzahl; }
+    const Zeile& zeile(int zeile) const { return m_zeilen.at(static_cast<std::size_t>(zeile)); }
+    bool istAusgleich(int zeile) const { return zeile == m_anzahl - 1; }
+
+    /// Whether all rows in use have an element and a readable at%.
+    bool istVollstaendig() const;
+
+    /// The rows in use as numbers, an unreadable at% as Unbekannt; no value while a row has no element.
+    std::optional<Legierung> legierung() const;
+
+    /// What keeps a diagram over compositions from being computed; no value if nothing does.
+    std::optional<Hindernis> hindernis() const;
+
+    /// The rows in use as the results text names them; those without an element are left out.
+    std::vector<Komponentenzeile> komponentenzeilen() const;
+
+    /// Gives the elements of all rows the density and the valence text that are in force for them.
+    void elementeSetzen() const;
+
+    bool operator==(const Eingabe&) const = default;
+
+private:
+    /// Density and valence in force for an element of some row.
+    struct Arbeitswerte {
+        std::shared_ptr<clsElement> element;
+        float dichte = 0;
+        std::string valenztext;
+        float valenz = 0;
+
+        bool operator==(const Arbeitswerte&) const = default;
+    };
+
+    Zeile& at(int zeile) { return m_zeilen.at(static_cast<std::size_t>(zeile)); }
+    bool balance();
+    void writeDichte(int zeile, Eingabefeld feld);
+    void writeValenz(int zeile, Eingabefeld feld);
+    void mirror(int zeile);
+    Arbeitswerte& werteOf(const std::shared_ptr<clsElement>& element);
+
+    const ElementCollection* m_elements;
+    int m_anzahl = 1;
+    std::array<Zeile, MaxKomponenten> m_zeilen;
+    std::vector<Arbeitswerte> m_werte;
+    std::shared_ptr<clsElement> m_current; // maybe null
+};
+
+} // namespace zerna

@@ -1,0 +1,212 @@
+#include "ui/main/Ergebnisgitter.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+
+#include <algorithm>
+
+#include "ui/button/StyledButton.h"
+#include "ui/controls/Wertanzeige.h"
+#include "ui/controls/Wertfeld.h"
+#include "ui/platform/QtText.h"
+
+namespace zerna {
+
+namespace {
+
+/// Label6 index of the caption of a line.
+/// Intended: shifted by one against the line for the first ten, and line 10 has the first.
+constexpr int captionIndex(int line)
+{
+    if (line < Friedelzeile)
+        return line + 1;
+    return line == Friedelzeile ? 0 : line;
+}
+
+constexpr int RightColumn = 3; // of the grid
+constexpr int FirstRightLine = 13; // the averages and what follows from them on the left, the energies on the right
+
+bool isOnTheRight(const Groesse& zeile) { return zeile.zeile >= FirstRightLine; }
+
+QString numbered(const char* name, int index) { return QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(index); }
+
+} // namespace
+
+Ergebnisgitter::Ergebnisgitter(QWidget* parent)
+    : QWidget(parent)
+{
+    const std::size_t positions = keineErgebnisse().size();
+    m_beschriftungen.resize(positions);
+    m_anzeigen.resize(positions);
+    m_feldOfZeile.resize(positions);
+    for (const Groesse& zeile : ergebniszeilen()) {
+        createLine(zeile);
+        if (zeile.tippbar)
+            createField(zeile);
+    }
+    createFriedel();
+    layOut();
+}
+
+void Ergebnisgitter::createLine(const Groesse& zeile)
+{
+    const auto k = static_cast<std::size_t>(zeile.zeile);
+    m_beschriftungen.at(k) = new QLabel(toQt(zeile.beschriftung), this);
+    m_beschriftungen.at(k)->setObjectName(numbered("Label6", captionIndex(zeile.zeile)));
+    auto* const line = new Wertanzeige(this);
+    line->setObjectName(numbered("lblMFE", zeile.zeile));
+    line->setAccessibleName(toQt(zeile.bezeichnung()));
+    connect(line, &Wertanzeige::menuRequested, this,
+        [this, number = zeile.zeile](const QPoint& position) { emit menuRequested(number, position); });
+    connect(line, &Wertanzeige::copyRequested, this, [this, number = zeile.zeile] { emit copyRequested(number); });
+    m_anzeigen.at(k) = line;
+}
+
+void Ergebnisgitter::createField(const Groesse& zeile)
+{
+    const auto feld = static_cast<Feld>(std::ranges::count(m_feldOfZeile, true, [](auto* f) { return f != nullptr; }));
+    auto* const edit = new Wertfeld(this);
+    edit->setObjectName(numbered("txtMFE", feld));
+    edit->setAccessibleName(toQt(zeile.bezeichnung()));
+    edit->setHinweis(QStringLiteral("Wert eintippen, um das Modell ohne Zusammensetzung zu erkunden"));
+    edit->setAlignment(Qt::AlignRight);
+    edit->setFixedHeight(24);
+    connect(edit, &Wertfeld::textChanged, this, [this, feld] { emit fieldEdited(feld); });
+    m_felder.at(feld) = edit;
+    m_feldOfZeile.at(static_cast<std::size_t>(zeile.zeile)) = edit;
+}
+
+void Ergebnisgitter::createFriedel()
+{
+    m_label7 = new QLabel(this);
+    m_label7->setObjectName(QStringLiteral("Label7"));
+    const std::array<QString, 2> hints{
+        QStringLiteral("Nächstes Friedelminimum"), QStringLiteral("Voriges Friedelminimum")};
+    const std::array<QString, 2> captions{QStringLiteral("▶"), QStringLiteral("◀")};
+    for (std::size_t i = 0; i < m_cmdKnopf2.size(); ++i) {
+        m_cmdKnopf2.at(i) = new StyledButton(captions.at(i), this);
+        m_cmdKnopf2.at(i)->setObjectName(numbered("cmdKnopf2", static_cast<int>(i)));
+        m_cmdKnopf2.at(i)->setAccessibleName(hints.at(i));
+        m_cmdKnopf2.at(i)->setToolTipText(hints.at(i));
+        const int step = i == 0 ? 1 : -1;
+        connect(m_cmdKnopf2.at(i), &StyledButton::clicked, this, [this, step] { emit friedelStepped(step); });
+    }
+}
+
+void Ergebnisgitter::layOut()
+{
+    m_grid = new QGridLayout(this);
+    m_grid->setContentsMargins(0, 0, 0, 0);
+    m_grid->setHorizontalSpacing(6);
+    m_grid->setVerticalSpacing(2);
+    std::array<int, 2> rows{0, 0};
+    for (const Groesse& zeile : ergebniszeilen()) {
+        if (zeile.zeile == Friedelzeile)
+            continue;
+        const bool right = isOnTheRight(zeile);
+        layOutLine(zeile, rows.at(right ? 1 : 0)++, right ? RightColumn : 0);
+    }
+    layOutFriedel(rows[1] + 1, RightColumn);
+    measure();
+    m_grid->setColumnStretch(1, 1);
+    m_grid->setColumnMinimumWidth(2, 4);
+}
+
+void Ergebnisgitter::layOutLine(const Groesse& zeile, int row, int column)
+{
+    const auto k = static_cast<std::size_t>(zeile.zeile);
+    m_grid->addWidget(m_beschriftungen.at(k), row, column);
+    Wertfeld* const edit = m_feldOfZeile.at(k);
+    if (edit == nullptr) {
+        m_grid->addWidget(m_anzeigen.at(k), row, column + 1);
+        return;
+    }
+    auto* pair = new QHBoxLayout;
+    pair->setSpacing(4);
+    m_beschriftungen.at(k)->setBuddy(edit);
+    pair->addWidget(edit);
+    pair->addWidget(m_anzeigen.at(k), 1);
+    m_grid->addLayout(pair, row, column + 1);
+}
+
+void Ergebnisgitter::layOutFriedel(int row, int column)
+{
+    auto* box = new QHBoxLayout;
+    box->setSpacing(4);
+    for (StyledButton* const button : {m_cmdKnopf2[1], m_cmdKnopf2[0]}) {
+        button->setFixedSize(28, 24);
+        box->addWidget(button);
+    }
+    box->addWidget(m_label7);
+    box->addStretch();
+    m_grid->addWidget(m_beschriftungen.at(Friedelzeile), row, column);
+    m_grid->addLayout(box, row, column + 1);
+    m_grid->addWidget(&anzeige(Friedelzeile), row + 1, column + 1);
+}
+
+std::vector<QWidget*> Ergebnisgitter::tabOrder()
+{
+    std::vector<QWidget*> order;
+    for (const Groesse& zeile : ergebniszeilen()) {
+        if (zeile.zeile == Friedelzeile)
+            continue;
+        if (Wertfeld* const edit = m_feldOfZeile.at(static_cast<std::size_t>(zeile.zeile)))
+            order.push_back(edit);
+        order.push_back(&anzeige(zeile.zeile));
+    }
+    order.insert(order.end(), {m_cmdKnopf2[1], m_cmdKnopf2[0], &anzeige(Friedelzeile)});
+    return order;
+}
+
+/// Widths that follow from the font: all numbers end, and all units begin, in the same columns.
+void Ergebnisgitter::measure()
+{
+    constexpr int FieldFrame = 10;
+    const int numberWidth = fontMetrics().horizontalAdvance(QStringLiteral("-3,4561 E-11"));
+    for (const Groesse& zeile : ergebniszeilen()) {
+        const bool aligned = !zeile.tippbar && zeile.zeile != Friedelzeile;
+        anzeige(zeile.zeile).setEinheit(toQt(zeile.einheit), aligned ? numberWidth : 0);
+    }
+    for (Wertfeld* const edit : m_felder)
+        edit->setFixedWidth(numberWidth + FieldFrame);
+    m_label7->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral(" n = 21 ")));
+}
+
+void Ergebnisgitter::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange && m_grid != nullptr)
+        measure();
+}
+
+void Ergebnisgitter::teileHoehe(int height)
+{
+    const int rows = m_grid->rowCount();
+    const int share = std::clamp(height / rows, 25, 32) - m_grid->verticalSpacing();
+    for (int row = 0; row < rows; ++row)
+        m_grid->setRowMinimumHeight(row, share);
+}
+
+void Ergebnisgitter::zeige(const Ergebnistexte& texte)
+{
+    for (const Groesse& zeile : ergebniszeilen())
+        anzeige(zeile.zeile).setText(toQt(texte.at(static_cast<std::size_t>(zeile.zeile)).text));
+}
+
+void Ergebnisgitter::zeigeFriedel(const QString& index, const QString& text)
+{
+    m_label7->setText(index);
+    anzeige(Friedelzeile).setText(text);
+}
+
+QString Ergebnisgitter::wertUndEinheitIn(int zeile)
+{
+    const Wertfeld* const edit = m_feldOfZeile.at(static_cast<std::size_t>(zeile));
+    if (edit == nullptr)
+        return toQt(wertUndEinheit(fromQt(anzeige(zeile).text())));
+    return edit->text().isEmpty() ? QString() : edit->text() + QLatin1Char(' ') + anzeige(zeile).text();
+}
+
+} // namespace zerna

@@ -1,0 +1,135 @@
+#include "ui/main/Kompositionszeile.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+
+#include "ui/controls/Wertfeld.h"
+#include "ui/platform/QtText.h"
+
+namespace zerna {
+
+namespace {
+
+constexpr int Zeilenhoehe = 26;
+constexpr int Zeilenabstand = 4;
+
+template <class Widget>
+Widget* make(QWidget* panel, const char* name, int row, const QString& accessibleName)
+{
+    auto* widget = new Widget(panel);
+    widget->setObjectName(QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(row));
+    widget->setAccessibleName(QStringLiteral("%1, Komponente %2").arg(accessibleName).arg(row + 1));
+    widget->hide();
+    return widget;
+}
+
+/// Shows an entered text with its fault.
+void write(Wertfeld& feld, const Eingabefeld& eingabe)
+{
+    if (feld.text() != toQt(eingabe.text))
+        feld.setWert(toQt(eingabe.text), eingabe.istUnbekannterWert());
+    feld.setEcho(eingabe.echo.empty() ? QString() : QStringLiteral("= %1").arg(toQt(eingabe.echo)));
+    feld.setFehler(eingabe.fehler ? toQt(eingabe.fehler->text()) : QString());
+}
+
+} // namespace
+
+Kompositionszeile::Kompositionszeile(int row, QWidget* panel)
+    : QObject(panel)
+    , m_row(row)
+    , m_cmbElement(make<QComboBox>(panel, "cmbElement", row, QStringLiteral("Element")))
+    , m_lblElement(make<QLabel>(panel, "lblElement", row, QStringLiteral("Elementname")))
+    , m_txtProzent(make<Wertfeld>(panel, "txtProzent", row, QStringLiteral("Atomprozent")))
+    , m_cmdDichte(make<QComboBox>(panel, "cmdDichte", row, QStringLiteral("Auswahl der Dichte")))
+    , m_txtDichte(make<Wertfeld>(panel, "txtDichte", row, QStringLiteral("Dichte in Gramm je Kubikzentimeter")))
+    , m_cmbValenz(make<QComboBox>(panel, "cmbValenz", row, QStringLiteral("Auswahl der Valenz")))
+    , m_txtValenz(make<Wertfeld>(panel, "txtValenz", row, QStringLiteral("Valenz")))
+{
+    connectControls();
+}
+
+std::array<QWidget*, 7> Kompositionszeile::widgets() const
+{
+    return {m_cmbElement, m_lblElement, m_txtProzent, m_cmdDichte, m_txtDichte, m_cmbValenz, m_txtValenz};
+}
+
+void Kompositionszeile::connectControls()
+{
+    connect(m_cmbElement, &QComboBox::textActivated, this, &Kompositionszeile::elementChosen);
+    connect(m_cmdDichte, &QComboBox::textActivated, this, &Kompositionszeile::dichteChosen);
+    connect(m_cmbValenz, &QComboBox::activated, this,
+        [this](int position) { emit valenzChosen(m_cmbValenz->itemData(position).toInt()); });
+    connect(m_txtProzent, &Wertfeld::textChanged, this, &Kompositionszeile::prozentEntered);
+    connect(m_txtDichte, &Wertfeld::textChanged, this, &Kompositionszeile::dichteEntered);
+    connect(m_txtValenz, &Wertfeld::textChanged, this, &Kompositionszeile::valenzEntered);
+    connect(m_txtDichte, &Wertfeld::focusEntered, this, &Kompositionszeile::valueFocused);
+    connect(m_txtValenz, &Wertfeld::focusEntered, this, &Kompositionszeile::valueFocused);
+    connect(m_txtProzent, &Wertfeld::focusLeft, this, &Kompositionszeile::prozentLeft);
+}
+
+void Kompositionszeile::layOut(QGridLayout& grid, int gridRow)
+{
+    constexpr std::array<int, 7> Breiten{62, 0, 66, 98, 76, 106, 90};
+    const auto controls = widgets();
+    for (std::size_t column = 0; column < controls.size(); ++column) {
+        if (Breiten.at(column) > 0)
+            controls.at(column)->setFixedWidth(Breiten.at(column));
+        controls.at(column)->setFixedHeight(Zeilenhoehe);
+        grid.addWidget(controls.at(column), gridRow, static_cast<int>(column));
+    }
+    // A long name must not push the columns; it is cut and the tool tip has it whole.
+    m_lblElement->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    grid.setRowMinimumHeight(gridRow, Zeilenhoehe + Zeilenabstand);
+}
+
+void Kompositionszeile::addElement(std::string_view symbol, int itemData)
+{
+    m_cmbElement->addItem(toQt(symbol), itemData);
+    if (m_cmbElement->count() == 1)
+        m_cmbElement->setCurrentIndex(-1); // the toolkit selects the first entry, start-up chooses
+}
+
+QString Kompositionszeile::elementEntry(int position) const { return m_cmbElement->itemText(position); }
+
+int Kompositionszeile::findElementEntry(std::string_view text) const
+{
+    return m_cmbElement->findText(toQt(text), Qt::MatchFixedString | Qt::MatchCaseSensitive);
+}
+
+void Kompositionszeile::zeige(const Eingabe& eingabe)
+{
+    const Eingabe::Zeile& zeile = eingabe.zeile(m_row);
+    for (QWidget* const widget : widgets())
+        widget->setVisible(m_row < eingabe.anzahl());
+    if (zeile.element != m_element)
+        fillChoices(zeile.element);
+    m_cmdDichte->setCurrentIndex(m_cmdDichte->findText(toQt(zeile.dichtewahl)));
+    m_cmbValenz->setCurrentIndex(m_cmbValenz->findData(zeile.valenzwahl));
+    m_txtProzent->setHinweis(eingabe.istAusgleich(m_row) ? QStringLiteral("Rest auf 100 at%") : QString());
+    write(*m_txtProzent, zeile.prozent);
+    if (zeile.prozent.text.empty()) // is still being typed
+        m_txtProzent->setFehler({});
+    write(*m_txtDichte, zeile.dichte);
+    m_txtDichte->setEnabled(zeile.dichtewahl == AndereWahl);
+    write(*m_txtValenz, zeile.valenz);
+    m_txtValenz->setEnabled(zeile.element && zeile.valenzwahl == ValenzAndere);
+}
+
+void Kompositionszeile::fillChoices(const std::shared_ptr<clsElement>& element)
+{
+    m_element = element;
+    m_cmdDichte->clear();
+    m_cmbValenz->clear();
+    m_cmbElement->setCurrentIndex(element ? findElementEntry(element->symbol()) : -1);
+    m_lblElement->setText(element ? toQt(element->Name()) : QString());
+    m_lblElement->setToolTip(m_lblElement->text());
+    if (!element)
+        return;
+    for (const std::string_view choice : dichteauswahl(*element))
+        m_cmdDichte->addItem(toQt(choice));
+    for (const Valenzeintrag& choice : valenzauswahl(*element))
+        m_cmbValenz->addItem(toQt(choice.text), choice.code);
+}
+
+} // namespace zerna

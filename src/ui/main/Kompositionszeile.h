@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QObject>
+
+#include <array>
+#include <memory>
+#include <string_view>
+
+#include "model/Eingabe.h"
+
+class QComboBox;
+class QGridLayout;
+class QLabel;
+
+namespace zerna {
+
+class Wertfeld;
+
+/// The seven controls of one row of the composition grid: shows the row of an entered alloy and tells what the user
+/// chooses and types in it.
+class Kompositionszeile : public QObject {
+    Q_OBJECT
+
+public:
+    /// Makes the controls, hidden, on `panel`; `row` counts from 0.
+    Kompositionszeile(int row, QWidget* panel);
+
+    void layOut(QGridLayout& grid, int gridRow);
+
+    // The element list, as start-up fills it.
+    void addElement(std::string_view symbol, int itemData);
+    QString elementEntry(int position) const;
+    int findElementEntry(std::string_view text) const;
+
+    /// Writes what the row holds; what is shown already is left alone, so that the cursor of a field stays in its
+    /// place.
+    void zeige(const Eingabe& eingabe);
+
+signals:
+    void elementChosen(const QString& key);
+    void dichteChosen(const QString& wahl);
+    void valenzChosen(int wahl);
+    void prozentEntered(const QString& text);
+    void dichteEntered(const QString& text);
+    void valenzEntered(const QString& text);
+    void valueFocused(); ///< the keyboard focus has entered the density or the valence
+    void prozentLeft();
+
+private:
+    std::array<QWidget*, 7> widgets() const;
+    void connectControls();
+    void fillChoices(const std::shared_ptr<clsElement>& element);
+
+    int m_row;
+    QComboBox* m_cmbElement = nullptr;
+    QLabel* m_lblElement = nullptr;
+    Wertfeld* m_txtProzent = nullptr;
+    QComboBox* m_cmdDichte = nullptr;
+    Wertfeld* m_txtDichte = nullptr;
+    QComboBox* m_cmbValenz = nullptr;
+    Wertfeld* m_txtValenz = nullptr;
+    std::shared_ptr<clsElement> m_element; // whose choices the lists hold
+};
+
+} // namespace zerna

@@ -1,0 +1,239 @@
+#include "model/Eingabe.h"
+
+#include <functional>
+
+#include "core/ElementCsv.h"
+#include "support/FilesTest.h"
+
+namespace zerna {
+
+/// An entered alloy over the shipped elements; a step is one operation.
+struct EingabeTest : FilesTest {
+    using Schritt = std::function<Aenderung(Eingabe&)>;
+
+    EingabeTest()
+    {
+        for (const ElementRecord& record : readElementCsv(bytesOf(ZERNA_DATA_DIR "/elemente.csv"))) {
+            elements.Add(std::make_shared<clsElement>(files, boxes), record.symbol);
+            elements.Item(record.symbol)->setRecord(record);
+        }
+        eingabe.setAnzahl(2);
+        eingabe.waehleElement(0, "Al");
+        eingabe.waehleElement(1, "Cu");
+    }
+
+    static Schritt anzahl(int n)
+    {
+        return [=](Eingabe& e) { return e.setAnzahl(n); };
+    }
+    static Schritt element(int row, const char* key)
+    {
+        return [=](Eingabe& e) { return e.waehleElement(row, key); };
+    }
+    static Schritt prozent(int row, const char* text)
+    {
+        return [=](Eingabe& e) { return e.setProzent(row, text); };
+    }
+    static Schritt dichte(int row, const char* text)
+    {
+        return [=](Eingabe& e) { return e.waehleDichte(row, AndereWahl), e.setDichte(row, text); };
+    }
+    static Schritt dichtewahl(int row, const char* wahl)
+    {
+        return [=](Eingabe& e) { return e.waehleDichte(row, wahl); };
+    }
+    static Schritt valenz(int row, const char* text)
+    {
+        return [=](Eingabe& e) { return e.waehleValenz(row, ValenzAndere), e.setValenz(row, text); };
+    }
+
+    std::string prozente() const
+    {
+        std::string all;
+        for (int row = 0; row < eingabe.anzahl(); ++row)
+            all += eingabe.zeile(row).prozent.text + '|';
+        return all;
+    }
+
+    /// "at% dichte valenz" of each row as numbers.
+    std::string zahlen() const
+    {
+        const auto legierung = eingabe.legierung();
+        std::string all;
+        for (const Legierungskomponente& k : legierung ? legierung->komponenten() : std::span<Legierungskomponente>())
+            all += feldtext(k.prozent) + ' ' + feldtext(k.dichte) + ' ' + feldtext(k.valenz) + '|';
+        return all;
+    }
+
+    ElementCollection elements;
+    Eingabe eingabe{elements};
+};
+
+TEST_F(EingabeTest, BalanceRowTakesTheRestOnceAllOthersCanBeRead)
+{
+    struct Row {
+        const char* name;
+        Schritt schritt;
+        const char* prozente;
+        bool changes;
+        bool complete;
+    };
+    for (const auto& [name, schritt, expected, changes, complete] : {
+             Row{"the rest", prozent(0, "60"), "60|40|", true, true},
+             {"not a number", prozent(0, "60x"), "60x|40|", false, false},
+             {"empty", prozent(0, ""), "|40|", false, false},
+             {"more than all", prozent(0, "120"), "120|-20|", true, true},
+             {"two separators", prozent(0, "1.234,5"), "1.234,5|-20|", false, false},
+             {"a sum beyond a single", prozent(0, "3e38"), "3e38|-3E+38|", true, true},
+             {"the balance row itself", prozent(1, "77"), "3e38|77|", false, true},
+             {"decimal point", prozent(0, "16.3"), "16.3|83,7|", true, true},
+             {"a row more, without an element", anzahl(3), "16.3|83,7|0|", true, false},
+             {"the row before it", prozent(1, "20,4"), "16.3|20,4|63,3|", true, false},
+             {"all rows", anzahl(5), "16.3|20,4|63,3|0|0|", true, false},
+             {"a single one", anzahl(1), "100|", true, true},
+             {"back again", anzahl(2), "100|0|", true, true},
+         }) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(schritt(eingabe).anteil, changes);
+        EXPECT_EQ(prozente(), expected);
+        EXPECT_EQ(eingabe.istVollstaendig(), complete);
+    }
+    eingabe.setProzent(1, "7");
+    eingabe.gleicheAus();
+    EXPECT_EQ(prozente(), "100|0|");
+    EXPECT_EQ(errorNumber([this] { eingabe.setAnzahl(6); }) + errorNumber([this] { eingabe.setAnzahl(0); }), 18);
+}
+
+TEST_F(EingabeTest, ChoicesAndTextsBecomeNumbers)
+{
+    struct Row {
+        const char* name;
+        Schritt schritt;
+        const char* zahlen;
+    };
+    for (const auto& [name, schritt, expected] : {
+             Row{"another kind", dichtewahl(0, "kristallin"), "50 2,7 3|50 7,997 1|"},
+             {"typed", dichte(0, "2.5"), "50 2,5 3|50 7,997 1|"},
+             {"not a number: the last one holds", dichte(0, "9x"), "50 0 3|50 7,997 1|"}, // <andere> began at 0
+             {"formula", valenz(0, "3/2"), "50 0 1,5|50 7,997 1|"},
+             {"another element's valence", valenz(0, "z_cu+1"), "50 0 2|50 7,997 1|"},
+             {"no formula", valenz(0, "2+1/0"), "50 0 <unbekannt>|50 7,997 1|"},
+             {"too large for a single", valenz(0, "1e39"), "50 0 <unbekannt>|50 7,997 1|"},
+             {"too large as a formula", valenz(0, "10^39"), "50 0 <unbekannt>|50 7,997 1|"},
+             {"hexadecimal", valenz(0, "hex(3)"), "50 0 <unbekannt>|50 7,997 1|"},
+             {"empty", valenz(0, ""), "50 0 0|50 7,997 1|"},
+             {"unreadable at%", prozent(0, "x"), "<unbekannt> 0 0|50 7,997 1|"},
+             {"another element begins anew", element(0, "Fe"), "<unbekannt> 7,035 2|50 7,997 1|"},
+             {"without a density", element(0, "At"), "<unbekannt> 0 7|50 7,997 1|"},
+             {"an unknown key changes nothing", element(0, "Qq"), "<unbekannt> 0 7|50 7,997 1|"},
+         }) {
+        SCOPED_TRACE(name);
+        schritt(eingabe);
+        EXPECT_EQ(zahlen(), expected);
+    }
+    EXPECT_EQ(eingabe.zeile(0).dichtewahl, AndereWahl);
+}
+
+TEST_F(EingabeTest, EachTextKnowsItsFaultItsEchoAndItsMessages)
+{
+    struct Row {
+        const char* text;
+        const char* fehler;
+        const char* echo;
+        std::size_t meldungen;
+    };
+    for (const auto& [text, fehler, echo, meldungen] : {
+             Row{"3", "", "", 0},
+             {"-1", "", "", 0},
+             {"&HFF", "", "", 0},
+             {"3/2", "", "1,5", 0},
+             {"e", "", "2,7718281828459", 0},
+             {"", "", "", 0},
+             {"2+1/0", "Division durch Null (Zeichen 4)", "", 0},
+             {"<unbekannt>", "\"<unbekannt>\" ist keine Zahl (Zeichen 1)", "", 0},
+             {"foo(1)+bar(2)", "Funktion \"foo\" ist nicht definiert (Zeichen 1)", "", 2},
+             {"hex(3)", "Hexadezimalzahl als Valenz (0x3)", "", 0},
+             {"1e999", "Der Wert ist zu groß", "", 0},
+             {"10^39", "Der Wert ist zu groß", "", 0},
+         }) {
+        SCOPED_TRACE(text);
+        const Eingabefeld feld = valenzfeld(text, elements);
+        EXPECT_EQ(feld.fehler ? feld.fehler->text() : "", fehler);
+        EXPECT_EQ(feld.echo, echo);
+        EXPECT_EQ(feld.meldungen.size(), meldungen);
+    }
+    EXPECT_EQ(zahlenfeld("9x").fehler->text(), "Keine gültige Zahl (Typen unverträglich)");
+    EXPECT_TRUE(boxes.shown.empty());
+}
+
+TEST_F(EingabeTest, TypedValuesGoToTheElementLookedUpLast)
+{
+    eingabe.waehleDichte(0, AndereWahl);
+    eingabe.waehleDichte(1, AndereWahl);
+    eingabe.setDichte(0, "5"); // Intended: copper was looked up last, whatever the row
+    EXPECT_EQ(zahlen(), "50 0 3|50 5 1|");
+    EXPECT_EQ(eingabe.zeile(0).dichte.text, "5");
+    eingabe.nachschlagen(0);
+    eingabe.setDichte(0, "2,7");
+    eingabe.setValenz(0, "2");
+    EXPECT_EQ(zahlen(), "50 2,7 2|50 5 1|");
+    EXPECT_EQ(eingabe.CurrentElement()->symbol(), "Al");
+}
+
+TEST_F(EingabeTest, RowsOfOneElementShareItsValues)
+{
+    eingabe.waehleElement(1, "Al");
+    valenz(0, "5/2")(eingabe);
+    dichte(1, "2,5")(eingabe);
+    EXPECT_EQ(zahlen(), "50 2,5 2,5|50 2,5 2,5|");
+    const std::vector<Komponentenzeile> zeilen = eingabe.komponentenzeilen();
+    EXPECT_EQ(zeilen.at(0), (Komponentenzeile{"Al", "50", "<andere>", "2,5", "<andere>", "5/2"}));
+    EXPECT_EQ(zeilen.at(0), zeilen.at(1));
+    eingabe.elementeSetzen();
+    EXPECT_EQ(elements.Item("Al")->Dichte(), 2.5F);
+    EXPECT_EQ(elements.Item("Al")->Valenz_Temp(), "5/2");
+    eingabe.waehleElement(1, "Cu");
+    EXPECT_EQ(zahlen(), "50 2,5 2,5|50 7,997 1|") << "each has its own again";
+}
+
+TEST_F(EingabeTest, FirstObstacleIsNamed)
+{
+    struct Row {
+        const char* name;
+        Schritt schritt;
+        int zeile;
+        const char* grund;
+    };
+    for (const auto& [name, schritt, zeile, grund] : {
+             Row{"none", prozent(0, "x"), -1, ""},
+             {"density 0", dichte(1, "0,0"), 1, "Dichte für Kupfer ist Null!"},
+             {"no density", dichte(1, ""), 1, "Dichte für Kupfer ist unbekannt!"},
+             {"not a number", dichte(1, "8,9x"), 1, "Dichte für Kupfer ist keine gültige Zahl!"},
+             {"the first row first", valenz(0, "1/0"), 0, "Valenz für Aluminium ist ungültig!"},
+             {"unknown", valenz(0, "<unbekannt>"), 0, "Valenz für Aluminium ist unbekannt!"},
+             {"mended", element(0, "Al"), 1, "Dichte für Kupfer ist keine gültige Zahl!"},
+             {"a row without an element", anzahl(3), 1, "Dichte für Kupfer ist keine gültige Zahl!"},
+             {"the last one", element(1, "Cu"), 2, "Es ist nicht für jede Komponente ein Element gewählt!"},
+         }) {
+        SCOPED_TRACE(name);
+        schritt(eingabe);
+        const auto hindernis = eingabe.hindernis();
+        EXPECT_EQ(hindernis ? hindernis->zeile : -1, zeile);
+        EXPECT_EQ(hindernis ? hindernis->grund : "", grund);
+    }
+    EXPECT_FALSE(eingabe.legierung());
+}
+
+TEST_F(EingabeTest, ACopyKeepsItsState)
+{
+    const Eingabe before = eingabe;
+    valenz(0, "3/2")(eingabe);
+    eingabe.setProzent(0, "60");
+    EXPECT_NE(eingabe, before);
+    EXPECT_EQ(before.zeile(0).prozent.text, "50");
+    eingabe = before;
+    EXPECT_EQ(eingabe, before);
+    EXPECT_EQ(zahlen(), "50 2,377 3|50 7,997 1|");
+}
+
+} // namespace zerna
