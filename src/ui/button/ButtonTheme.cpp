@@ -4,6 +4,8 @@
 #include <cmath>
 #include <initializer_list>
 
+#include "ui/platform/Farben.h"
+
 namespace zerna {
 
 namespace {
@@ -12,18 +14,6 @@ constexpr double TextContrast = 4.5;
 constexpr double DisabledContrast = 3.0;
 constexpr double LineContrast = 3.0;
 constexpr double BaseContrast = 10.0; // leaves room for the tints of hover, pressed and checked
-
-double linearLight(float channel)
-{
-    const double value = channel;
-    return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-}
-
-double relativeLuminance(const QColor& colour)
-{
-    return 0.2126 * linearLight(colour.redF()) + 0.7152 * linearLight(colour.greenF())
-        + 0.0722 * linearLight(colour.blueF());
-}
 
 /// @p share 0 gives @p one, 1 gives @p other.
 QColor mixed(const QColor& one, const QColor& other, double share)
@@ -100,7 +90,7 @@ ButtonLook disabledChecked(const ButtonTheme& theme)
 
 double contrastRatio(const QColor& one, const QColor& other)
 {
-    const auto [darker, lighter] = std::minmax({relativeLuminance(one), relativeLuminance(other)});
+    const auto [darker, lighter] = std::minmax({leuchtdichte(fromQt(one)), leuchtdichte(fromQt(other))});
     return (lighter + 0.05) / (darker + 0.05);
 }
 
@@ -139,7 +129,7 @@ ButtonTheme themeFromPalette(const QPalette& palette)
 {
     const auto colour = [&palette](QPalette::ColorRole role) { return palette.color(QPalette::Active, role); };
     const QColor text = colour(QPalette::ButtonText);
-    const bool dark = relativeLuminance(text) > relativeLuminance(colour(QPalette::Button));
+    const bool dark = leuchtdichte(fromQt(text)) > leuchtdichte(fromQt(colour(QPalette::Button)));
     const Shades& shades = dark ? DarkShades : LightShades;
 
     // A medium grey carries neither black nor white text well once it is tinted, so move away from the text first.

@@ -10,10 +10,10 @@
 #include <algorithm>
 #include <array>
 
-#include "bild/Farbskala.h"
 #include "bild/PSETafel.h"
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
+#include "ui/platform/Farben.h"
 #include "ui/platform/QtText.h"
 
 namespace zerna {
@@ -62,15 +62,11 @@ QPainterPath signPath(char sign, const QRectF& box)
     return path;
 }
 
-QColor toColour(const Farbe& farbe) { return {farbe.red, farbe.green, farbe.blue}; }
-
 /// Black or white, whichever is easier to read on the colour.
 QColor textOn(const QColor& background)
 {
     constexpr double EqualContrast = 0.179;
-    const Farbe farbe{static_cast<std::uint8_t>(background.red()), static_cast<std::uint8_t>(background.green()),
-        static_cast<std::uint8_t>(background.blue())};
-    return leuchtdichte(farbe) > EqualContrast ? Qt::black : Qt::white;
+    return leuchtdichte(fromQt(background)) > EqualContrast ? Qt::black : Qt::white;
 }
 
 QFont sized(QFont font, double pixels)
@@ -262,7 +258,7 @@ QColor Periodentafel::colourOfCell(const clsElement& element, std::size_t index)
         const float value = m_reihe.y.at(index);
         if (istUnbekannt(value))
             return palette().color(QPalette::Button);
-        return toColour(farbskala(m_largest > m_smallest ? (value - m_smallest) / (m_largest - m_smallest) : 0.5));
+        return toQt(farbskala(m_largest > m_smallest ? (value - m_smallest) / (m_largest - m_smallest) : 0.5));
     }
     const Gruppe* const gruppe = gruppeOf(element.EGK());
     if (gruppe == nullptr)
@@ -409,7 +405,7 @@ void Periodentafel::paintScaleLegend(QPainter& painter, const QRectF& area) cons
     const QRectF bar(area.left(), area.top() + 2, area.width(), barHeight);
     QLinearGradient gradient(bar.topLeft(), bar.topRight());
     for (int i = 0; i < Stops; ++i)
-        gradient.setColorAt(i / (Stops - 1.0), toColour(farbskala(i / (Stops - 1.0))));
+        gradient.setColorAt(i / (Stops - 1.0), toQt(farbskala(i / (Stops - 1.0))));
     painter.setPen(Qt::NoPen);
     painter.setBrush(gradient);
     painter.drawRect(bar);
