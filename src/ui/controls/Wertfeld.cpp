@@ -7,6 +7,7 @@
 
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
+#include "ui/platform/Farben.h"
 #include "ui/platform/QtText.h"
 
 namespace zerna {
@@ -19,7 +20,7 @@ constexpr int EchoMargin = 6;
 /// A red that stands out on light and on dark fields.
 QColor errorColour(const QPalette& palette)
 {
-    return palette.color(QPalette::Base).lightness() < 128 ? QColor(255, 107, 107) : QColor(200, 30, 30);
+    return istDunkel(palette, QPalette::Base) ? QColor(255, 107, 107) : QColor(200, 30, 30);
 }
 
 } // namespace

@@ -250,8 +250,6 @@ void Periodentafel::typeLetter(const QString& letter)
     select(found);
 }
 
-bool Periodentafel::isDark() const { return palette().color(QPalette::Window).lightness() < 128; }
-
 QColor Periodentafel::colourOfCell(const clsElement& element, std::size_t index) const
 {
     if (!m_reihe.y.empty()) {
@@ -263,7 +261,7 @@ QColor Periodentafel::colourOfCell(const clsElement& element, std::size_t index)
     const Gruppe* const gruppe = gruppeOf(element.EGK());
     if (gruppe == nullptr)
         return palette().color(QPalette::Button);
-    return QColor::fromRgb(isDark() ? gruppe->dark : gruppe->light);
+    return QColor::fromRgb(istDunkel(palette()) ? gruppe->dark : gruppe->light);
 }
 
 void Periodentafel::paintEvent(QPaintEvent* event)
@@ -299,7 +297,7 @@ void Periodentafel::paintCell(QPainter& painter, const clsElement& element, std:
     }
     const QColor colour = colourOfCell(element, index);
     const QColor text = textOn(colour);
-    painter.setPen(QPen(isDark() ? colour.lighter(150) : colour.darker(130), 1));
+    painter.setPen(QPen(istDunkel(palette()) ? colour.lighter(150) : colour.darker(130), 1));
     painter.setBrush(colour);
     painter.drawRoundedRect(cell, Radius, Radius);
     const bool missing = !m_reihe.y.empty() && istUnbekannt(m_reihe.y.at(index));
@@ -383,9 +381,9 @@ void Periodentafel::paintGroupLegend(QPainter& painter, QRectF area) const
     for (std::size_t i = 0; i < Gruppen.size(); ++i) {
         const Gruppe& gruppe = Gruppen.at(i);
         const QPointF corner(area.left() + (i % 2 == 0 ? 0 : width), area.top() + (i < 2 ? 0 : height));
-        const QColor colour = QColor::fromRgb(isDark() ? gruppe.dark : gruppe.light);
+        const QColor colour = QColor::fromRgb(istDunkel(palette()) ? gruppe.dark : gruppe.light);
         const QRectF sample(corner, QSizeF(height * 0.7, height * 0.7));
-        painter.setPen(QPen(isDark() ? colour.lighter(150) : colour.darker(130), 1));
+        painter.setPen(QPen(istDunkel(palette()) ? colour.lighter(150) : colour.darker(130), 1));
         painter.setBrush(colour);
         painter.drawRoundedRect(sample, 3, 3);
         painter.setPen(Qt::NoPen);

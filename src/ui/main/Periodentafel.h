@@ -59,7 +59,6 @@ private:
     void paintGroupLegend(QPainter& painter, QRectF area) const;
     void paintScaleLegend(QPainter& painter, const QRectF& area) const;
     void paintSeriesHints(QPainter& painter) const;
-    bool isDark() const;
     QColor colourOfCell(const clsElement& element, std::size_t index) const;
 
     const ElementCollection& m_elements;
