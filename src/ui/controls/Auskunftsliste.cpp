@@ -1,8 +1,6 @@
 #include "ui/controls/Auskunftsliste.h"
 
-#include <QClipboard>
 #include <QContextMenuEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
@@ -11,6 +9,7 @@
 #include <algorithm>
 
 #include "ui/platform/QtText.h"
+#include "ui/platform/Zwischenablage.h"
 
 namespace zerna {
 
@@ -91,9 +90,8 @@ void Auskunftsliste::setLines(std::span<const std::string> lines)
 
 void Auskunftsliste::copyValue() const
 {
-    QClipboard* const clipboard = QGuiApplication::clipboard();
-    if (clipboard != nullptr && currentItem() != nullptr)
-        clipboard->setText(valueOf(currentItem()->text()));
+    if (currentItem() != nullptr)
+        copyToClipboard(valueOf(currentItem()->text()));
 }
 
 void Auskunftsliste::contextMenuEvent(QContextMenuEvent* event)
