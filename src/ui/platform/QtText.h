@@ -15,4 +15,10 @@ inline QString toQt(std::string_view text)
 
 inline std::string fromQt(const QString& text) { return text.toStdString(); }
 
+/// The object name of one of a row of controls: "lblMFE" and 3 make "lblMFE_3".
+inline QString numberedName(const char* name, int index)
+{
+    return QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(index);
+}
+
 } // namespace zerna
