@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 
 #include "core/clsLoader.h"
-#include "ui/button/StyledButton.h"
+#include "ui/controls/Knopfzeile.h"
 #include "ui/platform/QtText.h"
 
 namespace zerna {
@@ -54,7 +54,7 @@ frmAbout::frmAbout(const clsLoader& loader, QWidget* parent)
     const QString web = QStringLiteral(ZERNA_WEB);
     auto* close = new StyledButton(QStringLiteral("S&chließen"), this);
     close->setObjectName(QStringLiteral("cmdSchliessen"));
-    close->setMinimumWidth(110);
+    close->setMinimumWidth(Knopfbreite);
     connect(close, &StyledButton::clicked, this, &QDialog::accept);
 
     auto* column = new QVBoxLayout(this);
