@@ -70,10 +70,11 @@ void PSEbereich::colour()
 {
     const int groesse = m_cmbFarbe->currentData().toInt();
     try {
-        m_picPSE->setReihe(
-            groesse == NachGruppe ? PSEReihe() : pseReihe(m_programm.ElementCollection(), m_programm.Calc(), groesse));
+        m_picPSE->setFaerbung(groesse == NachGruppe
+                ? Tafelfaerbung()
+                : Tafelfaerbung(pseReihe(m_programm.ElementCollection(), m_programm.Calc(), groesse)));
     } catch (const Laufzeitfehler&) {
-        m_picPSE->setReihe({}); // without a calculator by group
+        m_picPSE->setFaerbung({}); // without a calculator by group
     }
 }
 

@@ -1,0 +1,132 @@
+#include "ui/main/Elementzelle.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+
+#include "ui/main/Zelltexte.h"
+#include "ui/platform/Farben.h"
+#include "ui/platform/QtText.h"
+
+namespace zerna {
+
+namespace {
+
+constexpr double Radius = 3;
+
+void paintShadow(QPainter& painter, const QRectF& area)
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0, 0, 0, 70));
+    painter.drawRoundedRect(area, Radius, Radius);
+}
+
+void paintHatching(QPainter& painter, const QRectF& area, const QColor& colour)
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QBrush(colour, Qt::BDiagPattern));
+    painter.drawRoundedRect(area, Radius, Radius);
+}
+
+void paintCornerZeichen(QPainter& painter, const QRectF& area, Gruppenzeichen zeichen, QColor colour)
+{
+    constexpr double Margin = 4;
+    const double size = std::clamp(area.width() * 0.12, 3.0, 8.0);
+    colour.setAlpha(150);
+    paintZeichen(painter, {area.right() - size - Margin, area.top() + Margin, size, size}, zeichen, colour);
+}
+
+/// Atomic number and symbol; below them name or mass where there is room.
+void paintTexte(QPainter& painter, const QRectF& area, const clsElement& element, const Zellstil& stil)
+{
+    const Schriftgroessen groessen = schriftgroessen(area.width(), area.height());
+    const QFont smallFont = withPixelSize(stil.font, groessen.klein);
+    painter.setFont(smallFont);
+    painter.drawText(area.adjusted(4, 2, -2, 0), Qt::AlignLeft | Qt::AlignTop, QString::number(element.OZ()));
+    QFont symbolFont = withPixelSize(stil.font, groessen.symbol);
+    symbolFont.setBold(true);
+    painter.setFont(symbolFont);
+    const QString symbol =
+        QFontMetricsF(symbolFont).elidedText(toQt(element.symbol()), Qt::ElideRight, area.width() - 4);
+    const double above = groessen.klein * 0.6;
+    painter.drawText(area.adjusted(2, above, -2, groessen.dritteZeile ? -groessen.klein : 0), Qt::AlignCenter, symbol);
+    if (!groessen.dritteZeile)
+        return;
+    painter.setFont(smallFont);
+    const QString below = toQt(dritteZeile(element, stil.namen));
+    if (passt(QFontMetricsF(smallFont).horizontalAdvance(below), area.width()))
+        painter.drawText(area.adjusted(2, 0, -2, -3), Qt::AlignHCenter | Qt::AlignBottom, below);
+}
+
+} // namespace
+
+void paintZelle(QPainter& painter, const QRectF& area, const Elementzelle& zelle, const Zellstil& stil)
+{
+    constexpr double Lift = 2;
+    QRectF cell = area.adjusted(Zellabstand, Zellabstand, -Zellabstand, -Zellabstand);
+    if (zelle.isHovered) {
+        paintShadow(painter, cell.translated(1, Lift));
+        cell.translate(0, -Lift);
+    }
+    const auto& [farbe, zeichen, fehlt] = zelle.fuellung;
+    const QColor ground = farbe ? toQt(*farbe) : stil.palette.color(QPalette::Button);
+    const QColor text = fehlt ? stil.palette.color(QPalette::ButtonText) : textOn(ground);
+    paintGrund(painter, cell, ground, istDunkel(stil.palette));
+    if (fehlt)
+        paintHatching(painter, cell, stil.palette.color(QPalette::Mid));
+    if (zeichen)
+        paintCornerZeichen(painter, cell, *zeichen, text);
+    painter.setPen(text);
+    paintTexte(painter, cell, zelle.element, stil);
+    if (zelle.isSelected) {
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(stil.palette.color(stil.hasFocus ? QPalette::Highlight : QPalette::WindowText), 3));
+        painter.drawRoundedRect(cell, Radius, Radius);
+    }
+}
+
+void paintGrund(QPainter& painter, const QRectF& area, const QColor& colour, bool aufDunklem)
+{
+    painter.setPen(QPen(aufDunklem ? colour.lighter(150) : colour.darker(130), 1));
+    painter.setBrush(colour);
+    painter.drawRoundedRect(area, Radius, Radius);
+}
+
+void paintZeichen(QPainter& painter, const QRectF& area, Gruppenzeichen zeichen, const QColor& colour)
+{
+    const QPointF top(area.center().x(), area.top());
+    QPainterPath path;
+    switch (zeichen) {
+    case Gruppenzeichen::Kreis:
+        path.addEllipse(area);
+        break;
+    case Gruppenzeichen::Quadrat:
+        path.addRect(area);
+        break;
+    case Gruppenzeichen::Dreieck:
+        path.addPolygon(QPolygonF{area.bottomLeft(), area.bottomRight(), top});
+        break;
+    case Gruppenzeichen::Raute:
+        path.addPolygon(QPolygonF{top, QPointF(area.right(), area.center().y()),
+            QPointF(area.center().x(), area.bottom()), QPointF(area.left(), area.center().y())});
+        break;
+    }
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour);
+    painter.drawPath(path);
+}
+
+QColor textOn(const QColor& colour)
+{
+    constexpr double EqualContrast = 0.179;
+    return leuchtdichte(fromQt(colour)) > EqualContrast ? Qt::black : Qt::white;
+}
+
+QFont withPixelSize(QFont font, double pixels)
+{
+    font.setPixelSize(std::max(1, static_cast<int>(pixels)));
+    return font;
+}
+
+} // namespace zerna

@@ -1,0 +1,50 @@
+#include "ui/main/Tafelfaerbung.h"
+
+#include <algorithm>
+#include <array>
+
+#include "core/Unbekannt.h"
+
+namespace zerna {
+
+namespace {
+
+constexpr std::array<Elementgruppe, 4> Gruppen{{
+    {"H", "Hauptgruppen", {0xCF, 0xE2, 0xF7}, {0x24, 0x47, 0x6E}, Gruppenzeichen::Kreis},
+    {"N", "Nebengruppen", {0xFB, 0xE3, 0xBC}, {0x6B, 0x4A, 0x14}, Gruppenzeichen::Quadrat},
+    {"L", "Lanthanoide", {0xCF, 0xEB, 0xD2}, {0x20, 0x56, 0x2B}, Gruppenzeichen::Dreieck},
+    {"A", "Actinoide", {0xF3, 0xD3, 0xE6}, {0x6A, 0x25, 0x50}, Gruppenzeichen::Raute},
+}};
+
+} // namespace
+
+std::span<const Elementgruppe> elementgruppen() { return Gruppen; }
+
+Tafelfaerbung::Tafelfaerbung(const PSEReihe& reihe)
+    : m_titel(reihe.titel)
+    , m_werte(reihe.y)
+{
+    bool first = true;
+    for (const float wert : m_werte) {
+        if (istUnbekannt(wert))
+            continue;
+        m_kleinster = first ? wert : std::min(m_kleinster, wert);
+        m_groesster = first ? wert : std::max(m_groesster, wert);
+        first = false;
+    }
+}
+
+Zellfuellung Tafelfaerbung::fuellung(const clsElement& element, std::size_t index, bool aufDunklem) const
+{
+    if (nachGruppe()) {
+        const auto* const gruppe = std::ranges::find(Gruppen, element.EGK(), &Elementgruppe::egk);
+        return gruppe == Gruppen.end() ? Zellfuellung{} : Zellfuellung{gruppe->farbe(aufDunklem), gruppe->zeichen};
+    }
+    const float wert = m_werte.at(index);
+    if (istUnbekannt(wert))
+        return {.fehlt = true};
+    const double breite = static_cast<double>(m_groesster) - m_kleinster;
+    return {farbskala(breite > 0 ? (static_cast<double>(wert) - m_kleinster) / breite : 0.5)};
+}
+
+} // namespace zerna

@@ -1,0 +1,93 @@
+#include "ui/main/Tafellegende.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+
+#include <algorithm>
+
+#include "bild/PSETafel.h"
+#include "core/Zahlentext.h"
+#include "ui/platform/Farben.h"
+#include "ui/platform/QtText.h"
+
+namespace zerna {
+
+namespace {
+
+/// The value without unit; 0 for one that is too small to be shown.
+QString numberText(float value)
+{
+    const std::string text(trimmed(FormatValue(value, "")));
+    return text.empty() ? QStringLiteral("0") : toQt(text);
+}
+
+/// Two groups above the two others.
+void paintGruppen(QPainter& painter, const QRectF& area, const QPalette& palette)
+{
+    const double height = std::min(26.0, area.height() / 2);
+    const double width = area.width() / 2;
+    std::size_t i = 0;
+    for (const Elementgruppe& gruppe : elementgruppen()) {
+        const QPointF corner(area.left() + (i % 2 == 0 ? 0 : width), area.top() + (i < 2 ? 0 : height));
+        const QColor colour = toQt(gruppe.farbe(istDunkel(palette)));
+        const QRectF sample(corner, QSizeF(height, height) * 0.7);
+        paintGrund(painter, sample, colour, istDunkel(palette));
+        const QSizeF size = sample.size() * 0.4;
+        const QRectF middle(sample.center() - QPointF(size.width(), size.height()) / 2, size);
+        paintZeichen(painter, middle, gruppe.zeichen, textOn(colour));
+        painter.setPen(palette.color(QPalette::WindowText));
+        painter.drawText(QRectF(sample.right() + 8, sample.top(), width - sample.width() - 8, sample.height()),
+            Qt::AlignLeft | Qt::AlignVCenter, toQt(gruppe.name));
+        ++i;
+    }
+}
+
+void paintSkala(QPainter& painter, const QRectF& area, const Tafelfaerbung& faerbung, const QPalette& palette)
+{
+    constexpr int Stops = 17;
+    const double barHeight = std::min(14.0, area.height() / 3);
+    const QRectF bar(area.left(), area.top() + 2, area.width(), barHeight);
+    QLinearGradient gradient(bar.topLeft(), bar.topRight());
+    for (int i = 0; i < Stops; ++i)
+        gradient.setColorAt(i / (Stops - 1.0), toQt(farbskala(i / (Stops - 1.0))));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(gradient);
+    painter.drawRect(bar);
+    painter.setPen(palette.color(QPalette::WindowText));
+    const QRectF labels(bar.left(), bar.bottom() + 2, bar.width(), area.bottom() - bar.bottom() - 2);
+    painter.drawText(labels, Qt::AlignLeft | Qt::AlignTop, numberText(faerbung.kleinsterWert()));
+    painter.drawText(labels, Qt::AlignRight | Qt::AlignTop, numberText(faerbung.groessterWert()));
+    const double line = painter.fontMetrics().height();
+    painter.drawText(labels.adjusted(0, line, 0, 0), Qt::AlignHCenter | Qt::AlignTop, toQt(faerbung.titel()));
+}
+
+} // namespace
+
+void paintLegende(QPainter& painter, const QRectF& area, const Tafelfaerbung& faerbung, const Zellstil& stil)
+{
+    if (area.height() < 20 || area.width() < 80)
+        return;
+    painter.setFont(stil.font);
+    if (faerbung.nachGruppe())
+        paintGruppen(painter, area, stil.palette);
+    else
+        paintSkala(painter, area, faerbung, stil.palette);
+}
+
+void paintReihenhinweise(QPainter& painter, const Tafelmassstab& scale, const Zellstil& stil)
+{
+    struct Hinweis {
+        int row;
+        const char* text;
+    };
+    constexpr Hinweis Hinweise[] = {{9, "zu La  ▸"}, {10, "zu Ac  ▸"}};
+    painter.setPen(stil.palette.color(QPalette::WindowText));
+    for (const auto& [row, text] : Hinweise) {
+        const Zelle place = scale.cell(1, row);
+        painter.setFont(withPixelSize(stil.font, std::clamp(place.height * 0.2, 7.0, 14.0)));
+        painter.drawText(QRectF(place.left, place.top, place.width * 3 - 6, place.height),
+            Qt::AlignRight | Qt::AlignVCenter, QString::fromUtf8(text));
+    }
+}
+
+} // namespace zerna

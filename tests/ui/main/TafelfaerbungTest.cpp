@@ -1,0 +1,68 @@
+#include "ui/main/Tafelfaerbung.h"
+
+#include "core/Unbekannt.h"
+#include "support/FilesTest.h"
+
+namespace zerna {
+
+struct TafelfaerbungTest : FilesTest {
+    Zellfuellung fuellung(const Tafelfaerbung& faerbung, std::string_view egk, std::size_t index, bool aufDunklem)
+    {
+        clsElement element(files, boxes);
+        element.setEGK(egk);
+        return faerbung.fuellung(element, index, aufDunklem);
+    }
+};
+
+TEST_F(TafelfaerbungTest, GroupsHaveAColourAndASignEach)
+{
+    struct Row {
+        const char* name;
+        const char* egk;
+        bool aufDunklem;
+        Zellfuellung expected;
+    };
+    const Row rows[]{
+        {"main group", "H", false, {Farbe{207, 226, 247}, Gruppenzeichen::Kreis}},
+        {"main group on a dark window", "H", true, {Farbe{36, 71, 110}, Gruppenzeichen::Kreis}},
+        {"transition metal", "N", false, {Farbe{251, 227, 188}, Gruppenzeichen::Quadrat}},
+        {"lanthanide", "L", false, {Farbe{207, 235, 210}, Gruppenzeichen::Dreieck}},
+        {"actinide", "A", false, {Farbe{243, 211, 230}, Gruppenzeichen::Raute}},
+        {"no group", "", false, {}},
+        {"unknown group", "HN", true, {}},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(fuellung({}, row.egk, 0, row.aufDunklem), row.expected) << row.name;
+}
+
+TEST_F(TafelfaerbungTest, ValuesSpreadOverTheWholeScale)
+{
+    const Farbe lowest{68, 1, 84};
+    const Farbe middle{33, 145, 140};
+    const Farbe highest{253, 231, 37};
+    struct Row {
+        const char* name;
+        std::vector<float> werte;
+        std::vector<std::optional<Farbe>> expected; // none: hatched
+        float kleinster;
+        float groesster;
+    };
+    const Row rows[]{
+        {"gap first", {Unbekannt, 2, -6, -2}, {{}, highest, lowest, middle}, -6, 2},
+        {"all equal", {7, Unbekannt, 7}, {middle, {}, middle}, 7, 7},
+        {"none known", {Unbekannt}, {{}}, 0, 0},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const Tafelfaerbung faerbung({"Masse [amu]", {}, row.werte});
+        for (std::size_t i = 0; i < row.werte.size(); ++i) {
+            const Zellfuellung expected{row.expected.at(i), std::nullopt, !row.expected.at(i)};
+            EXPECT_EQ(fuellung(faerbung, "H", i, false), expected) << "no sign of the group, value " << i;
+        }
+        EXPECT_EQ(faerbung.kleinsterWert(), row.kleinster);
+        EXPECT_EQ(faerbung.groessterWert(), row.groesster);
+    }
+    EXPECT_TRUE(Tafelfaerbung(PSEReihe()).nachGruppe()) << "a series without values";
+}
+
+} // namespace zerna
