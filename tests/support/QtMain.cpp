@@ -2,11 +2,15 @@
 
 #include <gmock/gmock.h>
 
-/// Tests of widgets need no display.
+#include "support/TemporaryFolder.h"
+
+/// Tests of widgets need no display, and leave the user's settings alone.
 int main(int argc, char** argv)
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    const zerna::TemporaryFolder settings;
+    qputenv("XDG_CONFIG_HOME", settings.path().c_str());
     const QApplication application(argc, argv);
     testing::InitGoogleMock(&argc, argv);
     return RUN_ALL_TESTS();
