@@ -28,9 +28,11 @@ std::optional<SaveFileDialog::Choice> QtSaveFileDialog::choose(std::string_view 
 bool QtSaveFileDialog::confirmReplace(std::string_view name)
 {
     const QString question = QStringLiteral("Die Datei \"%1\" ist schon vorhanden.\nSoll sie ersetzt werden?");
-    return QMessageBox::question(QApplication::activeWindow(), QStringLiteral("Daten exportieren ..."),
-               question.arg(toQt(name)), QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
-        == QMessageBox::Yes;
+    QMessageBox box(QMessageBox::Question, QStringLiteral("Daten exportieren ..."), question.arg(toQt(name)),
+        QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText); // a file may be called "<b>"
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
 }
 
 } // namespace zerna

@@ -108,6 +108,7 @@ TEST_F(QtSaveFileDialogTest, ReplacingIsAskedForWithNoAsDefault)
     EXPECT_FALSE(replaces([](QMessageBox& question) {
         EXPECT_EQ(question.windowTitle(), "Daten exportieren ...");
         EXPECT_EQ(question.text(), "Die Datei \"<b>größe.dat\" ist schon vorhanden.\nSoll sie ersetzt werden?");
+        EXPECT_EQ(question.textFormat(), Qt::PlainText);
         EXPECT_EQ(question.button(QMessageBox::Yes)->text(), "&Ja");
         press(Qt::Key_Return);
     }));
