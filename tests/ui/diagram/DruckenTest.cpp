@@ -1,0 +1,56 @@
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPrintDialog>
+
+#include "support/ModalDialog.h"
+#include "support/TemporaryFolder.h"
+#include "ui/diagram/Bildausgabe.h"
+
+namespace zerna {
+
+TEST(DruckenTest, PictureFillsThePageThatTheUserPrintsToAFile)
+{
+    struct Row {
+        const char* name;
+        QSize size;
+        bool landscape;
+    };
+    const TemporaryFolder folder;
+    for (const Row& row : {Row{"wide", {800, 400}, true}, Row{"tall", {300, 600}, false}}) {
+        SCOPED_TRACE(row.name);
+        const std::string file = (folder / row.name).string() + ".pdf";
+        const auto print = [&](QPrintDialog& dialog) {
+            EXPECT_EQ(dialog.windowTitle(), "Drucken");
+            dialog.findChild<QComboBox*>("printers")->setFocus();
+            press(Qt::Key_End); // the file stands below the printers
+            auto* const output = dialog.findChild<QLineEdit*>("filename");
+            ASSERT_TRUE(output->isEnabled());
+            output->setFocus();
+            output->selectAll();
+            typeText(QString::fromStdString(file));
+            press(Qt::Key_Return);
+        };
+        QRectF printed;
+        QSizeF page;
+        const auto maler = [&](QPainter& painter, const QSize& size) {
+            printed = painter.transform().mapRect(QRectF(QPointF(0, 0), size));
+            page = QSizeF(painter.device()->width(), painter.device()->height());
+        };
+        inDialog<QPrintDialog>(print, [&] { printPicture(nullptr, maler, row.size); });
+        EXPECT_EQ(page.width() > page.height(), row.landscape);
+        EXPECT_DOUBLE_EQ(printed.width() / printed.height(), static_cast<double>(row.size.width()) / row.size.height());
+        EXPECT_DOUBLE_EQ(std::max(printed.width() / page.width(), printed.height() / page.height()), 1);
+        EXPECT_TRUE(bytesOf(file).starts_with("%PDF-"));
+    }
+}
+
+TEST(DruckenTest, CancelPrintsNothing)
+{
+    inDialog<QPrintDialog>([](QPrintDialog&) { press(Qt::Key_Escape); },
+        [] {
+            printPicture(nullptr, [](QPainter&, const QSize&) { ADD_FAILURE(); }, {800, 400});
+        });
+}
+
+} // namespace zerna
