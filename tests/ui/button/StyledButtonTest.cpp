@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <utility>
 
 namespace {
 
@@ -163,18 +162,37 @@ TEST_F(StyledButtonTest, ThemeOfTheApplicationReachesAllButtonsAndElseThePalette
     QApplication::setPalette(before);
 }
 
+TEST(ButtonTheme, ContrastIsThatOfTheLuminances)
+{
+    struct Row {
+        const char* name;
+        const char* colour;
+        double ratio; // to white
+    };
+    for (const Row& row : {Row{"black", "#000000", 21}, {"grey", "#777777", 4.48}, {"blue", "#0000ff", 8.59}}) {
+        EXPECT_NEAR(contrastRatio(QColor(row.colour), Qt::white), row.ratio, 0.01) << row.name;
+        EXPECT_NEAR(contrastRatio(Qt::white, QColor(row.colour)), row.ratio, 0.01) << row.name;
+    }
+}
+
 TEST(ButtonTheme, EveryStateIsLegibleInLightDarkAndAwkwardPalettes)
 {
-    for (const auto& [colour, ratio] : {std::pair("#000000", 21.0), {"#777777", 4.48}, {"#0000ff", 8.59}})
-        EXPECT_NEAR(contrastRatio(QColor(colour), Qt::white), ratio, 0.01);
-    for (const auto& [name, palette] : {std::pair("light", light), {"dark", dark},
-             {"high contrast", paletteWith("#000000", "#000000", "#ffff00", "#00ff00")},
-             {"grey on grey", paletteWith("#707070", "#757575", "#7a7a7a", "#777777")},
-             {"yellow accent", paletteWith("#202020", "#303030", "#ffffff", "#ffff00")},
-             {"white accent on white", paletteWith("#ffffff", "#ffffff", "#202020", "#ffffff")}}) {
-        const ButtonTheme theme = themeFromPalette(palette);
+    struct Row {
+        const char* name;
+        QPalette palette;
+    };
+    const Row rows[]{
+        {"light", light},
+        {"dark", dark},
+        {"high contrast", paletteWith("#000000", "#000000", "#ffff00", "#00ff00")},
+        {"grey on grey", paletteWith("#707070", "#757575", "#7a7a7a", "#777777")},
+        {"yellow accent", paletteWith("#202020", "#303030", "#ffffff", "#ffff00")},
+        {"white accent on white", paletteWith("#ffffff", "#ffffff", "#202020", "#ffffff")},
+    };
+    for (const Row& row : rows) {
+        const ButtonTheme theme = themeFromPalette(row.palette);
         for (unsigned bits = 0; bits < 16; ++bits) {
-            SCOPED_TRACE(testing::Message() << name << ", condition " << bits);
+            SCOPED_TRACE(testing::Message() << row.name << ", condition " << bits);
             const bool enabled = (bits & 8U) == 0;
             const ButtonLook look = lookOf(theme, {enabled, (bits & 4U) != 0, (bits & 2U) != 0, (bits & 1U) != 0});
             for (const QColor& background : {look.backgroundStart, look.backgroundEnd}) {
@@ -212,7 +230,11 @@ TEST(StyledButtonPicture, FollowsTheStateAndFallsBackToTheNormalOne)
 
 TEST(StyledButtonFrame, StraightEdgesAreFullyFrameColouredAtEveryRatio)
 {
-    for (const auto& [ratio, lines] : {std::pair(1.0, 1), {1.5, 2}, {2.0, 2}, {3.0, 3}}) { // lines in device pixels
+    struct Row {
+        double ratio;
+        int lines; // device pixels
+    };
+    for (const auto& [ratio, lines] : {Row{1.0, 1}, {1.5, 2}, {2.0, 2}, {3.0, 3}}) {
         for (const int width : {100, 101}) { // 101 · 1.5 ends in the middle of a pixel
             SCOPED_TRACE(testing::Message() << "ratio " << ratio << ", width " << width);
             StyledButton button;

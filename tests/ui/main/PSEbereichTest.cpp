@@ -43,16 +43,45 @@ struct PSEbereichTest : FakeDesk {
 
 TEST_F(PSEbereichTest, ClicksAndKeysSelectElements)
 {
-    for (const auto& [column, row, symbol] : {std::tuple(11, 4, "Cu"), {2, 8, "Cu"}, {4, 9, "Ce"}, {18, 1, "He"}}) {
-        clickCell(column, row);
-        EXPECT_EQ(chosen(), symbol);
-        EXPECT_EQ(find<QListWidget>("lstInfo").item(0)->text().mid(8).toStdString(), symbol);
+    struct Click {
+        const char* name;
+        int column;
+        int row;
+        const char* symbol;
+    };
+    const Click clicks[]{
+        {"in the main body", 11, 4, "Cu"},
+        {"beside it: nothing changes", 2, 8, "Cu"},
+        {"in a separate row", 4, 9, "Ce"},
+        {"at the edge", 18, 1, "He"},
+    };
+    for (const Click& click : clicks) {
+        SCOPED_TRACE(click.name);
+        clickCell(click.column, click.row);
+        EXPECT_EQ(chosen(), click.symbol);
+        EXPECT_EQ(find<QListWidget>("lstInfo").item(0)->text().mid(8).toStdString(), click.symbol);
     }
-    for (const auto& [key, symbol] : {std::pair(Qt::Key_Down, "Ne"), {Qt::Key_Right, "Ne"}, {Qt::Key_H, "H"},
-             {Qt::Key_Up, "H"}, {Qt::Key_Right, "He"}, {Qt::Key_Left, "H"}, {Qt::Key_C, "C"}, {Qt::Key_U, "Cu"},
-             {Qt::Key_A, "Al"}, {Qt::Key_G, "Ag"}, {Qt::Key_1, "Ag"}}) {
-        QTest::keyClick(&table(), key);
-        EXPECT_EQ(chosen(), symbol);
+    struct Key {
+        const char* name;
+        Qt::Key key;
+        const char* symbol;
+    };
+    const Key keys[]{
+        {"down", Qt::Key_Down, "Ne"},
+        {"no neighbour to the right", Qt::Key_Right, "Ne"},
+        {"letter", Qt::Key_H, "H"},
+        {"no neighbour above", Qt::Key_Up, "H"},
+        {"over the gap", Qt::Key_Right, "He"},
+        {"and back", Qt::Key_Left, "H"},
+        {"first letter", Qt::Key_C, "C"},
+        {"second letter", Qt::Key_U, "Cu"},
+        {"no third letter: a new symbol", Qt::Key_A, "Al"},
+        {"and its second letter", Qt::Key_G, "Ag"},
+        {"no letter", Qt::Key_1, "Ag"},
+    };
+    for (const Key& key : keys) {
+        QTest::keyClick(&table(), key.key);
+        EXPECT_EQ(chosen(), key.symbol) << key.name;
     }
     EXPECT_NE(table().accessibleDescription().indexOf("Silber"), -1);
 }
