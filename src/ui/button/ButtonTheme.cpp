@@ -15,7 +15,7 @@ constexpr double DisabledContrast = 3.0;
 constexpr double LineContrast = 3.0;
 constexpr double BaseContrast = 10.0; // leaves room for the tints of hover, pressed and checked
 
-/// @p share 0 gives @p one, 1 gives @p other.
+/// `share` 0 gives `one`, 1 gives `other`.
 QColor mixed(const QColor& one, const QColor& other, double share)
 {
     const auto channel = [share](int a, int b) { return static_cast<int>(std::lround(a + (b - a) * share)); };
@@ -25,26 +25,24 @@ QColor mixed(const QColor& one, const QColor& other, double share)
 double smallestContrast(const QColor& colour, std::initializer_list<QColor> backgrounds)
 {
     double smallest = 21;
-    for (const QColor& background : backgrounds) {
+    for (const QColor& background : backgrounds)
         smallest = std::min(smallest, contrastRatio(colour, background));
-    }
     return smallest;
 }
 
-/// @p colour, moved no further towards black or white than it takes to stand out from all backgrounds.
+/// `colour`, moved no further towards black or white than it takes to stand out from all backgrounds.
 QColor standingOut(const QColor& colour, std::initializer_list<QColor> backgrounds, double contrast)
 {
     constexpr int Steps = 50;
     const bool lighten = smallestContrast(Qt::white, backgrounds) > smallestContrast(Qt::black, backgrounds);
     const QColor pole = lighten ? Qt::white : Qt::black;
     QColor result = colour;
-    for (int step = 1; step <= Steps && smallestContrast(result, backgrounds) < contrast; ++step) {
+    for (int step = 1; step <= Steps && smallestContrast(result, backgrounds) < contrast; ++step)
         result = mixed(colour, pole, static_cast<double>(step) / Steps);
-    }
     return result;
 }
 
-/// @p look with a text that stands out from both ends of the background. A gradient around medium grey can be too
+/// `look` with a text that stands out from both ends of the background. A gradient around medium grey can be too
 /// light for white and too dark for black text; it is made flat, since any one colour bears one of the two.
 ButtonLook legible(ButtonLook look, double contrast)
 {
@@ -57,7 +55,7 @@ ButtonLook legible(ButtonLook look, double contrast)
     return look;
 }
 
-/// @p look with its background moved towards that of @p other.
+/// `look` with its background moved towards that of `other`.
 ButtonLook tinted(ButtonLook look, const ButtonLook& other, double share)
 {
     look.backgroundStart = mixed(look.backgroundStart, other.backgroundStart, share);
@@ -96,15 +94,12 @@ double contrastRatio(const QColor& one, const QColor& other)
 
 ButtonState stateOf(const ButtonCondition& condition)
 {
-    if (!condition.enabled) {
+    if (!condition.enabled)
         return ButtonState::Disabled;
-    }
-    if (condition.pressed) {
+    if (condition.pressed)
         return ButtonState::Pressed;
-    }
-    if (condition.checked) {
+    if (condition.checked)
         return ButtonState::Checked;
-    }
     return condition.hovered ? ButtonState::Hover : ButtonState::Normal;
 }
 

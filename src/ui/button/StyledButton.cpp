@@ -110,12 +110,10 @@ StyledButton::StyledButton(const QString& caption, QWidget* parent)
 void StyledButton::setToolTipText(const QString& text, const QString& title)
 {
     QString html;
-    if (!title.isEmpty()) {
+    if (!title.isEmpty())
         html += QStringLiteral("<p style='white-space:pre'><b>%1</b></p>").arg(toHtml(title));
-    }
-    if (!text.isEmpty()) {
+    if (!text.isEmpty())
         html += QStringLiteral("<p>%1</p>").arg(toHtml(text));
-    }
     setToolTip(html);
     // Without it a screen reader would read out the tags.
     setAccessibleDescription(title.isEmpty() || text.isEmpty() ? title + text : title + u'\n' + text);
@@ -124,9 +122,8 @@ void StyledButton::setToolTipText(const QString& text, const QString& title)
 void StyledButton::setPicture(ButtonState state, const QIcon& picture)
 {
     const QIcon before = state == ButtonState::Normal ? icon() : m_pictures[state];
-    if (before.cacheKey() == picture.cacheKey()) {
+    if (before.cacheKey() == picture.cacheKey())
         return;
-    }
     if (state == ButtonState::Normal) {
         setIcon(picture);
         return;
@@ -138,9 +135,8 @@ void StyledButton::setPicture(ButtonState state, const QIcon& picture)
 
 void StyledButton::setCaptionEffect(CaptionEffect effect)
 {
-    if (m_captionEffect == effect) {
+    if (m_captionEffect == effect)
         return;
-    }
     m_captionEffect = effect;
     update();
 }
@@ -150,9 +146,8 @@ void StyledButton::setApplicationTheme(const std::optional<ButtonTheme>& theme)
     qApp->setProperty(ApplicationThemeProperty, theme ? QVariant::fromValue(*theme) : QVariant());
     const QWidgetList widgets = QApplication::allWidgets();
     for (QWidget* widget : widgets) {
-        if (auto* button = qobject_cast<StyledButton*>(widget)) {
+        if (auto* button = qobject_cast<StyledButton*>(widget))
             button->refreshTheme();
-        }
     }
 }
 
@@ -173,9 +168,8 @@ QSize StyledButton::minimumSizeHint() const
 
 void StyledButton::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange) {
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange)
         refreshTheme();
-    }
     QAbstractButton::changeEvent(event);
 }
 
@@ -186,9 +180,8 @@ void StyledButton::keyPressEvent(QKeyEvent* event)
         return;
     }
     event->accept(); // also when repeated: the key must not go on to the window
-    if (!event->isAutoRepeat()) {
+    if (!event->isAutoRepeat())
         click();
-    }
 }
 
 void StyledButton::paintEvent(QPaintEvent*)
@@ -213,9 +206,8 @@ void StyledButton::refreshTheme()
 {
     const std::optional<ButtonTheme> common = applicationTheme();
     const ButtonTheme theme = common ? *common : themeFromPalette(palette());
-    if (m_theme == theme) {
+    if (m_theme == theme)
         return;
-    }
     m_theme = theme;
     update();
 }
@@ -224,9 +216,8 @@ void StyledButton::refreshTheme()
 QSize StyledButton::pictureSize() const
 {
     QSize size = icon().actualSize(iconSize());
-    for (const auto& [state, picture] : m_pictures) {
+    for (const auto& [state, picture] : m_pictures)
         size = size.expandedTo(picture.actualSize(iconSize()));
-    }
     return size.expandedTo(QSize(0, 0));
 }
 
@@ -247,9 +238,8 @@ QPixmap StyledButton::currentPicture(qreal devicePixelRatio) const
     const ButtonState state = stateOf(condition());
     const QIcon::State on = isChecked() ? QIcon::On : QIcon::Off;
     const auto own = m_pictures.find(state);
-    if (own != m_pictures.end() && !own->second.isNull()) {
+    if (own != m_pictures.end() && !own->second.isNull())
         return own->second.pixmap(iconSize(), devicePixelRatio, QIcon::Normal, on);
-    }
     const QIcon::Mode mode = state == ButtonState::Disabled ? QIcon::Disabled : QIcon::Normal;
     return icon().pixmap(iconSize(), devicePixelRatio, mode, on);
 }
@@ -299,9 +289,8 @@ void StyledButton::paintPicture(QPainter& painter, const QRect& area) const
 
 void StyledButton::paintCaption(QPainter& painter, const QRect& area, const ButtonLook& look) const
 {
-    if (area.isEmpty()) {
+    if (area.isEmpty())
         return;
-    }
     QStyleOptionButton option;
     option.initFrom(this);
     const bool underline = style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this) != 0;

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "ui/button/ButtonTheme.h"
-
 #include <QAbstractButton>
 #include <QIcon>
 
 #include <map>
 #include <optional>
+
+#include "ui/button/ButtonTheme.h"
 
 class QPainter;
 
@@ -19,7 +19,7 @@ struct FrameGeometry {
     QRectF inner;
 };
 
-/// Largest such frame within @p area, its line at least one device pixel wide. @p deviceOrigin is where logical (0, 0)
+/// Largest such frame within `area`, its line at least one device pixel wide. `deviceOrigin` is where logical (0, 0)
 /// lies in device pixels: at 150 % a widget may well begin in the middle of one.
 FrameGeometry layOutFrame(
     const QRectF& area, qreal lineWidth, qreal devicePixelRatio, const QPointF& deviceOrigin = {});
@@ -30,7 +30,7 @@ struct ContentGeometry {
     QRect caption;
 };
 
-/// Puts the picture to the left of the caption and both into the middle of @p area; the caption gives way if @p area
+/// Puts the picture to the left of the caption and both into the middle of `area`; the caption gives way if `area`
 /// is too narrow.
 ContentGeometry layOutContent(const QRect& area, const QSize& picture, const QSize& caption);
 
