@@ -3,7 +3,6 @@
 #include <QFocusEvent>
 #include <QPainter>
 #include <QSignalBlocker>
-#include <QStyle>
 
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
@@ -18,7 +17,7 @@ constexpr const char* Marke = "Marke"; // property: the text form of the unknown
 constexpr int EchoMargin = 6;
 
 /// A red that stands out on light and on dark fields.
-QColor errorColour(const QPalette& palette)
+QColor fehlerfarbe(const QPalette& palette)
 {
     return istDunkel(palette, QPalette::Base) ? QColor(255, 107, 107) : QColor(200, 30, 30);
 }
@@ -71,7 +70,7 @@ void Wertfeld::setFehler(const QString& grund)
     if (grund == m_fehler)
         return;
     m_fehler = grund;
-    showHint();
+    showHinweis();
     update();
 }
 
@@ -82,17 +81,17 @@ void Wertfeld::setEcho(const QString& echo)
     m_echo = echo;
     const int width = echo.isEmpty() ? 0 : fontMetrics().horizontalAdvance(echo) + EchoMargin;
     setTextMargins(0, 0, width, 0);
-    showHint();
+    showHinweis();
     update();
 }
 
 void Wertfeld::setHinweis(const QString& hinweis)
 {
     m_hinweis = hinweis;
-    showHint();
+    showHinweis();
 }
 
-void Wertfeld::showHint()
+void Wertfeld::showHinweis()
 {
     const QString valid = m_echo.isEmpty() ? m_hinweis : QStringLiteral("%1 %2").arg(text(), m_echo);
     setToolTip(m_fehler.isEmpty() ? valid : m_fehler);
@@ -120,7 +119,7 @@ void Wertfeld::paintEvent(QPaintEvent* event)
         painter.drawText(rect().adjusted(0, 0, -EchoMargin, 0), Qt::AlignRight | Qt::AlignVCenter, m_echo);
     }
     if (!m_fehler.isEmpty()) {
-        QColor fill = errorColour(palette());
+        QColor fill = fehlerfarbe(palette());
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(fill, 2));
         fill.setAlpha(36);

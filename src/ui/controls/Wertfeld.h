@@ -38,7 +38,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void showHint();
+    void showHinweis();
     void strengthenDisabledText();
 
     QString m_fehler;

@@ -10,7 +10,7 @@ namespace zerna {
 
 namespace {
 
-constexpr int KopfHoehe = 112;
+constexpr int Kopfhoehe = 112;
 constexpr int Rand = 12;
 
 } // namespace
@@ -23,7 +23,7 @@ Elementkarte::Elementkarte(QWidget* parent)
     m_lstInfo->setAccessibleName(QStringLiteral("Daten des Elements"));
 }
 
-void Elementkarte::show(const std::shared_ptr<clsElement>& element)
+void Elementkarte::setElement(const std::shared_ptr<clsElement>& element)
 {
     m_element = element;
     m_lstInfo->setLines(element ? elementauskunft(*element) : std::vector<std::string>());
@@ -32,7 +32,7 @@ void Elementkarte::show(const std::shared_ptr<clsElement>& element)
 
 void Elementkarte::resizeEvent(QResizeEvent*)
 {
-    m_lstInfo->setGeometry(Rand, KopfHoehe, qMax(0, width() - 2 * Rand), qMax(0, height() - KopfHoehe - Rand));
+    m_lstInfo->setGeometry(Rand, Kopfhoehe, qMax(0, width() - 2 * Rand), qMax(0, height() - Kopfhoehe - Rand));
 }
 
 void Elementkarte::paintEvent(QPaintEvent*)
@@ -45,19 +45,19 @@ void Elementkarte::paintEvent(QPaintEvent*)
     large.setPixelSize(48);
     large.setBold(true);
     painter.setFont(large);
-    const QRect head(Rand, 4, width() - 2 * Rand, KopfHoehe - 8);
+    const QRect kopf(Rand, 4, width() - 2 * Rand, Kopfhoehe - 8);
     const QString symbol =
-        painter.fontMetrics().elidedText(toQt(m_element->symbol()), Qt::ElideRight, head.width() / 2);
-    painter.drawText(head, Qt::AlignLeft | Qt::AlignTop, symbol);
+        painter.fontMetrics().elidedText(toQt(m_element->symbol()), Qt::ElideRight, kopf.width() / 2);
+    painter.drawText(kopf, Qt::AlignLeft | Qt::AlignTop, symbol);
     const int beside = painter.fontMetrics().horizontalAdvance(symbol) + 2 * Rand;
     QFont medium = font();
     medium.setPixelSize(24);
     painter.setFont(medium);
-    const QRect nameArea = head.adjusted(beside, 8, 0, 0);
+    const QRect nameArea = kopf.adjusted(beside, 8, 0, 0);
     painter.drawText(nameArea, Qt::AlignLeft | Qt::AlignTop,
         painter.fontMetrics().elidedText(toQt(m_element->Name()), Qt::ElideRight, nameArea.width()));
     painter.setFont(font());
-    painter.drawText(head.adjusted(0, 68, 0, 0), Qt::AlignLeft | Qt::AlignTop,
+    painter.drawText(kopf.adjusted(0, 68, 0, 0), Qt::AlignLeft | Qt::AlignTop,
         QStringLiteral("Ordnungszahl %1      %2").arg(m_element->OZ()).arg(toQt(m_element->Elektronenkonfiguration())));
 }
 

@@ -17,8 +17,8 @@ class Elementkarte : public QWidget {
 public:
     explicit Elementkarte(QWidget* parent = nullptr);
 
-    /// Shows an element; null clears.
-    void show(const std::shared_ptr<clsElement>& element);
+    /// Null clears the card.
+    void setElement(const std::shared_ptr<clsElement>& element);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -29,7 +29,7 @@ void paintHatching(QPainter& painter, const QRectF& area, const QColor& colour)
     painter.drawRoundedRect(area, Radius, Radius);
 }
 
-void paintCornerZeichen(QPainter& painter, const QRectF& area, Gruppenzeichen zeichen, QColor colour)
+void paintEckzeichen(QPainter& painter, const QRectF& area, Gruppenzeichen zeichen, QColor colour)
 {
     constexpr double Margin = 4;
     const double size = std::clamp(area.width() * 0.12, 3.0, 8.0);
@@ -76,7 +76,7 @@ void paintZelle(QPainter& painter, const QRectF& area, const Elementzelle& zelle
     if (fehlt)
         paintHatching(painter, cell, stil.palette.color(QPalette::Mid));
     if (zeichen)
-        paintCornerZeichen(painter, cell, *zeichen, text);
+        paintEckzeichen(painter, cell, *zeichen, text);
     painter.setPen(text);
     paintTexte(painter, cell, zelle.element, stil);
     if (zelle.isSelected) {

@@ -25,16 +25,16 @@ PSEbereich::PSEbereich(Programm& programm, QWidget* parent)
 {
     m_picPSE = new Periodentafel(programm.ElementCollection(), this);
     m_picPSE->setObjectName(QStringLiteral("picPSE"));
-    m_farbe = new QWidget(this);
-    auto* caption = new QLabel(QStringLiteral("&Farbe:"), m_farbe);
-    m_cmbFarbe = new QComboBox(m_farbe);
+    m_farbwahl = new QWidget(this);
+    auto* caption = new QLabel(QStringLiteral("&Farbe:"), m_farbwahl);
+    m_cmbFarbe = new QComboBox(m_farbwahl);
     m_cmbFarbe->setObjectName(QStringLiteral("cmbFarbe"));
     m_cmbFarbe->setAccessibleName(QStringLiteral("Färbung der Zellen"));
     m_cmbFarbe->addItem(QStringLiteral("Gruppe"), NachGruppe);
     for (const int kennzahl : psegroessen())
         m_cmbFarbe->addItem(toQt(findGroesse(kennzahl)->name), kennzahl);
     caption->setBuddy(m_cmbFarbe);
-    auto* row = new QHBoxLayout(m_farbe);
+    auto* row = new QHBoxLayout(m_farbwahl);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(caption);
     row->addWidget(m_cmbFarbe, 1);
@@ -53,9 +53,9 @@ void PSEbereich::layOut()
     m_picPSE->setGeometry(0, 0, tableWidth, height());
     m_picInfo->setGeometry(tableWidth, 0, static_cast<int>(width() * InfoShare), height());
     const QRect free = m_picPSE->freeArea();
-    m_farbe->setGeometry(free.left(), free.top(), free.width(), 28);
+    m_farbwahl->setGeometry(free.left(), free.top(), free.width(), 28);
     m_picPSE->setSelected(m_programm.SelectedElement());
-    m_picInfo->show(m_programm.SelectedElement());
+    m_picInfo->setElement(m_programm.SelectedElement());
 }
 
 void PSEbereich::resizeEvent(QResizeEvent*) { layOut(); }
@@ -63,7 +63,7 @@ void PSEbereich::resizeEvent(QResizeEvent*) { layOut(); }
 void PSEbereich::select(const std::shared_ptr<clsElement>& element)
 {
     m_programm.setSelectedElement(element);
-    m_picInfo->show(element);
+    m_picInfo->setElement(element);
 }
 
 void PSEbereich::colour()

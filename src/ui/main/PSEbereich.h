@@ -35,7 +35,7 @@ private:
 
     Programm& m_programm;
     Periodentafel* m_picPSE = nullptr;
-    QWidget* m_farbe = nullptr; // the colour list with its caption
+    QWidget* m_farbwahl = nullptr; // list and caption
     QComboBox* m_cmbFarbe = nullptr;
     Elementkarte* m_picInfo = nullptr;
 };

@@ -6,6 +6,7 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include "core/MessageBoxes.h"
 #include "core/clsLoader.h"
 #include "ui/controls/Knopfzeile.h"
 #include "ui/platform/QtText.h"
