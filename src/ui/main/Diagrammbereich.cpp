@@ -10,6 +10,7 @@
 
 #include "core/CheckedArithmetic.h"
 #include "ui/button/StyledButton.h"
+#include "ui/controls/Knopfzeile.h"
 #include "ui/diagram/Diagrammflaeche.h"
 #include "ui/diagram/conDisplay.h"
 #include "ui/diagram/conLabel.h"
@@ -79,7 +80,7 @@ void Diagrammbereich::createSteps()
     for (int i = 0; i < 2; ++i) {
         const auto k = static_cast<std::size_t>(i);
         m_cmdSteps.at(k) = new StyledButton(captions.at(k), this);
-        m_cmdSteps.at(k)->setObjectName(QStringLiteral("cmdSteps_%1").arg(i));
+        m_cmdSteps.at(k)->setObjectName(numberedName("cmdSteps", i));
         m_cmdSteps.at(k)->setAccessibleName(hints.at(k));
         m_cmdSteps.at(k)->setToolTipText(hints.at(k));
         m_cmdSteps.at(k)->setFixedSize(28, 26);
@@ -95,7 +96,7 @@ void Diagrammbereich::createLabels()
 {
     for (int row = 0; row < MaxKomponenten; ++row) {
         auto* label = new conLabel(this);
-        label->setObjectName(QStringLiteral("conLabel_%1").arg(row));
+        label->setObjectName(numberedName("conLabel", row));
         label->setFixedHeight(34);
         label->setMinimumWidth(70);
         label->setMaximumWidth(96);
@@ -125,14 +126,8 @@ void Diagrammbereich::layOut()
     for (StyledButton* const button : m_cmdSteps)
         values->addWidget(button);
     values->addStretch();
-    auto* buttons = new QHBoxLayout;
+    auto* buttons = knopfzeile({m_cmdKopieren, m_cmdSpeichern});
     buttons->setSpacing(8);
-    buttons->addStretch();
-    for (StyledButton* const button : {m_cmdKopieren, m_cmdSpeichern}) {
-        button->setMinimumWidth(110);
-        button->setFixedHeight(28);
-        buttons->addWidget(button);
-    }
 
     const auto boxed = [this](int height, QLayout* upper, QLayout* lower, int bottomMargin) {
         auto* box = new QWidget(this);

@@ -1,33 +1,21 @@
 #include "ui/main/Ergebnisbereich.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QMenu>
+#include <QVBoxLayout>
 
 #include "core/CheckedArithmetic.h"
 #include "core/Zahlentext.h"
 #include "model/Konstanten.h"
 #include "programm/Exportspeicherung.h"
 #include "ui/button/StyledButton.h"
+#include "ui/controls/Knopfzeile.h"
 #include "ui/controls/Wertanzeige.h"
 #include "ui/controls/Wertfeld.h"
 #include "ui/platform/QtText.h"
 #include "ui/platform/Tabreihenfolge.h"
+#include "ui/platform/Zwischenablage.h"
 
 namespace zerna {
-
-namespace {
-
-void copyToClipboard(const QString& text)
-{
-    if (QClipboard* const clipboard = QGuiApplication::clipboard()) {
-        clipboard->clear();
-        clipboard->setText(text);
-    }
-}
-
-} // namespace
 
 Ergebnisbereich::Ergebnisbereich(Programm& programm, SaveFileDialog& saveDialog, QWidget* parent)
     : QWidget(parent)
@@ -78,19 +66,12 @@ void Ergebnisbereich::createMenu()
 
 void Ergebnisbereich::layOut()
 {
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    for (StyledButton* const button : {m_cmdKopieren, m_cmdSpeichern}) {
-        button->setMinimumWidth(110);
-        button->setFixedHeight(28);
-        buttons->addWidget(button);
-    }
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(8);
     column->addWidget(m_gitter);
     column->addStretch();
-    column->addLayout(buttons);
+    column->addLayout(knopfzeile({m_cmdKopieren, m_cmdSpeichern}));
     std::vector<QWidget*> order = m_gitter->tabOrder();
     order.insert(order.end(), {m_cmdKopieren, m_cmdSpeichern});
     setTabReihenfolge(order);

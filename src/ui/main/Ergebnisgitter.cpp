@@ -30,8 +30,6 @@ constexpr int FirstRightLine = 13; // the averages and what follows from them on
 
 bool isOnTheRight(const Groesse& zeile) { return zeile.zeile >= FirstRightLine; }
 
-QString numbered(const char* name, int index) { return QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(index); }
-
 } // namespace
 
 Ergebnisgitter::Ergebnisgitter(QWidget* parent)
@@ -54,9 +52,9 @@ void Ergebnisgitter::createLine(const Groesse& zeile)
 {
     const auto k = static_cast<std::size_t>(zeile.zeile);
     m_beschriftungen.at(k) = new QLabel(toQt(zeile.beschriftung), this);
-    m_beschriftungen.at(k)->setObjectName(numbered("Label6", captionIndex(zeile.zeile)));
+    m_beschriftungen.at(k)->setObjectName(numberedName("Label6", captionIndex(zeile.zeile)));
     auto* const line = new Wertanzeige(this);
-    line->setObjectName(numbered("lblMFE", zeile.zeile));
+    line->setObjectName(numberedName("lblMFE", zeile.zeile));
     line->setAccessibleName(toQt(zeile.bezeichnung()));
     connect(line, &Wertanzeige::menuRequested, this,
         [this, number = zeile.zeile](const QPoint& position) { emit menuRequested(number, position); });
@@ -68,7 +66,7 @@ void Ergebnisgitter::createField(const Groesse& zeile)
 {
     const auto feld = static_cast<Feld>(std::ranges::count(m_feldOfZeile, true, [](auto* f) { return f != nullptr; }));
     auto* const edit = new Wertfeld(this);
-    edit->setObjectName(numbered("txtMFE", feld));
+    edit->setObjectName(numberedName("txtMFE", feld));
     edit->setAccessibleName(toQt(zeile.bezeichnung()));
     edit->setHinweis(QStringLiteral("Wert eintippen, um das Modell ohne Zusammensetzung zu erkunden"));
     edit->setAlignment(Qt::AlignRight);
@@ -87,7 +85,7 @@ void Ergebnisgitter::createFriedel()
     const std::array<QString, 2> captions{QStringLiteral("▶"), QStringLiteral("◀")};
     for (std::size_t i = 0; i < m_cmdKnopf2.size(); ++i) {
         m_cmdKnopf2.at(i) = new StyledButton(captions.at(i), this);
-        m_cmdKnopf2.at(i)->setObjectName(numbered("cmdKnopf2", static_cast<int>(i)));
+        m_cmdKnopf2.at(i)->setObjectName(numberedName("cmdKnopf2", static_cast<int>(i)));
         m_cmdKnopf2.at(i)->setAccessibleName(hints.at(i));
         m_cmdKnopf2.at(i)->setToolTipText(hints.at(i));
         const int step = i == 0 ? 1 : -1;

@@ -30,7 +30,7 @@ void Kompositionsbereich::createControls()
     const std::array<QString, 2> hints{QStringLiteral("Komponente hinzufügen"), QStringLiteral("Komponente entfernen")};
     for (std::size_t i = 0; i < m_cmdKom.size(); ++i) {
         m_cmdKom.at(i) = new StyledButton(captions.at(i), this);
-        m_cmdKom.at(i)->setObjectName(QStringLiteral("cmdKom_%1").arg(i));
+        m_cmdKom.at(i)->setObjectName(numberedName("cmdKom", static_cast<int>(i)));
         m_cmdKom.at(i)->setAccessibleName(hints.at(i));
         m_cmdKom.at(i)->setToolTipText(hints.at(i));
         const int step = i == 0 ? 1 : -1;

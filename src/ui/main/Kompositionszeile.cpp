@@ -18,7 +18,7 @@ template <class Widget>
 Widget* make(QWidget* panel, const char* name, int row, const QString& accessibleName)
 {
     auto* widget = new Widget(panel);
-    widget->setObjectName(QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(row));
+    widget->setObjectName(numberedName(name, row));
     widget->setAccessibleName(QStringLiteral("%1, Komponente %2").arg(accessibleName).arg(row + 1));
     widget->hide();
     return widget;

@@ -1,9 +1,7 @@
 #include "ui/weighing/conWiegen.h"
 
-#include <QClipboard>
 #include <QDate>
 #include <QGridLayout>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
@@ -17,16 +15,17 @@
 #include "model/Einwaage.h"
 #include "programm/Exportspeicherung.h"
 #include "ui/button/StyledButton.h"
+#include "ui/controls/Knopfzeile.h"
 #include "ui/controls/Wertfeld.h"
+#include "ui/platform/Farben.h"
 #include "ui/platform/QtText.h"
+#include "ui/platform/Zwischenablage.h"
 
 namespace zerna {
 
 namespace {
 
 constexpr std::string_view Steuerelement = "Benutzersteuerelement conWiegen";
-
-QString numbered(const char* name, int row) { return QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(row); }
 
 /// At% with as many digits as tell something.
 QString atomprozentText(float prozent) { return toQt(textWithDigits(prozent, 5)); }
@@ -104,18 +103,18 @@ void conWiegen::createRow(int row)
     Zeile& z = at(row);
     const auto makeLabel = [this, row](const char* name) {
         auto* label = new QLabel(this);
-        label->setObjectName(numbered(name, row));
+        label->setObjectName(numberedName(name, row));
         label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         return label;
     };
     z.Label = new QLabel(this);
-    z.Label->setObjectName(numbered("Label", row));
+    z.Label->setObjectName(numberedName("Label", row));
     z.Sollmasse = makeLabel("Sollmasse");
     z.IstProzent = makeLabel("IstProzent");
     z.Abweichung = makeLabel("Abweichung");
     z.MassProzent = makeLabel("MassProzent");
     z.Istmasse = new Wertfeld(this);
-    z.Istmasse->setObjectName(numbered("Istmasse", row));
+    z.Istmasse->setObjectName(numberedName("Istmasse", row));
     z.Istmasse->setAlignment(Qt::AlignRight);
     z.Istmasse->setHinweis(QStringLiteral("Gewogene Masse; Eingabetaste: die übrigen Sollmassen darauf beziehen"));
     z.Istmasse->installEventFilter(this);
@@ -136,13 +135,6 @@ void conWiegen::layOut()
     loss->addWidget(m_verlustCaption);
     loss->addWidget(m_txtVerlust);
     loss->addStretch();
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    for (StyledButton* const button : {m_kopieren, m_speichern}) {
-        button->setMinimumWidth(110);
-        button->setFixedHeight(28);
-        buttons->addWidget(button);
-    }
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(6);
@@ -152,7 +144,7 @@ void conWiegen::layOut()
     column->addWidget(m_hinweis);
     column->addLayout(loss);
     column->addWidget(m_lstVerlust, 1);
-    column->addLayout(buttons);
+    column->addLayout(knopfzeile({m_kopieren, m_speichern}));
 }
 
 void conWiegen::layOutTable(QGridLayout& grid)
@@ -301,8 +293,7 @@ void conWiegen::showDeviation(Zeile& zeile, float difference)
     zeile.Abweichung->setText(toQt((isMore ? "+" : "") + text));
     QPalette colours = palette();
     if (std::abs(difference) > Tolerance) {
-        const bool dark = colours.color(QPalette::Window).lightness() < 128;
-        colours.setColor(QPalette::WindowText, dark ? QColor(255, 138, 101) : QColor(191, 54, 12));
+        colours.setColor(QPalette::WindowText, istDunkel(colours) ? QColor(255, 138, 101) : QColor(191, 54, 12));
     }
     zeile.Abweichung->setPalette(colours);
 }
@@ -319,8 +310,7 @@ void conWiegen::clearWeighed()
 bool conWiegen::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::KeyPress) {
-        const int key =
-            static_cast<QKeyEvent*>(event)->key(); // NOLINT(cppcoreguidelines-pro-type-static-cast-downcast)
+        const int key = static_cast<QKeyEvent*>(event)->key();
         for (int row = 0; row < m_anzahl && (key == Qt::Key_Return || key == Qt::Key_Enter); ++row) {
             if (watched == at(row).Istmasse) {
                 Istmasse_KeyDown(row);
@@ -380,11 +370,7 @@ std::string conWiegen::protokoll() const
     return wiegeprotokoll(fromQt(QDate::currentDate().toString(QStringLiteral("d.M.yyyy"))), zeilen);
 }
 
-void conWiegen::copy()
-{
-    if (QClipboard* const clipboard = QGuiApplication::clipboard())
-        clipboard->setText(toQt(protokoll()));
-}
+void conWiegen::copy() { copyToClipboard(toQt(protokoll())); }
 
 void conWiegen::save()
 {
