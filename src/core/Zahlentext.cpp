@@ -116,17 +116,18 @@ std::string wholeText(double value)
 }
 
 /// "&H" digits as a 32-bit two's complement number; no value if it is no such text.
-std::optional<double> hexNumber(std::string_view text)
+bool readHexNumber(std::string_view text, double& value)
 {
     if (text.size() < 3 || text[0] != '&' || (text[1] != 'H' && text[1] != 'h'))
-        return std::nullopt;
+        return false;
     std::uint32_t bits = 0;
     const auto [end, error] = std::from_chars(text.data() + 2, text.data() + text.size(), bits, 16);
     if (error == std::errc::result_out_of_range)
         throw Laufzeitfehler(Fehler::Ueberlauf);
     if (error != std::errc() || end != text.data() + text.size())
-        return std::nullopt;
-    return static_cast<std::int32_t>(bits);
+        return false;
+    value = static_cast<std::int32_t>(bits);
+    return true;
 }
 
 /// A decimal text checked and brought into the form that from_chars reads: no plus sign, a point, an "e".
@@ -261,32 +262,33 @@ std::string scientificText(
     return text + std::to_string(std::abs(z.exponent));
 }
 
-std::optional<double> numberIn(std::string_view text)
+bool readNumber(std::string_view text, double& value)
 {
     text = trimmed(text);
     if (text.empty())
-        return std::nullopt;
+        return false;
     if (text.front() == '&')
-        return hexNumber(text);
+        return readHexNumber(text, value);
     Puffer buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): written by normalised
     std::string longText;
     const std::string_view number = normalised(text, buffer, longText);
     if (number.empty())
-        return std::nullopt;
-    double value = 0;
+        return false;
     const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
     if (result.ec != std::errc::result_out_of_range)
-        return value;
-    if (isTooSmall(number))
-        return 0.0;
-    throw Laufzeitfehler(Fehler::Ueberlauf);
+        return true;
+    if (!isTooSmall(number))
+        throw Laufzeitfehler(Fehler::Ueberlauf);
+    value = 0;
+    return true;
 }
 
 double doubleFromText(std::string_view text)
 {
-    if (const auto value = numberIn(text))
-        return *value;
-    throw Laufzeitfehler(Fehler::TypenUnvertraeglich);
+    double value = 0;
+    if (!readNumber(text, value))
+        throw Laufzeitfehler(Fehler::TypenUnvertraeglich);
+    return value;
 }
 
 float singleFromText(std::string_view text) { return toSingle(doubleFromText(text)); }

@@ -37,8 +37,16 @@ std::string scientificText(double value, int decimals, std::string_view gap, boo
 double doubleFromText(std::string_view text);
 float singleFromText(std::string_view text);
 
-/// As doubleFromText, but no value for a text that is no number (a number too large is still error 6).
-std::optional<double> numberIn(std::string_view text);
+/// As doubleFromText, but false for a text that is no number, which leaves the value alone (a number too large is still
+/// error 6).
+bool readNumber(std::string_view text, double& value);
+
+/// The same as an optional, which is built where it is used: handing it over costs more than reading a short number.
+inline std::optional<double> numberIn(std::string_view text)
+{
+    double value = 0;
+    return readNumber(text, value) ? std::optional(value) : std::nullopt;
+}
 
 /// The integer part of the value as upper-case hexadecimal digits, negative ones as 32-bit two's complement.
 /// Error 6 outside -2^31 to 2^31 - 1.
