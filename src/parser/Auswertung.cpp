@@ -1,5 +1,6 @@
 #include "parser/Auswertung.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -89,7 +90,34 @@ double combine(double left, char op, double right)
     }
 }
 
+/// Operators of a higher rank bind more tightly.
+constexpr int MaxRank = 2;
+constexpr int rankOf(char op) { return op == '^' ? MaxRank : static_cast<int>(op == '*' || op == '/'); }
+
+/// Combines terms at the operators of one rank, from left to right; gives those that remain.
+std::span<Term> reduced(std::span<Term> terms, int rank)
+{
+    std::size_t last = 0;
+    for (std::size_t k = 1; k < terms.size(); ++k) {
+        const Term& term = terms[k];
+        if (rankOf(term.op) != rank)
+            terms[++last] = term;
+        else
+            terms[last].value =
+                located(term.position, [&] { return checked(combine(terms[last].value, term.op, term.value)); });
+    }
+    return terms.first(last + 1);
+}
+
 } // namespace
+
+void Termstapel::grow()
+{
+    std::vector<Term> more(2 * m_size);
+    std::ranges::copy(m_terms, more.begin());
+    m_many = std::move(more);
+    m_terms = m_many;
+}
 
 Auswertung::Auswertung(std::string_view text, const ElementCollection& elements)
     : m_text(text)
@@ -99,17 +127,10 @@ Auswertung::Auswertung(std::string_view text, const ElementCollection& elements)
 
 double Auswertung::evaluate() { return expression(0, m_text.size()); }
 
-std::size_t Auswertung::skipBlanks(std::size_t i, std::size_t end) const
-{
-    while (i < end && m_text[i] == ' ')
-        ++i;
-    return i;
-}
-
 /// The value of the text from begin up to end; 0 if it is blank.
 double Auswertung::expression(std::size_t begin, std::size_t end)
 {
-    if (trimmed(part(begin, end)).empty())
+    if (skipBlanks(begin, end) == end)
         return 0;
     if (++m_depth > MaxDepth)
         abort(Fehler::UngueltigesArgument, "zu tief verschachtelt", begin);
@@ -131,10 +152,10 @@ double Auswertung::chain(double first, std::size_t i, std::size_t end)
         const double value = nextOperand(i, end);
         m_terms.push({m_text[position], value, position});
     }
-    reduce(base, "^");
-    reduce(base, "*/");
-    reduce(base, "+-");
-    const double value = m_terms[base].value;
+    std::span<Term> terms = m_terms.from(base);
+    for (int rank = MaxRank; rank >= 0; --rank)
+        terms = reduced(terms, rank);
+    const double value = terms.front().value;
     m_terms.shrink(base);
     return value;
 }
@@ -184,8 +205,9 @@ std::size_t Auswertung::matchingParenthesis(std::size_t open, std::size_t end) c
 
 double Auswertung::operand(std::string_view text, std::size_t position) const
 {
-    if (const std::optional<double> number = located(position, [&] { return numberIn(text); }))
-        return *number;
+    double number = 0;
+    if (located(position, [&] { return readNumber(text, number); }))
+        return number;
     const std::string name = lowerCase(text.substr(0, 3));
     if (text.size() == 2 && name == "pi")
         return KonstantePi;
@@ -215,7 +237,7 @@ double Auswertung::function(std::string_view name, std::size_t namePosition, std
         const std::size_t argumentEnd = endOfArgument(i, end);
         if (count == MaxArguments)
             abort(Fehler::IndexAusserhalb, "zu viele Argumente", i);
-        if (trimmed(part(i, argumentEnd)).empty())
+        if (skipBlanks(i, argumentEnd) == argumentEnd)
             abort(Fehler::TypenUnvertraeglich, "Argument fehlt", i);
         const double value = expression(i, argumentEnd);
         if (count < 2)
@@ -257,21 +279,6 @@ double Auswertung::unknownFunction(std::string_view name, std::size_t position)
         m_unknownFunction =
             Abbruch{Fehler::UngueltigesArgument, "Funktion \"" + quoted(name) + "\" ist nicht definiert", position};
     return 0;
-}
-
-/// Combines the terms from `base` on whose operator is one of `operators`, from left to right.
-void Auswertung::reduce(std::size_t base, std::string_view operators)
-{
-    std::size_t last = base;
-    for (std::size_t k = base + 1; k < m_terms.size(); ++k) {
-        const Term& term = m_terms[k];
-        if (operators.find(term.op) == std::string_view::npos)
-            m_terms[++last] = term;
-        else
-            m_terms[last].value =
-                located(term.position, [&] { return checked(combine(m_terms[last].value, term.op, term.value)); });
-    }
-    m_terms.shrink(last + 1);
 }
 
 } // namespace zerna

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,28 +30,28 @@ struct Term {
 /// A stack of terms that asks for memory only when it grows past those of an ordinary formula.
 class Termstapel {
 public:
+    Termstapel() = default;
+    Termstapel(const Termstapel&) = delete;
+    Termstapel& operator=(const Termstapel&) = delete;
+
     std::size_t size() const { return m_size; }
-    Term& operator[](std::size_t i) { return i < m_first.size() ? m_first[i] : m_rest[i - m_first.size()]; }
+    std::span<Term> from(std::size_t i) const { return m_terms.subspan(i, m_size - i); }
 
     void push(const Term& term)
     {
-        if (m_size < m_first.size())
-            m_first[m_size] = term;
-        else
-            m_rest.push_back(term);
-        ++m_size;
+        if (m_size == m_terms.size())
+            grow();
+        m_terms[m_size++] = term;
     }
 
-    void shrink(std::size_t size)
-    {
-        m_size = size;
-        if (!m_rest.empty())
-            m_rest.resize(std::max(size, m_first.size()) - m_first.size());
-    }
+    void shrink(std::size_t size) { m_size = size; }
 
 private:
-    std::array<Term, 16> m_first;
-    std::vector<Term> m_rest;
+    void grow();
+
+    std::array<Term, 16> m_few;
+    std::vector<Term> m_many;
+    std::span<Term> m_terms{m_few}; // either of them
     std::size_t m_size = 0;
 };
 
@@ -77,10 +77,14 @@ private:
     double valenceOf(std::string_view key, std::size_t position) const;
     double function(std::string_view name, std::size_t namePosition, std::size_t begin, std::size_t end);
     double unknownFunction(std::string_view name, std::size_t position);
-    void reduce(std::size_t base, std::string_view operators);
 
     std::string_view part(std::size_t begin, std::size_t end) const { return m_text.substr(begin, end - begin); }
-    std::size_t skipBlanks(std::size_t i, std::size_t end) const;
+    std::size_t skipBlanks(std::size_t i, std::size_t end) const
+    {
+        while (i < end && m_text[i] == ' ')
+            ++i;
+        return i;
+    }
     bool splitsAt(std::size_t i, std::size_t begin) const;
     std::size_t matchingParenthesis(std::size_t open, std::size_t end) const;
     std::size_t endOfArgument(std::size_t i, std::size_t end) const;

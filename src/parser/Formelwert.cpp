@@ -51,23 +51,22 @@ Formelwert formelwert(std::string_view formula, const ElementCollection& element
     const bool hasBlanks = formula.find(' ') != std::string_view::npos;
     const std::string compact = hasBlanks ? removeBlanks(formula) : std::string();
     Auswertung auswertung(hasBlanks ? compact : formula, elements);
-    const auto unknown = [&] {
-        const auto& abbruch = auswertung.unknownFunction();
-        return abbruch ? std::optional(formelfehler(*abbruch, formula)) : std::nullopt;
+    const auto first = [&](std::optional<Formelfehler> last) { // an unknown function came before it
+        const std::optional<Abbruch>& unknown = auswertung.unknownFunction();
+        return unknown ? formelfehler(*unknown, formula) : std::move(last);
     };
     std::optional<Formelfehler> end;
     try {
         const double value = auswertung.evaluate();
         const bool hexadecimal = auswertung.hexadecimal();
-        return {hexadecimal ? "0x" + hexDigits(value) : textOfDouble(value), value, hexadecimal, unknown(),
+        return {hexadecimal ? "0x" + hexDigits(value) : textOfDouble(value), value, hexadecimal, first({}),
             auswertung.takeMessages()};
     } catch (const Abbruch& abbruch) {
         end = formelfehler(abbruch, formula);
     } catch (const Laufzeitfehler& error) { // a hexadecimal result that is too large
         end = Formelfehler{error.Nummer(), error.what(), 1};
     }
-    auto first = unknown();
-    return {"0", 0, false, first ? first : end, auswertung.takeMessages()};
+    return {"0", 0, false, first(std::move(end)), auswertung.takeMessages()};
 }
 
 std::string removeBlanks(std::string_view formula)
