@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "core/Elementdatei.h"
+#include "model/Anteile.h"
 #include "model/clsCalc.h"
 #include "parser/clsParser.h"
 
@@ -46,6 +47,12 @@ struct Aufbau {
     {
         for (int i = 0; i < komponentenzahl; ++i)
             calc.Element_Add(i, std::data(Symbole)[i], std::data(prozente)[i]);
+    }
+
+    /// One component as a series takes it.
+    Legierungskomponente komponente(std::size_t i, float prozent)
+    {
+        return gelesen(elements.Item(Symbole.at(i)), prozent, parser);
     }
 
     static constexpr std::array<std::string_view, MaxKomponenten> Symbole{"Al", "Cu", "Zn", "Mg", "Ni"};

@@ -1,44 +1,111 @@
 #include <array>
+#include <vector>
 
 #include <benchmark/benchmark.h>
 
 #include "bench/Aufbau.h"
+#include "bench/BloesseLegierung.h"
 #include "bench/Speicherzaehler.h"
+#include "model/Eingabe.h"
 #include "model/Ergebnisse.h"
 
 namespace zerna {
 
 namespace {
 
-std::array<float, MaxKomponenten> prozente(int components, int step)
+constexpr int Schritte = 41;
+
+/// What is typed into the first row, and the at% that the rows then have.
+struct Schritt {
+    std::string text;
+    std::array<float, MaxKomponenten> prozente{};
+};
+
+/// An entered alloy, and the compositions that the edits go through, so that no result can be reused.
+struct Bearbeitung : Aufbau {
+    explicit Bearbeitung(int components)
+    {
+        komponentenzahl = components;
+        eingabe.setAnzahl(components);
+        for (int row = 0; row < components; ++row) {
+            eingabe.waehleElement(row, Symbole.at(static_cast<std::size_t>(row)));
+            eingabe.waehleDichte(row, "kristallin");
+            eingabe.waehleValenz(row, ValenzAndere);
+            eingabe.setValenz(row, "2");
+        }
+        for (int row = 1; row + 1 < components; ++row)
+            eingabe.setProzent(row, "10");
+        for (int step = 0; step < Schritte; ++step) {
+            schritte.push_back({textOfSingle(20 + static_cast<float>(step) / 4)});
+            eingabe.setProzent(0, schritte.back().text);
+            for (int row = 0; row < components; ++row)
+                schritte.back().prozente.at(static_cast<std::size_t>(row)) = eingabe.zeile(row).prozent.wert;
+        }
+    }
+
+    /// From the typed text to the calculator.
+    void edit(std::size_t step)
+    {
+        eingabe.setProzent(0, schritte[step % Schritte].text);
+        const auto legierung = eingabe.legierung();
+        if (eingabe.istVollstaendig() && legierung)
+            calc.Legierung_Setzen(legierung->komponenten());
+    }
+
+    float quantities() const
+    {
+        float sum = 0;
+        for (const Groesse& zeile : ergebniszeilen())
+            sum += zeile.wert(calc);
+        return sum;
+    }
+
+    Eingabe eingabe{elements};
+    std::vector<Schritt> schritte;
+};
+
+/// One edit without a window: from the typed text to all quantities.
+void bisZuDenGroessen(benchmark::State& state, int components)
 {
-    const auto x = static_cast<float>(step % 41);
-    if (components == 2)
-        return {60.0F - x, 40.0F + x};
-    return {60.0F - x, 20.0F + x, 10.0F, 7.5F, 2.5F};
+    Bearbeitung b(components);
+    std::size_t step = 0;
+    for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
+        b.edit(++step);
+        benchmark::DoNotOptimize(b.quantities());
+    }
 }
 
-/// One edit without a window: from the composition to the formatted result lines.
-void bearbeitung(benchmark::State& state, int components)
+/// The bare formulas for the same compositions.
+void bloesseFormeln(benchmark::State& state, int components)
 {
-    constexpr int Vorlauf = 41; // all compositions once, so that every text has found its memory
-    Aufbau aufbau;
-    aufbau.komponentenzahl = components;
+    Bearbeitung b(components);
+    BloesseLegierung bare(b, components);
+    std::size_t step = 0;
+    for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
+        const Schritt& schritt = b.schritte[++step % Schritte];
+        for (std::size_t i = 0; i < static_cast<std::size_t>(components); ++i)
+            bare.setProzent(i, schritt.prozente[i]);
+        bare.recalculate();
+        benchmark::DoNotOptimize(bare.quantities());
+    }
+}
+
+/// One edit without a window, to the formatted result lines.
+void bisZuDenTexten(benchmark::State& state, int components)
+{
+    Bearbeitung b(components);
     Ergebnistexte texte;
-    int step = 0;
+    std::size_t step = 0;
     const auto edit = [&] {
-        aufbau.enterAlloy(prozente(components, ++step));
-        return berechneErgebnisse(aufbau.calc, texte);
+        b.edit(++step);
+        return berechneErgebnisse(b.calc, texte);
     };
     bool complete = true;
-    for (int i = 0; i < Vorlauf; ++i)
+    for (int i = 0; i < Schritte; ++i) // so that every text has found its memory
         complete = edit() && complete;
     const std::size_t start = speicheranforderungen();
-    aufbau.enterAlloy(prozente(components, ++step));
-    float values = 0;
-    for (const Groesse& zeile : ergebniszeilen())
-        values += zeile.wert(aufbau.calc);
-    benchmark::DoNotOptimize(values);
+    b.edit(++step);
+    benchmark::DoNotOptimize(b.quantities());
     const std::size_t quantities = speicheranforderungen() - start;
     complete = edit() && complete;
     const std::size_t all = speicheranforderungen() - start - quantities;
@@ -54,9 +121,10 @@ void bearbeitung(benchmark::State& state, int components)
 
 void registerBearbeitungBenchmarks()
 {
-    for (const int components : {2, MaxKomponenten})
-        benchmark::RegisterBenchmark(
-            components == 2 ? "Bearbeitung/2 Komponenten" : "Bearbeitung/5 Komponenten", bearbeitung, components);
+    benchmark::RegisterBenchmark("Bearbeitung/2 Komponenten", bisZuDenTexten, 2);
+    benchmark::RegisterBenchmark("Bearbeitung/5 Komponenten", bisZuDenTexten, MaxKomponenten);
+    benchmark::RegisterBenchmark("Bearbeitung/Größen", bisZuDenGroessen, MaxKomponenten);
+    benchmark::RegisterBenchmark("Bearbeitung/bloße Formeln", bloesseFormeln, MaxKomponenten);
 }
 
 } // namespace zerna

@@ -29,11 +29,11 @@ constexpr int Fermienergie = 8;
 constexpr std::array<float, MaxKomponenten> Prozente{40, 20, 20, 10, 10};
 constexpr QSize Bildgroesse(1200, 800);
 
-std::vector<Reihenkomponente> komponenten(const Aufbau& aufbau)
+std::vector<Legierungskomponente> komponenten(Aufbau& aufbau)
 {
-    std::vector<Reihenkomponente> result;
+    std::vector<Legierungskomponente> result;
     for (std::size_t i = 0; i < Prozente.size(); ++i)
-        result.push_back({aufbau.elements.Item(Aufbau::Symbole.at(i)), Prozente.at(i)});
+        result.push_back(aufbau.komponente(i, Prozente.at(i)));
     return result;
 }
 
@@ -42,7 +42,7 @@ void reihe(benchmark::State& state)
     Aufbau aufbau;
     const auto alloy = komponenten(aufbau);
     for (auto _ : state) // NOLINT(clang-analyzer-deadcode.DeadStores)
-        benchmark::DoNotOptimize(konzentrationsreihe(aufbau.calc, aufbau.parser, alloy, 0, Fermienergie));
+        benchmark::DoNotOptimize(konzentrationsreihe(aufbau.calc, alloy, 0, Fermienergie));
 }
 
 /// The same formulas from ready numbers, without a check anywhere.
@@ -70,8 +70,8 @@ void reiheBloss(benchmark::State& state)
 {
     Aufbau aufbau;
     const auto alloy = komponenten(aufbau);
-    auto teile = anteile(aufbau.parser, alloy);
-    const Reihe expected = konzentrationsreihe(aufbau.calc, aufbau.parser, alloy, 0, Fermienergie);
+    auto teile = anteile(alloy);
+    const Reihe expected = konzentrationsreihe(aufbau.calc, alloy, 0, Fermienergie);
     if (std::abs(bareSeries(teile)[40] - expected[40]) > 1e-5F * expected[40])
         state.SkipWithError("rechnet anders als die Reihe");
     for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
@@ -156,7 +156,7 @@ void nurZeichnen(benchmark::State& state)
 {
     Aufbau aufbau;
     const Rechteck plot = plotArea(Bildgroesse.width(), Bildgroesse.height());
-    const Reihe values = konzentrationsreihe(aufbau.calc, aufbau.parser, komponenten(aufbau), 0, Fermienergie);
+    const Reihe values = konzentrationsreihe(aufbau.calc, komponenten(aufbau), 0, Fermienergie);
     const auto [smallest, largest] = endValues(values);
     const Bereich range = yBereich(smallest, largest);
     const Abbildung abbildung(plot.width, plot.height, {0, 100}, range);

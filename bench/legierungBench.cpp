@@ -1,12 +1,12 @@
 #include <array>
 #include <cmath>
 #include <string_view>
+#include <vector>
 
 #include <benchmark/benchmark.h>
 
 #include "bench/Aufbau.h"
-#include "core/Zahlentext.h"
-#include "model/Konstanten.h"
+#include "bench/BloesseLegierung.h"
 
 namespace zerna {
 
@@ -14,9 +14,6 @@ namespace {
 
 constexpr std::array<std::string_view, MaxKomponenten> Zahlentexte{"3", "1", "2", "2", "0,6"};
 constexpr std::array<std::string_view, MaxKomponenten> Formeltexte{"6/2", "2*e-4,4", "sqrt(4)", "pow(2;1)", "z_Ni"};
-constexpr std::size_t Groessenzahl = 18;
-
-using Groessen = std::array<float, Groessenzahl>;
 
 /// The compositions that the loops go through, so that no result can be reused.
 std::array<float, MaxKomponenten> prozente(int step)
@@ -25,94 +22,7 @@ std::array<float, MaxKomponenten> prozente(int step)
     return {60.0F - x, 20.0F + x, 10.0F, 7.5F, 2.5F};
 }
 
-/// The same formulas from ready numbers, without a check anywhere.
-class BareAlloy {
-public:
-    struct Component {
-        float prozent = 0;
-        float masse = 0;
-        float dichte = 0;
-        float valenz = 0;
-    };
-
-    explicit BareAlloy(Aufbau& aufbau)
-    {
-        for (std::size_t i = 0; i < m_components.size(); ++i) {
-            const clsElement& element = *aufbau.elements.Item(Aufbau::Symbole.at(i));
-            const float valenz = singleFromText(aufbau.parser.Parse(element.Valenz_Temp()));
-            m_components.at(i) = {0, element.Masse(), element.Dichte(), valenz};
-        }
-    }
-
-    void setProzent(std::size_t index, float prozent) { m_components[index].prozent = prozent; }
-
-    void recalculate()
-    {
-        float valenz = 0;
-        float molvolumen = 0;
-        float dichte = 0;
-        for (const Component& c : m_components) {
-            const double p = c.prozent;
-            valenz = static_cast<float>(valenz + c.valenz * p);
-            molvolumen = static_cast<float>(molvolumen + p * c.masse / c.dichte);
-            dichte = static_cast<float>(dichte + c.dichte * p);
-        }
-        m_valenz = static_cast<float>(valenz / 100.0);
-        m_dichte = static_cast<float>(dichte / 100.0);
-        molvolumen = static_cast<float>(molvolumen / 100.0);
-        m_teilchen = static_cast<float>(AvogadroProKubikmeter / molvolumen);
-        m_kf2 = static_cast<float>(m_kf2Factor * std::pow(electrons(), 1.0 / 3.0));
-    }
-
-    Groessen quantities() const
-    {
-        return {m_valenz, static_cast<float>(m_teilchen * 1e-27), m_dichte, static_cast<float>(1.0 / m_teilchen),
-            static_cast<float>(1 / electrons() * m_hallFactor),
-            static_cast<float>(std::pow(electrons(), -2.0 / 3.0) * m_thermoFactor),
-            static_cast<float>(m_plasmonFactor * std::sqrt(electrons())), fermi(), m_kf2, wavelength(),
-            static_cast<float>(5.0 / 4.0 * wavelength()), static_cast<float>(m_teilchen / 1e27 * m_valenz),
-            static_cast<float>(std::pow(5.0 / 4.0 * wavelength(), 3) * m_teilchen * (Pi / 6) * 1e-27),
-            static_cast<float>(3.0 / 2.0 * m_valenz / fermi()),
-            static_cast<float>(fermi() * ElektronvoltInJoule / m_boltzmann), static_cast<float>(3.0 / 5.0 * fermi()),
-            systemEnergy(),
-            static_cast<float>(
-                m_teilchen * (2.0 / 3.0) * KubiknanometerInKubikmeter * m_valenz * fermi() * ElektronvoltInJoule)};
-    }
-
-private:
-    double electrons() const { return static_cast<double>(m_valenz) * m_teilchen; }
-    float fermi() const { return static_cast<float>(m_fermiFactor * std::pow(electrons(), 2.0 / 3.0)); }
-    float wavelength() const { return static_cast<float>(2 * Pi / m_kf2); }
-
-    float systemEnergy() const
-    {
-        double c = 2.0 / 5.0 * std::sqrt(2.0) / Pi / Pi;
-        c = c / std::pow(m_planck, 3);
-        c = std::pow(m_mass, 3.0 / 2.0) * c;
-        return static_cast<float>(
-            std::pow(fermi() * ElektronvoltInJoule, 5.0 / 2.0) * c * (ElektronvoltInJoule / NanometerInMeter));
-    }
-
-    std::array<Component, MaxKomponenten> m_components{};
-    double m_planck = 1.0545716e-34F;
-    double m_mass = 9.109382e-31F;
-    double m_boltzmann = 1.38065e-23F;
-    double m_charge = 1.6021765e-19F;
-    float m_plasmonFactor =
-        static_cast<float>(m_charge * m_planck / std::sqrt(static_cast<double>(8.065874e-42F)) / ElektronvoltInJoule);
-    float m_kf2Factor = static_cast<float>(2 * std::cbrt(3 * Pi * Pi) * NanometerInMeter);
-    float m_fermiFactor =
-        static_cast<float>(m_planck * m_planck / 2 / m_mass * std::pow(3 * Pi * Pi, 2.0 / 3.0) / ElektronvoltInJoule);
-    float m_thermoFactor = static_cast<float>(
-        -2 * m_boltzmann * m_boltzmann * m_mass / (m_planck * m_planck * m_charge * std::pow(3 / Pi, 2.0 / 3.0)));
-    float m_hallFactor = static_cast<float>(-1 / m_charge);
-    float m_valenz = 0;
-    float m_dichte = 0;
-    float m_teilchen = 0;
-    float m_kf2 = 0;
-};
-
-Groessen quantitiesOf(const clsCalc& calc)
+BloesseLegierung::Groessen quantitiesOf(const clsCalc& calc)
 {
     return {calc.Valenz(), calc.Teilchenzahldichte(), calc.Dichte(), calc.Atomvolumen(), calc.HallKoeffizient(),
         calc.Thermokraft(), calc.Plasmonenenergie(), calc.Fermienergie(), calc.Kf_2(), calc.Friedelwellenlaenge(),
@@ -121,7 +31,7 @@ Groessen quantitiesOf(const clsCalc& calc)
 }
 
 /// Both must compute the same, or the comparison says nothing.
-bool agree(const Groessen& a, const Groessen& b)
+bool agree(const BloesseLegierung::Groessen& a, const BloesseLegierung::Groessen& b)
 {
     for (std::size_t i = 0; i < a.size(); ++i) {
         if (!(std::abs(a.at(i) - b.at(i)) <= 1e-6F * std::abs(b.at(i))))
@@ -134,7 +44,7 @@ void legierung(benchmark::State& state, const std::array<std::string_view, MaxKo
 {
     Aufbau aufbau;
     aufbau.setValenztexte(valenztexte);
-    BareAlloy bare(aufbau);
+    BloesseLegierung bare(aufbau);
     for (std::size_t i = 0; i < valenztexte.size(); ++i)
         bare.setProzent(i, prozente(0).at(i));
     bare.recalculate();
@@ -150,12 +60,30 @@ void legierung(benchmark::State& state, const std::array<std::string_view, MaxKo
     }
 }
 
+/// All components at once, their numbers read.
+void legierungAufEinmal(benchmark::State& state)
+{
+    Aufbau aufbau;
+    aufbau.setValenztexte(Zahlentexte);
+    std::vector<Legierungskomponente> alloy;
+    for (std::size_t i = 0; i < Zahlentexte.size(); ++i)
+        alloy.push_back(aufbau.komponente(i, 0));
+    int step = 0;
+    for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
+        const auto p = prozente(++step);
+        for (std::size_t i = 0; i < p.size(); ++i)
+            alloy[i].prozent = p[i];
+        aufbau.calc.Legierung_Setzen(alloy);
+        benchmark::DoNotOptimize(quantitiesOf(aufbau.calc));
+    }
+}
+
 /// Recalculates after each component, as the calculator must, or only once after the last.
 void bareAlloy(benchmark::State& state, bool afterEach)
 {
     Aufbau aufbau;
     aufbau.setValenztexte(Zahlentexte);
-    BareAlloy bare(aufbau);
+    BloesseLegierung bare(aufbau);
     int step = 0;
     for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
         const auto p = prozente(++step);
@@ -175,6 +103,7 @@ void registerLegierungBenchmarks()
 {
     benchmark::RegisterBenchmark("Legierung/Zahlen", legierung, Zahlentexte);
     benchmark::RegisterBenchmark("Legierung/Formeln", legierung, Formeltexte);
+    benchmark::RegisterBenchmark("Legierung/auf einmal", legierungAufEinmal);
     benchmark::RegisterBenchmark("Legierung/bloße Schleife", bareAlloy, true);
     benchmark::RegisterBenchmark("Legierung/Schleife, einmal", bareAlloy, false);
 }

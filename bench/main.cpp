@@ -56,6 +56,10 @@ constexpr std::array Verhaeltnisse{
     Verhaeltnis{"Legierung, Zahlen : bloße Schleife", "Legierung/Zahlen", "Legierung/bloße Schleife", Hoechstens, 3},
     Verhaeltnis{"Legierung, Formeln : bloße Schleife", "Legierung/Formeln", "Legierung/bloße Schleife", OhneZiel, 0},
     Verhaeltnis{"Legierung, Zahlen : Schleife, einmal", "Legierung/Zahlen", "Legierung/Schleife, einmal", OhneZiel, 0},
+    Verhaeltnis{
+        "Legierung auf einmal : Schleife, einmal", "Legierung/auf einmal", "Legierung/Schleife, einmal", OhneZiel, 0},
+    Verhaeltnis{
+        "Bearbeitung bis zu den Größen : Formeln", "Bearbeitung/Größen", "Bearbeitung/bloße Formeln", Hoechstens, 1.5},
     Verhaeltnis{"Elemente laden : lesen und kopieren", "Elementdatei/laden", "Elementdatei/kopieren", Hoechstens, 2},
     Verhaeltnis{"Periodentafel : 103 Rechtecke", "Periodentafel/zeichnen", "Periodentafel/Rechtecke", Hoechstens, 1.3},
     Verhaeltnis{

@@ -19,11 +19,11 @@ constexpr int Fermienergie = 8;
 constexpr int Feinste = 10;
 constexpr QSize Bildgroesse(1000, 700);
 
-std::vector<Reihenkomponente> komponenten(const Aufbau& aufbau)
+std::vector<Legierungskomponente> komponenten(Aufbau& aufbau)
 {
-    std::vector<Reihenkomponente> result;
+    std::vector<Legierungskomponente> result;
     for (std::size_t i = 0; i < 3; ++i)
-        result.push_back({aufbau.elements.Item(Aufbau::Symbole.at(i)), 0});
+        result.push_back(aufbau.komponente(i, 0));
     return result;
 }
 
@@ -32,14 +32,14 @@ void gitter(benchmark::State& state)
     Aufbau aufbau;
     const auto three = komponenten(aufbau);
     for (auto _ : state) // NOLINT(clang-analyzer-deadcode.DeadStores)
-        benchmark::DoNotOptimize(ternaergitter(aufbau.calc, aufbau.parser, three, Fermienergie, Feinste));
+        benchmark::DoNotOptimize(ternaergitter(aufbau.calc, three, Fermienergie, Feinste));
 }
 
 /// The same formulas from ready numbers, without a check anywhere.
 void gitterBloss(benchmark::State& state)
 {
     Aufbau aufbau;
-    const auto teile = anteile(aufbau.parser, komponenten(aufbau));
+    const auto teile = anteile(komponenten(aufbau));
     const double factor =
         1.0545716e-34 * 1.0545716e-34 / 2 / 9.109382e-31 * std::pow(3 * Pi * Pi, 2.0 / 3.0) / ElektronvoltInJoule;
     for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
@@ -66,7 +66,7 @@ void frames(benchmark::State& state)
 {
     Aufbau aufbau;
     Ternaerdiagramm diagramm;
-    diagramm.setGitter(ternaergitter(aufbau.calc, aufbau.parser, komponenten(aufbau), Fermienergie, Feinste), {});
+    diagramm.setGitter(ternaergitter(aufbau.calc, komponenten(aufbau), Fermienergie, Feinste), {});
     QImage image(Bildgroesse, QImage::Format_ARGB32_Premultiplied);
     std::vector<double> milliseconds;
     for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
@@ -86,7 +86,7 @@ void frames(benchmark::State& state)
 void dreiecke(benchmark::State& state)
 {
     Aufbau aufbau;
-    const Ternaergitter grid = ternaergitter(aufbau.calc, aufbau.parser, komponenten(aufbau), Fermienergie, Feinste);
+    const Ternaergitter grid = ternaergitter(aufbau.calc, komponenten(aufbau), Fermienergie, Feinste);
     const auto triangles = triangulate(grid);
     const Wertebereich range = wertebereich(grid);
     QImage image(Bildgroesse, QImage::Format_ARGB32_Premultiplied);
