@@ -7,29 +7,20 @@
 
 namespace zerna {
 
-std::vector<Dateityp> exportTypes(bool isDiagram, bool is3D)
+namespace {
+
+std::string withExtension(const std::string& name, std::string_view extension)
 {
-    if (!isDiagram)
-        return {{"DAT-File (*.dat)", "*.dat"}, {"Friedelminima (*.fri)", "*.fri"}};
-    if (is3D)
-        return {{"Daten 3D (*.3dd)", "*.3dd"}, {"Bitmap (*.bmp)", ""}};
-    return {{"DAT-File (*.dat)", "*.dat"}, {"Bitmap (*.bmp)", ""}};
+    return name.ends_with(extension) ? name : name + std::string(extension);
 }
 
-std::string withExtension(std::string_view name, int filterIndex, bool isDiagram, bool is3D)
-{
-    std::string_view extension;
-    if (filterIndex == 1)
-        extension = isDiagram && is3D ? ".3dd" : ".dat";
-    else if (filterIndex == 2)
-        extension = isDiagram ? ".bmp" : ".fri";
-    return name.ends_with(extension) ? std::string(name) : std::string(name).append(extension);
-}
+} // namespace
 
-std::string ExportFileDialog(SaveFileDialog& dialog, int& filterIndex, bool isDiagram, bool is3D)
+std::string ExportFileDialog(
+    SaveFileDialog& dialog, int& filterIndex, std::string_view titel, std::span<const Exportart> arten)
 {
-    const auto choice = dialog.choose("Daten exportieren ...", exportTypes(isDiagram, is3D));
-    if (!choice)
+    const auto choice = dialog.choose(titel, arten);
+    if (!choice || choice->filterIndex < 1 || choice->filterIndex > std::ssize(arten))
         return {};
     const std::filesystem::path path = pathFromUtf8(choice->path);
     const std::string typed = utf8FromPath(path.filename());
@@ -39,7 +30,8 @@ std::string ExportFileDialog(SaveFileDialog& dialog, int& filterIndex, bool isDi
     std::filesystem::current_path(path.parent_path(), failed);
     if (failed)
         return {};
-    std::string name = withExtension(typed, choice->filterIndex, isDiagram, is3D);
+    const auto chosen = static_cast<std::size_t>(choice->filterIndex) - 1;
+    std::string name = withExtension(typed, arten[chosen].endung);
     const bool hitsAnother = name != typed && std::filesystem::exists(pathFromUtf8(name), failed);
     if (hitsAnother && !dialog.confirmReplace(name))
         return {};

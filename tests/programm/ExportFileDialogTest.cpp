@@ -6,55 +6,51 @@
 namespace zerna {
 
 struct ExportFileDialogTest : FilesTest {
-    std::string ask(const std::string& name, int type, bool isDiagram = false, bool is3D = false)
+    std::string ask(const std::string& name, int type)
     {
         dialog.answer = {(folder / name).string(), type};
         filterIndex = 7;
-        return ExportFileDialog(dialog, filterIndex, isDiagram, is3D);
+        return ExportFileDialog(dialog, filterIndex, "Titel", arten);
     }
 
+    const std::vector<Exportart> arten{{"Text", "*.dat", ".dat", {}}, {"Bild", "", ".bmp", {}}};
     KeptCurrentFolder kept;
     FakeSaveDialog dialog;
     int filterIndex = 7;
 };
 
-TEST_F(ExportFileDialogTest, AddsTheExtensionOfTheTypeAndEntersTheFolder)
+TEST_F(ExportFileDialogTest, AddsTheExtensionOfTheKindAndEntersTheFolder)
 {
-    const std::tuple<const char*, int, bool, bool, const char*> rows[] = {
-        {"werte.DAT", 1, false, false, "werte.DAT.dat"}, // Intended: case counts
-        {"x.fri", 1, false, false, "x.fri.dat"},
-        {"x.fri", 2, false, false, "x.fri"},
-        {"ä b.dat", 2, false, false, "ä b.dat.fri"},
-        {"bild", 2, true, false, "bild.bmp"},
-        {"x.3dd", 1, true, false, "x.3dd.dat"},
-        {"werte.dat", 1, true, true, "werte.dat.3dd"},
+    const struct {
+        const char* name;
+        const char* typed;
+        int type;
+        const char* file;
+    } rows[] = {
+        {"without extension", "werte", 1, "werte.dat"},
+        {"with it", "werte.dat", 1, "werte.dat"},
+        {"in capitals (intended: case counts)", "werte.DAT", 1, "werte.DAT.dat"},
+        {"with another one", "x.bmp", 1, "x.bmp.dat"},
+        {"second kind", "bild", 2, "bild.bmp"},
+        {"second kind with the first one's", "ä b.dat", 2, "ä b.dat.bmp"},
     };
-    for (const auto& [typed, type, isDiagram, is3D, name] : rows) {
-        SCOPED_TRACE(typed);
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
         std::filesystem::current_path("/");
-        EXPECT_EQ(ask(typed, type, isDiagram, is3D), name);
-        EXPECT_EQ(filterIndex, type);
+        EXPECT_EQ(ask(row.typed, row.type), row.file);
+        EXPECT_EQ(filterIndex, row.type);
         EXPECT_EQ(std::filesystem::current_path(), folder.path());
-    }
-}
-
-TEST_F(ExportFileDialogTest, OffersTheTypesOfTheExport)
-{
-    const std::string title = "Daten exportieren ...";
-    for (const auto& [isDiagram, is3D, types] :
-        {std::tuple(false, false, "|DAT-File (*.dat)|*.dat|Friedelminima (*.fri)|*.fri"),
-            {true, false, "|DAT-File (*.dat)|*.dat|Bitmap (*.bmp)|"},
-            {true, true, "|Daten 3D (*.3dd)|*.3dd|Bitmap (*.bmp)|"}}) {
-        ask("a", 1, isDiagram, is3D);
-        EXPECT_EQ(dialog.offered, title + types);
+        EXPECT_EQ(dialog.offered, "Titel|Text|*.dat|Bild|");
     }
 }
 
 TEST_F(ExportFileDialogTest, LeavesEverythingAsItWasOnCancel)
 {
     const auto before = std::filesystem::current_path();
-    EXPECT_EQ(ExportFileDialog(dialog, filterIndex, false, false), "");
+    EXPECT_EQ(ExportFileDialog(dialog, filterIndex, "Titel", arten), "");
     EXPECT_EQ(ask("fehlt/a.dat", 1), "") << "the folder has disappeared";
+    EXPECT_EQ(ask("a", 0), "") << "no kind";
+    EXPECT_EQ(ask("a", 3), "") << "no such kind";
     EXPECT_EQ(filterIndex, 7);
     EXPECT_EQ(std::filesystem::current_path(), before);
 }

@@ -41,11 +41,11 @@ private:
 /// A save dialog that gives its answer at once; no answer is a cancel.
 class FakeSaveDialog : public SaveFileDialog {
 public:
-    std::optional<Choice> choose(std::string_view title, std::span<const Dateityp> types) override
+    std::optional<Choice> choose(std::string_view title, std::span<const Exportart> arten) override
     {
         offered = title;
-        for (const Dateityp& type : types)
-            offered.append("|").append(type.description).append("|").append(type.pattern);
+        for (const Exportart& art : arten)
+            offered.append("|").append(art.beschreibung).append("|").append(art.muster);
         return answer;
     }
 

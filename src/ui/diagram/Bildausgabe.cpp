@@ -9,29 +9,22 @@
 #include <QSvgGenerator>
 
 #include <algorithm>
-#include <array>
-
-#include "core/Datei.h"
-#include "core/Exportdatei.h"
-#include "programm/Exportspeicherung.h"
+#include <utility>
 
 namespace zerna {
 
 namespace {
 
-constexpr std::array<Dateityp, 3> Bildtypen{
-    {{"PNG-Bild (*.png)", "*.png"}, {"SVG-Grafik (*.svg)", "*.svg"}, {"PDF-Dokument (*.pdf)", "*.pdf"}}};
-
-QByteArray encoded(const QImage& image, const char* format)
+std::string encoded(const QImage& image, const char* format)
 {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     image.save(&buffer, format);
-    return bytes;
+    return bytes.toStdString();
 }
 
-QByteArray asSvg(const Bildmaler& maler, const QSize& size)
+std::string asSvg(const Bildmaler& maler, const QSize& size)
 {
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -43,11 +36,11 @@ QByteArray asSvg(const Bildmaler& maler, const QSize& size)
     QPainter painter(&generator);
     maler(painter, size);
     painter.end();
-    return bytes;
+    return bytes.toStdString();
 }
 
 /// One page of the picture's own size, a logical pixel being 1/96 inch.
-QByteArray asPdf(const Bildmaler& maler, const QSize& size)
+std::string asPdf(const Bildmaler& maler, const QSize& size)
 {
     constexpr int PixelsPerInch = 96;
     constexpr double PointsPerPixel = 72.0 / PixelsPerInch;
@@ -61,30 +54,7 @@ QByteArray asPdf(const Bildmaler& maler, const QSize& size)
     QPainter painter(&writer);
     maler(painter, size);
     painter.end();
-    return bytes;
-}
-
-void write(MessageBoxes& boxes, const std::string& path, const QByteArray& bytes)
-{
-    try {
-        writeExport(pathFromUtf8(path), {bytes.constData(), static_cast<std::size_t>(bytes.size())});
-    } catch (const Laufzeitfehler& error) {
-        showSaveFailure(boxes, path, error.what());
-    }
-}
-
-/// The chosen path with the extension of its type; empty if the user does not want another file replaced.
-std::string completePath(SaveFileDialog& dialog, const SaveFileDialog::Choice& choice)
-{
-    const std::string_view extension =
-        Bildtypen.at(static_cast<std::size_t>(std::clamp(choice.filterIndex, 1, 3)) - 1).pattern.substr(1);
-    if (choice.path.ends_with(extension))
-        return choice.path;
-    std::string path = choice.path + std::string(extension);
-    std::error_code unknown;
-    if (std::filesystem::exists(pathFromUtf8(path), unknown) && !dialog.confirmReplace(path))
-        return {};
-    return path;
+    return bytes.toStdString();
 }
 
 } // namespace
@@ -101,26 +71,19 @@ QImage imageOf(const Bildmaler& maler, const QSize& size, double devicePixelRati
     return image;
 }
 
-void saveBitmap(MessageBoxes& boxes, const std::string& name, const QImage& image)
+Exportart bitmap(std::function<QImage()> bild)
 {
-    write(boxes, name, encoded(image, "BMP"));
+    return {"Bitmap (*.bmp)", "", ".bmp", [bild = std::move(bild)] { return encoded(bild(), "BMP"); }};
 }
 
-void savePictureAs(MessageBoxes& boxes, SaveFileDialog& dialog, const Bildmaler& maler, const QSize& size)
+std::vector<Exportart> bildarten(const Bildmaler& maler, const QSize& size)
 {
     constexpr double PngScale = 2;
-    const auto choice = dialog.choose("Bild speichern", Bildtypen);
-    if (!choice)
-        return;
-    const std::string path = completePath(dialog, *choice);
-    if (path.empty())
-        return;
-    if (choice->filterIndex == 2)
-        write(boxes, path, asSvg(maler, size));
-    else if (choice->filterIndex == 3)
-        write(boxes, path, asPdf(maler, size));
-    else
-        write(boxes, path, encoded(imageOf(maler, size, PngScale), "PNG"));
+    return {
+        {"PNG-Bild (*.png)", "*.png", ".png", [=] { return encoded(imageOf(maler, size, PngScale), "PNG"); }},
+        {"SVG-Grafik (*.svg)", "*.svg", ".svg", [=] { return asSvg(maler, size); }},
+        {"PDF-Dokument (*.pdf)", "*.pdf", ".pdf", [=] { return asPdf(maler, size); }},
+    };
 }
 
 void printPicture(QWidget* parent, const Bildmaler& maler, const QSize& size)

@@ -11,7 +11,6 @@
 #include <cmath>
 
 #include "core/Zahlentext.h"
-#include "programm/Exportspeicherung.h"
 #include "ui/diagram/Bildausgabe.h"
 #include "ui/diagram/Striche.h"
 #include "ui/diagram/conDisplay.h"
@@ -107,15 +106,14 @@ void Diagrammflaeche::save()
         m_display->Speichern_Diagramm_2D();
         return;
     }
-    int filterIndex = 1;
-    const std::string name = ExportFileDialog(m_dialoge.save, filterIndex, true, m_inhalt == Inhalt::Ternaer);
-    if (name.empty())
-        return;
     const auto maler = [this](QPainter& painter, const QSize& size) { paintPicture(painter, size); };
-    if (filterIndex == 1)
-        saveExport(m_programm.boxes(), name, values());
-    else
-        saveBitmap(m_programm.boxes(), name, imageOf(maler, size(), devicePixelRatioF()));
+    const auto text = [this] { return values(); };
+    const auto bild = [&] { return imageOf(maler, size(), devicePixelRatioF()); };
+    const Exportart arten[] = {
+        m_inhalt == Inhalt::PSE ? datDatei(text) : textdatei("Daten 3D (*.3dd)", "*.3dd", ".3dd", text),
+        bitmap(bild),
+    };
+    exportieren(m_programm.boxes(), m_dialoge.save, Exporttitel, arten);
 }
 
 std::string Diagrammflaeche::values() const
@@ -155,7 +153,7 @@ void Diagrammflaeche::contextMenuEvent(QContextMenuEvent* event)
     });
     menu.addSeparator();
     menu.addAction(QStringLiteral("Bild speichern ..."), this,
-        [this, maler] { savePictureAs(m_programm.boxes(), m_dialoge.save, maler, size()); });
+        [this, maler] { exportieren(m_programm.boxes(), m_dialoge.save, "Bild speichern", bildarten(maler, size())); });
     menu.addAction(QStringLiteral("Drucken ..."), this, [this, maler] { printPicture(this, maler, size()); });
     menu.exec(event->globalPos());
 }

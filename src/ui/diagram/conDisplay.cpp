@@ -10,7 +10,6 @@
 
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
-#include "programm/Exportspeicherung.h"
 #include "ui/diagram/Bildausgabe.h"
 #include "ui/diagram/Plotflaeche.h"
 #include "ui/platform/QtText.h"
@@ -346,29 +345,24 @@ void conDisplay::resizeEvent(QResizeEvent* event)
 
 void conDisplay::Speichern_Diagramm_2D()
 {
-    int filterIndex = 1;
-    const std::string name = ExportFileDialog(m_dialoge.save, filterIndex, true, false);
-    if (name.empty())
-        return;
-    if (filterIndex == 1)
-        saveValues(name);
-    else
-        savePicture(name);
+    const Exportart arten[] = {datDatei([this] { return chosenValues(); }), bitmap([this] { return plotImage(); })};
+    exportieren(m_programm.boxes(), m_dialoge.save, Exporttitel, arten);
 }
 
-void conDisplay::saveValues(const std::string& name)
+/// The values at the step width that the user is asked for; none on cancel.
+std::optional<std::string> conDisplay::chosenValues() const
 {
     const auto& element = m_komponenten.at(slot(m_variable)).komponente.element;
     const std::string prompt =
         "Bitte geben Sie die Schrittweite der at% für\r\n" + (element ? element->Name() : std::string()) + " an.";
-    if (const auto answer = m_dialoge.input.ask("Diagramm speichern", prompt, "1"))
-        saveExport(m_programm.boxes(), name, values(schrittweite(*answer)));
+    const auto answer = m_dialoge.input.ask("Diagramm speichern", prompt, "1");
+    return answer ? std::optional(values(schrittweite(*answer))) : std::nullopt;
 }
 
-void conDisplay::savePicture(const std::string& name)
+QImage conDisplay::plotImage() const
 {
     const auto paintPic = [this](QPainter& painter, const QSize&) { paintPlot(painter, m_layout); };
-    saveBitmap(m_programm.boxes(), name, imageOf(paintPic, plotSize(m_layout.plot), devicePixelRatioF()));
+    return imageOf(paintPic, plotSize(m_layout.plot), devicePixelRatioF());
 }
 
 } // namespace zerna

@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include <array>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -109,8 +110,8 @@ private:
     void showPosition(double x, double y);
     void moveCursor(int prozent);
     QString positionText(double x, double y) const;
-    void savePicture(const std::string& name);
-    void saveValues(const std::string& name);
+    std::optional<std::string> chosenValues() const;
+    QImage plotImage() const;
 
     Programm& m_programm;
     Dialoge m_dialoge;

@@ -6,7 +6,7 @@
 #include "core/CheckedArithmetic.h"
 #include "core/Zahlentext.h"
 #include "model/Konstanten.h"
-#include "programm/Exportspeicherung.h"
+#include "programm/Exportart.h"
 #include "ui/button/StyledButton.h"
 #include "ui/controls/Knopfzeile.h"
 #include "ui/controls/Wertanzeige.h"
@@ -182,19 +182,14 @@ void Ergebnisbereich::copyText()
 
 void Ergebnisbereich::save()
 {
-    int filterIndex = 1;
-    const std::string name = ExportFileDialog(m_saveDialog, filterIndex, false, false);
-    if (name.empty())
+    const Exportart arten[] = {
+        datDatei([this] { return ergebnisdatei(m_programm.Calc(), m_zeilen, m_texte); }),
+        friedelminima([this] { return friedeldatei(m_programm.Calc()); }),
+    };
+    if (!exportieren(m_programm.boxes(), m_saveDialog, Exporttitel, arten))
         return;
-    try {
-        const clsCalc& calc = m_programm.Calc();
-        const std::string content = filterIndex == 1 ? ergebnisdatei(calc, m_zeilen, m_texte) : friedeldatei(calc);
-        saveExport(m_programm.boxes(), name, content);
-        m_friedelindex = 0;
-        showFriedel();
-    } catch (const Laufzeitfehler& error) {
-        showSaveFailure(m_programm.boxes(), name, error.what());
-    }
+    m_friedelindex = 0;
+    showFriedel();
 }
 
 } // namespace zerna

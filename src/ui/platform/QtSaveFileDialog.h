@@ -7,7 +7,7 @@ namespace zerna {
 /// The toolkit's save dialog.
 class QtSaveFileDialog : public SaveFileDialog {
 public:
-    std::optional<Choice> choose(std::string_view title, std::span<const Dateityp> types) override;
+    std::optional<Choice> choose(std::string_view title, std::span<const Exportart> arten) override;
     bool confirmReplace(std::string_view name) override;
 };
 

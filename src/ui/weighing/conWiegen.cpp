@@ -13,7 +13,6 @@
 #include "core/Fehlermeldung.h"
 #include "core/Zahlentext.h"
 #include "model/Einwaage.h"
-#include "programm/Exportspeicherung.h"
 #include "ui/button/StyledButton.h"
 #include "ui/controls/Knopfzeile.h"
 #include "ui/controls/Wertfeld.h"
@@ -374,10 +373,8 @@ void conWiegen::copy() { copyToClipboard(toQt(protokoll())); }
 
 void conWiegen::save()
 {
-    int filterIndex = 1;
-    const std::string name = ExportFileDialog(m_saveDialog, filterIndex, false, false);
-    if (!name.empty())
-        saveExport(m_programm.boxes(), name, protokoll());
+    const auto text = [this] { return protokoll(); };
+    exportieren(m_programm.boxes(), m_saveDialog, Exporttitel, std::array{datDatei(text), friedelminima(text)});
 }
 
 } // namespace zerna

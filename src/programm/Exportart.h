@@ -1,0 +1,43 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "core/MessageBoxes.h"
+
+namespace zerna {
+
+class SaveFileDialog;
+
+/// One way to save something: what the save dialog calls it, the extension it appends, and how its bytes are made.
+struct Exportart {
+    std::string_view beschreibung; ///< "DAT-File (*.dat)"
+    std::string_view muster; ///< "*.dat"; empty for the bitmap entry, which has none of its own
+    std::string_view endung; ///< ".dat"
+
+    /// The file's bytes; no value: the user has changed their mind. May throw Laufzeitfehler.
+    std::function<std::optional<std::string>()> bytes;
+};
+
+/// An export's text, UTF-8 with CR LF; no value: the user has changed their mind. May throw Laufzeitfehler.
+using Exporttext = std::function<std::optional<std::string>()>;
+
+/// A kind whose bytes are a text in Windows-1252.
+Exportart textdatei(std::string_view beschreibung, std::string_view muster, std::string_view endung, Exporttext text);
+
+/// The text kinds that several exports offer.
+Exportart datDatei(Exporttext text);
+Exportart friedelminima(Exporttext text);
+
+/// Title of the save dialog for values.
+inline constexpr std::string_view Exporttitel = "Daten exportieren ...";
+
+/// Lets the user choose a file name and one of the kinds, and writes that kind's bytes under that name. A failure is
+/// shown with the file's name and the reason and leaves an earlier file of that name untouched. Whether a file was
+/// written.
+bool exportieren(MessageBoxes& boxes, SaveFileDialog& dialog, std::string_view titel, std::span<const Exportart> arten);
+
+} // namespace zerna

@@ -1,0 +1,70 @@
+#include "programm/Exportart.h"
+
+#include "support/FakeServices.h"
+#include "support/FilesTest.h"
+#include "support/FullDisk.h"
+
+namespace zerna {
+
+/// Offers a text that tests set, and one that cannot be made.
+struct ExportartTest : FilesTest {
+    bool save(const std::string& typed, int type)
+    {
+        dialog.answer = {(folder / typed).string(), type};
+        return exportieren(boxes, dialog, Exporttitel, arten);
+    }
+
+    std::string contentOf(const std::string& name) const { return bytesOf(folder / name); }
+
+    std::optional<std::string> text = "5 g/cm³\r\n";
+    int made = 0;
+    const std::vector<Exportart> arten{datDatei([this] { return ++made, text; }),
+        friedelminima([]() -> std::string { throw Laufzeitfehler(Fehler::Ueberlauf); })};
+    KeptCurrentFolder kept;
+    FakeSaveDialog dialog;
+};
+
+TEST_F(ExportartTest, ChosenKindIsWrittenAndNoOtherMade)
+{
+    EXPECT_TRUE(save("a", 1));
+    EXPECT_EQ(contentOf("a.dat"), "5 g/cm\xB3\r\n");
+    EXPECT_EQ(dialog.offered, "Daten exportieren ...|DAT-File (*.dat)|*.dat|Friedelminima (*.fri)|*.fri");
+    EXPECT_TRUE(boxes.shown.empty());
+    EXPECT_FALSE(save("a", 2));
+    EXPECT_EQ(made, 1);
+}
+
+TEST_F(ExportartTest, NothingIsWrittenWhereTheUserGivesUp)
+{
+    EXPECT_FALSE(exportieren(boxes, dialog, Exporttitel, arten)) << "the dialog is cancelled";
+    writeBytes(folder / "a.dat", "alt");
+    EXPECT_FALSE(save("a", 1)) << "the added extension would hit another file";
+    EXPECT_EQ(made, 0);
+    dialog.replace = true;
+    text.reset();
+    EXPECT_FALSE(save("a", 1)) << "a question on the way to the bytes is cancelled";
+    EXPECT_EQ(contentOf("a.dat"), "alt");
+    EXPECT_TRUE(boxes.shown.empty());
+    text = "neu";
+    EXPECT_TRUE(save("a", 1));
+    EXPECT_EQ(contentOf("a.dat"), "neu");
+}
+
+TEST_F(ExportartTest, FailureNamesFileAndReasonAndLeavesTheEarlierFile)
+{
+    writeBytes(folder / "a.dat", "alt");
+    EXPECT_FALSE(save("b", 2)) << "the bytes cannot be made";
+    EXPECT_FALSE(std::filesystem::exists(folder / "b.fri"));
+    {
+        const FullDisk disk(4);
+        EXPECT_FALSE(save("a.dat", 1));
+    }
+    EXPECT_EQ(contentOf("a.dat"), "alt");
+    ASSERT_EQ(boxes.shown.size(), 2U);
+    EXPECT_EQ(boxes.shown[0],
+        (RecordingBoxes::Box{
+            Icon::Exclamation, "Zerna", "Die Datei \"b.fri\" konnte nicht gespeichert werden:\r\nÜberlauf."}));
+    EXPECT_TRUE(boxes.shown[1].text.starts_with("Die Datei \"a.dat\" konnte nicht gespeichert werden:\r\n"));
+}
+
+} // namespace zerna
