@@ -115,7 +115,8 @@ def length_breaches(root):
 def build_breaches(root):
     """Sources that no CMakeLists.txt lists, and headers that nobody includes."""
     built = set()
-    for path in [*(root / "src").rglob("CMakeLists.txt"), *(root / "tests").rglob("CMakeLists.txt")]:
+    lists = [path for folder in ("src", "tests") for path in (root / folder).rglob("*")]
+    for path in [path for path in lists if path.name == "CMakeLists.txt" or path.suffix == ".cmake"]:
         for command, arguments in commands(path):
             folder = path.parent / arguments[0][1] if command == "zerna_ui_room" else path.parent
             built.update(folder / word.replace("${PROJECT_SOURCE_DIR}", str(root)) for _, word in arguments)

@@ -46,7 +46,7 @@ struct QtSaveFileDialogTest : testing::Test {
     KeptCurrentFolder kept;
     TemporaryFolder folder;
     QTranslator german;
-    const std::vector<Dateityp> types{{"DAT-File (*.dat)", "*.dat"}, {"Friedelminima (*.fri)", "*.fri"}};
+    const std::vector<Exportart> types{datDatei({}), friedelminima({})};
     QtSaveFileDialog dialog;
 };
 
