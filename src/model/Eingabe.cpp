@@ -92,7 +92,7 @@ bool Eingabe::balance()
         above[i] = m_zeilen.at(i).prozent.wert;
     }
     try {
-        at(m_anzahl - 1).prozent = zahlenfeld(ausgleichstext(above));
+        at(m_anzahl - 1).prozent = ausgleich(above);
         return true;
     } catch (const Laufzeitfehler&) {
         return false;
@@ -133,19 +133,22 @@ Aenderung Eingabe::setValenz(int zeile, std::string_view text)
 
 void Eingabe::writeDichte(int zeile, Eingabefeld feld)
 {
-    at(zeile).dichte = std::move(feld);
-    if (!at(zeile).dichte.fehler && m_current)
-        werteOf(m_current).dichte = at(zeile).dichte.wert;
+    const Eingabefeld& dichte = at(zeile).dichte = std::move(feld);
+    for (Zeile& row : m_zeilen) {
+        if (row.element == m_current && !dichte.fehler)
+            row.inKraft.dichte = dichte.wert;
+    }
     mirror(zeile);
 }
 
 void Eingabe::writeValenz(int zeile, Eingabefeld feld)
 {
-    at(zeile).valenz = std::move(feld);
-    if (m_current) {
-        Arbeitswerte& werte = werteOf(m_current);
-        werte.valenztext = at(zeile).valenz.text;
-        werte.valenz = at(zeile).valenz.wert;
+    const Eingabefeld& valenz = at(zeile).valenz = std::move(feld);
+    for (Zeile& row : m_zeilen) {
+        if (row.element == m_current) {
+            row.inKraft.valenztext = valenz.text;
+            row.inKraft.valenz = valenz.wert;
+        }
     }
     mirror(zeile);
 }
@@ -170,17 +173,6 @@ void Eingabe::mirror(int zeile)
     }
 }
 
-Eingabe::Arbeitswerte& Eingabe::werteOf(const std::shared_ptr<clsElement>& element)
-{
-    const auto found = std::ranges::find(m_werte, element, &Arbeitswerte::element);
-    if (found != m_werte.end())
-        return *found;
-    std::erase_if(m_werte, [this](const Arbeitswerte& werte) {
-        return std::ranges::find(m_zeilen, werte.element, &Zeile::element) == m_zeilen.end();
-    });
-    return m_werte.emplace_back(Arbeitswerte{element, 0, {}, 0});
-}
-
 bool Eingabe::istVollstaendig() const
 {
     return std::ranges::all_of(std::span(m_zeilen).first(static_cast<std::size_t>(m_anzahl)),
@@ -189,13 +181,13 @@ bool Eingabe::istVollstaendig() const
 
 std::optional<Legierung> Eingabe::legierung() const
 {
-    Legierung legierung;
-    for (int i = 0; i < m_anzahl; ++i) {
-        const Zeile& row = zeile(i);
-        const auto werte = std::ranges::find(m_werte, row.element, &Arbeitswerte::element);
-        if (werte == m_werte.end())
-            return std::nullopt;
-        legierung.add({row.element, row.prozent.wert, werte->dichte, werte->valenz});
+    std::optional<Legierung> legierung(std::in_place);
+    for (const Zeile& row : std::span(m_zeilen).first(static_cast<std::size_t>(m_anzahl))) {
+        if (!row.element) {
+            legierung.reset();
+            break;
+        }
+        legierung->add({row.element, row.prozent.wert, row.inKraft.dichte, row.inKraft.valenz});
     }
     return legierung;
 }
@@ -211,9 +203,11 @@ std::optional<Hindernis> Eingabe::hindernis() const
 
 void Eingabe::elementeSetzen() const
 {
-    for (const Arbeitswerte& werte : m_werte) {
-        werte.element->setDichte(werte.dichte);
-        werte.element->setValenz_Temp(werte.valenztext);
+    for (const Zeile& row : m_zeilen) {
+        if (!row.element)
+            continue;
+        row.element->setDichte(row.inKraft.dichte);
+        row.element->setValenz_Temp(row.inKraft.valenztext);
     }
 }
 

@@ -39,6 +39,15 @@ struct Hindernis {
 /// nothing that is computed. Rows of the same element share one density and one valence.
 class Eingabe {
 public:
+    /// Density (g/cm³) and valence in force for an element: those of the last texts that had a value.
+    struct Arbeitswerte {
+        float dichte = 0;
+        std::string valenztext;
+        float valenz = 0; ///< Unbekannt while its text gives none
+
+        bool operator==(const Arbeitswerte&) const = default;
+    };
+
     struct Zeile {
         std::shared_ptr<clsElement> element; ///< null until one is chosen
         Eingabefeld prozent; ///< at%
@@ -46,6 +55,7 @@ public:
         Eingabefeld dichte; ///< g/cm³
         int valenzwahl = ValenzStandard; ///< code of the valence choice
         Eingabefeld valenz;
+        Arbeitswerte inKraft; ///< for the element
 
         bool operator==(const Zeile&) const = default;
     };
@@ -105,27 +115,15 @@ public:
     bool operator==(const Eingabe&) const = default;
 
 private:
-    /// Density and valence in force for an element of some row.
-    struct Arbeitswerte {
-        std::shared_ptr<clsElement> element;
-        float dichte = 0;
-        std::string valenztext;
-        float valenz = 0;
-
-        bool operator==(const Arbeitswerte&) const = default;
-    };
-
     Zeile& at(int zeile) { return m_zeilen.at(static_cast<std::size_t>(zeile)); }
     bool balance();
     void writeDichte(int zeile, Eingabefeld feld);
     void writeValenz(int zeile, Eingabefeld feld);
     void mirror(int zeile);
-    Arbeitswerte& werteOf(const std::shared_ptr<clsElement>& element);
 
     const ElementCollection* m_elements;
     int m_anzahl = 1;
     std::array<Zeile, MaxKomponenten> m_zeilen;
-    std::vector<Arbeitswerte> m_werte;
     std::shared_ptr<clsElement> m_current; // maybe null
 };
 

@@ -1,6 +1,8 @@
 #include "model/Komposition.h"
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 
 #include "core/CheckedArithmetic.h"
 #include "core/Zahlentext.h"
@@ -79,13 +81,20 @@ int gespeicherteKomponentenzahl(std::string_view setting)
     return valid ? setting.front() - '0' : Standard;
 }
 
-std::string ausgleichstext(std::span<const float> prozente)
+Eingabefeld ausgleich(std::span<const float> prozente)
 {
     constexpr int Stellen = 7;
+    constexpr float Klein = 0.01F;
     float sum = 0;
     for (const float prozent : prozente)
         sum = toSingle(static_cast<double>(sum) + prozent);
-    return textWithDigits(toSingle(100.0 - sum), Stellen);
+    const float rest = toSingle(100.0 - sum);
+    // Mostly the shortest text is short enough, and reads back as what it was made of.
+    std::string text = textOfSingle(rest);
+    const bool isShort = text.size() <= Stellen && text.find('E') == std::string::npos;
+    if (isShort && (rest == 0 || std::abs(rest) >= Klein))
+        return {std::move(text), rest};
+    return zahlenfeld(textWithDigits(rest, Stellen));
 }
 
 } // namespace zerna

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/clsElement.h"
+#include "model/Eingabefeld.h"
 
 /// The rules of composition entry: what a row offers, how many rows there are and what the last of them holds.
 namespace zerna {
@@ -41,8 +42,8 @@ int naechsteKomponentenzahl(int count, int step);
 /// The stored component count, which is one less than the number of rows. Anything but 0 to 5 counts as "2".
 int gespeicherteKomponentenzahl(std::string_view setting);
 
-/// The at% text of the balance row for the at% of the rows above it: 100 less their sum, at most seven significant
+/// The at% of the balance row for the at% of the rows above it: 100 less their sum, its text at most seven significant
 /// digits, maybe negative. Error 6 for a sum that no single can hold.
-std::string ausgleichstext(std::span<const float> prozente);
+Eingabefeld ausgleich(std::span<const float> prozente);
 
 } // namespace zerna

@@ -35,11 +35,8 @@ float clsCalc::Energie_Elektron() const { return toSingle(3.0 / 5.0 * Fermienerg
 
 float clsCalc::Energie_El_System() const
 {
-    double c = 2.0 / 5.0 * squareRoot(2) / Pi / Pi;
-    c = quotient(c, power(m_planck, 3));
-    c = power(m_elektronmasse, 3.0 / 2.0) * c;
-    return toSingle(
-        power(Fermienergie() * ElektronvoltInJoule, 5.0 / 2.0) * c * (ElektronvoltInJoule / NanometerInMeter));
+    return toSingle(power(Fermienergie() * ElektronvoltInJoule, 5.0 / 2.0) * m_systemFactor
+        * (ElektronvoltInJoule / NanometerInMeter));
 }
 
 float clsCalc::Kompressionsmodul() const
@@ -86,13 +83,21 @@ void clsCalc::Legierung_Setzen(std::span<const Legierungskomponente> komponenten
 {
     if (komponenten.empty() || komponenten.size() > m_komponenten.size())
         throw Laufzeitfehler(Fehler::IndexAusserhalb);
-    std::ranges::copy(komponenten, m_komponenten.begin());
+    for (std::size_t i = 0; const Legierungskomponente& komponente : komponenten) {
+        Legierungskomponente& slot = m_komponenten.at(i++);
+        slot.prozent = komponente.prozent;
+        if (slot.element != komponente.element) // an edit seldom brings another one
+            slot.element = komponente.element;
+    }
     berechne(komponenten);
 }
 
 float clsCalc::Fermienergie() const
 {
-    return orUnbekannt([&] { return toSingle(m_fermiFactor * power(electronDensity(), 2.0 / 3.0)); });
+    const double density = electronDensity();
+    if (m_lastFermi.elektronendichte != density)
+        m_lastFermi = {density, orUnbekannt([&] { return toSingle(m_fermiFactor * power(density, 2.0 / 3.0)); })};
+    return m_lastFermi.fermienergie;
 }
 
 float clsCalc::HallKoeffizient() const
@@ -239,6 +244,7 @@ void clsCalc::Class_Initialize()
     m_thermoFactor =
         toSingle(-2 * boltzmann * boltzmann * mass / (planck * planck * charge * power(3 / Pi, 2.0 / 3.0)));
     m_hallFactor = toSingle(-1 / charge);
+    m_systemFactor = power(mass, 3.0 / 2.0) * quotient(2.0 / 5.0 * squareRoot(2) / Pi / Pi, power(planck, 3));
 }
 
 void clsCalc::Kf_2_Berechnen()

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "core/ElementCollection.h"
+#include "core/Unbekannt.h"
 #include "model/Legierung.h"
 #include "parser/clsParser.h"
 
@@ -97,6 +98,12 @@ private:
         bool gilt = false;
     };
 
+    /// The Fermi energy (eV) of the electron density (1/m³) that it was asked for last.
+    struct Fermi {
+        double elektronendichte = -1;
+        float fermienergie = Unbekannt;
+    };
+
     void Neu_Berechnen();
     void berechne(std::span<const Legierungskomponente> komponenten);
     void berechnungGescheitert();
@@ -120,12 +127,14 @@ private:
     float m_fermiFactor = 0; // eV·m²
     float m_thermoFactor = 0; // V/K²·m²
     float m_hallFactor = 0; // 1/(As)
+    double m_systemFactor = 0; // of the energy of the electron system, kg^(3/2)/(Js)³
     float m_teilchenzahldichte = 0; // N, 1/m³
     float m_valenz = 0; // z
     float m_dichte = 0; // g/cm³
     std::array<Legierungskomponente, MaxKomponenten> m_komponenten;
     std::array<GeleseneValenz, MaxKomponenten> m_gelesen; // of Element_Add
     float m_kf2 = 0; // 1/nm
+    mutable Fermi m_lastFermi; // several quantities are made of it
 };
 
 } // namespace zerna

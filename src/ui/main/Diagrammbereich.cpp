@@ -26,6 +26,8 @@ constexpr std::array AnfangsGroessen{0, 1, 3, 4, 5, 6, 7, 8, 9, 10, 2};
 
 constexpr std::array Legierungsgroessen{0, 1, 3, 4, 2, 5, 6, 7, 8, 9, 10};
 
+QString symbolOf(const Eingabe::Zeile& zeile) { return zeile.element ? toQt(zeile.element->symbol()) : QString(); }
+
 } // namespace
 
 Diagrammbereich::Diagrammbereich(Programm& programm, Dialoge dialoge, QWidget* parent)
@@ -197,10 +199,8 @@ void Diagrammbereich::zeige(const Eingabe& eingabe, const Aenderung& aenderung)
 void Diagrammbereich::listComponents()
 {
     m_cmbDiagrammElement->clear();
-    for (int row = 0; row < m_eingabe.anzahl(); ++row) {
-        const auto& element = m_eingabe.zeile(row).element;
-        m_cmbDiagrammElement->addItem(element ? toQt(element->symbol()) : QString(), row);
-    }
+    for (int row = 0; row < m_eingabe.anzahl(); ++row)
+        m_cmbDiagrammElement->addItem(symbolOf(m_eingabe.zeile(row)), row);
 }
 
 void Diagrammbereich::selectFirstComponent() { m_cmbDiagrammElement->setCurrentIndex(0); }
@@ -349,8 +349,8 @@ void Diagrammbereich::refreshLabels()
         label.setVisible(row < m_eingabe.anzahl() && m_typ == Diagrammtyp::Konzentration);
         if (row >= m_eingabe.anzahl())
             continue;
-        const auto& [element, prozent, dichtewahl, dichte, valenzwahl, valenz] = m_eingabe.zeile(row);
-        label.setLabel((element ? toQt(element->symbol()) : QString()) + QLatin1Char(' '));
+        const Eingabefeld& prozent = m_eingabe.zeile(row).prozent;
+        label.setLabel(symbolOf(m_eingabe.zeile(row)) + QLatin1Char(' '));
         label.setEnabled(!m_eingabe.istAusgleich(row));
         if (!prozent.fehler && std::abs(prozent.wert) < Shown)
             label.setValue(static_cast<int>(std::lround(prozent.wert)));
