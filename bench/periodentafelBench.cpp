@@ -40,7 +40,7 @@ void rechtecke(benchmark::State& state)
         QPainter painter(&image);
         painter.setBrush(Qt::lightGray);
         for (const auto& element : aufbau.elements) {
-            const Zelle cell = scale.cell(element->X(), element->Y());
+            const Rechteck cell = scale.cell(element->X(), element->Y());
             const QRectF area(cell.left, cell.top, cell.width, cell.height);
             painter.drawRect(area);
             painter.setFont(small);

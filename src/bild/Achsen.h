@@ -5,19 +5,14 @@
 #include <string_view>
 #include <vector>
 
+#include "bild/Geometrie.h"
+
 /// Geometry of the concentration diagram: everything that conDisplay paints, as numbers. Lengths are logical pixels,
 /// origin at the top left, y downwards.
 namespace zerna {
 
 /// Width of a text in pixels at the labels' font.
 using Textbreite = std::function<double(std::string_view)>;
-
-struct Rechteck {
-    double left = 0;
-    double top = 0;
-    double width = 0;
-    double height = 0;
-};
 
 /// The plot area on a control of the given inner size: 60 pixels on the left and 30 below are left for labels. Empty
 /// (width or height 0) if the control is too small.

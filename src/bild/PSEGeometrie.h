@@ -10,12 +10,6 @@
 /// Geometry of the element-property diagram: everything that is painted, as numbers in logical pixels.
 namespace zerna {
 
-struct Punkt {
-    double x = 0;
-    double y = 0;
-    bool operator==(const Punkt&) const = default;
-};
-
 struct Strecke {
     Punkt from;
     Punkt to;

@@ -24,7 +24,7 @@ Tafelmassstab::Tafelmassstab(double width, double height)
 {
 }
 
-Zelle Tafelmassstab::cell(double column, double row) const
+Rechteck Tafelmassstab::cell(double column, double row) const
 {
     return {(column - Left) * m_cellWidth, (row - Top) * m_cellHeight, m_cellWidth, m_cellHeight};
 }

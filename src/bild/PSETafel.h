@@ -3,18 +3,12 @@
 #include <memory>
 #include <string_view>
 
+#include "bild/Geometrie.h"
 #include "core/ElementCollection.h"
 
 /// The periodic table as a drawing: where the cells lie and which element is where. Table coordinates run from (1, 1)
 /// at the top left to (19.2, 11.2) at the bottom right; an element's cell is the unit square from (X, Y) on.
 namespace zerna {
-
-struct Zelle {
-    double left = 0;
-    double top = 0;
-    double width = 0;
-    double height = 0;
-};
 
 /// Table coordinates and pixels of an area of that size.
 class Tafelmassstab {
@@ -22,7 +16,7 @@ public:
     Tafelmassstab(double width, double height);
 
     /// The area of a cell, in pixels.
-    Zelle cell(double column, double row) const;
+    Rechteck cell(double column, double row) const;
 
     double columnAt(double x) const;
     double rowAt(double y) const;

@@ -28,7 +28,7 @@ TEST_F(PSETafelTest, FirstElementOfTheCellUnderAPixelIsHit)
     const Tafelmassstab scale(1820, 1020); // 100 pixels a cell
     for (const auto& [x, y, symbol] : rows)
         EXPECT_EQ(symbolOf(elementAt(elements, scale.columnAt(x), scale.rowAt(y))), symbol) << x << ' ' << y;
-    const Zelle copper = scale.cell(11, 4);
+    const Rechteck copper = scale.cell(11, 4);
     EXPECT_NEAR(copper.left - copper.top, 700, 1e-9);
     EXPECT_NEAR(copper.width + copper.height, 200, 1e-9);
     EXPECT_EQ(elementAt(elements, Tafelmassstab(0, 0).columnAt(5), Tafelmassstab(0, 0).rowAt(5)), nullptr);

@@ -46,14 +46,14 @@ Tafelmassstab Periodentafel::scale() const { return {static_cast<double>(width()
 
 QRectF Periodentafel::cellOf(const clsElement& element) const
 {
-    const Zelle cell = scale().cell(element.X(), element.Y());
+    const Rechteck cell = scale().cell(element.X(), element.Y());
     return {cell.left, cell.top, cell.width, cell.height};
 }
 
 QRect Periodentafel::freeArea() const
 {
-    const Zelle from = scale().cell(3.3, 1);
-    const Zelle to = scale().cell(12.8, 3.8);
+    const Rechteck from = scale().cell(3.3, 1);
+    const Rechteck to = scale().cell(12.8, 3.8);
     return QRectF(QPointF(from.left, from.top + 4), QPointF(to.left, to.top)).toRect();
 }
 
@@ -196,7 +196,7 @@ void Periodentafel::paintCell(
 
 void Periodentafel::resizeEvent(QResizeEvent*)
 {
-    const Zelle cell = scale().cell(1, 1);
+    const Rechteck cell = scale().cell(1, 1);
     const QFontMetricsF metrics(withPixelSize(font(), schriftgroessen(cell.width, cell.height).klein));
     m_namenPassen = namenPassen(m_elements, cell.width - 2 * Zellabstand,
         [&metrics](std::string_view name) { return metrics.horizontalAdvance(toQt(name)); });

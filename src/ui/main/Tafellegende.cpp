@@ -83,7 +83,7 @@ void paintReihenhinweise(QPainter& painter, const Tafelmassstab& scale, const Ze
     constexpr Hinweis Hinweise[] = {{9, "zu La  ▸"}, {10, "zu Ac  ▸"}};
     painter.setPen(stil.palette.color(QPalette::WindowText));
     for (const auto& [row, text] : Hinweise) {
-        const Zelle place = scale.cell(1, row);
+        const Rechteck place = scale.cell(1, row);
         painter.setFont(withPixelSize(stil.font, std::clamp(place.height * 0.2, 7.0, 14.0)));
         painter.drawText(QRectF(place.left, place.top, place.width * 3 - 6, place.height),
             Qt::AlignRight | Qt::AlignVCenter, QString::fromUtf8(text));
