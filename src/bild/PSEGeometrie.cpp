@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "core/Unbekannt.h"
-#include "core/Zahlentext.h"
+#include "model/Werttext.h"
 
 namespace zerna {
 
@@ -37,9 +37,8 @@ private:
 std::string divisionLabel(double value, double step)
 {
     constexpr double RoundingError = 1e-9;
-    if (value == 0 || std::abs(value) < RoundingError * step)
-        return "0";
-    return std::string(trimmed(FormatValue(static_cast<float>(value), "")));
+    const bool isZero = std::abs(value) < RoundingError * step;
+    return werttext(isZero ? 0 : static_cast<float>(value));
 }
 
 /// The area is `height` pixels high; what does not fit into it is left out.

@@ -11,6 +11,7 @@
 #include <cmath>
 
 #include "core/Zahlentext.h"
+#include "model/Werttext.h"
 #include "ui/diagram/Bildausgabe.h"
 #include "ui/diagram/Striche.h"
 #include "ui/diagram/conDisplay.h"
@@ -268,11 +269,9 @@ void Diagrammflaeche::paintMeldung(QPainter& painter, const QSize& size) const
 
 void Diagrammflaeche::pointAt(std::size_t element)
 {
-    const float value = m_reihe.y.at(element);
-    const std::string number(trimmed(FormatValue(value, "")));
     emit positionChanged(QStringLiteral("%1   OZ %2   %3")
                              .arg(toQt(m_symbole.at(element)), toQt(textOfSingle(m_reihe.x.at(element))),
-                                 toQt(number.empty() ? "0" : number)));
+                                 toQt(werttext(m_reihe.y.at(element)))));
 }
 
 void Diagrammflaeche::mousePressEvent(QMouseEvent* event)

@@ -6,20 +6,13 @@
 #include <algorithm>
 
 #include "bild/PSETafel.h"
-#include "core/Zahlentext.h"
+#include "model/Werttext.h"
 #include "ui/platform/Farben.h"
 #include "ui/platform/QtText.h"
 
 namespace zerna {
 
 namespace {
-
-/// The value without unit; 0 for one that is too small to be shown.
-QString numberText(float value)
-{
-    const std::string text(trimmed(FormatValue(value, "")));
-    return text.empty() ? QStringLiteral("0") : toQt(text);
-}
 
 /// Two groups above the two others.
 void paintGruppen(QPainter& painter, const QRectF& area, const QPalette& palette)
@@ -55,8 +48,8 @@ void paintSkala(QPainter& painter, const QRectF& area, const Tafelfaerbung& faer
     painter.drawRect(bar);
     painter.setPen(palette.color(QPalette::WindowText));
     const QRectF labels(bar.left(), bar.bottom() + 2, bar.width(), area.bottom() - bar.bottom() - 2);
-    painter.drawText(labels, Qt::AlignLeft | Qt::AlignTop, numberText(faerbung.kleinsterWert()));
-    painter.drawText(labels, Qt::AlignRight | Qt::AlignTop, numberText(faerbung.groessterWert()));
+    painter.drawText(labels, Qt::AlignLeft | Qt::AlignTop, toQt(werttext(faerbung.kleinsterWert())));
+    painter.drawText(labels, Qt::AlignRight | Qt::AlignTop, toQt(werttext(faerbung.groessterWert())));
     const double line = painter.fontMetrics().height();
     painter.drawText(labels.adjusted(0, line, 0, 0), Qt::AlignHCenter | Qt::AlignTop, toQt(faerbung.titel()));
 }

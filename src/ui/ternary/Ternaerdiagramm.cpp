@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "core/Zahlentext.h"
+#include "model/Werttext.h"
 #include "ui/platform/QtText.h"
 
 namespace zerna {
@@ -215,8 +216,7 @@ void Ternaerdiagramm::paintEdges(QPainter& painter) const
 
 QString Ternaerdiagramm::tickText(double value) const
 {
-    const std::string text(trimmed(FormatValue(static_cast<float>(value), m_gitter.einheit)));
-    return text.empty() ? toQt("0 " + m_gitter.einheit) : toQt(text);
+    return toQt(werttext(static_cast<float>(value), m_gitter.einheit));
 }
 
 /// The corner farthest to the left, where the surface never hides the vertical axis.
