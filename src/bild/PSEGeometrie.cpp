@@ -106,7 +106,7 @@ void layOutCurve(PSEBild& bild, const Massstab& scale, const PSEReihe& reihe, co
 
 } // namespace
 
-Bereich wertebereich(const std::vector<float>& values)
+Bereich bereichMitErstemWert(const std::vector<float>& values)
 {
     if (values.empty())
         return {};
@@ -139,10 +139,10 @@ PSEBild layOutPSE(const PSEReihe& reihe, int width, int height, const Textmasse&
     PSEBild bild;
     const auto elements = static_cast<int>(reihe.x.size());
     const Massstab scale(reihe.x.size(), width, height);
-    const Bereich range = gerundeterBereich(wertebereich(reihe.y));
+    const Bereich range = gerundeterBereich(bereichMitErstemWert(reihe.y));
     layOutXAxis(bild, scale, elements, height, masse);
     layOutYAxis(bild, scale, range, masse);
-    bild.titel = {scale.at(-24, 1), reihe.titel, true};
+    bild.titel = {scale.at(-24, 1), reihe.titel};
     if (range.max > range.min)
         layOutCurve(bild, scale, reihe, range);
     return bild;

@@ -15,11 +15,10 @@ struct Strecke {
     Punkt to;
 };
 
-/// A text with its top left corner; `vertical` texts run upwards from it.
+/// A text with its top left corner.
 struct Schriftzug {
     Punkt position;
     std::string text;
-    bool vertical = false;
 };
 
 struct PSEBild {
@@ -27,7 +26,7 @@ struct PSEBild {
     std::vector<Schriftzug> labels;
     double labelRoom = 0; ///< width that the labels of the y axis have
     double widestLabel = 0; ///< and the widest of them
-    Schriftzug titel;
+    Schriftzug titel; ///< runs upwards from its position
     std::vector<std::vector<Punkt>> curve; ///< pieces between gaps; a piece may be a single point
     std::vector<std::optional<Punkt>> points; ///< of each element, none where the value is missing
 };
@@ -40,7 +39,7 @@ struct Textmasse {
 
 /// The range of the values, not yet rounded.
 /// Intended: the first value counts even when it is missing.
-Bereich wertebereich(const std::vector<float>& values);
+Bereich bereichMitErstemWert(const std::vector<float>& values);
 
 /// The range widened to whole multiples of the power of ten not above its width, or of half of that if the values would
 /// otherwise fill less than 40 % of the height. An empty range stays as it is.

@@ -40,7 +40,7 @@ TEST(PSEGeometrieTest, MissingValuesBreakTheCurve)
     for (const auto& [x, element] : {std::pair(0.0, 0U), {269.0, 0U}, {271.0, 2U}, {286.0, 3U}, {900.0, 3U}})
         EXPECT_EQ(nearestElement(bild, x), element) << x;
     // Intended: the first value counts for the range even when it is missing.
-    EXPECT_EQ(wertebereich({Unbekannt, 7}).min, Unbekannt);
+    EXPECT_EQ(bereichMitErstemWert({Unbekannt, 7}).min, Unbekannt);
     EXPECT_EQ(layOut({Unbekannt, 7}).curve.size(), 1U);
     EXPECT_FALSE(nearestElement(layOut({5, 5}), 0));
 }
