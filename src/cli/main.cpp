@@ -1,3 +1,3 @@
-#include "cli/Befehle.h"
+#include "cli/Befehlszeile.h"
 
 int main(int argc, char** argv) { return zerna::runCommandLine(argc, argv); }

@@ -34,7 +34,7 @@ float meanDensity(std::span<const Legierungskomponente> komponenten, const std::
 Ternaergitter ternaergitter(
     const clsCalc& calc, std::span<const Legierungskomponente> komponenten, int groesse, int aufloesung)
 {
-    if (komponenten.size() != 3 || aufloesung < 1 || aufloesung > 10)
+    if (komponenten.size() != 3 || aufloesung < 1 || aufloesung > FeinsteAufloesung)
         throw Laufzeitfehler(Fehler::UngueltigesArgument);
     Ternaergitter gitter;
     gitter.n = DivisionsPerResolution * aufloesung;

@@ -27,6 +27,9 @@ struct Ternaergitter {
     float wert(int i, int j) const { return werte[position(i, j)]; }
 };
 
+/// Resolutions run from 1 to this.
+inline constexpr int FeinsteAufloesung = 10;
+
 /// The grid of quantity `groesse` (0 to 10) at resolution 1 to 10, ten times as many divisions. The entered at% do not
 /// matter; for the density it is the at%-weighted mean. The calculator is not changed. Errors of the components'
 /// densities and valences reach the caller, error 5 for anything but three components.

@@ -230,12 +230,11 @@ void Diagrammbereich::chooseType(int position)
 
 void Diagrammbereich::stepResolution(int step)
 {
-    constexpr int Finest = 10;
     m_steps += step;
-    if (m_steps > Finest)
+    if (m_steps > FeinsteAufloesung)
         m_steps = 1;
     else if (m_steps < 1)
-        m_steps = Finest;
+        m_steps = FeinsteAufloesung;
     m_lblSteps->setText(QStringLiteral("Auflösung: %1").arg(m_steps));
     aktualisieren(true);
 }

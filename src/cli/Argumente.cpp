@@ -1,0 +1,101 @@
+#include "cli/Argumente.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "programm/Rechenkern.h"
+
+namespace zerna {
+
+namespace {
+
+/// The command that was chosen, subcommands included.
+const CLI::App& chosen(const CLI::App& app)
+{
+    const std::vector<CLI::App*> commands = app.get_subcommands();
+    return commands.empty() ? app : chosen(*commands.front());
+}
+
+/// The option that a token of the call names; null for any other token.
+const CLI::Option* optionOf(const CLI::App& app, const std::string& token)
+{
+    if (!token.starts_with('-'))
+        return nullptr;
+    const CLI::Option* const option = chosen(app).get_option_no_throw(token);
+    return option != nullptr ? option : app.get_option_no_throw(token);
+}
+
+/// The option of the call behind which there is no value; empty if each has one.
+std::string optionWithoutValue(const CLI::App& app, const std::vector<std::string>& call)
+{
+    for (std::size_t i = 0; i < call.size(); ++i) {
+        const CLI::Option* const option = optionOf(app, call[i]);
+        const bool takesValue = option != nullptr && option->get_items_expected_min() > 0;
+        if (takesValue && (i + 1 == call.size() || optionOf(app, call[i + 1]) != nullptr))
+            return call[i];
+    }
+    return {};
+}
+
+/// The first required argument of the command that is not there; empty if all are.
+std::string missingArgument(const CLI::App& befehl)
+{
+    for (const CLI::Option* const option : befehl.get_options()) {
+        if (option->get_required() && option->count() == 0)
+            return option->get_name();
+    }
+    return {};
+}
+
+} // namespace
+
+void Komponenten::define(CLI::App& befehl)
+{
+    befehl
+        .add_option("komponenten", texte,
+            "SYMBOL=ATPROZENT[:dichte=ZAHL|amorph|fluessig|kristallin][:valenz=TEXT], eine bis fünf")
+        ->required()
+        ->option_text("KOMPONENTE ...");
+}
+
+void Ausgabe::define(CLI::App& befehl)
+{
+    befehl.add_option("--ausgabe", datei, "Datei, die geschrieben wird, statt der Standardausgabe")
+        ->option_text("DATEI");
+}
+
+void Tabellenform::define(CLI::App& befehl) { befehl.add_flag("--json", json, "als JSON"); }
+
+CLI::Option* Ganzzahl::define(CLI::App& befehl, const char* optionName, const char* beschreibung)
+{
+    name = optionName;
+    return befehl.add_option(optionName, text, beschreibung)->option_text("ZAHL");
+}
+
+int Ganzzahl::wert() const
+{
+    int value = 0;
+    const char* const end = text.data() + text.size();
+    const auto read = std::from_chars(text.data(), end, value);
+    if (read.ec != std::errc() || read.ptr != end)
+        throw Aufruffehler("Ungültiger Wert: " + name + " = " + text + " (Hilfe: zerna-cli --hilfe)");
+    return value;
+}
+
+std::string aufruffehler(const CLI::App& app, const CLI::ParseError& error, int argc, const char* const* argv)
+{
+    const std::string missingValue = optionWithoutValue(app, {argv + 1, argv + argc});
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr && !missingValue.empty())
+        return "Falsche Zahl von Werten für " + missingValue;
+    const CLI::App& befehl = chosen(app);
+    const bool lacksCommand = befehl.get_require_subcommand_min() > 0;
+    if (const std::vector<std::string> unknown = app.remaining(true); !unknown.empty()) {
+        const bool isCommand = lacksCommand && !unknown.front().starts_with('-');
+        return (isCommand ? "Unbekannter Befehl " : "Unbekanntes Argument ") + unknown.front();
+    }
+    if (const std::string missing = missingArgument(befehl); !missing.empty())
+        return "Es fehlt das Argument " + missing;
+    return lacksCommand ? "Es fehlt ein Befehl" : "Der Aufruf ist nicht zu verstehen";
+}
+
+} // namespace zerna

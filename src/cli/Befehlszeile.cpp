@@ -1,0 +1,66 @@
+#include "cli/Befehlszeile.h"
+
+#include <exception>
+#include <iostream>
+#include <memory>
+
+#include "cli/Argumente.h"
+#include "cli/Befehle.h"
+#include "cli/Umgebung.h"
+
+namespace zerna {
+
+namespace {
+
+constexpr int Fehlgeschlagen = 1;
+constexpr int Aufruf = 2;
+
+void translate(CLI::App& app)
+{
+    const auto formatter = std::make_shared<CLI::Formatter>();
+    formatter->label("Usage", "Aufruf");
+    formatter->label("OPTIONS", "OPTIONEN");
+    formatter->label("SUBCOMMAND", "BEFEHL");
+    formatter->label("SUBCOMMANDS", "BEFEHLE");
+    formatter->label("Subcommands", "Befehle");
+    formatter->label("Options", "Optionen");
+    formatter->label("Positionals", "Argumente");
+    formatter->label("REQUIRED", "(nötig)");
+    app.formatter(formatter);
+    app.set_help_flag("-h,--hilfe,--help", "Diese Hilfe zeigen")->group("Optionen");
+    for (CLI::App* const command : app.get_subcommands({}))
+        translate(*command);
+}
+
+int fail(int status, const std::string& reason)
+{
+    std::cerr << "zerna-cli: " << reason << '\n';
+    return status;
+}
+
+} // namespace
+
+int runCommandLine(int argc, char** argv)
+try {
+    CLI::App app("Modell freier Elektronen für metallische Legierungen", "zerna-cli");
+    Umgebung umgebung;
+    defineBefehle(app, umgebung);
+    translate(app);
+    try {
+        app.parse(argc, argv);
+        std::cout.flush();
+        return std::cout ? 0 : fail(Fehlgeschlagen, "Die Standardausgabe kann nicht geschrieben werden");
+    } catch (const CLI::CallForHelp&) {
+        const auto commands = app.get_subcommands();
+        std::cout << (commands.empty() ? app.help() : commands.front()->help("zerna-cli"));
+        return 0;
+    } catch (const CLI::ParseError& error) {
+        return fail(Aufruf, aufruffehler(app, error, argc, argv) + " (Hilfe: zerna-cli --hilfe)");
+    } catch (const Aufruffehler& error) {
+        return fail(Aufruf, error.what());
+    }
+} catch (const std::exception& error) { // data that are not there, a calculation that fails, no memory
+    return fail(Fehlgeschlagen, error.what());
+}
+
+} // namespace zerna

@@ -1,0 +1,75 @@
+#include "cli/Umgebung.h"
+
+#include <filesystem>
+#include <iostream>
+
+#include "core/Elementdatei.h"
+#include "core/Exportdatei.h"
+#include "core/Plattform.h"
+#include "core/Zahlentext.h"
+#include "core/Zeichensatz.h"
+
+namespace zerna {
+
+namespace {
+
+/// Runs what is done with a file; a run-time error becomes one that names it.
+template <class Action>
+auto withFile(const std::string& file, Action&& action)
+{
+    try {
+        return action(pathFromUtf8(file));
+    } catch (const Laufzeitfehler& error) {
+        throw Datenfehler("Datei \"" + file + "\": " + error.what());
+    }
+}
+
+} // namespace
+
+void StandardErrorBoxes::show(Icon, std::string_view, std::string_view text)
+{
+    std::cerr << ReplaceText(text, "\r\n", " ") << '\n';
+}
+
+void Umgebung::load()
+{
+    const std::filesystem::path beside = executableFolder() / Elementdateiname;
+    if (!daten.empty())
+        m_kern.loadFile(pathFromUtf8(daten));
+    else if (std::filesystem::exists(beside))
+        m_kern.loadFile(beside);
+    else
+        m_kern.loadBuiltIn();
+}
+
+void Umgebung::loadAlloy(std::span<const std::string> komponenten)
+{
+    std::vector<Komponentenangabe> angaben;
+    for (const std::string& text : komponenten)
+        angaben.push_back(komponentenangabe(text));
+    load();
+    m_kern.setAlloy(angaben);
+}
+
+void put(const std::string& text, const std::string& file)
+{
+    if (file.empty())
+        std::cout << ReplaceText(text, "\r\n", "\n");
+    else
+        writeFile(file, toWindows1252(text));
+}
+
+void writeFile(const std::string& file, std::string_view bytes)
+{
+    withFile(file, [&](const std::filesystem::path& path) { writeExport(path, bytes); });
+}
+
+std::string readFile(const std::string& file)
+{
+    return withFile(file, [](const std::filesystem::path& path) {
+        Datei input(path, Zugriff::Eingabe);
+        return std::string(input.readText(static_cast<std::size_t>(input.remaining())));
+    });
+}
+
+} // namespace zerna

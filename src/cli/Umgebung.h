@@ -1,0 +1,51 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/MessageBoxes.h"
+#include "model/Tabelle.h"
+#include "programm/Rechenkern.h"
+
+namespace zerna {
+
+/// Messages of the library as lines on standard error.
+class StandardErrorBoxes : public MessageBoxes {
+public:
+    void show(Icon icon, std::string_view caption, std::string_view text) override;
+};
+
+/// What every command works with: the element data, the calculator, and where output goes.
+class Umgebung {
+public:
+    /// Reads the given data file, else the one beside the program, else the built-in table; never writes one. Throws
+    /// Datenfehler.
+    void load();
+
+    /// Reads the elements and makes the alloy of these component texts the calculator's. Throws Aufruffehler or
+    /// Datenfehler.
+    void loadAlloy(std::span<const std::string> komponenten);
+
+    Rechenkern& kern() { return m_kern; }
+    MessageBoxes& boxes() { return m_boxes; }
+
+    std::string daten; ///< the data file that was asked for; empty for none
+
+private:
+    StandardErrorBoxes m_boxes;
+    Rechenkern m_kern{m_boxes};
+};
+
+/// Prints a text with CR LF: to standard output as UTF-8 with LF, to a named file as the bytes that the window saves.
+/// Throws Datenfehler.
+void put(const std::string& text, const std::string& file);
+
+/// Writes bytes to a file. Throws Datenfehler, which names the file.
+void writeFile(const std::string& file, std::string_view bytes);
+
+/// All bytes of a file; 0 for what is no ordinary file. Throws Datenfehler, which names the file.
+std::string readFile(const std::string& file);
+
+} // namespace zerna
