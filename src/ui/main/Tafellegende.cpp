@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <array>
 
 #include "bild/PSETafel.h"
 #include "model/Werttext.h"
@@ -73,7 +74,7 @@ void paintReihenhinweise(QPainter& painter, const Tafelmassstab& scale, const Ze
         int row;
         const char* text;
     };
-    constexpr Hinweis Hinweise[] = {{9, "zu La  ▸"}, {10, "zu Ac  ▸"}};
+    constexpr std::array<Hinweis, 2> Hinweise{{{9, "zu La  ▸"}, {10, "zu Ac  ▸"}}};
     painter.setPen(stil.palette.color(QPalette::WindowText));
     for (const auto& [row, text] : Hinweise) {
         const Rechteck place = scale.cell(1, row);
