@@ -76,8 +76,13 @@ def include_breaches(root):
                 yield path, line, f"an include begins with its room: {room}/{name}"
 
 
+def build_lists(root, *folders):
+    return [path for folder in folders for path in (root / folder).rglob("*")
+            if path.name == "CMakeLists.txt" or path.suffix == ".cmake"]
+
+
 def commands(path):
-    """The commands of a CMakeLists.txt as (name, arguments), each argument as (line, text)."""
+    """The commands of a build list as (name, arguments), each argument as (line, text)."""
     text = re.sub(r"#.*", "", path.read_text(encoding="utf-8"))
     for match in re.finditer(r"(\w+)\s*\(([^()]*)\)", text):
         words = re.finditer(r"[^\s\"]+", match[2])
@@ -91,18 +96,22 @@ def linking_rooms(command, target, path, root):
     return [room for room in BENEATH if fnmatch(room.replace("/", "_"), pattern)] or [room_of(path, root)]
 
 
+def links(root):
+    """Each entry of a room's link list as (file, line, room, entry)."""
+    for path in build_lists(root, "src"):
+        for command, arguments in commands(path):
+            if command in ("zerna_room", "zerna_ui_room", "target_link_libraries"):
+                for room in linking_rooms(command, arguments[0][1], path, root):
+                    yield from ((path, line, room, word) for line, word in arguments[1:])
+
+
 def link_breaches(root):
     targets = {prefix + room.replace("/", "_"): room for room in BENEATH for prefix in ("zerna::", "zerna_")}
-    for path in (root / "src").rglob("CMakeLists.txt"):
-        for command, arguments in commands(path):
-            if command not in ("zerna_room", "zerna_ui_room", "target_link_libraries"):
-                continue
-            for room in linking_rooms(command, arguments[0][1], path, root):
-                for line, word in arguments[1:]:
-                    if word in targets and targets[word] not in USABLE[room]:
-                        yield path, line, f"{room} may not use {targets[word]}"
-                    elif word.startswith("Qt") and room in WITHOUT_QT:
-                        yield path, line, f"{room} may not use Qt ({word})"
+    for path, line, room, word in links(root):
+        if word in targets and targets[word] not in USABLE.get(room, ()):
+            yield path, line, f"{room} may not use {targets[word]}"
+        elif word.startswith("Qt") and room in WITHOUT_QT:
+            yield path, line, f"{room} may not use Qt ({word})"
 
 
 def length_breaches(root):
@@ -113,10 +122,9 @@ def length_breaches(root):
 
 
 def build_breaches(root):
-    """Sources that no CMakeLists.txt lists, and headers that nobody includes."""
+    """Sources that no build list names, and headers that nobody includes."""
     built = set()
-    lists = [path for folder in ("src", "tests") for path in (root / folder).rglob("*")]
-    for path in [path for path in lists if path.name == "CMakeLists.txt" or path.suffix == ".cmake"]:
+    for path in build_lists(root, "src", "tests"):
         for command, arguments in commands(path):
             folder = path.parent / arguments[0][1] if command == "zerna_ui_room" else path.parent
             built.update(folder / word.replace("${PROJECT_SOURCE_DIR}", str(root)) for _, word in arguments)
@@ -124,7 +132,7 @@ def build_breaches(root):
         built.update(root / folder / name for folder in ("src", "tests") for _, name in includes(path))
     for path in sources(root, "src", "tests"):
         if path not in built:
-            yield path, 1, "no CMakeLists.txt lists it" if path.suffix == ".cpp" else "nobody includes it"
+            yield path, 1, "no build list names it" if path.suffix == ".cpp" else "nobody includes it"
 
 
 if __name__ == "__main__":
