@@ -115,6 +115,15 @@ std::string wholeText(double value)
     return {buffer.data(), std::to_chars(buffer.data(), buffer.data() + buffer.size(), whole).ptr};
 }
 
+/// The shortest text of a number that is in plain digits, 0.0001 or more and below 1e15, and not whole.
+std::string shortestPlainText(double value, Dezimaltrenner trenner)
+{
+    std::array<char, 32> buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): written by to_chars
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed).ptr;
+    *std::find(buffer.data(), end, '.') = static_cast<char>(trenner);
+    return {buffer.data(), end};
+}
+
 /// "&H" digits as a 32-bit two's complement number; no value if it is no such text.
 bool readHexNumber(std::string_view text, double& value)
 {
@@ -210,6 +219,7 @@ std::string textOfSingle(float value, Dezimaltrenner trenner)
 
 std::string textOfDouble(double value, Dezimaltrenner trenner)
 {
+    constexpr double FirstPlain = 1e-4;
     constexpr double FirstWithExponent = 1e15;
     if (isWholeBelow(value, FirstWithExponent))
         return wholeText(value);
@@ -217,6 +227,11 @@ std::string textOfDouble(double value, Dezimaltrenner trenner)
         return {};
     // A double whose shortest text has no more than 15 digits has the same 15 significant digits, and finding the
     // shortest text is several times faster than rounding.
+    if (std::abs(value) >= FirstPlain && std::abs(value) < FirstWithExponent) {
+        constexpr std::size_t DigitsAndSeparator = 16;
+        if (std::string text = shortestPlainText(value, trenner); text.size() <= DigitsAndSeparator)
+            return text;
+    }
     const Ziffern shortest = shortestDigits(value);
     return layOut(shortest.count <= 15 ? shortest : roundedDigits(value, 15), trenner);
 }
@@ -390,14 +405,6 @@ std::string lowerCase(std::string_view text)
             c = static_cast<char>(c - 'A' + 'a');
     }
     return result;
-}
-
-std::string_view trimmed(std::string_view text)
-{
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 } // namespace zerna

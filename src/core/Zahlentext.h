@@ -83,6 +83,13 @@ int FindLast(std::string_view text, std::string_view find, std::optional<int> st
 std::string lowerCase(std::string_view text);
 
 /// The text without blanks at its ends.
-std::string_view trimmed(std::string_view text);
+constexpr std::string_view trimmed(std::string_view text)
+{
+    while (text.starts_with(' '))
+        text.remove_prefix(1);
+    while (text.ends_with(' '))
+        text.remove_suffix(1);
+    return text;
+}
 
 } // namespace zerna
