@@ -65,13 +65,20 @@ bool isMantissa(std::string_view text)
     return digits && separators <= 1;
 }
 
-/// A value rounded as if it had been written as text (15 significant digits) and read back.
+bool isWholeBelow(double value, double limit) { return value == std::trunc(value) && std::abs(value) < limit; }
+
+/// A value as if it had been written as text (15 significant digits) and read back.
 double throughText(double value)
 {
     constexpr double ExactIntegers = 1e15;
-    if (value == std::trunc(value) && std::abs(value) < ExactIntegers)
-        return value;
-    return doubleFromText(textOfDouble(value));
+    return isWholeBelow(value, ExactIntegers) ? value : doubleFromText(textOfDouble(value));
+}
+
+/// The same for a single, whose text is the shortest: 0.1F gives 0.1.
+double throughText(float value)
+{
+    constexpr double ExactIntegers = 16777216;
+    return isWholeBelow(value, ExactIntegers) ? value : doubleFromText(textOfSingle(value));
 }
 
 double combine(double left, char op, double right)
@@ -91,11 +98,11 @@ double combine(double left, char op, double right)
 }
 
 /// Operators of a higher rank bind more tightly.
-constexpr int MaxRank = 2;
-constexpr int rankOf(char op) { return op == '^' ? MaxRank : static_cast<int>(op == '*' || op == '/'); }
+constexpr std::size_t MaxRank = 2;
+constexpr std::size_t rankOf(char op) { return op == '^' ? MaxRank : static_cast<std::size_t>(op == '*' || op == '/'); }
 
 /// Combines terms at the operators of one rank, from left to right; gives those that remain.
-std::span<Term> reduced(std::span<Term> terms, int rank)
+std::span<Term> reduced(std::span<Term> terms, std::size_t rank)
 {
     std::size_t last = 0;
     for (std::size_t k = 1; k < terms.size(); ++k) {
@@ -146,15 +153,19 @@ double Auswertung::expression(std::size_t begin, std::size_t end)
 double Auswertung::chain(double first, std::size_t i, std::size_t end)
 {
     const std::size_t base = m_terms.size();
-    m_terms.push({0, first, i});
+    std::array<bool, MaxRank + 1> ranks{}; // that occur
+    m_terms.push(0, first, i);
     while (i < end) {
         const std::size_t position = i++;
         const double value = nextOperand(i, end);
-        m_terms.push({m_text[position], value, position});
+        m_terms.push(m_text[position], value, position);
+        ranks[rankOf(m_text[position])] = true;
     }
     std::span<Term> terms = m_terms.from(base);
-    for (int rank = MaxRank; rank >= 0; --rank)
-        terms = reduced(terms, rank);
+    for (std::size_t rank = ranks.size(); rank-- > 0;) {
+        if (ranks[rank])
+            terms = reduced(terms, rank);
+    }
     const double value = terms.front().value;
     m_terms.shrink(base);
     return value;
@@ -225,7 +236,7 @@ double Auswertung::valenceOf(std::string_view key, std::size_t position) const
         abort(Fehler::UngueltigesArgument, "Element \"" + quoted(key) + "\" ist nicht bekannt", position);
     if (istUnbekannt(element->Valenz()))
         abort(Fehler::UngueltigesArgument, "Valenz von \"" + quoted(key) + "\" ist nicht bekannt", position);
-    return located(position, [&] { return doubleFromText(textOfSingle(element->Valenz())); });
+    return located(position, [&] { return throughText(element->Valenz()); });
 }
 
 /// The value of a function whose arguments stand from begin up to end.
@@ -246,7 +257,7 @@ double Auswertung::function(std::string_view name, std::size_t namePosition, std
     }
     const Formelfunktion* const found = findFunction(lowerCase(name));
     if (found == nullptr)
-        return unknownFunction(name, namePosition);
+        return passOverUnknown(name, namePosition);
     if (count < found->arguments)
         abort(Fehler::TypenUnvertraeglich, "Argument fehlt", end);
     return located(namePosition, [&] {
@@ -271,13 +282,13 @@ std::size_t Auswertung::endOfArgument(std::size_t i, std::size_t end) const
     return i;
 }
 
-double Auswertung::unknownFunction(std::string_view name, std::size_t position)
+double Auswertung::passOverUnknown(std::string_view function, std::size_t position)
 {
     if (m_messages.size() < MaxMessages)
-        m_messages.push_back("Fehler in Formel. (Funktion '" + quoted(name) + "' nicht definiert?)");
+        m_messages.push_back("Fehler in Formel. (Funktion '" + quoted(function) + "' nicht definiert?)");
     if (!m_unknownFunction)
         m_unknownFunction =
-            Abbruch{Fehler::UngueltigesArgument, "Funktion \"" + quoted(name) + "\" ist nicht definiert", position};
+            Abbruch{Fehler::UngueltigesArgument, "Funktion \"" + quoted(function) + "\" ist nicht definiert", position};
     return 0;
 }
 

@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/ElementCollection.h"
@@ -37,11 +38,14 @@ public:
     std::size_t size() const { return m_size; }
     std::span<Term> from(std::size_t i) const { return m_terms.subspan(i, m_size - i); }
 
-    void push(const Term& term)
+    void push(char op, double value, std::size_t position)
     {
         if (m_size == m_terms.size())
             grow();
-        m_terms[m_size++] = term;
+        Term& term = m_terms[m_size++]; // written in place: copying a term just made stalls
+        term.op = op;
+        term.value = value;
+        term.position = position;
     }
 
     void shrink(std::size_t size) { m_size = size; }
@@ -76,7 +80,7 @@ private:
     double operand(std::string_view text, std::size_t position) const;
     double valenceOf(std::string_view key, std::size_t position) const;
     double function(std::string_view name, std::size_t namePosition, std::size_t begin, std::size_t end);
-    double unknownFunction(std::string_view name, std::size_t position);
+    double passOverUnknown(std::string_view function, std::size_t position);
 
     std::string_view part(std::size_t begin, std::size_t end) const { return m_text.substr(begin, end - begin); }
     std::size_t skipBlanks(std::size_t i, std::size_t end) const
