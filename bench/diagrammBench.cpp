@@ -1,7 +1,5 @@
 #include <QApplication>
-#include <QComboBox>
 #include <QImage>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
 
@@ -12,20 +10,18 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/Aufbau.h"
+#include "bench/Fenster.h"
 #include "bild/Achsen.h"
 #include "model/Konstanten.h"
 #include "model/Konzentrationsreihe.h"
-#include "tests/support/FakeServices.h"
 #include "ui/diagram/Striche.h"
 #include "ui/diagram/conDisplay.h"
-#include "ui/main/frmMain.h"
 #include "ui/platform/QtText.h"
 
 namespace zerna {
 
 namespace {
 
-constexpr int Fermienergie = 8;
 constexpr std::array<float, MaxKomponenten> Prozente{40, 20, 20, 10, 10};
 constexpr QSize Bildgroesse(1200, 800);
 
@@ -107,40 +103,6 @@ void dichteBloss(benchmark::State& state)
     }
 }
 
-/// The program with its window, five components and the Fermi energy in the diagram.
-class Fenster {
-public:
-    Fenster()
-        : m_programm(m_boxes, m_settings, pathFromUtf8(Datenpfad).parent_path())
-    {
-        m_settings["Komponenten"] = "4";
-        for (std::size_t i = 0; i < Aufbau::Symbole.size(); ++i)
-            m_settings["Element_" + std::to_string(i)] = Aufbau::Symbole.at(i);
-        m_programm.start([this]() -> Hauptfenster& {
-            m_window = std::make_unique<frmMain>(m_programm, Dialoge{m_saveDialog, m_inputBox});
-            return *m_window;
-        });
-        auto& quantities = find<QComboBox>("cmbDiagramm");
-        quantities.setCurrentIndex(quantities.findData(Fermienergie));
-        emit quantities.activated(quantities.currentIndex());
-        QCoreApplication::processEvents();
-    }
-
-    template <class Widget>
-    Widget& find(const char* name) const
-    {
-        return *m_window->findChild<Widget*>(QLatin1String(name));
-    }
-
-private:
-    StummeMeldungen m_boxes;
-    FakeSettings m_settings;
-    FakeSaveDialog m_saveDialog;
-    FakeInputBox m_inputBox;
-    Programm m_programm;
-    std::unique_ptr<frmMain> m_window;
-};
-
 void neuzeichnen(benchmark::State& state)
 {
     const Fenster fenster;
@@ -214,13 +176,10 @@ void taste(benchmark::State& state)
         const auto start = std::chrono::steady_clock::now();
         const int digit = keys / 2 % 10;
         const bool types = keys++ % 2 == 0;
-        const int key = types ? Qt::Key_0 + digit : static_cast<int>(Qt::Key_Backspace);
-        const QString text = types ? QString::number(digit) : QString();
-        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-            QKeyEvent event(type, key, Qt::NoModifier, text);
-            QCoreApplication::sendEvent(&field, &event);
-        }
-        QCoreApplication::processEvents();
+        if (types)
+            press(field, Qt::Key_0 + digit, QString::number(digit));
+        else
+            press(field, Qt::Key_Backspace, {});
         milliseconds.push_back(
             std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
     }

@@ -20,7 +20,7 @@ float clsCalc::Raumausfuellung() const
 {
     return valueOr(0, [&] {
         const double radius = 5.0 / 4.0 * Friedelwellenlaenge();
-        return toSingle(power(radius, 3) * m_teilchenzahldichte * (Pi / 6) * KubiknanometerInKubikmeter);
+        return toSingle(radius * radius * radius * m_teilchenzahldichte * (Pi / 6) * KubiknanometerInKubikmeter);
     });
 }
 
