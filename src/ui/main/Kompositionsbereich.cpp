@@ -159,7 +159,8 @@ void Kompositionsbereich::elementChosen(int row, std::string_view key)
             m_programm.settings().SaveSetting("Element_" + std::to_string(row), key);
         zeige();
     }
-    taken(aenderung);
+    if (aenderung.element)
+        emit geaendert(aenderung);
 }
 
 void Kompositionsbereich::valenzEdited(int row, const Aenderung& aenderung)
