@@ -34,12 +34,10 @@ void writeByteArray(const std::filesystem::path& dat, const std::filesystem::pat
 {
     const std::string bytes = contentOf(dat);
     std::ofstream stream(cpp);
-    stream << "#include \"programm/EingebauteTabelle.h\"\n\nnamespace zerna {\n\n"
-           << "static_assert(EingebauteTabelle.size() == " << bytes.size() << ");\n\n"
-           << "const std::array<unsigned char, " << bytes.size() << "> EingebauteTabelle {{";
+    stream << "#include \"programm/EingebauteTabelle.h\"\n\nstatic constexpr unsigned char Bytes[] = {";
     for (std::size_t i = 0; i < bytes.size(); ++i)
         stream << (i % 20 == 0 ? "\n    " : " ") << static_cast<int>(static_cast<unsigned char>(bytes[i])) << ',';
-    stream << "\n}};\n\n} // namespace zerna\n";
+    stream << "\n};\n\nconstinit const std::span<const unsigned char> zerna::EingebauteTabelle(Bytes);\n";
 }
 
 void makeTable(std::span<char* const> arguments)

@@ -66,11 +66,7 @@ struct ProgrammTest : FilesTest {
         return started.start([&]() -> Hauptfenster& { return window.emplace(started); });
     }
 
-    static std::string builtIn(std::size_t from, std::size_t count)
-    {
-        return {EingebauteTabelle.begin() + from, EingebauteTabelle.begin() + from + count};
-    }
-
+    const std::string builtIn{EingebauteTabelle.begin(), EingebauteTabelle.end()};
     const std::filesystem::path dataFile = folder / "elemente.dat";
     FakeSettings settings;
     Programm programm{boxes, settings, folder.path()};
@@ -80,7 +76,7 @@ struct ProgrammTest : FilesTest {
 TEST_F(ProgrammTest, FirstStartWritesTheBuiltInTableAndFillsTheWindow)
 {
     ASSERT_TRUE(start());
-    EXPECT_EQ(bytesOf(dataFile), builtIn(0, 540));
+    EXPECT_EQ(bytesOf(dataFile), builtIn);
     EXPECT_EQ(window->lists.size(), 5U);
     for (const auto& [list, symbols] : window->lists)
         EXPECT_EQ(symbols, (std::vector<std::string>{"H", "He", "Li", "Be", "B", "C"}));
@@ -102,14 +98,15 @@ TEST_F(ProgrammTest, StoredElementsAreChosenAgain)
 
 TEST_F(ProgrammTest, BadDataFilesAreReportedAndNeverOverwritten)
 {
-    const std::string hydrogen = builtIn(4, 88);
+    const std::string helium("\x12\x01\x02\0He", 6); // how its record begins
+    const std::string hydrogen = builtIn.substr(4, builtIn.find(helium) - 4);
     const auto damaged = [this](const std::string& reason) {
         return "Fehler beim Einlesen der Datei:\r\n" + dataFile.string() + "\r\n\r\n" + reason
             + "\r\nProgramm wird beendet.";
     };
     const std::tuple<std::string, const char*, std::string, bool> rows[] = {
         {std::string(4, '\0'), "KoltZerna", "Index außerhalb des gültigen Bereichs", true}, // no elements
-        {builtIn(0, 4) + hydrogen + hydrogen, "Zerna",
+        {builtIn.substr(0, 4) + hydrogen + hydrogen, "Zerna",
             damaged("Dieser Schlüssel ist bereits einem Element dieser Auflistung zugeordnet"), false},
         {"", "Zerna", damaged("Eingabe hinter Dateiende"), false},
         {"\xFF\xFF\xFF\xFF" + hydrogen, "Zerna", damaged("Eingabe hinter Dateiende"), false},
