@@ -8,6 +8,7 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/Aufbau.h"
+#include "core/Elementspalten.h"
 
 namespace zerna {
 
@@ -69,18 +70,8 @@ void elementeKopieren(benchmark::State& state)
         std::int32_t count = 0;
         cursor.take(count);
         std::vector<ElementRecord> records(static_cast<std::size_t>(count));
-        for (ElementRecord& record : records) {
-            cursor.take(record.X);
-            cursor.take(record.Y);
-            cursor.take(record.symbol);
-            cursor.take(record.Name);
-            cursor.take(record.OZ);
-            for (float ElementRecord::*const number : ElementRecordNumbers)
-                cursor.take(record.*number);
-            cursor.take(record.Elektronenkonfiguration);
-            cursor.take(record.Elektronen);
-            cursor.take(record.EGK);
-        }
+        for (ElementRecord& record : records)
+            forEachSpalte([&](const Elementspalte&, auto field) { cursor.take(record.*field); });
         benchmark::DoNotOptimize(records.data());
         benchmark::ClobberMemory();
     }

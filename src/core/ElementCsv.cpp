@@ -1,22 +1,18 @@
 #include "core/ElementCsv.h"
 
-#include <array>
+#include <algorithm>
 #include <charconv>
-#include <limits>
+#include <concepts>
 #include <set>
 
-#include "core/CheckedArithmetic.h"
+#include "core/Elementspalten.h"
+#include "core/Laufzeitfehler.h"
+#include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
 
 namespace zerna {
 
 namespace {
-
-/// The columns in their order; numbers stand at 5 to 14 in file order.
-constexpr std::array<std::string_view, 18> Spalten{"X", "Y", "symbol", "Name", "OZ", "Masse", "Schmelztemperatur",
-    "Siedetemperatur", "Valenz", "Dichte_Fluessig", "Dichte_Kristallin", "Dichte_Amorph", "Atomradius",
-    "Ionisierungsenergie", "Elektronegativitaet", "Elektronenkonfiguration", "Elektronen", "EGK"};
-constexpr std::size_t FirstNumber = 5;
 
 using Cells = std::vector<std::string>;
 
@@ -45,30 +41,22 @@ Cells nextLine(std::string_view text, std::size_t& position)
     return cells;
 }
 
-/// Reads the cells of one line and knows where it is for messages.
+/// Reads the cells of one line and says in messages where they stand.
 class LineReader {
 public:
-    LineReader(const Cells& cells, std::size_t line)
-        : m_cells(cells)
-        , m_line(line)
+    explicit LineReader(std::size_t line)
+        : m_line(line)
     {
-        if (cells.size() != Spalten.size())
-            fail("hat " + std::to_string(cells.size()) + " statt " + std::to_string(Spalten.size()) + " Spalten");
     }
 
-    ElementRecord record() const
+    ElementRecord record(const Cells& cells) const
     {
+        if (cells.size() != Elementspalten.size())
+            fail(
+                "hat " + std::to_string(cells.size()) + " statt " + std::to_string(Elementspalten.size()) + " Spalten");
         ElementRecord record;
-        record.X = integer<std::uint8_t>(0, m_cells[0]);
-        record.Y = integer<std::uint8_t>(1, m_cells[1]);
-        record.symbol = m_cells[2];
-        record.Name = m_cells[3];
-        record.OZ = integer<std::int16_t>(4, m_cells[4]);
-        for (std::size_t i = 0; i < ElementRecordNumbers.size(); ++i)
-            record.*ElementRecordNumbers.at(i) = number(FirstNumber + i);
-        record.Elektronenkonfiguration = m_cells[15];
-        record.Elektronen = counts(16);
-        record.EGK = m_cells[17];
+        auto cell = cells.begin();
+        forEachSpalte([&](const Elementspalte& spalte, auto field) { read(spalte, *cell++, record.*field); });
         return record;
     }
 
@@ -78,69 +66,64 @@ private:
         throw Tabellenfehler("Zeile " + std::to_string(m_line) + " " + reason);
     }
 
-    [[noreturn]] void failAt(std::size_t column, std::string_view text) const
+    [[noreturn]] void failAt(const Elementspalte& spalte, std::string_view text) const
     {
-        fail("Spalte " + std::string(Spalten.at(column)) + ": \"" + std::string(text) + "\" ist keine gültige Zahl");
+        fail("Spalte " + std::string(spalte.name) + ": \"" + std::string(text) + "\" ist keine gültige Zahl");
     }
 
-    template <class Integer>
-    Integer integer(std::size_t column, std::string_view text) const
+    template <std::integral Integer>
+    void read(const Elementspalte& spalte, std::string_view text, Integer& value) const
     {
-        Integer value = 0;
         const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
         if (error != std::errc() || end != text.data() + text.size())
-            failAt(column, text);
-        return value;
+            failAt(spalte, text);
     }
 
-    float number(std::size_t column) const
+    void read(const Elementspalte& spalte, std::string_view text, float& value) const
     {
-        const std::string& text = m_cells[column];
-        if (text.empty())
-            return Unbekannt;
         try {
-            return singleFromText(text);
+            value = text.empty() ? Unbekannt : singleFromText(text);
         } catch (const Laufzeitfehler&) {
-            failAt(column, text);
+            failAt(spalte, text);
         }
     }
 
-    std::array<std::uint8_t, 18> counts(std::size_t column) const
+    void read(const Elementspalte&, std::string_view text, std::string& value) const { value = text; }
+
+    void read(const Elementspalte& spalte, std::string_view text, Elektronenzahlen& counts) const
     {
-        std::array<std::uint8_t, 18> result{};
-        std::string_view rest = m_cells[column];
-        for (std::uint8_t& count : result) {
-            const std::size_t end = std::min(rest.find(' '), rest.size());
-            count = integer<std::uint8_t>(column, rest.substr(0, end));
-            rest.remove_prefix(std::min(end + 1, rest.size()));
+        for (std::uint8_t& count : counts) {
+            const std::size_t end = std::min(text.find(' '), text.size());
+            read(spalte, text.substr(0, end), count);
+            text.remove_prefix(std::min(end + 1, text.size()));
         }
-        if (!rest.empty())
-            failAt(column, rest);
-        return result;
+        if (!text.empty())
+            failAt(spalte, text);
     }
 
-    const Cells& m_cells;
     std::size_t m_line; // 1 = header
 };
 
-std::string quotedIfNeeded(const std::string& cell)
-{
-    if (cell.find_first_of(",\"\r\n") == std::string::npos)
-        return cell;
-    return '"' + ReplaceText(cell, "\"", "\"\"") + '"';
-}
+std::string cell(std::integral auto value) { return std::to_string(value); }
 
-std::string numberCell(float value)
+std::string cell(float value)
 {
     return istUnbekannt(value) ? std::string() : textOfSingle(value, Dezimaltrenner::Punkt);
 }
 
-std::string countsCell(const std::array<std::uint8_t, 18>& counts)
+std::string cell(const std::string& text)
 {
-    std::string cell;
+    if (text.find_first_of(",\"\r\n") == std::string::npos)
+        return text;
+    return '"' + ReplaceText(text, "\"", "\"\"") + '"';
+}
+
+std::string cell(const Elektronenzahlen& counts)
+{
+    std::string text;
     for (const std::uint8_t count : counts)
-        cell += (cell.empty() ? "" : " ") + std::to_string(count);
-    return cell;
+        text += (text.empty() ? "" : " ") + std::to_string(count);
+    return text;
 }
 
 } // namespace
@@ -151,7 +134,7 @@ std::vector<ElementRecord> readElementCsv(std::string_view text)
         text.remove_prefix(3);
     std::size_t position = 0;
     const Cells header = nextLine(text, position);
-    if (!std::equal(header.begin(), header.end(), Spalten.begin(), Spalten.end()))
+    if (!std::ranges::equal(header, Elementspalten, {}, {}, &Elementspalte::name))
         throw Tabellenfehler("Zeile 1 enthält nicht die erwarteten Spaltennamen");
     std::vector<ElementRecord> records;
     std::set<std::string> symbols;
@@ -159,7 +142,7 @@ std::vector<ElementRecord> readElementCsv(std::string_view text)
         const Cells cells = nextLine(text, position);
         if (cells.size() == 1 && cells.front().empty())
             continue;
-        records.push_back(LineReader(cells, line).record());
+        records.push_back(LineReader(line).record(cells));
         const std::string& symbol = records.back().symbol;
         if (symbol.empty() || !symbols.insert(symbol).second)
             throw Tabellenfehler(
@@ -171,16 +154,12 @@ std::vector<ElementRecord> readElementCsv(std::string_view text)
 std::string writeElementCsv(std::span<const ElementRecord> records)
 {
     std::string text;
-    for (const std::string_view column : Spalten)
-        text.append(text.empty() ? "" : ",").append(column);
-    text += '\n';
-    for (const ElementRecord& r : records) {
-        text += std::to_string(r.X) + ',' + std::to_string(r.Y) + ',' + quotedIfNeeded(r.symbol) + ','
-            + quotedIfNeeded(r.Name) + ',' + std::to_string(r.OZ);
-        for (float ElementRecord::*const number : ElementRecordNumbers)
-            text += ',' + numberCell(r.*number);
-        text += ',' + quotedIfNeeded(r.Elektronenkonfiguration) + ',' + countsCell(r.Elektronen) + ','
-            + quotedIfNeeded(r.EGK) + '\n';
+    for (const Elementspalte& spalte : Elementspalten)
+        text.append(spalte.name) += ',';
+    text.back() = '\n';
+    for (const ElementRecord& record : records) {
+        forEachSpalte([&](const Elementspalte&, auto field) { text += cell(record.*field) + ','; });
+        text.back() = '\n';
     }
     return text;
 }

@@ -5,6 +5,7 @@
 #include <limits>
 #include <type_traits>
 
+#include "core/Elementspalten.h"
 #include "core/Unbekannt.h"
 #include "core/Zeichensatz.h"
 
@@ -30,7 +31,7 @@ void readField(Datei& file, float& field)
 
 void readField(Datei& file, std::string& field)
 {
-    std::uint16_t length = 0;
+    Textlaenge length = 0;
     file.read(&length, sizeof length);
     readWindows1252(file.readText(length), field);
 }
@@ -45,9 +46,9 @@ void writeField(std::string& target, const Field& field)
 void writeField(std::string& target, const std::string& field)
 {
     const std::string bytes = toWindows1252(field);
-    if (bytes.size() > std::numeric_limits<std::uint16_t>::max())
+    if (bytes.size() > std::numeric_limits<Textlaenge>::max())
         throw Laufzeitfehler(Fehler::Ueberlauf);
-    writeField(target, static_cast<std::uint16_t>(bytes.size()));
+    writeField(target, static_cast<Textlaenge>(bytes.size()));
     target += bytes;
 }
 
@@ -55,35 +56,17 @@ void writeField(std::string& target, const std::string& field)
 
 void readElementRecord(Datei& file, ElementRecord& record)
 {
-    record.symbol.clear();
-    record.Name.clear();
-    record.Elektronenkonfiguration.clear();
-    record.EGK.clear();
-    readField(file, record.X);
-    readField(file, record.Y);
-    readField(file, record.symbol);
-    readField(file, record.Name);
-    readField(file, record.OZ);
-    for (float ElementRecord::*const number : ElementRecordNumbers)
-        readField(file, record.*number);
-    readField(file, record.Elektronenkonfiguration);
-    readField(file, record.Elektronen);
-    readField(file, record.EGK);
+    forEachSpalte([&]<class Field>(const Elementspalte&, Field ElementRecord::*field) {
+        if constexpr (std::is_same_v<Field, std::string>)
+            (record.*field).clear();
+    });
+    forEachSpalte([&](const Elementspalte&, auto field) { readField(file, record.*field); });
 }
 
 void writeElementRecord(Datei& file, const ElementRecord& record)
 {
     std::string bytes;
-    writeField(bytes, record.X);
-    writeField(bytes, record.Y);
-    writeField(bytes, record.symbol);
-    writeField(bytes, record.Name);
-    writeField(bytes, record.OZ);
-    for (float ElementRecord::*const number : ElementRecordNumbers)
-        writeField(bytes, record.*number);
-    writeField(bytes, record.Elektronenkonfiguration);
-    writeField(bytes, record.Elektronen);
-    writeField(bytes, record.EGK);
+    forEachSpalte([&](const Elementspalte&, auto field) { writeField(bytes, record.*field); });
     file.write(bytes);
 }
 

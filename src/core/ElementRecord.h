@@ -8,7 +8,11 @@
 
 namespace zerna {
 
-/// The tabulated data of one chemical element, in file order. A number may be Unbekannt.
+/// Electrons per subshell outside the noble-gas core, in filling order: 1s 2s 2p 3s 3p 4s 3d 4p 5s 4d 5p 6s 4f 5d 6p 7s
+/// 5f 6d.
+using Elektronenzahlen = std::array<std::uint8_t, 18>;
+
+/// The tabulated data of one chemical element; Elementspalten.h lists the fields. A number may be Unbekannt.
 struct ElementRecord {
     std::uint8_t X = 0; ///< column (group) in the periodic table, 1 to 18
     std::uint8_t Y = 0; ///< row in the drawn periodic table
@@ -26,22 +30,14 @@ struct ElementRecord {
     float Ionisierungsenergie = 0; ///< eV
     float Elektronegativitaet = 0;
     std::string Elektronenkonfiguration; ///< display text such as "[He] (2)s2p2"
-    /// Electrons per subshell outside the noble-gas core, in filling order: 1s 2s 2p 3s 3p 4s 3d 4p 5s 4d 5p 6s 4f 5d
-    /// 6p 7s 5f 6d.
-    std::array<std::uint8_t, 18> Elektronen{};
+    Elektronenzahlen Elektronen{};
     std::string EGK; ///< group of elements: H main group, N transition metal, L lanthanide, A actinide
 
     bool operator==(const ElementRecord&) const = default;
 };
 
-/// The ten numbers of a record in file order.
-inline constexpr std::array<float ElementRecord::*, 10> ElementRecordNumbers{&ElementRecord::Masse,
-    &ElementRecord::Schmelztemperatur, &ElementRecord::Siedetemperatur, &ElementRecord::Valenz,
-    &ElementRecord::Dichte_Fluessig, &ElementRecord::Dichte_Kristallin, &ElementRecord::Dichte_Amorph,
-    &ElementRecord::Atomradius, &ElementRecord::Ionisierungsenergie, &ElementRecord::Elektronegativitaet};
-
-/// Bytes of a record whose four texts are empty.
-inline constexpr std::size_t SmallestElementRecord = 70;
+/// In front of a text in the data file: its length in bytes.
+using Textlaenge = std::uint16_t;
 
 /// Reads a record at the file's position: little-endian, no padding, texts as 16-bit length and Windows-1252 bytes.
 /// The texts are cleared first; on error 62 the fields read so far stay. A number that is not finite is no

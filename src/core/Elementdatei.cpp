@@ -1,5 +1,6 @@
 #include "core/Elementdatei.h"
 
+#include "core/Elementspalten.h"
 #include "core/Exportdatei.h"
 
 namespace zerna {

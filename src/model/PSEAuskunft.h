@@ -7,10 +7,7 @@
 
 namespace zerna {
 
-/// The value's plain text, a blank and the unit; "?" for an unknown value. Without a unit the text ends in the blank.
-std::string wertMitEinheit(float value, std::string_view unit);
-
-/// The fourteen lines that describe an element, each "caption: value".
+/// The lines that describe an element, each "caption: value"; a number with its unit or "?".
 std::vector<std::string> elementauskunft(const clsElement& element);
 
 } // namespace zerna

@@ -1,6 +1,7 @@
 #include "core/clsElement.h"
 
 #include "core/ElementCsv.h"
+#include "core/Elementdatei.h"
 #include "support/FilesTest.h"
 
 namespace zerna {
@@ -28,13 +29,16 @@ struct clsElementTest : FilesTest {
         "\0\0\x80\x3F\x97\xFF\x90\x3D\xE3\xA5\x9B\x3D\xE6\xB1\x61\xFF\x33\x33\x15\x42\x68\x91"
         "\x59\x41\xCD\xCC\x0C\x40\x05\0(1)s1\x01\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\x01\0H",
         88};
-    ElementRecord record = readElementCsv(bytesOf(ZERNA_DATA_DIR "/builtin-table.csv")).front();
+    const std::vector<ElementRecord> builtin = readElementCsv(bytesOf(ZERNA_DATA_DIR "/builtin-table.csv"));
+    ElementRecord record = builtin.front();
     clsElement element{files, boxes};
 };
 
 TEST_F(clsElementTest, RecordLayout)
 {
     EXPECT_EQ(written(record), wasserstoff);
+    saveElements(files, folder / "builtin.dat", boxes, builtin);
+    EXPECT_EQ(bytesOf(folder / "builtin.dat").size(), 540U);
     record.symbol.clear();
     record.Name = "Süß€" + std::string(65531, 'x');
     const std::string bytes = written(record);

@@ -1,7 +1,5 @@
 #include "model/PSEReihe.h"
 
-#include <array>
-
 #include "core/Unbekannt.h"
 #include "support/FilesTest.h"
 
@@ -12,9 +10,14 @@ struct PSEReiheTest : FilesTest {
     PSEReiheTest()
     {
         ElementRecord record;
-        for (std::size_t i = 0; i < ElementRecordNumbers.size(); ++i)
-            record.*ElementRecordNumbers.at(i) =
-                std::array{6.022136F, 11.0F, 12.0F, 2.0F, 2.0F, 3.0F, 0.0F, 16.0F, 17.0F, 18.0F}.at(i);
+        record.Masse = 6.022136F;
+        record.Schmelztemperatur = 11;
+        record.Siedetemperatur = 12;
+        record.Valenz = 2;
+        record.Dichte_Kristallin = 3;
+        record.Atomradius = 16;
+        record.Ionisierungsenergie = 17;
+        record.Elektronegativitaet = 18;
         for (const auto& [symbol, oz, fluessig] : {std::tuple("A", 7, 2.0F), {"B", 9, Unbekannt}}) {
             record.OZ = static_cast<std::int16_t>(oz);
             record.Dichte_Fluessig = fluessig;
