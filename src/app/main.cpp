@@ -1,5 +1,5 @@
 #include <QApplication>
-#include <QLibraryInfo>
+#include <QLocale>
 #include <QTranslator>
 
 #include <memory>

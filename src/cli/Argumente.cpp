@@ -1,6 +1,5 @@
 #include "cli/Argumente.h"
 
-#include <algorithm>
 #include <charconv>
 
 #include "programm/Rechenkern.h"

@@ -7,7 +7,6 @@
 #include "cli/Umgebung.h"
 #include "core/ElementCsv.h"
 #include "core/Elementdatei.h"
-#include "core/Zahlentext.h"
 #include "model/Einwaage.h"
 #include "model/Ergebnisse.h"
 #include "model/Groessentabelle.h"

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <iostream>
+#include <vector>
 
 #include "core/Elementdatei.h"
 #include "core/Exportdatei.h"

@@ -3,10 +3,8 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "core/MessageBoxes.h"
-#include "model/Tabelle.h"
 #include "programm/Rechenkern.h"
 
 namespace zerna {

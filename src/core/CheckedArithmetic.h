@@ -2,7 +2,6 @@
 
 #include <cmath>
 #include <concepts>
-#include <limits>
 
 #include "core/Laufzeitfehler.h"
 #include "core/Unbekannt.h"

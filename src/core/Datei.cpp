@@ -1,6 +1,5 @@
 #include "core/Datei.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <system_error>
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "core/CheckedArithmetic.h"
-#include "core/Zahlentext.h"
 
 namespace zerna {
 

@@ -1,6 +1,5 @@
 #include "model/PSEReihe.h"
 
-#include <algorithm>
 #include <array>
 
 #include "core/CheckedArithmetic.h"

@@ -24,7 +24,7 @@ public:
 
     /// Whether the buttons can be used.
     bool Enabled() const { return m_enabled; }
-    void setEnabled(bool enabled); // NOLINT(bugprone-derived-method-shadowing-base-method): the control's own flag
+    void setEnabled(bool enabled); ///< the control's own flag
 
     /// The buttons from above.
     std::array<QWidget*, 2> buttons() const;

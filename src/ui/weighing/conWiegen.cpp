@@ -29,6 +29,16 @@ constexpr std::string_view Steuerelement = "Benutzersteuerelement conWiegen";
 /// At% with as many digits as tell something.
 QString atomprozentText(float prozent) { return toQt(textWithDigits(prozent, 5)); }
 
+Wertfeld* makeMassField(const char* name, const QString& accessibleName, QWidget* parent)
+{
+    auto* field = new Wertfeld(parent);
+    field->setObjectName(QLatin1String(name));
+    field->setAccessibleName(accessibleName);
+    field->setAlignment(Qt::AlignRight);
+    field->setFixedSize(110, 26);
+    return field;
+}
+
 } // namespace
 
 std::array<QWidget*, 6> conWiegen::Zeile::widgets() const
@@ -47,16 +57,30 @@ conWiegen::conWiegen(Programm& programm, SaveFileDialog& saveDialog, QWidget* pa
 
 void conWiegen::createControls()
 {
-    const auto makeField = [this](const char* name, const QString& accessibleName) {
-        auto* field = new Wertfeld(this);
-        field->setObjectName(QLatin1String(name));
-        field->setAccessibleName(accessibleName);
-        field->setAlignment(Qt::AlignRight);
-        field->setFixedSize(110, 26);
-        return field;
-    };
+    createTarget();
+    for (int row = 0; row < MaxKomponenten; ++row)
+        createRow(row);
+    m_gesamt = new QLabel(this);
+    m_gesamt->setObjectName(QStringLiteral("lblGesamtmasse"));
+    m_hinweis = new QLabel(this);
+    m_hinweis->setObjectName(QStringLiteral("lblHinweis"));
+    m_hinweis->setWordWrap(true);
+    createLoss();
+    m_kopieren = new StyledButton(QStringLiteral("&Kopieren"), this);
+    m_kopieren->setObjectName(QStringLiteral("cmdWiegen_Kopieren"));
+    m_kopieren->setToolTipText(QStringLiteral("Wiegeprotokoll in die Zwischenablage"));
+    m_speichern = new StyledButton(QStringLiteral("&Speichern"), this);
+    m_speichern->setObjectName(QStringLiteral("cmdWiegen_Speichern"));
+    m_speichern->setToolTipText(QStringLiteral("Wiegeprotokoll als Textdatei speichern"));
+    connect(m_kopieren, &StyledButton::clicked, this, &conWiegen::copy);
+    connect(m_speichern, &StyledButton::clicked, this, &conWiegen::save);
+}
+
+/// The wanted total and the heads of the table below it.
+void conWiegen::createTarget()
+{
     m_sollMasseCaption = new QLabel(QStringLiteral("&Gesamtmasse [mg]:"), this);
-    m_txtSollMasse = makeField("txtSollMasse", QStringLiteral("Gewünschte Gesamtmasse in Milligramm"));
+    m_txtSollMasse = makeMassField("txtSollMasse", QStringLiteral("Gewünschte Gesamtmasse in Milligramm"), this);
     m_txtSollMasse->setText(QStringLiteral("1000"));
     read(*m_txtSollMasse, m_sollmasse);
     m_sollMasseCaption->setBuddy(m_txtSollMasse);
@@ -66,35 +90,24 @@ void conWiegen::createControls()
     for (std::size_t i = 0; i < heads.size(); ++i)
         m_heads.at(i) = new QLabel(heads.at(i), this);
     m_heads[4]->setToolTip(QStringLiteral("Abweichung der eingewogenen von der gewünschten Zusammensetzung in at%"));
-    for (int row = 0; row < MaxKomponenten; ++row)
-        createRow(row);
-    m_gesamt = new QLabel(this);
-    m_gesamt->setObjectName(QStringLiteral("lblGesamtmasse"));
-    m_hinweis = new QLabel(this);
-    m_hinweis->setObjectName(QStringLiteral("lblHinweis"));
-    m_hinweis->setWordWrap(true);
-    m_verlustCaption = new QLabel(QStringLiteral("Masse&verlust [mg]:"), this);
-    m_txtVerlust = makeField("txtVerlust", QStringLiteral("Masseverlust in Milligramm"));
-    m_verlustCaption->setBuddy(m_txtVerlust);
-    m_lstVerlust = new QListWidget(this);
-    m_lstVerlust->setObjectName(QStringLiteral("lstVerlust"));
-    m_lstVerlust->setAccessibleName(QStringLiteral("Zusammensetzung nach dem Masseverlust"));
-    m_kopieren = new StyledButton(QStringLiteral("&Kopieren"), this);
-    m_kopieren->setObjectName(QStringLiteral("cmdWiegen_Kopieren"));
-    m_kopieren->setToolTipText(QStringLiteral("Wiegeprotokoll in die Zwischenablage"));
-    m_speichern = new StyledButton(QStringLiteral("&Speichern"), this);
-    m_speichern->setObjectName(QStringLiteral("cmdWiegen_Speichern"));
-    m_speichern->setToolTipText(QStringLiteral("Wiegeprotokoll als Textdatei speichern"));
     connect(m_txtSollMasse, &Wertfeld::textChanged, this, [this] {
         read(*m_txtSollMasse, m_sollmasse);
         sollMasseChanged();
     });
+}
+
+void conWiegen::createLoss()
+{
+    m_verlustCaption = new QLabel(QStringLiteral("Masse&verlust [mg]:"), this);
+    m_txtVerlust = makeMassField("txtVerlust", QStringLiteral("Masseverlust in Milligramm"), this);
+    m_verlustCaption->setBuddy(m_txtVerlust);
+    m_lstVerlust = new QListWidget(this);
+    m_lstVerlust->setObjectName(QStringLiteral("lstVerlust"));
+    m_lstVerlust->setAccessibleName(QStringLiteral("Zusammensetzung nach dem Masseverlust"));
     connect(m_txtVerlust, &Wertfeld::textChanged, this, [this] {
         read(*m_txtVerlust, m_verlust);
         verlustChanged();
     });
-    connect(m_kopieren, &StyledButton::clicked, this, &conWiegen::copy);
-    connect(m_speichern, &StyledButton::clicked, this, &conWiegen::save);
 }
 
 void conWiegen::createRow(int row)

@@ -46,6 +46,8 @@ private:
     };
 
     void createControls();
+    void createTarget();
+    void createLoss();
     void createRow(int row);
     void layOut();
     void layOutTable(QGridLayout& grid);
