@@ -11,7 +11,9 @@ struct PSETafelTest : FilesTest {
             {"B", 13, 2}, {"Sc", 3, 4}, {"Cu", 11, 4}, {"Zweit", 11, 4}, {"La", 4, 9}, {"Fern", 40, 200}};
         for (const auto& [symbol, column, row] : cells) {
             const auto element = std::make_shared<clsElement>(files, boxes);
-            element->setRecord({column, row, symbol, {}, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, {}, {}, {}});
+            element->setX(column);
+            element->setY(row);
+            element->setsymbol(symbol);
             elements.Add(element, symbol);
         }
     }
