@@ -13,15 +13,6 @@
 
 namespace {
 
-/// Any message means that the table could not be made.
-class FailingBoxes : public zerna::MessageBoxes {
-public:
-    void show(zerna::Icon, std::string_view, std::string_view text) override
-    {
-        throw std::runtime_error(std::string(text));
-    }
-};
-
 std::string contentOf(const std::filesystem::path& path)
 {
     std::ifstream stream(path, std::ios::binary);
@@ -47,9 +38,7 @@ void makeTable(std::span<char* const> arguments)
     const std::string form = arguments[1];
     const std::filesystem::path out = arguments[3];
     const std::filesystem::path dat = form == "dat" ? out : std::filesystem::path(out).replace_extension(".dat");
-    FailingBoxes boxes;
-    zerna::Dateinummern files;
-    zerna::saveElements(files, dat, boxes, zerna::readElementCsv(contentOf(arguments[2])));
+    zerna::saveElements(dat, zerna::readElementCsv(contentOf(arguments[2])));
     if (form == "cpp")
         writeByteArray(dat, out);
 }

@@ -48,7 +48,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     boxes.shown.clear();
     const std::vector<ElementRecord> records = recordsOf(elements);
-    saveElements(files, path, boxes, records);
+    saveElements(path, records);
     ElementCollection again;
     files.open(2, path, Zugriff::Binaer);
     loadElements(files, 2, boxes, again);

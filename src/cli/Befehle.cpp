@@ -285,12 +285,10 @@ struct Exportieren {
 };
 
 struct Importieren {
-    void run(Umgebung& umgebung) const
+    void run(Umgebung&) const
     {
-        Dateinummern files;
         try {
-            const std::vector<ElementRecord> records = readElementCsv(readFile(csv));
-            saveElements(files, pathFromUtf8(dat), umgebung.boxes(), records);
+            saveElements(pathFromUtf8(dat), readElementCsv(readFile(csv)));
         } catch (const Tabellenfehler& error) {
             throw Datenfehler("Datei \"" + csv + "\": " + error.what());
         } catch (const Laufzeitfehler& error) {

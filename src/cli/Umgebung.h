@@ -27,7 +27,6 @@ public:
     void loadAlloy(std::span<const std::string> komponenten);
 
     Rechenkern& kern() { return m_kern; }
-    MessageBoxes& boxes() { return m_boxes; }
 
     std::string daten; ///< the data file that was asked for; empty for none
 

@@ -21,27 +21,6 @@ std::int32_t readCount(Datei& file)
     return count;
 }
 
-/// Passes messages on and remembers that there were any: Daten_Speichern reports its errors and returns normally.
-class WatchedBoxes : public MessageBoxes {
-public:
-    explicit WatchedBoxes(MessageBoxes& boxes)
-        : m_boxes(boxes)
-    {
-    }
-
-    bool anyShown() const { return m_anyShown; }
-
-    void show(Icon icon, std::string_view caption, std::string_view text) override
-    {
-        m_anyShown = true;
-        m_boxes.show(icon, caption, text);
-    }
-
-private:
-    MessageBoxes& m_boxes;
-    bool m_anyShown = false;
-};
-
 } // namespace
 
 void loadElements(Dateinummern& files, int number, MessageBoxes& boxes, ElementCollection& elements,
@@ -58,26 +37,15 @@ void loadElements(Dateinummern& files, int number, MessageBoxes& boxes, ElementC
     }
 }
 
-void saveElements(
-    Dateinummern& files, const std::filesystem::path& path, MessageBoxes& boxes, std::span<const ElementRecord> records)
+void saveElements(const std::filesystem::path& path, std::span<const ElementRecord> records)
 {
     Exportdatei target(path);
-    const int number = files.freeNumber();
-    files.open(number, target.writtenFile(), Zugriff::Ausgabe);
+    Datei file(target.writtenFile(), Zugriff::Ausgabe);
     const auto count = static_cast<std::int32_t>(records.size());
-    files.at(number).write({reinterpret_cast<const char*>(&count), sizeof count});
-    WatchedBoxes watched(boxes);
-    for (const ElementRecord& record : records) {
-        clsElement element(files, watched);
-        element.setRecord(record);
-        element.setDateinummer(number);
-        element.Daten_Speichern();
-        if (watched.anyShown())
-            break;
-    }
-    files.close(number); // a full disk ends here
-    if (watched.anyShown())
-        throw Laufzeitfehler(Fehler::Ueberlauf); // a text that is too long
+    file.write({reinterpret_cast<const char*>(&count), sizeof count});
+    for (const ElementRecord& record : records)
+        writeElementRecord(file, record);
+    file.close(); // a full disk ends here
     target.commit();
 }
 

@@ -19,8 +19,8 @@ inline constexpr std::string_view Elementdateiname = "elemente.dat";
 void loadElements(Dateinummern& files, int number, MessageBoxes& boxes, ElementCollection& elements,
     const std::function<void(const ElementCollection::Element&, int)>& each = {});
 
-/// Writes an element data file. An error leaves an earlier file untouched.
-void saveElements(Dateinummern& files, const std::filesystem::path& path, MessageBoxes& boxes,
-    std::span<const ElementRecord> records);
+/// Writes an element data file. An error (6 for a text that is too long, those of Datei) leaves an earlier file
+/// untouched.
+void saveElements(const std::filesystem::path& path, std::span<const ElementRecord> records);
 
 } // namespace zerna

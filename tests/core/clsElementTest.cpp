@@ -37,7 +37,7 @@ struct clsElementTest : FilesTest {
 TEST_F(clsElementTest, RecordLayout)
 {
     EXPECT_EQ(written(record), wasserstoff);
-    saveElements(files, folder / "builtin.dat", boxes, builtin);
+    saveElements(folder / "builtin.dat", builtin);
     EXPECT_EQ(bytesOf(folder / "builtin.dat").size(), 540U);
     record.symbol.clear();
     record.Name = "Süß€" + std::string(65531, 'x');
