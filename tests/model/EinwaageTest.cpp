@@ -7,7 +7,12 @@
 namespace zerna {
 
 struct EinwaageTest : FilesTest {
-    using Alloy = std::vector<std::tuple<const char*, float, float>>; // symbol, g/mol, at%
+    struct Component {
+        const char* symbol;
+        float mass; // g/mol
+        float percent; // at%
+    };
+    using Alloy = std::vector<Component>;
     using Masses = std::vector<float>;
 
     void setAlloy(const Alloy& alloy)
@@ -33,13 +38,19 @@ struct EinwaageTest : FilesTest {
 
 TEST_F(EinwaageTest, TargetMassesAndBack)
 {
-    const std::tuple<Alloy, float, Masses, Masses> rows[] = {
-        {{{"Al", 26.98F, 50}, {"Cu", 63.55F, 50}}, 1000, {298.02275F, 701.97725F}, {50, 50}},
-        {{{"A", 10, 100}, {"B", 20, 0}}, 1e-6F, {1e-6F, 0}, {100, 0}},
-        {{{"A", 10, 120}, {"B", 20, -20}}, 8, {12, -4}, {120, -20}}, // while at% are being typed
-        {{{"A", 10, 50}, {"B", 20, 30}, {"C", 40, 20}}, 190, {50, 60, 80}, {50, 30, 20}},
+    struct Row {
+        const char* name;
+        Alloy alloy;
+        float total;
+        Masses masses, percents;
     };
-    for (const auto& [alloy, total, masses, percents] : rows) {
+    for (const auto& [name, alloy, total, masses, percents] : {
+             Row{"halves", {{"Al", 26.98F, 50}, {"Cu", 63.55F, 50}}, 1000, {298.02275F, 701.97725F}, {50, 50}},
+             {"pure, a trace", {{"A", 10, 100}, {"B", 20, 0}}, 1e-6F, {1e-6F, 0}, {100, 0}},
+             {"while at% are being typed", {{"A", 10, 120}, {"B", 20, -20}}, 8, {12, -4}, {120, -20}},
+             {"three", {{"A", 10, 50}, {"B", 20, 30}, {"C", 40, 20}}, 190, {50, 60, 80}, {50, 30, 20}},
+         }) {
+        SCOPED_TRACE(name);
         setAlloy(alloy);
         EXPECT_THAT(sollmassen(calc, count, total), areNear(masses));
         EXPECT_THAT(gewogeneAtomprozente(calc, masses), areNear(percents));
@@ -52,11 +63,20 @@ TEST_F(EinwaageTest, FirstComponentIsDividedByThoughTheResultWouldNotNeedIt)
 {
     setAlloy({{"A", 10, 0}, {"B", 20, 100}});
     EXPECT_EQ(errorNumber([this] { sollmassen(calc, count, 1000); }), 11);
-    const std::tuple<Masses, int, int> rows[] = {
-        {{0, 5}, 11, 0}, {{5, -10}, 11, 0}, {{0, 0}, 11, 6}, {{3e38F, 3e38F}, 0, 6}, {{3, -3}, 0, 11}};
-    for (const auto& [masses, atomicError, massError] : rows) {
-        EXPECT_EQ(errorNumber([&, m = masses] { gewogeneAtomprozente(calc, m); }), atomicError) << masses[0];
-        EXPECT_EQ(errorNumber([&, m = masses] { massenprozente(m); }), massError) << masses[0];
+    struct Row {
+        const char* name;
+        Masses masses;
+        int atomicError, massError;
+    };
+    for (const auto& [name, masses, atomicError, massError] : {
+             Row{"nothing of the first", {0, 5}, 11, 0},
+             {"as many moles less", {5, -10}, 11, 0},
+             {"nothing at all", {0, 0}, 11, 6},
+             {"a sum beyond a single", {3e38F, 3e38F}, 0, 6},
+             {"as many milligrams less", {3, -3}, 0, 11},
+         }) {
+        EXPECT_EQ(errorNumber([&, m = masses] { gewogeneAtomprozente(calc, m); }), atomicError) << name;
+        EXPECT_EQ(errorNumber([&, m = masses] { massenprozente(m); }), massError) << name;
     }
 }
 

@@ -75,16 +75,19 @@ TEST(Friedelindex, WrapsAtUnequalBounds)
 
 TEST(Wertkopie, OfShownValues)
 {
-    const std::tuple<int, const char*, const char*, const char*, const char*, const char*> rows[] = {
-        // line, shown, unit, "Kopieren", "Zahl kopieren", "Zahl und Einheit kopieren"
-        {7, "11,65 eV", "eV", "11.65", "11,65", "11,65 eV"},
-        {3, "1,4667 E-29 m³", "m³", "1.4667", "1,4667E-29", "1,4667 E-29 m³"},
-        {10, "r(n) = 0,23891 nm", "nm", "0.23891", "0,23891", "0,23891 nm"},
-        {13, "123,456 %", "%", "", "123,456", "123,456 %"}, // Intended: the copy loses seven characters here as well
-        {0, "e/a", "e/a", "e/a", "", "e/a"},
-        {7, "", "eV", "", "", ""},
+    struct Row {
+        int line;
+        std::string_view shown, unit;
+        std::string_view copied, number, whole; // "Kopieren", "Zahl kopieren", "Zahl und Einheit kopieren"
     };
-    for (const auto& [line, shown, unit, copied, number, whole] : rows) {
+    for (const auto& [line, shown, unit, copied, number, whole] : {
+             Row{7, "11,65 eV", "eV", "11.65", "11,65", "11,65 eV"},
+             {3, "1,4667 E-29 m³", "m³", "1.4667", "1,4667E-29", "1,4667 E-29 m³"},
+             {10, "r(n) = 0,23891 nm", "nm", "0.23891", "0,23891", "0,23891 nm"},
+             {13, "123,456 %", "%", "", "123,456", "123,456 %"}, // Intended: the copy loses seven characters here too
+             {0, "e/a", "e/a", "e/a", "", "e/a"},
+             {7, "", "eV", "", "", ""},
+         }) {
         SCOPED_TRACE(shown);
         EXPECT_EQ(kopierteZahl(line, shown), copied);
         EXPECT_EQ(ganzeZahl(shown, unit), number);

@@ -40,10 +40,23 @@ TEST_F(KonzentrationsreiheTest, OtherComponentsShareTheRestAsEntered)
 TEST_F(KonzentrationsreiheTest, EachCodeHasItsQuantityAndUnit)
 {
     calc.setTeilchenzahldichte(5e28F);
-    // At 40 at% A, from the textbook formulas.
-    for (const auto& [groesse, einheit, value] : {std::tuple(0, "e/a", 1.68), {1, "1/nm³", 56.8127},
-             {2, "e/nm³", 95.4453}, {4, "nm³", 1.76017e-29}, {5, "m³/As", -6.53936e-11}, {6, "V/K²", -9.62363e-9},
-             {7, "eV", 11.4719}, {8, "eV", 7.61564}, {9, "1/nm", 28.2762}, {10, "nm", 0.222207}}) {
+    struct Row {
+        int groesse;
+        const char* einheit;
+        double value; // at 40 at% A, from the textbook formulas
+    };
+    for (const auto& [groesse, einheit, value] : {
+             Row{0, "e/a", 1.68},
+             {1, "1/nm³", 56.8127},
+             {2, "e/nm³", 95.4453},
+             {4, "nm³", 1.76017e-29},
+             {5, "m³/As", -6.53936e-11},
+             {6, "V/K²", -9.62363e-9},
+             {7, "eV", 11.4719},
+             {8, "eV", 7.61564},
+             {9, "1/nm", 28.2762},
+             {10, "nm", 0.222207},
+         }) {
         EXPECT_EQ(reiheneinheit(groesse), einheit);
         EXPECT_NEAR(series(0, groesse).at(40) / value, 1, 1e-4) << einheit;
     }
@@ -52,8 +65,17 @@ TEST_F(KonzentrationsreiheTest, EachCodeHasItsQuantityAndUnit)
 
 TEST_F(KonzentrationsreiheTest, FaultsReachTheCaller)
 {
-    for (const auto& [variable, groesse, error] : {std::tuple(-1, 0, 9), {3, 0, 9}, {0, 3, 5}, {0, 11, 5}})
-        EXPECT_EQ(errorNumber([this, v = variable, g = groesse] { series(v, g); }), error) << groesse;
+    struct Row {
+        const char* name;
+        int variable, groesse, error;
+    };
+    for (const auto& [name, variable, groesse, error] : {
+             Row{"before the first component", -1, 0, 9},
+             {"behind the last component", 3, 0, 9},
+             {"the density has a rule of its own", 0, 3, 5},
+             {"no such quantity", 0, 11, 5},
+         })
+        EXPECT_EQ(errorNumber([this, v = variable, g = groesse] { series(v, g); }), error) << name;
     for (const auto& [dichte, error] : {std::pair(0.0F, 11), {Unbekannt, 5}, {1e-39F, 6}, {3.0F, 0}}) {
         alloy[1].dichte = dichte;
         EXPECT_EQ(errorNumber([this] { series(0, 0); }), error) << dichte;

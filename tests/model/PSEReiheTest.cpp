@@ -18,8 +18,13 @@ struct PSEReiheTest : FilesTest {
         record.Atomradius = 16;
         record.Ionisierungsenergie = 17;
         record.Elektronegativitaet = 18;
-        for (const auto& [symbol, oz, fluessig] : {std::tuple("A", 7, 2.0F), {"B", 9, Unbekannt}}) {
-            record.OZ = static_cast<std::int16_t>(oz);
+        struct Row {
+            const char* symbol;
+            std::int16_t oz;
+            float fluessig;
+        };
+        for (const auto& [symbol, oz, fluessig] : {Row{"A", 7, 2}, {"B", 9, Unbekannt}}) {
+            record.OZ = oz;
             record.Dichte_Fluessig = fluessig;
             elements.Add(std::make_shared<clsElement>(files, boxes), symbol);
             elements.Item(symbol)->setRecord(record);
@@ -34,20 +39,35 @@ struct PSEReiheTest : FilesTest {
 
 TEST_F(PSEReiheTest, EachCodeHasItsTitleAndValues)
 {
-    // The value of A, from the textbook formulas for 400 electrons per nm³. B has what needs no liquid density.
-    for (const auto& [code, titel, value, hasB] : {std::tuple(0, "Valenz", 2.0, false),
-             {2, "Elektronendichte [e/nm³]", 400.0, false}, {4, "Atomvolumen [nm³]", 5e-30, false},
-             {5, "Hall-Koeffizient [m³/As]", -1.56038e-11, false}, {6, "Thermokraft [V/K²]", -3.70227e-9, false},
-             {7, "Plasmonenenergie [eV]", 23.4848, false}, {8, "Fermienergie [eV]", 19.796, false},
-             {9, "2 Kf [1/nm]", 45.5887, false}, {10, "Friedel-Wellenlänge [nm]", 0.137823, false},
-             {11, "Schmelztemperatur [K]", 11, true}, {12, "Siedetemperatur [K]", 12, true},
-             {13, "flüssige Dichte [g/cm³]", 2, false}, {14, "kristalline Dichte [g/cm³]", 3, true},
-             {15, "Masse [amu]", 6.022136, true}, {16, "Atomradius [pm]", 16, true},
-             {17, "erste Ionisierungsenergie [eV]", 17, true}, {18, "Elektrononegativität", 18, true}, // Intended: so
+    struct Row {
+        int code;
+        const char* titel;
+        double value; // of A, from the textbook formulas for 400 electrons per nm³
+        bool hasB; // B has what needs no liquid density
+    };
+    for (const auto& [code, titel, value, hasB] : {
+             Row{0, "Valenz", 2, false},
+             {2, "Elektronendichte [e/nm³]", 400, false},
+             {4, "Atomvolumen [nm³]", 5e-30, false},
+             {5, "Hall-Koeffizient [m³/As]", -1.56038e-11, false},
+             {6, "Thermokraft [V/K²]", -3.70227e-9, false},
+             {7, "Plasmonenenergie [eV]", 23.4848, false},
+             {8, "Fermienergie [eV]", 19.796, false},
+             {9, "2 Kf [1/nm]", 45.5887, false},
+             {10, "Friedel-Wellenlänge [nm]", 0.137823, false},
+             {11, "Schmelztemperatur [K]", 11, true},
+             {12, "Siedetemperatur [K]", 12, true},
+             {13, "flüssige Dichte [g/cm³]", 2, false},
+             {14, "kristalline Dichte [g/cm³]", 3, true},
+             {15, "Masse [amu]", 6.022136, true},
+             {16, "Atomradius [pm]", 16, true},
+             {17, "erste Ionisierungsenergie [eV]", 17, true},
+             {18, "Elektrononegativität", 18, true}, // Intended: so
              {19, "Teilchenzahldichte (flüssig) [1/cm³]", 2e23, false},
              {20, "Teilchenzahldichte (kristallin) [1/cm³]", 3e23, true},
              {21, "Teilchenzahldichte (kristallin - flüssig) [%]", 50, false},
-             {22, "flüssige Dichte (kristallin - flüssig) [%]", 50, false}}) {
+             {22, "flüssige Dichte (kristallin - flüssig) [%]", 50, false},
+         }) {
         const PSEReihe reihe = pseReihe(elements, calc, code, "davor");
         EXPECT_EQ(reihe.titel, titel);
         EXPECT_NEAR(reihe.y.at(0) / value, 1, 1e-4) << titel;

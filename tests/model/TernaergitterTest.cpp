@@ -32,15 +32,23 @@ struct TernaergitterTest : FilesTest {
 
 TEST_F(TernaergitterTest, CornersArePureElementsAndTheMiddleIsTheirMean)
 {
-    const std::tuple<int, double, double, double, double> rows[] = {{0, 3, 1, 2, 1.7}, {3, 2.7, 8.96, 1.738, 5.5414},
-        {1, 60.26, 84.91, 43.06, 61.83}, // 1/nm³, from volumes per atom of 16.594, 11.777 and 23.222 cubic angstroms
-        {8, 11.66, 7.045, 7.112, 8.122}}; // 0.36465 eV·nm² times the electron density to the power of 2/3
-    for (const auto& [groesse, al, cu, mg, mixed] : rows) {
+    struct Row {
+        const char* name;
+        int groesse;
+        double al, cu, mg, mixed;
+    };
+    for (const auto& [name, groesse, al, cu, mg, mixed] : {
+             Row{"valence", 0, 3, 1, 2, 1.7},
+             {"density in g/cm³", 3, 2.7, 8.96, 1.738, 5.5414},
+             {"particles per nm³, from 16.594, 11.777 and 23.222 Å³ per atom", 1, 60.26, 84.91, 43.06, 61.83},
+             {"Fermi energy: 0.36465 eV·nm² times electron density to the 2/3", 8, 11.66, 7.045, 7.112, 8.122},
+         }) {
+        SCOPED_TRACE(name);
         const Ternaergitter gitter = grid(groesse);
-        EXPECT_NEAR(gitter.wert(10, 0), al, al * 1e-3) << groesse;
-        EXPECT_NEAR(gitter.wert(0, 10), cu, cu * 1e-3) << groesse;
-        EXPECT_NEAR(gitter.wert(0, 0), mg, mg * 1e-3) << groesse;
-        EXPECT_NEAR(gitter.wert(2, 5), mixed, mixed * 1e-3) << groesse;
+        EXPECT_NEAR(gitter.wert(10, 0), al, al * 1e-3);
+        EXPECT_NEAR(gitter.wert(0, 10), cu, cu * 1e-3);
+        EXPECT_NEAR(gitter.wert(0, 0), mg, mg * 1e-3);
+        EXPECT_NEAR(gitter.wert(2, 5), mixed, mixed * 1e-3);
     }
 }
 

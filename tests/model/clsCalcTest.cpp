@@ -10,7 +10,11 @@ namespace zerna {
 
 struct clsCalcTest : FilesTest {
     using C = clsCalc; // keeps the tables short
-    using Groesse = float (C::*)() const;
+
+    struct Expected {
+        float (C::*quantity)() const;
+        double value;
+    };
 
     /// The shipped elements with their crystalline densities.
     clsCalcTest()
@@ -25,10 +29,10 @@ struct clsCalcTest : FilesTest {
     }
 
     /// Each quantity has its value but for a relative deviation.
-    void expect(double relative, std::initializer_list<std::pair<Groesse, double>> rows) const
+    void expect(double relative, std::initializer_list<Expected> rows) const
     {
-        for (const auto& row : rows)
-            EXPECT_NEAR((calc.*row.first)(), row.second, std::abs(row.second) * relative) << &row - rows.begin();
+        for (const Expected& row : rows)
+            EXPECT_NEAR((calc.*row.quantity)(), row.value, std::abs(row.value) * relative) << &row - rows.begin();
     }
 
     ElementCollection elements;
@@ -84,10 +88,21 @@ TEST_F(clsCalcTest, WeightsByAtomicPercentWithoutNormalising)
 
 TEST_F(clsCalcTest, ValencesFollowTheirTextAndTheElementsItNames)
 {
-    const std::tuple<const char*, float, float> rows[] = {{"z_Cu", 1.0F, 1.0F}, {"z_Cu", 2.0F, 2.0F},
-        {"1,5", 2.0F, 1.5F}, {"", 2.0F, 0.0F}, {"1/0", 1.0F, Unbekannt}, {"1+foo(1)", 1.0F, Unbekannt},
-        {"abc", 1.0F, Unbekannt}, {"hex(3)", 1.0F, Unbekannt}, {"1e39", 1.0F, Unbekannt}};
-    for (const auto& [text, valenceOfCopper, valence] : rows) {
+    struct Row {
+        const char* text;
+        float valenceOfCopper, valence;
+    };
+    for (const auto& [text, valenceOfCopper, valence] : {
+             Row{"z_Cu", 1, 1},
+             {"z_Cu", 2, 2},
+             {"1,5", 2, 1.5F},
+             {"", 2, 0},
+             {"1/0", 1, Unbekannt},
+             {"1+foo(1)", 1, Unbekannt},
+             {"abc", 1, Unbekannt},
+             {"hex(3)", 1, Unbekannt},
+             {"1e39", 1, Unbekannt},
+         }) {
         elements.Item("Cu")->setValenz(valenceOfCopper);
         elements.Item("Al")->setValenz_Temp(text);
         calc.Element_Add(0, "Al", 100);
@@ -99,7 +114,13 @@ TEST_F(clsCalcTest, AFailedRecalculationMakesAllUnknownButKf2)
 {
     calc.Element_Add(0, "Al", 100);
     const float before = calc.Kf_2();
-    for (const auto& [density, components] : {std::pair(0.0F, 1), {2.7F, 2}}) { // no density, empty slot
+    struct Row {
+        const char* name;
+        float density;
+        int components;
+    };
+    for (const auto& [name, density, components] : {Row{"no density", 0, 1}, {"empty slot", 2.7F, 2}}) {
+        SCOPED_TRACE(name);
         elements.Item("Al")->setDichte(density);
         count = components;
         calc.Element_Add(0, "Al", 0);

@@ -104,16 +104,23 @@ TEST_F(ProgrammTest, BadDataFilesAreReportedAndNeverOverwritten)
         return "Fehler beim Einlesen der Datei:\r\n" + dataFile.string() + "\r\n\r\n" + reason
             + "\r\nProgramm wird beendet.";
     };
-    const std::tuple<std::string, const char*, std::string, bool> rows[] = {
-        {std::string(4, '\0'), "KoltZerna", "Index außerhalb des gültigen Bereichs", true}, // no elements
-        {builtIn.substr(0, 4) + hydrogen + hydrogen, "Zerna",
-            damaged("Dieser Schlüssel ist bereits einem Element dieser Auflistung zugeordnet"), false},
-        {"", "Zerna", damaged("Eingabe hinter Dateiende"), false},
-        {"\xFF\xFF\xFF\xFF" + hydrogen, "Zerna", damaged("Eingabe hinter Dateiende"), false},
-        {"\xFF\xFF\xFF\x7F" + hydrogen, "Zerna", damaged("Eingabe hinter Dateiende"), false},
+    const std::string twice = damaged("Dieser Schlüssel ist bereits einem Element dieser Auflistung zugeordnet");
+    const std::string tooShort = damaged("Eingabe hinter Dateiende");
+    struct Row {
+        const char* name;
+        std::string bytes;
+        const char* caption;
+        std::string text;
+        bool runs;
     };
-    for (const auto& [bytes, caption, text, runs] : rows) {
-        SCOPED_TRACE(text);
+    for (const auto& [name, bytes, caption, text, runs] : {
+             Row{"no elements", std::string(4, '\0'), "KoltZerna", "Index außerhalb des gültigen Bereichs", true},
+             {"an element twice", builtIn.substr(0, 4) + hydrogen + hydrogen, "Zerna", twice, false},
+             {"empty", "", "Zerna", tooShort, false},
+             {"a negative count", "\xFF\xFF\xFF\xFF" + hydrogen, "Zerna", tooShort, false},
+             {"the greatest count", "\xFF\xFF\xFF\x7F" + hydrogen, "Zerna", tooShort, false},
+         }) {
+        SCOPED_TRACE(name);
         boxes.shown.clear();
         writeBytes(dataFile, bytes);
         EXPECT_EQ(start(), runs);

@@ -34,14 +34,13 @@ struct RechenkernTest : FilesTest {
 
 TEST_F(RechenkernTest, RowsAsTheResultsTextNamesThem)
 {
-    const std::tuple<const char*, const char*> rows[] = {
-        {"B=100", "B 100 amorph 2,35 Standard 3"},
-        {"li=1e2", "Li 100 flüssig 0,512 Standard 1"}, // found without regard to case
-        {"Li=100:valenz=3/2:dichte=fluessig", "Li 100 flüssig 0,512 <andere> 3/2"},
-        {"H=50.50:dichte=1,5", "H 50,5 <andere> 1,5 Standard 1"},
-        {"H=-20:dichte=kristallin:valenz=z_C", "H -20 kristallin 0,076 <andere> z_C"},
-    };
-    for (const auto& [text, expected] : rows) {
+    for (const auto& [text, expected] : {
+             std::pair("B=100", "B 100 amorph 2,35 Standard 3"),
+             {"li=1e2", "Li 100 flüssig 0,512 Standard 1"}, // found without regard to case
+             {"Li=100:valenz=3/2:dichte=fluessig", "Li 100 flüssig 0,512 <andere> 3/2"},
+             {"H=50.50:dichte=1,5", "H 50,5 <andere> 1,5 Standard 1"},
+             {"H=-20:dichte=kristallin:valenz=z_C", "H -20 kristallin 0,076 <andere> z_C"},
+         }) {
         const Komponentenzeile zeile = alloy({text}).at(0);
         EXPECT_EQ(zeile.symbol + ' ' + zeile.prozent + ' ' + zeile.dichtewahl + ' ' + zeile.dichte + ' '
                 + zeile.valenzwahl + ' ' + zeile.valenz,
@@ -55,7 +54,7 @@ TEST_F(RechenkernTest, RowsAsTheResultsTextNamesThem)
 TEST_F(RechenkernTest, BadComponentsAreNamed)
 {
     const std::string form = "erwartet wird SYMBOL=ATPROZENT[:dichte=ZAHL|amorph|fluessig|kristallin][:valenz=TEXT]";
-    const std::tuple<const char*, std::string> rows[] = {
+    const std::pair<const char*, std::string> rows[] = {
         {"", "! Komponente \"\": " + form},
         {"=50", "! Komponente \"=50\": " + form},
         {"Li=50:dichte", "! Komponente \"Li=50:dichte\": " + form},

@@ -110,10 +110,19 @@ TEST_F(DiagrammbereichTest, TypesHaveTheirListsAndSteps)
 TEST_F(DiagrammbereichTest, ValueLabelsStepTheirRow)
 {
     type("txtProzent_0", "98,6");
-    for (const auto& [label, button, shown] : {std::tuple("conLabel_0", "cmdStep_1", "100|0"),
-             {"conLabel_0", "cmdStep_1", "0|100"}, {"conLabel_1", "cmdStep_0", "0|100"} /* balance row */}) {
+    struct Row {
+        const char* name;
+        const char* label;
+        const char* button;
+        const char* shown;
+    };
+    for (const auto& [name, label, button, shown] : {
+             Row{"to the whole number", "conLabel_0", "cmdStep_1", "100|0"},
+             {"over the top", "conLabel_0", "cmdStep_1", "0|100"},
+             {"the balance row takes the rest", "conLabel_1", "cmdStep_0", "0|100"},
+         }) {
         QTest::mouseClick(find(label).findChild<QWidget*>(button), Qt::LeftButton);
-        EXPECT_EQ(texts({"txtProzent_0", "txtProzent_1"}), shown);
+        EXPECT_EQ(texts({"txtProzent_0", "txtProzent_1"}), shown) << name;
     }
     EXPECT_FLOAT_EQ(programm->Calc().Valenz(), 1) << "copper";
     EXPECT_FALSE(find("conLabel_2").isVisible());

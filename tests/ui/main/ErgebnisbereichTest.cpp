@@ -2,7 +2,7 @@
 
 #include <QMenu>
 
-#include <tuple>
+#include <array>
 
 #include "core/Zeichensatz.h"
 #include "support/ErwarteteTexte.h"
@@ -40,16 +40,21 @@ TEST_F(ErgebnisbereichTest, TypedValuesExploreTheModelUntilTheNextEdit)
 {
     const std::vector<const char*> names{
         "txtMFE_0", "txtMFE_1", "txtMFE_2", "lblMFE_7", "lblMFE_9", "lblMFE_11", "lblMFE_16"};
-    const std::tuple<const char*, const char*, const char*> rows[] = {
-        {"txtMFE_1", "0,05", "2,2|0,05|2,9646|0,083714 eV|2,1194 nm|0,11 e/nm³|0,050228 eV"},
-        {"txtMFE_0", "3", "3|68,18|36,455|12,659 eV|0,17235 nm|204,54 e/nm³|7,5952 eV"},
-        {"txtMFE_2", "25,132742", "2,2|68,18|25,132742|10,294 eV|0,25 nm|149,99 e/nm³|6,1765 eV"},
-        {"txtMFE_1", "", "2,2||32,875||||"},
-        {"txtMFE_2", "", "2,2|68,18|||||"},
-        {"txtMFE_0", "x", "x|68,18|32,875|10,294 eV|0,19112 nm|149,99 e/nm³|6,1765 eV"},
+    struct Row {
+        const char* name;
+        const char* field;
+        const char* typed;
+        const char* shown;
     };
-    for (const auto& [field, typed, shown] : rows) {
-        SCOPED_TRACE(typed);
+    for (const auto& [name, field, typed, shown] : {
+             Row{"density", "txtMFE_1", "0,05", "2,2|0,05|2,9646|0,083714 eV|2,1194 nm|0,11 e/nm³|0,050228 eV"},
+             {"valence", "txtMFE_0", "3", "3|68,18|36,455|12,659 eV|0,17235 nm|204,54 e/nm³|7,5952 eV"},
+             {"2 kF", "txtMFE_2", "25,132742", "2,2|68,18|25,132742|10,294 eV|0,25 nm|149,99 e/nm³|6,1765 eV"},
+             {"no density", "txtMFE_1", "", "2,2||32,875||||"},
+             {"no 2 kF", "txtMFE_2", "", "2,2|68,18|||||"},
+             {"no number", "txtMFE_0", "x", "x|68,18|32,875|10,294 eV|0,19112 nm|149,99 e/nm³|6,1765 eV"},
+         }) {
+        SCOPED_TRACE(name);
         type(field, typed);
         EXPECT_EQ(texts(names), shown);
         EXPECT_EQ(find<Wertfeld>(field).fehler().isEmpty(), *typed != 'x');
@@ -97,18 +102,20 @@ TEST_F(ErgebnisbereichTest, LinesFromTheFirstErrorOnAreEmptyNotStale)
 
 TEST_F(ErgebnisbereichTest, MenuAndKeyCopyOneLine)
 {
-    const std::tuple<const char*, std::vector<const char*>> rows[] = {
-        // "Kopieren", "Zahl kopieren", "Zahl und Einheit kopieren"
-        {"lblMFE_7", {"10.294", "10,294", "10,294 eV"}},
-        {"lblMFE_3", {"1.4667", "1,4667E-29", "1,4667 E-29 m³"}},
-        {"lblMFE_10", {"0.23891", "0,23891", "0,23891 nm"}},
-        {"lblMFE_0", {"e/a", "2,2", "2,2 e/a"}},
+    struct Row {
+        const char* line;
+        std::array<const char*, 3> copies; // "Kopieren", "Zahl kopieren", "Zahl und Einheit kopieren"
     };
-    for (const auto& [line, copies] : rows) {
+    for (const auto& [line, copies] : {
+             Row{"lblMFE_7", {"10.294", "10,294", "10,294 eV"}},
+             {"lblMFE_3", {"1.4667", "1,4667E-29", "1,4667 E-29 m³"}},
+             {"lblMFE_10", {"0.23891", "0,23891", "0,23891 nm"}},
+             {"lblMFE_0", {"e/a", "2,2", "2,2 e/a"}},
+         }) {
         SCOPED_TRACE(line);
-        for (int entry = 0; entry < 3; ++entry) {
-            chooseFromMenu(line, entry);
-            EXPECT_EQ(clipboard(), copies.at(static_cast<std::size_t>(entry)));
+        for (int entry = 0; const char* const copy : copies) {
+            chooseFromMenu(line, entry++);
+            EXPECT_EQ(clipboard(), copy);
         }
         QApplication::clipboard()->clear();
         QTest::keyClick(&find(line), Qt::Key_C, Qt::ControlModifier);

@@ -1,7 +1,5 @@
 #include "ui/main/Kompositionsbereich.h"
 
-#include <tuple>
-
 #include "support/FakeDesk.h"
 #include "ui/controls/Wertfeld.h"
 
@@ -26,18 +24,23 @@ struct KompositionsbereichTest : FakeDesk {
 TEST_F(KompositionsbereichTest, TypedPercentReachesResultsAndBalanceRow)
 {
     openAluminiumCopper();
-    const std::tuple<const char*, const char*, const char*, const char*, bool> rows[] = {
-        // field, typed, at%, Fermi energy, marked as wrong
-        {"txtProzent_0", "60", "60 40 ", "10,294 eV", false},
-        {"txtProzent_0", "60x", "60x 40 ", "10,294 eV", true},
-        {"txtProzent_0", "", " 40 ", "10,294 eV", false},
-        {"txtProzent_0", "1.234,5", "1.234,5 98,766 ", "7,136 eV", true}, // of "1.234", before the comma
-        {"txtProzent_0", "120", "120 -20 ", "12,205 eV", false},
-        {"txtProzent_1", "77", "120 77 ", "12,205 eV", false},
-        {"txtProzent_0", "100", "100 0 ", "11,659 eV", false},
-        {"txtProzent_1", "77", "100 77 ", "11,659 eV", false},
+    struct Row {
+        const char* field;
+        const char* typed;
+        const char* shown;
+        const char* fermi;
+        bool marked;
     };
-    for (const auto& [field, typed, shown, fermi, marked] : rows) {
+    for (const auto& [field, typed, shown, fermi, marked] : {
+             Row{"txtProzent_0", "60", "60 40 ", "10,294 eV", false},
+             {"txtProzent_0", "60x", "60x 40 ", "10,294 eV", true},
+             {"txtProzent_0", "", " 40 ", "10,294 eV", false},
+             {"txtProzent_0", "1.234,5", "1.234,5 98,766 ", "7,136 eV", true}, // of "1.234", before the comma
+             {"txtProzent_0", "120", "120 -20 ", "12,205 eV", false},
+             {"txtProzent_1", "77", "120 77 ", "12,205 eV", false},
+             {"txtProzent_0", "100", "100 0 ", "11,659 eV", false},
+             {"txtProzent_1", "77", "100 77 ", "11,659 eV", false},
+         }) {
         SCOPED_TRACE(typed);
         type(field, typed);
         EXPECT_EQ(prozente(), shown);
@@ -65,10 +68,21 @@ TEST_F(KompositionsbereichTest, AddingAndRemovingWrapsAndKeepsTheSum)
     open();
     type("txtProzent_0", "16,3");
     type("txtProzent_1", "20,4");
-    for (const auto& [button, count, stored, shown] : {std::tuple("cmdKom_0", "5", "4", "16,3 20,4 0 63,3 0 "),
-             {"cmdKom_0", "1", "0", "100 "}, {"cmdKom_1", "5", "4", "100 20,4 0 63,3 -83,7 "},
-             {"cmdKom_1", "4", "3", "100 20,4 0 -20,4 "}, {"cmdKom_1", "3", "2", "100 20,4 -20,4 "}}) {
-        SCOPED_TRACE(shown);
+    struct Row {
+        const char* name;
+        const char* button;
+        const char* count;
+        const char* stored;
+        const char* shown;
+    };
+    for (const auto& [name, button, count, stored, shown] : {
+             Row{"all", "cmdKom_0", "5", "4", "16,3 20,4 0 63,3 0 "},
+             {"one more than all", "cmdKom_0", "1", "0", "100 "},
+             {"one less than the first", "cmdKom_1", "5", "4", "100 20,4 0 63,3 -83,7 "},
+             {"without the last", "cmdKom_1", "4", "3", "100 20,4 0 -20,4 "},
+             {"without another", "cmdKom_1", "3", "2", "100 20,4 -20,4 "},
+         }) {
+        SCOPED_TRACE(name);
         click(button);
         EXPECT_EQ(prozente(), shown);
         EXPECT_EQ(text("lblAnzahl"), count);
@@ -79,17 +93,22 @@ TEST_F(KompositionsbereichTest, AddingAndRemovingWrapsAndKeepsTheSum)
 TEST_F(KompositionsbereichTest, ChoicesFillTheFields)
 {
     openAluminiumCopper();
-    const std::tuple<const char*, const char*, const char*, const char*, bool> rows[] = {
-        // list, entry, field, its text, open for typing
-        {"cmdDichte_0", "flüssig", "txtDichte_0", "2,377", false},
-        {"cmdDichte_0", "<andere>", "txtDichte_0", "0", true},
-        {"cmdDichte_0", "kristallin", "txtDichte_0", "2,7", false},
-        {"cmbValenz_0", "p-Elektronen", "txtValenz_0", "1", false},
-        {"cmbValenz_0", "<andere>", "txtValenz_0", "0", true},
-        {"cmbElement_0", "At", "txtDichte_0", "0", true}, // no density is known
-        {"cmbElement_0", "Fe", "txtDichte_0", "7,035", false},
+    struct Row {
+        const char* list;
+        const char* entry;
+        const char* field;
+        const char* shown;
+        bool editable;
     };
-    for (const auto& [list, entry, field, shown, editable] : rows) {
+    for (const auto& [list, entry, field, shown, editable] : {
+             Row{"cmdDichte_0", "flüssig", "txtDichte_0", "2,377", false},
+             {"cmdDichte_0", "<andere>", "txtDichte_0", "0", true},
+             {"cmdDichte_0", "kristallin", "txtDichte_0", "2,7", false},
+             {"cmbValenz_0", "p-Elektronen", "txtValenz_0", "1", false},
+             {"cmbValenz_0", "<andere>", "txtValenz_0", "0", true},
+             {"cmbElement_0", "At", "txtDichte_0", "0", true}, // no density is known
+             {"cmbElement_0", "Fe", "txtDichte_0", "7,035", false},
+         }) {
         SCOPED_TRACE(entry);
         choose(list, entry);
         EXPECT_EQ(text(field), shown);
@@ -136,18 +155,23 @@ TEST_F(KompositionsbereichTest, FormulasEchoTheirValueOrAreMarked)
 {
     openAluminiumCopper();
     choose("cmbValenz_0", "<andere>");
-    const std::tuple<const char*, const char*, const char*, const char*, std::size_t> rows[] = {
-        // typed, echo, fault, mean valence with copper, message boxes
-        {"3/2", "= 1,5", "", "1,25", 0},
-        {"z_cu+1", "= 2", "", "1,5", 0},
-        {"3", "", "", "2", 0},
-        {"2+1/0", "", "Division durch Null (Zeichen 4)", "", 0},
-        {"foo(1)", "", "Funktion \"foo\" ist nicht definiert (Zeichen 1)", "", 1}, // one however often it is evaluated
-        {"foo(1)+1", "", "Funktion \"foo\" ist nicht definiert (Zeichen 1)", "", 3}, // and one for each further letter
-        {"hex(3)", "", "Hexadezimalzahl als Valenz (0x3)", "", 0},
-        {"", "", "", "0,5", 0},
+    struct Row {
+        const char* typed;
+        const char* echo;
+        const char* reason;
+        const char* valence; // the mean with copper
+        std::size_t messages; // one however often it is evaluated, and one for each further letter
     };
-    for (const auto& [typed, echo, reason, valence, messages] : rows) {
+    for (const auto& [typed, echo, reason, valence, messages] : {
+             Row{"3/2", "= 1,5", "", "1,25", 0},
+             {"z_cu+1", "= 2", "", "1,5", 0},
+             {"3", "", "", "2", 0},
+             {"2+1/0", "", "Division durch Null (Zeichen 4)", "", 0},
+             {"foo(1)", "", "Funktion \"foo\" ist nicht definiert (Zeichen 1)", "", 1},
+             {"foo(1)+1", "", "Funktion \"foo\" ist nicht definiert (Zeichen 1)", "", 3},
+             {"hex(3)", "", "Hexadezimalzahl als Valenz (0x3)", "", 0},
+             {"", "", "", "0,5", 0},
+         }) {
         SCOPED_TRACE(typed);
         boxes.shown.clear();
         type("txtValenz_0", typed);

@@ -128,10 +128,9 @@ TEST_F(frmMainTest, SwitchesShowOnePanelAndOneArea)
             names += find(name).isVisible() ? std::string(name) + ' ' : "";
         return names;
     };
-    const std::tuple<Qt::Key, const char*> rows[] = {{Qt::Key_W, "Pic_1_0 conWiegen1 "}, {Qt::Key_P, "Pic_1_1 "},
-        {Qt::Key_R, "Pic_1_0 conWiegen1 "}, {Qt::Key_E, "Pic_1_0 lblMFE_7 "}};
     EXPECT_EQ(shown(), "Pic_1_0 lblMFE_7 ");
-    for (const auto& [key, names] : rows) {
+    for (const auto& [key, names] : {std::pair(Qt::Key_W, "Pic_1_0 conWiegen1 "), {Qt::Key_P, "Pic_1_1 "},
+             {Qt::Key_R, "Pic_1_0 conWiegen1 "}, {Qt::Key_E, "Pic_1_0 lblMFE_7 "}}) {
         QTest::keyClick(window.get(), key, Qt::AltModifier);
         EXPECT_TRUE(QTest::qWaitFor([&, expected = names] { return shown() == expected; })) << shown();
     }

@@ -35,13 +35,22 @@ struct conWiegenTest : FakeDesk {
 
 TEST_F(conWiegenTest, TargetMassesFollowTotalAndComposition)
 {
-    const std::tuple<const char*, const char*, const char*> rows[] = {
-        {"txtSollMasse", "500", "149,024|350,976|29,80|70,20|"}, {"txtSollMasse", "5x", "||||"},
-        {"txtSollMasse", "", "0,000|0,000|||"}, {"txtSollMasse", "1e-6", "2,98E-7|7,02E-7|29,80|70,20|"},
-        {"txtSollMasse", "1000", "298,048|701,952|29,80|70,20|"},
-        {"txtProzent_0", "100", "1000,000|0,000|100,00|0,00|"},
-        {"txtProzent_0", "0", "||||Sollmassen nicht berechenbar: Aluminium hat 0 at% und ist der Bezug der Rechnung."}};
-    for (const auto& [field, typed, shown] : rows) {
+    const char* const obstacle =
+        "||||Sollmassen nicht berechenbar: Aluminium hat 0 at% und ist der Bezug der Rechnung.";
+    struct Row {
+        const char* field;
+        const char* typed;
+        const char* shown;
+    };
+    for (const auto& [field, typed, shown] : {
+             Row{"txtSollMasse", "500", "149,024|350,976|29,80|70,20|"},
+             {"txtSollMasse", "5x", "||||"},
+             {"txtSollMasse", "", "0,000|0,000|||"},
+             {"txtSollMasse", "1e-6", "2,98E-7|7,02E-7|29,80|70,20|"},
+             {"txtSollMasse", "1000", "298,048|701,952|29,80|70,20|"},
+             {"txtProzent_0", "100", "1000,000|0,000|100,00|0,00|"},
+             {"txtProzent_0", "0", obstacle},
+         }) {
         type(field, typed);
         EXPECT_EQ(texts(targets), shown) << typed;
     }
@@ -52,15 +61,22 @@ TEST_F(conWiegenTest, EachEditOfAMassReportsOnce)
 {
     const std::string end = ") in procedure Istmasse_Change of Benutzersteuerelement conWiegen\n";
     const std::string division = "Zerna: Error 11 (Division durch Null" + end;
-    const std::tuple<const char*, const char*, std::string, const char*> rows[] = {
-        {"Istmasse_1", "70", division + division, "|||||Gesamtmasse = 70 mg"}, // two letters
-        {"Istmasse_0", "298,048", "", "90,932|9,0679|+40,93|80,98|19,02|Gesamtmasse = 368,05 mg"},
-        {"Istmasse_1", "701.952", "", "50|50|0,00|29,80|70,20|Gesamtmasse = 1000 mg"},
-        {"Istmasse_1", "7x", "Zerna: Error 13 (Typen unverträglich" + end, "|||||"}}; // nothing stale
-    for (const auto& [field, typed, messages, shown] : rows) {
+    struct Row {
+        const char* name;
+        const char* field;
+        const char* typed;
+        std::string messages;
+        const char* shown;
+    };
+    for (const auto& [name, field, typed, messages, shown] : {
+             Row{"two letters", "Istmasse_1", "70", division + division, "|||||Gesamtmasse = 70 mg"},
+             {"too much", "Istmasse_0", "298,048", "", "90,932|9,0679|+40,93|80,98|19,02|Gesamtmasse = 368,05 mg"},
+             {"exactly", "Istmasse_1", "701.952", "", "50|50|0,00|29,80|70,20|Gesamtmasse = 1000 mg"},
+             {"nothing stale", "Istmasse_1", "7x", "Zerna: Error 13 (Typen unverträglich" + end, "|||||"},
+         }) {
         type(field, typed);
-        EXPECT_EQ(heard(), messages) << typed;
-        EXPECT_EQ(texts(weighed), shown) << typed;
+        EXPECT_EQ(heard(), messages) << name;
+        EXPECT_EQ(texts(weighed), shown) << name;
     }
     for (const char* const typed : {"-5", "1e39", "&HFF", "1.234,5", " 5", "0", "99999999999999999999", "1e30", ".5"}) {
         for (const char* const field : {"Istmasse_0", "txtVerlust", "Istmasse_1", "txtSollMasse"}) {
@@ -97,8 +113,14 @@ TEST_F(conWiegenTest, RowsComeAndGoWithTheirMasses)
     type("Istmasse_0", "26,98154");
     type("Istmasse_1", "63,546");
     type("txtVerlust", "1");
-    for (const auto& [button, visible, percents, lines] : {std::tuple("cmdKom_0", true, "50|50|0", 11),
-             {"cmdKom_1", false, "50|50|0", 8}, {"cmdKom_1", false, "100", 5}}) {
+    struct Row {
+        const char* button;
+        bool visible;
+        const char* percents;
+        int lines;
+    };
+    for (const auto& [button, visible, percents, lines] :
+        {Row{"cmdKom_0", true, "50|50|0", 11}, {"cmdKom_1", false, "50|50|0", 8}, {"cmdKom_1", false, "100", 5}}) {
         click(button);
         EXPECT_EQ(find("Istmasse_2").isVisible(), visible);
         EXPECT_EQ(texts({"IstProzent_0", "IstProzent_1", "IstProzent_2"}).find(percents), 0U);
