@@ -91,6 +91,7 @@ TEST_F(EingabeTest, BalanceRowTakesTheRestOnceAllOthersCanBeRead)
              {"the row before it", prozent(1, "20,4"), "16.3|20,4|63,3|", true, false},
              {"all rows", anzahl(5), "16.3|20,4|63,3|0|0|", true, false},
              {"a single one", anzahl(1), "100|", true, true},
+             {"all rows as they were", anzahl(5), "100|20,4|63,3|0|-83,7|", true, false},
              {"back again", anzahl(2), "100|0|", true, true},
          }) {
         SCOPED_TRACE(name);
