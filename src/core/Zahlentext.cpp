@@ -27,27 +27,22 @@ struct Ziffern {
     std::string_view view() const { return {digits.data(), count}; }
 };
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
-
 /// Takes a "-d.ddde±xx" text apart.
 Ziffern ziffern(std::string_view scientific)
 {
     Ziffern result;
-    std::size_t i = 0;
-    if (scientific.front() == '-') {
-        result.negative = true;
-        ++i;
-    }
-    for (; i < scientific.size() && scientific[i] != 'e'; ++i) {
-        if (isDigit(scientific[i]))
-            result.digits.at(result.count++) = scientific[i];
-    }
+    result.negative = scientific.front() == '-';
+    if (result.negative)
+        scientific.remove_prefix(1);
+    const std::size_t e = scientific.find('e');
+    result.digits.front() = scientific.front();
+    result.count = 1;
+    if (e > 1) // behind the point
+        result.count += scientific.substr(0, e).copy(result.digits.data() + 1, result.digits.size() - 1, 2);
     while (result.count > 1 && result.digits.at(result.count - 1) == '0')
         --result.count;
-    ++i; // 'e'
-    if (scientific[i] == '+')
-        ++i;
-    std::from_chars(scientific.data() + i, scientific.data() + scientific.size(), result.exponent);
+    const std::size_t exponent = e + (scientific[e + 1] == '+' ? 2 : 1);
+    std::from_chars(scientific.data() + exponent, scientific.data() + scientific.size(), result.exponent);
     if (result.view() == "0")
         result.negative = false;
     return result;
@@ -124,89 +119,6 @@ std::string shortestPlainText(double value, Dezimaltrenner trenner)
     return {buffer.data(), end};
 }
 
-/// "&H" digits as a 32-bit two's complement number; no value if it is no such text.
-bool readHexNumber(std::string_view text, double& value)
-{
-    if (text.size() < 3 || text[0] != '&' || (text[1] != 'H' && text[1] != 'h'))
-        return false;
-    std::uint32_t bits = 0;
-    const auto [end, error] = std::from_chars(text.data() + 2, text.data() + text.size(), bits, 16);
-    if (error == std::errc::result_out_of_range)
-        throw Laufzeitfehler(Fehler::Ueberlauf);
-    if (error != std::errc() || end != text.data() + text.size())
-        return false;
-    value = static_cast<std::int32_t>(bits);
-    return true;
-}
-
-/// A decimal text checked and brought into the form that from_chars reads: no plus sign, a point, an "e".
-/// Empty if it is no number.
-std::string_view normalised(std::string_view text, Puffer& buffer, std::string& longText)
-{
-    char* target = buffer.data();
-    if (text.size() > buffer.size()) {
-        longText.resize(text.size());
-        target = longText.data();
-    }
-    std::size_t length = 0;
-    std::size_t i = 0;
-    const auto take = [&](char c) { target[length++] = c; };
-    if (text[i] == '-')
-        take('-');
-    if (text[i] == '-' || text[i] == '+')
-        ++i;
-    bool digits = false;
-    bool separator = false;
-    for (; i < text.size(); ++i) {
-        if (isDigit(text[i])) {
-            digits = true;
-            take(text[i]);
-        } else if ((text[i] == ',' || text[i] == '.') && !separator) {
-            separator = true;
-            take('.');
-        } else {
-            break;
-        }
-    }
-    if (!digits)
-        return {};
-    if (i < text.size()) {
-        if (std::string_view("eEdD").find(text[i]) == std::string_view::npos)
-            return {};
-        take('e');
-        ++i;
-        if (i < text.size() && (text[i] == '-' || text[i] == '+'))
-            take(text[i++]);
-        const std::size_t firstDigit = i;
-        for (; i < text.size() && isDigit(text[i]); ++i)
-            take(text[i]);
-        if (i == firstDigit || i != text.size())
-            return {};
-    }
-    return {target, length};
-}
-
-/// Whether a decimal number that no double can hold is too small (then it is 0) rather than too large.
-bool isTooSmall(std::string_view number)
-{
-    const std::size_t e = std::min(number.find('e'), number.size());
-    const std::string_view mantissa = number.substr(0, e);
-    const std::size_t firstDigit = mantissa.find_first_of("123456789");
-    if (firstDigit == std::string_view::npos)
-        return true;
-    int exponent = 0;
-    if (e < number.size()) {
-        const bool negative = number[e + 1] == '-';
-        const std::size_t digits = e + (negative || number[e + 1] == '+' ? 2 : 1);
-        const auto read = std::from_chars(number.data() + digits, number.data() + number.size(), exponent);
-        if (read.ec == std::errc::result_out_of_range)
-            return negative;
-        exponent = negative ? -exponent : exponent;
-    }
-    const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
-    return static_cast<std::int64_t>(point) - static_cast<std::int64_t>(firstDigit) + exponent < 0;
-}
-
 } // namespace
 
 std::string textOfSingle(float value, Dezimaltrenner trenner)
@@ -277,37 +189,6 @@ std::string scientificText(
     return text + std::to_string(std::abs(z.exponent));
 }
 
-bool readNumber(std::string_view text, double& value)
-{
-    text = trimmed(text);
-    if (text.empty())
-        return false;
-    if (text.front() == '&')
-        return readHexNumber(text, value);
-    Puffer buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): written by normalised
-    std::string longText;
-    const std::string_view number = normalised(text, buffer, longText);
-    if (number.empty())
-        return false;
-    const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
-    if (result.ec != std::errc::result_out_of_range)
-        return true;
-    if (!isTooSmall(number))
-        throw Laufzeitfehler(Fehler::Ueberlauf);
-    value = 0;
-    return true;
-}
-
-double doubleFromText(std::string_view text)
-{
-    double value = 0;
-    if (!readNumber(text, value))
-        throw Laufzeitfehler(Fehler::TypenUnvertraeglich);
-    return value;
-}
-
-float singleFromText(std::string_view text) { return toSingle(doubleFromText(text)); }
-
 std::string hexDigits(double value)
 {
     const double whole = std::trunc(value);
@@ -344,16 +225,6 @@ std::string FormatValue(float value, std::string_view unit)
     text += ' ';
     text += unit;
     return text;
-}
-
-float ParseValue(std::string_view text)
-{
-    std::string digits(text);
-    if (!digits.starts_with('.'))
-        digits.insert(0, "0");
-    // A text that begins with a sign never reaches this point without its "0", so signs need no rule of their own.
-    digits = ReplaceText(digits, ".", LocaleText(LocaleMonetaryDecimal));
-    return orUnbekannt([&] { return singleFromText(digits); });
 }
 
 std::string CommaToPoint(std::string_view text)

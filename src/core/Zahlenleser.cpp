@@ -1,0 +1,179 @@
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdint>
+
+#include "core/CheckedArithmetic.h"
+#include "core/Zahlentext.h"
+
+namespace zerna {
+
+namespace {
+
+/// "&H" digits as a 32-bit two's complement number; false if it is no such text.
+bool readHexNumber(std::string_view text, double& value)
+{
+    if (text.size() < 3 || text[0] != '&' || (text[1] != 'H' && text[1] != 'h'))
+        return false;
+    std::uint32_t bits = 0;
+    const auto [end, error] = std::from_chars(text.data() + 2, text.data() + text.size(), bits, 16);
+    if (error == std::errc::result_out_of_range)
+        throw Laufzeitfehler(Fehler::Ueberlauf);
+    if (error != std::errc() || end != text.data() + text.size())
+        return false;
+    value = static_cast<std::int32_t>(bits);
+    return true;
+}
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+/// Reads a text of a few digits and nothing else: most valences and shares, worth a shorter way.
+bool readDigits(std::string_view text, double& value)
+{
+    constexpr std::size_t ExactDigits = 15;
+    if (text.size() > ExactDigits || !std::ranges::all_of(text, isDigit))
+        return false;
+    std::int64_t whole = 0;
+    for (const char c : text)
+        whole = 10 * whole + (c - '0');
+    value = static_cast<double>(whole);
+    return true;
+}
+
+/// A decimal text on its way into the form that from_chars reads: no plus sign, a point, an "e".
+class Dezimaltext {
+public:
+    explicit Dezimaltext(std::string_view text)
+        : m_text(text)
+    {
+        if (text.size() > m_buffer.size()) {
+            m_longText.resize(text.size());
+            m_target = m_longText.data();
+        }
+    }
+
+    Dezimaltext(const Dezimaltext&) = delete;
+    Dezimaltext& operator=(const Dezimaltext&) = delete;
+
+    /// Valid as long as the object; empty if the text is no number.
+    std::string_view normalised()
+    {
+        if (m_text.front() == '-')
+            put('-');
+        if (m_text.front() == '-' || m_text.front() == '+')
+            ++m_next;
+        if (!takeMantissa() || (m_next < m_text.size() && !takeExponent()))
+            return {};
+        return {m_target, m_length};
+    }
+
+private:
+    void put(char c) { m_target[m_length++] = c; }
+
+    bool takeMantissa()
+    {
+        bool digits = false;
+        bool separator = false;
+        for (; m_next < m_text.size(); ++m_next) {
+            const char c = m_text[m_next];
+            if (isDigit(c)) {
+                digits = true;
+                put(c);
+            } else if ((c == ',' || c == '.') && !separator) {
+                separator = true;
+                put('.');
+            } else {
+                break;
+            }
+        }
+        return digits;
+    }
+
+    /// Takes the whole rest.
+    bool takeExponent()
+    {
+        if (std::string_view("eEdD").find(m_text[m_next++]) == std::string_view::npos)
+            return false;
+        put('e');
+        if (m_next < m_text.size() && (m_text[m_next] == '-' || m_text[m_next] == '+'))
+            put(m_text[m_next++]);
+        const std::size_t firstDigit = m_next;
+        while (m_next < m_text.size() && isDigit(m_text[m_next]))
+            put(m_text[m_next++]);
+        return m_next > firstDigit && m_next == m_text.size();
+    }
+
+    std::string_view m_text;
+    std::size_t m_next = 0;
+    std::array<char, 400> m_buffer; // where an ordinary text goes
+    std::string m_longText; // where any other goes
+    char* m_target = m_buffer.data(); // one of the two
+    std::size_t m_length = 0;
+};
+
+/// Whether a decimal number that no double can hold is too small (then it is 0) rather than too large.
+bool isTooSmall(std::string_view number)
+{
+    const std::size_t e = std::min(number.find('e'), number.size());
+    const std::string_view mantissa = number.substr(0, e);
+    const std::size_t firstDigit = mantissa.find_first_of("123456789");
+    if (firstDigit == std::string_view::npos)
+        return true;
+    int exponent = 0;
+    if (e < number.size()) {
+        const bool negative = number[e + 1] == '-';
+        const std::size_t digits = e + (negative || number[e + 1] == '+' ? 2 : 1);
+        const auto read = std::from_chars(number.data() + digits, number.data() + number.size(), exponent);
+        if (read.ec == std::errc::result_out_of_range)
+            return negative;
+        exponent = negative ? -exponent : exponent;
+    }
+    const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
+    return static_cast<std::int64_t>(point) - static_cast<std::int64_t>(firstDigit) + exponent < 0;
+}
+
+} // namespace
+
+bool readNumber(std::string_view text, double& value)
+{
+    text = trimmed(text);
+    if (text.empty())
+        return false;
+    if (text.front() == '&')
+        return readHexNumber(text, value);
+    if (readDigits(text, value))
+        return true;
+    Dezimaltext decimal(text);
+    const std::string_view number = decimal.normalised();
+    if (number.empty())
+        return false;
+    const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
+    if (result.ec != std::errc::result_out_of_range)
+        return true;
+    if (!isTooSmall(number))
+        throw Laufzeitfehler(Fehler::Ueberlauf);
+    value = 0;
+    return true;
+}
+
+double doubleFromText(std::string_view text)
+{
+    double value = 0;
+    if (!readNumber(text, value))
+        throw Laufzeitfehler(Fehler::TypenUnvertraeglich);
+    return value;
+}
+
+float singleFromText(std::string_view text) { return toSingle(doubleFromText(text)); }
+
+float ParseValue(std::string_view text)
+{
+    std::string digits(text);
+    if (!digits.starts_with('.'))
+        digits.insert(0, "0");
+    // A text that begins with a sign never reaches this point without its "0", so signs need no rule of their own.
+    digits = ReplaceText(digits, ".", LocaleText(LocaleMonetaryDecimal));
+    return orUnbekannt([&] { return singleFromText(digits); });
+}
+
+} // namespace zerna
