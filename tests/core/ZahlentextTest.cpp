@@ -15,7 +15,11 @@ TEST(Zahlentext, WritesTheShortestTextThatReadsBack)
         EXPECT_EQ(singleFromText(text), value);
         EXPECT_EQ(textOfSingle(value, Dezimaltrenner::Punkt), CommaToPoint(text));
     }
-    EXPECT_EQ(textOfDouble(999999999999999.9), "1E+15");
+    const std::pair<double, const char*> doubles[] = {{999999999999999.9, "1E+15"},
+        {-12345678901234.5, "-12345678901234,5"}, {0.1 + 0.2, "0,3"}, {2.0 / 3, "0,666666666666667"},
+        {0.0001, "0,0001"}, {0.00001, "1E-5"}};
+    for (const auto& [value, text] : doubles)
+        EXPECT_EQ(textOfDouble(value), text);
     EXPECT_EQ(textWithDigits(63.300003, 7), "63,3");
     EXPECT_EQ(fixedText(-0.0004, 3), "0,000");
 }
@@ -23,17 +27,17 @@ TEST(Zahlentext, WritesTheShortestTextThatReadsBack)
 TEST(Zahlentext, ReadsWhatPeopleType)
 {
     const std::string zeros(340, '0');
-    const std::tuple<std::string, double, int> rows[] = {{"12,5", 12.5, 0}, {"  12.5 ", 12.5, 0}, {"-,5e+1", -5, 0},
-        {"+5,", 5, 0}, {"1,5D-3", 0.0015, 0}, {"&h1F", 31, 0}, {"&HFFFFFFFF", -1, 0}, {"&H100000000", 0, 6},
-        {"&H", 0, 13}, {"1.234,5", 0, 13}, {"", 0, 13}, {"  ", 0, 13}, {"-", 0, 13}, {",", 0, 13}, {"1e+", 0, 13},
-        {"5 g", 0, 13}, {"inf", 0, 13}, {"0x1F", 0, 13}, {"1e400", 0, 6}, {"1e-400", 0, 0},
-        {"1e-99999999999999999999", 0, 0}, {"1" + zeros + "e-30", 0, 6}, {"0," + zeros + "1e+10", 0, 0},
-        {"0," + zeros + "1e341", 1, 0}};
-    for (const auto& row : rows) {
-        double value = 0;
-        EXPECT_EQ(errorNumber([&] { value = doubleFromText(std::get<0>(row)); }), std::get<int>(row));
-        EXPECT_DOUBLE_EQ(value, std::get<double>(row)) << std::get<0>(row);
-    }
+    const std::pair<std::string, double> numbers[] = {{"12,5", 12.5}, {"  12.5 ", 12.5}, {"-,5e+1", -5}, {"+5,", 5},
+        {"007", 7}, {"123456789012345678", 123456789012345678}, {"1,5D-3", 0.0015}, {"&h1F", 31}, {"&HFFFFFFFF", -1},
+        {"1e-400", 0}, {"1e-99999999999999999999", 0}, {"0," + zeros + "1e+10", 0}, {"0," + zeros + "1e341", 1},
+        {std::string(500, ' ') + "1" + std::string(500, '0') + "e-500", 1}};
+    for (const auto& [text, value] : numbers)
+        EXPECT_DOUBLE_EQ(doubleFromText(text), value) << text;
+    const std::pair<std::string, int> errors[] = {{"&H100000000", 6}, {"&H", 13}, {"1.234,5", 13}, {"", 13}, {"  ", 13},
+        {"-", 13}, {"+-5", 13}, {",", 13}, {"1e+", 13}, {"5 g", 13}, {"inf", 13}, {"0x1F", 13}, {"1e400", 6},
+        {"1" + zeros + "e-30", 6}};
+    for (const auto& [text, error] : errors)
+        EXPECT_EQ(errorNumber([&text = text] { doubleFromText(text); }), error) << text;
 }
 
 TEST(Zahlentext, ShowsAndReadsFields)

@@ -24,12 +24,22 @@ TEST_F(clsFileHandlerTest, WritesAndReadsLines)
 
 TEST_F(clsFileHandlerTest, SaysWhyAFileIsNotOpened)
 {
-    const std::tuple<std::string, int, std::string> rows[] = {{"", 1, ""}, {path, 3, ""},
-        {path, 1, "Datei nicht gefunden"}, {path + "/a.dat", 0, "Pfad nicht gefunden"},
-        {folder.path(), 1, "Fehler beim Zugriff auf Pfad/Datei"}};
-    for (const auto& [name, modus, message] : rows) {
-        EXPECT_FALSE(handler.OpenFile(name, modus) || handler.FileEnd() || std::filesystem::exists(path)) << message;
-        EXPECT_EQ(boxes.shown.empty() ? "" : boxes.shown.back().text, message);
+    struct Row {
+        std::string path;
+        int modus;
+        const char* message;
+    };
+    const Row rows[] = {
+        {"", 1, ""},
+        {path, 3, ""},
+        {path, 1, "Datei nicht gefunden"},
+        {path + "/a.dat", 0, "Pfad nicht gefunden"},
+        {folder.path(), 1, "Fehler beim Zugriff auf Pfad/Datei"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.message);
+        EXPECT_FALSE(handler.OpenFile(row.path, row.modus) || handler.FileEnd() || std::filesystem::exists(path));
+        EXPECT_EQ(boxes.shown.empty() ? "" : boxes.shown.back().text, row.message);
     }
     EXPECT_EQ(boxes.shown.back().caption, "FileHandler - Öffnen");
     // It still counts the file as open and writes to whatever has that number.

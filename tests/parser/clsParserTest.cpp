@@ -37,7 +37,7 @@ TEST_F(clsParserTest, Operators)
         {"8/4/2-1-1", "-1"}, {"2*3^2", "18"}, {"2^3^2", "64"}, {" 1  +  2 ", "3"}, {"1 2", "12"}, {"z_Cu+Z_cu", "3"},
         {"z_Fe*3", "0,3"}, {"HEX(255,9)+1", "0x100"}, {"hex(0-1)", "0xFFFFFFFF"},
         {"abs(1/3)*3-1", "-1,11022302462516E-15"}, {"1" + repeated(300000, "+1"), "300001"},
-        {repeated(199, "(") + "1" + repeated(199, ")"), "1"}};
+        {"2*3+(1" + repeated(40, "+1*2") + ")", "87"}, {repeated(199, "(") + "1" + repeated(199, ")"), "1"}};
     for (const auto& [formula, value] : rows) {
         SCOPED_TRACE(formula.substr(0, 40));
         EXPECT_EQ(parser.Parse(formula), value);
@@ -80,18 +80,48 @@ TEST_F(clsParserTest, FunctionsWithTheirOddities)
 
 TEST_F(clsParserTest, ErrorsGiveZeroAndTellWhere)
 {
-    const std::tuple<std::string, int, std::size_t> rows[] = {{"-3", 13, 1}, {"2*-3", 13, 3}, {"2+", 13, 3},
-        {"(1", 13, 1}, {"1)", 13, 2}, {"(1)2", 13, 4}, {"sin()", 13, 5}, {"1+pow(2)", 13, 8}, {"pow(;2)", 13, 5},
-        {"1 + ä + x", 13, 5}, {"ä*(2+x)", 13, 1}, {"1.234,5", 13, 1}, {"3+1/0", 11, 4}, {"0/0", 6, 2},
-        {"1+ln(0)", 5, 3}, {"sqrt(1-2)", 5, 1}, {"(0-8)^(1/3)", 5, 6}, {"10^400", 6, 3}, {"1e400", 6, 1},
-        {"hex(1e10)", 6, 1}, {"z_Qq", 5, 1}, {"z_Xx", 5, 1}, {"sin(" + repeated(100, "1;") + "1)", 9, 205},
-        {repeated(100000, "("), 13, 1}, {repeated(100000, "(") + "1" + repeated(100000, ")"), 5, 201},
-        {repeated(100000, "abs(") + "1" + repeated(100000, ")"), 5, 801}, {std::string(1000000, 'x'), 13, 1}};
-    for (const auto& [formula, number, place] : rows) {
-        SCOPED_TRACE(formula.substr(0, 40));
-        EXPECT_EQ(parser.Parse(formula), "0");
-        EXPECT_EQ(parser.LastError()->Nummer, number);
-        EXPECT_EQ(parser.LastError()->Stelle, place);
+    struct Row {
+        const char* name;
+        std::string formula;
+        int number;
+        std::size_t place;
+    };
+    const Row rows[] = {
+        {"a sign", "-3", 13, 1},
+        {"a sign behind an operator", "2*-3", 13, 3},
+        {"nothing behind an operator", "2+", 13, 3},
+        {"never closed", "(1", 13, 1},
+        {"never opened", "1)", 13, 2},
+        {"no operator behind parentheses", "(1)2", 13, 4},
+        {"no argument", "sin()", 13, 5},
+        {"one argument of two", "1+pow(2)", 13, 8},
+        {"an empty argument", "pow(;2)", 13, 5},
+        {"blanks count", "1 + ä + x", 13, 5},
+        {"characters count, not bytes", "ä*(2+x)", 13, 1},
+        {"operands come before arithmetic", "1/0+ä+1/0", 13, 5},
+        {"powers come before quotients", "1/0+0^(0-1)", 5, 6},
+        {"two separators", "1.234,5", 13, 1},
+        {"division by zero", "3+1/0", 11, 4},
+        {"zero by zero", "0/0", 6, 2},
+        {"logarithm of zero", "1+ln(0)", 5, 3},
+        {"root of a negative number", "sqrt(1-2)", 5, 1},
+        {"broken power of a negative number", "(0-8)^(1/3)", 5, 6},
+        {"overflow", "10^400", 6, 3},
+        {"number too large", "1e400", 6, 1},
+        {"too large for hex", "hex(1e10)", 6, 1},
+        {"unknown element", "z_Qq", 5, 1},
+        {"unknown valence", "z_Xx", 5, 1},
+        {"101 arguments", "sin(" + repeated(100, "1;") + "1)", 9, 205},
+        {"parentheses never closed", repeated(100000, "("), 13, 1},
+        {"parentheses too deep", repeated(100000, "(") + "1" + repeated(100000, ")"), 5, 201},
+        {"functions too deep", repeated(100000, "abs(") + "1" + repeated(100000, ")"), 5, 801},
+        {"a million letters", std::string(1000000, 'x'), 13, 1},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(parser.Parse(row.formula), "0");
+        EXPECT_EQ(parser.LastError()->Nummer, row.number);
+        EXPECT_EQ(parser.LastError()->Stelle, row.place);
     }
     EXPECT_TRUE(boxes.shown.empty());
 }
