@@ -9,7 +9,7 @@
 
 #include "bench/Aufbau.h"
 #include "model/Konstanten.h"
-#include "ui/ternary/Ternaerdiagramm.h"
+#include "ui/diagram/Ternaerdiagramm.h"
 
 namespace zerna {
 
@@ -73,7 +73,7 @@ void frames(benchmark::State& state)
         const auto start = std::chrono::steady_clock::now();
         QPainter painter(&image);
         diagramm.setAnsicht(rotated(diagramm.ansicht(), 0, 1));
-        diagramm.paint(painter, Bildgroesse, QFont(), 1);
+        diagramm.paint(painter, {Bildgroesse, QFont(), 1});
         milliseconds.push_back(
             std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
     }

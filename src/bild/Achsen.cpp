@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/CheckedArithmetic.h"
+#include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
 
 namespace zerna {
@@ -21,6 +22,16 @@ constexpr double LabelGap = 2; // between a label and the tick beside it
 Rechteck plotArea(int width, int height)
 {
     return {LeftStrip, 0, std::max(0.0, width - LeftStrip), std::max(0.0, height - BottomStrip)};
+}
+
+std::pair<float, float> endValues(std::span<const float> reihe)
+{
+    const auto known = [](float value) { return !istUnbekannt(value); };
+    const auto first = std::ranges::find_if(reihe, known);
+    if (first == reihe.end())
+        throw Laufzeitfehler(Fehler::UngueltigesArgument);
+    const auto last = std::find_if(reihe.rbegin(), reihe.rend(), known);
+    return std::minmax(*first, *last);
 }
 
 Bereich yBereich(float smallest, float largest)

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <functional>
+#include <span>
 #include <string>
-#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "bild/Geometrie.h"
@@ -10,9 +10,6 @@
 /// Geometry of the concentration diagram: everything that conDisplay paints, as numbers. Lengths are logical pixels,
 /// origin at the top left, y downwards.
 namespace zerna {
-
-/// Width of a text in pixels at the labels' font.
-using Textbreite = std::function<double(std::string_view)>;
 
 /// The plot area on a control of the given inner size: 60 pixels on the left and 30 below are left for labels. Empty
 /// (width or height 0) if the control is too small.
@@ -22,7 +19,13 @@ Rechteck plotArea(int width, int height);
 struct Bereich {
     double min = 0;
     double max = 0;
+    bool operator==(const Bereich&) const = default;
 };
+
+/// The smaller and the larger value of a series' ends; where an end is unknown, of the nearest known value. Error 5 for
+/// a series without any value.
+/// Intended: what lies between the ends does not count, so a curve may leave the plot.
+std::pair<float, float> endValues(std::span<const float> reihe);
 
 /// The y range for the smallest and the largest value.
 /// Intended: the margin is 5 % of the largest value, above and below alike. Error 11 for an empty range.

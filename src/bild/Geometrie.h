@@ -1,6 +1,9 @@
 #pragma once
 
-/// Places on a picture in logical pixels, origin at the top left, y downwards.
+#include <functional>
+#include <string_view>
+
+/// Places and measures on a picture, in logical pixels, origin at the top left, y downwards.
 namespace zerna {
 
 struct Punkt {
@@ -13,6 +16,15 @@ struct Rechteck {
     double left = 0;
     double top = 0;
     double width = 0;
+    double height = 0;
+};
+
+/// Width of a text in some font.
+using Textbreite = std::function<double(std::string_view)>;
+
+/// How texts measure in some font.
+struct Textmasse {
+    Textbreite width;
     double height = 0;
 };
 

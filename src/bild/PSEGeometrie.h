@@ -31,12 +31,6 @@ struct PSEBild {
     std::vector<std::optional<Punkt>> points; ///< of each element, none where the value is missing
 };
 
-/// Text measures at the labels' font, in pixels.
-struct Textmasse {
-    Textbreite width;
-    double height = 0;
-};
-
 /// The range of the values, not yet rounded.
 /// Intended: the first value counts even when it is missing.
 Bereich bereichMitErstemWert(const std::vector<float>& values);
@@ -45,8 +39,9 @@ Bereich bereichMitErstemWert(const std::vector<float>& values);
 /// otherwise fill less than 40 % of the height. An empty range stays as it is.
 Bereich gerundeterBereich(const Bereich& range);
 
-/// Lays the diagram out on an area of that size; the number of elements sets the scale. Without a range the curve is
-/// missing and only the lowest division is labelled. Labels that would overlap are left out.
+/// Lays the diagram out on an area of that size; the number of elements sets the scale. `masse` is of the labels' font.
+/// Without a range the curve is missing and only the lowest division is labelled. Labels that would overlap are left
+/// out.
 PSEBild layOutPSE(const PSEReihe& reihe, int width, int height, const Textmasse& masse);
 
 /// The element nearest to column `x`; none without values.

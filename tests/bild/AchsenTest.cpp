@@ -1,8 +1,7 @@
 #include "bild/Achsen.h"
 
-#include <gtest/gtest.h>
-
-#include <tuple>
+#include "core/Unbekannt.h"
+#include "support/FilesTest.h"
 
 namespace zerna {
 
@@ -20,6 +19,24 @@ std::string labels(const std::vector<Achsenmarke>& marken)
 }
 
 } // namespace
+
+TEST(AchsenTest, EndsOfASeriesAreItsOutermostKnownValues)
+{
+    const struct {
+        const char* name;
+        std::vector<float> series;
+        std::pair<float, float> ends;
+    } rows[] = {
+        {"rising", {1, 2, 3}, {1, 3}},
+        {"falling", {3, 2, 1}, {1, 3}},
+        {"a hill (intended: only the ends count)", {2, 9, 3}, {2, 3}},
+        {"unknown ends", {Unbekannt, 3, 9, 2, Unbekannt}, {2, 3}},
+        {"a single value", {Unbekannt, 5, Unbekannt}, {5, 5}},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(endValues(row.series), row.ends) << row.name;
+    EXPECT_EQ(errorNumber([] { endValues(std::vector{Unbekannt}); }), 5);
+}
 
 TEST(AchsenTest, RangeHasAMarginOfTheLargestValue)
 {

@@ -9,11 +9,19 @@
 #include <QSvgGenerator>
 
 #include <algorithm>
-#include <utility>
 
 namespace zerna {
 
 namespace {
+
+constexpr double PngRatio = 2;
+constexpr double VectorRatio = 3; // of what vector pictures and paper hold as images
+
+Leinwand withRatio(Leinwand leinwand, double devicePixelRatio)
+{
+    leinwand.devicePixelRatio = devicePixelRatio;
+    return leinwand;
+}
 
 std::string encoded(const QImage& image, const char* format)
 {
@@ -24,23 +32,23 @@ std::string encoded(const QImage& image, const char* format)
     return bytes.toStdString();
 }
 
-std::string asSvg(const Bildmaler& maler, const QSize& size)
+std::string asSvg(const Bildmaler& maler, const Leinwand& leinwand)
 {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);
-    generator.setSize(size);
-    generator.setViewBox(QRect(QPoint(0, 0), size));
+    generator.setSize(leinwand.size);
+    generator.setViewBox(QRect(QPoint(0, 0), leinwand.size));
     generator.setTitle(QStringLiteral("Zerna"));
     QPainter painter(&generator);
-    maler(painter, size);
+    maler(painter, leinwand);
     painter.end();
     return bytes.toStdString();
 }
 
 /// One page of the picture's own size, a logical pixel being 1/96 inch.
-std::string asPdf(const Bildmaler& maler, const QSize& size)
+std::string asPdf(const Bildmaler& maler, const Leinwand& leinwand)
 {
     constexpr int PixelsPerInch = 96;
     constexpr double PointsPerPixel = 72.0 / PixelsPerInch;
@@ -49,45 +57,46 @@ std::string asPdf(const Bildmaler& maler, const QSize& size)
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
     writer.setResolution(PixelsPerInch);
-    writer.setPageSize(QPageSize(QSizeF(size) * PointsPerPixel, QPageSize::Point));
+    writer.setPageSize(QPageSize(QSizeF(leinwand.size) * PointsPerPixel, QPageSize::Point));
     writer.setPageMargins(QMarginsF(0, 0, 0, 0));
     QPainter painter(&writer);
-    maler(painter, size);
+    maler(painter, leinwand);
     painter.end();
     return bytes.toStdString();
 }
 
 } // namespace
 
-QImage imageOf(const Bildmaler& maler, const QSize& size, double devicePixelRatio)
+QImage imageOf(const Bildmaler& maler, const Leinwand& leinwand)
 {
-    QImage image(size * devicePixelRatio, QImage::Format_RGB32);
-    image.setDevicePixelRatio(devicePixelRatio);
+    QImage image(leinwand.size * leinwand.devicePixelRatio, QImage::Format_RGB32);
+    image.setDevicePixelRatio(leinwand.devicePixelRatio);
     image.fill(Qt::white);
     if (image.isNull())
         return image;
     QPainter painter(&image);
-    maler(painter, size);
+    maler(painter, leinwand);
     return image;
 }
 
-Exportart bitmap(std::function<QImage()> bild)
+Exportart bitmap(const Bildmaler& maler, const Leinwand& leinwand)
 {
-    return {"Bitmap (*.bmp)", "", ".bmp", [bild = std::move(bild)] { return encoded(bild(), "BMP"); }};
+    return {"Bitmap (*.bmp)", "", ".bmp", [=] { return encoded(imageOf(maler, leinwand), "BMP"); }};
 }
 
-std::vector<Exportart> bildarten(const Bildmaler& maler, const QSize& size)
+std::vector<Exportart> bildarten(const Bildmaler& maler, const Leinwand& leinwand)
 {
-    constexpr double PngScale = 2;
+    const auto png = [=] { return encoded(imageOf(maler, withRatio(leinwand, PngRatio)), "PNG"); };
     return {
-        {"PNG-Bild (*.png)", "*.png", ".png", [=] { return encoded(imageOf(maler, size, PngScale), "PNG"); }},
-        {"SVG-Grafik (*.svg)", "*.svg", ".svg", [=] { return asSvg(maler, size); }},
-        {"PDF-Dokument (*.pdf)", "*.pdf", ".pdf", [=] { return asPdf(maler, size); }},
+        {"PNG-Bild (*.png)", "*.png", ".png", png},
+        {"SVG-Grafik (*.svg)", "*.svg", ".svg", [=] { return asSvg(maler, withRatio(leinwand, VectorRatio)); }},
+        {"PDF-Dokument (*.pdf)", "*.pdf", ".pdf", [=] { return asPdf(maler, withRatio(leinwand, VectorRatio)); }},
     };
 }
 
-void printPicture(QWidget* parent, const Bildmaler& maler, const QSize& size)
+void printPicture(QWidget* parent, const Bildmaler& maler, const Leinwand& leinwand)
 {
+    const QSize size = leinwand.size;
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageOrientation(size.width() > size.height() ? QPageLayout::Landscape : QPageLayout::Portrait);
     QPrintDialog dialog(&printer, parent);
@@ -98,7 +107,7 @@ void printPicture(QWidget* parent, const Bildmaler& maler, const QSize& size)
     const QRectF page = printer.pageRect(QPrinter::DevicePixel);
     const double scale = std::min(page.width() / size.width(), page.height() / size.height());
     painter.scale(scale, scale);
-    maler(painter, size);
+    maler(painter, withRatio(leinwand, VectorRatio));
 }
 
 } // namespace zerna

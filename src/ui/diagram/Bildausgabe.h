@@ -2,31 +2,24 @@
 
 #include <QImage>
 
-#include <functional>
 #include <vector>
 
 #include "programm/Exportart.h"
-
-class QPainter;
-class QSize;
-class QWidget;
+#include "ui/diagram/Leinwand.h"
 
 /// One painting function for the screen's picture, image files and paper alike.
 namespace zerna {
 
-/// Paints a picture as it looks at a size in logical pixels.
-using Bildmaler = std::function<void(QPainter&, const QSize&)>;
+/// The picture as an image with the canvas's device pixels.
+QImage imageOf(const Bildmaler& maler, const Leinwand& leinwand);
 
-/// The picture as an image with that many device pixels per logical pixel.
-QImage imageOf(const Bildmaler& maler, const QSize& size, double devicePixelRatio);
+/// The export of a picture as a bitmap.
+Exportart bitmap(const Bildmaler& maler, const Leinwand& leinwand);
 
-/// The export of an image as a bitmap.
-Exportart bitmap(std::function<QImage()> bild);
-
-/// The exports of a picture: PNG (twice the size in pixels), SVG and PDF.
-std::vector<Exportart> bildarten(const Bildmaler& maler, const QSize& size);
+/// The exports of a picture of that size: PNG (twice the size in pixels), SVG and PDF.
+std::vector<Exportart> bildarten(const Bildmaler& maler, const Leinwand& leinwand);
 
 /// Asks for a printer and prints the picture as large as the page allows.
-void printPicture(QWidget* parent, const Bildmaler& maler, const QSize& size);
+void printPicture(QWidget* parent, const Bildmaler& maler, const Leinwand& leinwand);
 
 } // namespace zerna

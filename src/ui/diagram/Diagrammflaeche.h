@@ -5,19 +5,20 @@
 #include <string>
 #include <vector>
 
-#include "bild/PSEGeometrie.h"
-#include "model/PSEReihe.h"
 #include "programm/Programm.h"
+#include "ui/diagram/Diagrammmeldung.h"
+#include "ui/diagram/PSEDiagramm.h"
+#include "ui/diagram/Ternaerdiagramm.h"
 #include "ui/platform/Dialoge.h"
-#include "ui/ternary/Ternaerdiagramm.h"
+
+class QMenu;
 
 namespace zerna {
 
 class conDisplay;
 
-/// The diagram area: it shows the concentration diagram that lies in it, the ternary diagram, which the mouse and the
-/// keys turn and zoom, the element-property diagram, or why there is no diagram. Whatever is shown can be copied, saved
-/// and printed.
+/// The diagram area: it shows the concentration diagram that lies in it, the ternary diagram, the element-property
+/// diagram, or why there is no diagram. Whatever is shown gets mouse and keys and can be copied, saved and printed.
 class Diagrammflaeche : public QWidget {
     Q_OBJECT
 
@@ -65,33 +66,22 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    enum class Inhalt { Konzentration, Ternaer, PSE, Meldung };
-
-    void showContent(Inhalt inhalt);
-    PSEBild layOutPSEFor(const QSize& size, QFont& font) const;
-    void paintPicture(QPainter& painter, const QSize& size) const;
-    void paintPSE(QPainter& painter, const PSEBild& bild, const QFont& font) const;
-    void paintMeldung(QPainter& painter, const QSize& size) const;
-    void pointAt(std::size_t element);
-    void moveCursor(QKeyEvent& event);
-    void turnView(QKeyEvent& event);
-    void turnBy(double tilt, double turn);
-    void changeView(const Ansicht& ansicht);
-    std::string values() const;
+    Leinwand leinwand() const { return leinwandOf(*this); }
+    void showDiagramm(Diagramm& diagramm, Qt::FocusPolicy focus);
+    void addCommands(QMenu& menu);
+    void addOutputs(QMenu& menu);
+    void copyValues();
+    void savePicture();
 
     Programm& m_programm;
     Dialoge m_dialoge;
     conDisplay* m_display = nullptr;
-    Inhalt m_inhalt = Inhalt::Meldung;
-    QString m_meldung;
-    PSEReihe m_reihe;
-    std::vector<std::string> m_symbole;
-    PSEBild m_bild; // at the current size
-    QFont m_bildFont;
-    Ternaerdiagramm m_ternaer;
+    PSEDiagramm m_pse;
+    Ternaerdiagramm m_ternaer; // keeps its view from grid to grid
+    Diagrammmeldung m_meldung;
+    Diagramm* m_diagramm = &m_meldung; // what is shown
     bool m_dragging = false;
-    QPointF m_lastPosition; // of the mouse while dragging
-    int m_marked = -1; // element under the keyboard cursor, -1 for none
+    QPointF m_lastPosition; // of the mouse
 };
 
 } // namespace zerna

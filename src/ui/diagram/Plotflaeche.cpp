@@ -21,8 +21,7 @@ void Plotflaeche::leaveEvent(QEvent* event)
 
 void Plotflaeche::mouseMoveEvent(QMouseEvent* event)
 {
-    emit mouseMoved(event->position());
-    event->ignore(); // the diagram area has a use for it as well
+    emit mouseMoved(event->position()); // and no further: the diagram area would read its own position out
 }
 
 void Plotflaeche::paintEvent(QPaintEvent*)

@@ -6,20 +6,17 @@
 #include <optional>
 #include <span>
 #include <string>
-#include <vector>
 
-#include "bild/Achsen.h"
-#include "model/Konzentrationsreihe.h"
 #include "programm/Programm.h"
-#include "ui/diagram/Striche.h"
+#include "ui/diagram/Konzentrationsdiagramm.h"
 #include "ui/platform/Dialoge.h"
 
 namespace zerna {
 
 class Plotflaeche;
 
-/// The concentration diagram: one quantity over the at% of one component, 0 to 100. Axis labels and ticks stand on the
-/// control itself, the curve on the surface `pic` inside it. What was drawn last stays and is laid out anew on resize.
+/// The control that computes and shows the concentration diagram: axis labels and ticks stand on the control itself,
+/// the curve on the surface `pic` inside it. What was drawn last stays and is laid out anew on resize.
 ///
 /// Set the components with Element_Add, then draw. Errors of the series and of the axes reach the caller of the drawing
 /// operations, and what was drawn before stays.
@@ -72,11 +69,11 @@ public:
     /// The numbers in the density fields of the rows (g/cm³), for the density series.
     void setDichtefelder(const std::array<float, MaxKomponenten>& dichten) { m_dichtefelder = dichten; }
 
-    /// The saved file's content for a step width.
-    std::string values(int schritt) const;
+    /// What is shown, to be painted and saved elsewhere.
+    Konzentrationsdiagramm& diagramm() { return m_diagramm; }
 
-    /// Paints the whole diagram as it would look at that size.
-    void paintPicture(QPainter& painter, const QSize& size) const;
+    /// The saved file's content for a step width.
+    std::string values(int schritt) const { return m_diagramm.values(schritt); }
 
 signals:
     void PositionInfo(const QString& text);
@@ -88,33 +85,16 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    /// All that depends on the size.
-    struct Layout {
-        Rechteck plot;
-        Abbildung abbildung;
-        std::vector<Achsenmarke> xMarken;
-        std::vector<Achsenmarke> yMarken;
-        QFont labelFont;
-        double labelHeight = 0;
-    };
-
-    Layout layOut(const QSize& size) const;
-    void fitLabelFont(Layout& layout, int height) const;
-    void relayout();
-    Legierung components() const;
+    Leinwand leinwand() const { return leinwandOf(*this); }
     Reihe computeSeries(int groesse) const;
     void drawSeries(const Reihe& reihe);
-    void paintSurface(QPainter& painter, const QSize& size, const Layout& layout) const;
-    void paintPlot(QPainter& painter, const Layout& layout) const;
-    void paintCursor(QPainter& painter) const;
-    void showPosition(double x, double y);
-    void moveCursor(int prozent);
-    QString positionText(double x, double y) const;
-    std::optional<std::string> chosenValues() const;
-    QImage plotImage() const;
+    Legierung components() const;
+    std::optional<int> askSchritt() const;
+    void updateAll();
 
     Programm& m_programm;
     Dialoge m_dialoge;
+    Konzentrationsdiagramm m_diagramm;
     Plotflaeche* m_pic = nullptr;
     /// One component. Those that Element_Add brings are read from their elements' records whenever a series is
     /// computed.
@@ -125,23 +105,8 @@ private:
 
     std::array<Platz, MaxKomponenten> m_komponenten;
     int m_variable = 0;
-    std::string m_symbol; // of the variable element
-    std::string m_einheit;
-    Reihe m_reihe{};
-    Bereich m_x{0, 100};
-    Bereich m_y;
-    bool m_hasAxes = false;
-    bool m_fehler = false; // the error display is shown
     bool m_bereit = false;
     std::array<float, MaxKomponenten> m_dichtefelder{};
-    std::vector<Strichzug> m_hintergrund;
-    std::vector<Strichzug> m_striche;
-    Layout m_layout;
-    int m_cursor = -1; // at% of the keyboard cursor, -1 for none
 };
-
-/// The y range's two values for a series: those of its ends; where an end is unknown, of the nearest known value. Error
-/// 5 for a series without any value.
-std::pair<float, float> endValues(const Reihe& reihe);
 
 } // namespace zerna

@@ -33,11 +33,11 @@ TEST(DruckenTest, PictureFillsThePageThatTheUserPrintsToAFile)
         };
         QRectF printed;
         QSizeF page;
-        const auto maler = [&](QPainter& painter, const QSize& size) {
-            printed = painter.transform().mapRect(QRectF(QPointF(0, 0), size));
+        const auto maler = [&](QPainter& painter, const Leinwand& leinwand) {
+            printed = painter.transform().mapRect(QRectF(QPointF(0, 0), leinwand.size));
             page = QSizeF(painter.device()->width(), painter.device()->height());
         };
-        inDialog<QPrintDialog>(print, [&] { printPicture(nullptr, maler, row.size); });
+        inDialog<QPrintDialog>(print, [&] { printPicture(nullptr, maler, {row.size, {}}); });
         EXPECT_EQ(page.width() > page.height(), row.landscape);
         EXPECT_DOUBLE_EQ(printed.width() / printed.height(), static_cast<double>(row.size.width()) / row.size.height());
         EXPECT_DOUBLE_EQ(std::max(printed.width() / page.width(), printed.height() / page.height()), 1);
@@ -49,7 +49,7 @@ TEST(DruckenTest, CancelPrintsNothing)
 {
     inDialog<QPrintDialog>([](QPrintDialog&) { press(Qt::Key_Escape); },
         [] {
-            printPicture(nullptr, [](QPainter&, const QSize&) { ADD_FAILURE(); }, {800, 400});
+            printPicture(nullptr, [](QPainter&, const Leinwand&) { ADD_FAILURE(); }, {{800, 400}, {}});
         });
 }
 

@@ -1,6 +1,5 @@
 #include "ui/diagram/conDisplay.h"
 
-#include "core/Unbekannt.h"
 #include "support/FakeDesk.h"
 #include "support/FilesTest.h"
 #include "support/FullDisk.h"
@@ -39,10 +38,9 @@ struct conDisplayTest : FakeDesk {
         display->Zeichne_Diagramm_2D(3, 0);
     }
 
-    QImage picture(int ratio = 1) const
+    QImage picture(int ratio = 1)
     {
-        const auto maler = [this](QPainter& painter, const QSize& size) { display->paintPicture(painter, size); };
-        return imageOf(maler, display->size(), ratio);
+        return imageOf(display->diagramm().maler(), {display->size(), display->font(), static_cast<double>(ratio)});
     }
 
     /// The one colour of a part, transparent if it has several.
@@ -92,13 +90,6 @@ TEST_F(conDisplayTest, UnknownValuesLeaveAGap)
     display->Zeichne_Diagramm_2D(4, 0); // no volume at 50 at%, and so no particles
     for (const auto& [x, y, expected] : {std::tuple(256, 153, Qt::blue), {260, 150, Qt::white}, {264, 147, Qt::blue}})
         EXPECT_EQ(picture().pixelColor(x, y), QColor(expected)) << x;
-    Reihe reihe{};
-    reihe.fill(Unbekannt);
-    EXPECT_EQ(errorNumber([&] { endValues(reihe); }), 5);
-    reihe.at(7) = 3;
-    reihe.at(50) = 9; // Intended: only the ends count
-    reihe.at(99) = 2;
-    EXPECT_EQ(endValues(reihe), std::pair(2.0F, 3.0F));
 }
 
 TEST_F(conDisplayTest, LabelsAreWholeAtAnyFont)

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QPointF>
+#include <QString>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "programm/Exportart.h"
+#include "ui/diagram/Leinwand.h"
+
+class QPainter;
+
+namespace zerna {
+
+/// What the diagram area shows. A diagram paints itself on any painter and at any size, which leaves it as it is. Its
+/// owner hands on what the user does and paints anew where that was of use; what a diagram has no use for answers
+/// false.
+class Diagramm {
+public:
+    /// An entry of the context menu.
+    struct Command {
+        QString text;
+        std::function<void()> execute;
+    };
+
+    virtual ~Diagramm() = default;
+
+    virtual void paint(QPainter& painter, const Leinwand& leinwand) const = 0;
+
+    /// paint as a function for image files and paper.
+    Bildmaler maler() const
+    {
+        return [this](QPainter& painter, const Leinwand& leinwand) { paint(painter, leinwand); };
+    }
+
+    /// Paints the keyboard cursor, which only the screen shows.
+    virtual void paintCursor(QPainter&, const Leinwand&) const { }
+
+    /// The values as they are copied: UTF-8 with tabs and CR LF.
+    virtual std::string values() const { return {}; }
+
+    /// The ways to save values and picture as on that canvas, valid as long as the diagram; none without values.
+    virtual std::vector<Exportart> exportarten(const Leinwand&) const { return {}; }
+
+    /// What is under a position on that canvas; empty for nothing.
+    virtual QString positionText(const QPointF&, const Leinwand&) const { return {}; }
+
+    /// What is under the keyboard cursor; empty without one.
+    virtual QString cursorText() const { return {}; }
+
+    virtual bool keyPressed(int /*key*/, const Leinwand&) { return false; }
+    virtual void clearCursor() { }
+
+    /// The mouse has moved by that many pixels with its left button pressed.
+    virtual bool dragged(const QPointF& /*way*/) { return false; }
+    virtual bool wheelTurned(double /*notches*/) { return false; }
+    virtual bool doubleClicked() { return false; }
+
+    /// What the context menu offers for this diagram alone.
+    virtual std::vector<Command> commands() { return {}; }
+};
+
+} // namespace zerna

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QSize>
+#include <QWidget>
+
+#include <functional>
+
+#include "bild/Geometrie.h"
+#include "ui/platform/QtText.h"
+
+class QPainter;
+
+namespace zerna {
+
+/// What a picture is painted for.
+struct Leinwand {
+    QSize size; ///< logical pixels
+    QFont font;
+    double devicePixelRatio = 1; ///< device pixels per logical pixel, for parts that are rendered as images
+    bool operator==(const Leinwand&) const = default;
+};
+
+/// Paints a picture on a canvas of any size.
+using Bildmaler = std::function<void(QPainter&, const Leinwand&)>;
+
+/// A widget's own surface.
+inline Leinwand leinwandOf(const QWidget& widget) { return {widget.size(), widget.font(), widget.devicePixelRatioF()}; }
+
+/// How texts measure in a font.
+inline Textmasse textmasse(const QFont& font)
+{
+    const QFontMetricsF metrics(font);
+    return {[metrics](std::string_view text) { return metrics.horizontalAdvance(toQt(text)); }, metrics.height()};
+}
+
+} // namespace zerna

@@ -1,0 +1,241 @@
+#include "ui/diagram/Diagramm.h"
+
+#include <QPainter>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "core/Unbekannt.h"
+#include "core/Zeichensatz.h"
+#include "ui/diagram/Bildausgabe.h"
+#include "ui/diagram/Diagrammmeldung.h"
+#include "ui/diagram/Konzentrationsdiagramm.h"
+#include "ui/diagram/PSEDiagramm.h"
+#include "ui/diagram/Ternaerdiagramm.h"
+
+namespace zerna {
+
+namespace {
+
+/// From 2 at 0 at% down to 1: on a canvas of 460 x 330 four pixels to the right and two and a half down per at%.
+Reihe fallend(float factor = 1)
+{
+    Reihe reihe{};
+    for (std::size_t i = 0; i < reihe.size(); ++i)
+        reihe.at(i) = factor * (2 - 0.01F * static_cast<float>(i));
+    return reihe;
+}
+
+Ternaergitter gitter(float factor = 1)
+{
+    Ternaergitter grid{4, {"Al", "Cu", "Mg"}, "eV", {}};
+    for (int i = 0; i < 15; ++i)
+        grid.werte.push_back(factor * static_cast<float>(i));
+    return grid;
+}
+
+std::unique_ptr<Diagramm> konzentration()
+{
+    auto diagramm = std::make_unique<Konzentrationsdiagramm>([] { return 50; });
+    diagramm->setSymbol("Al");
+    diagramm->setEinheit("g/cm³");
+    diagramm->zeichneReihe(fallend());
+    return diagramm;
+}
+
+std::unique_ptr<Diagramm> pse()
+{
+    return std::make_unique<PSEDiagramm>(
+        PSEReihe{"Titel", {1, 2, 3, 4}, {2, Unbekannt, 8, 5}}, std::vector<std::string>{"H", "He", "Li", "Be"});
+}
+
+std::unique_ptr<Diagramm> ternaer()
+{
+    auto diagramm = std::make_unique<Ternaerdiagramm>();
+    diagramm->setGitter(gitter(), {0.2, 0.3, 0.5});
+    return diagramm;
+}
+
+std::unique_ptr<Diagramm> meldung() { return std::make_unique<Diagrammmeldung>(QStringLiteral("Grund")); }
+
+struct Art {
+    const char* name;
+    std::unique_ptr<Diagramm> (*make)();
+    const char* exports; ///< what the save dialog offers
+};
+
+constexpr Art Arten[] = {
+    {"concentration", konzentration, "DAT-File (*.dat)|Bitmap (*.bmp)|"},
+    {"element property", pse, "DAT-File (*.dat)|Bitmap (*.bmp)|"},
+    {"ternary", ternaer, "Daten 3D (*.3dd)|Bitmap (*.bmp)|"},
+    {"message", meldung, ""},
+};
+
+const Leinwand Flaeche{{460, 330}, {}, 1};
+
+QImage picture(const Diagramm& diagramm, const Leinwand& leinwand = Flaeche)
+{
+    return imageOf(diagramm.maler(), leinwand);
+}
+
+QImage withCursor(const Diagramm& diagramm)
+{
+    const auto maler = [&](QPainter& painter, const Leinwand& leinwand) {
+        diagramm.paint(painter, leinwand);
+        diagramm.paintCursor(painter, leinwand);
+    };
+    return imageOf(maler, Flaeche);
+}
+
+/// The middle column of what the cursor has painted over.
+int cursorColumn(const QImage& without, const QImage& with)
+{
+    int left = with.width();
+    int right = -1;
+    for (int x = 0; x < with.width(); ++x) {
+        if (without.copy(x, 0, 1, with.height()) != with.copy(x, 0, 1, with.height())) {
+            left = std::min(left, x);
+            right = x;
+        }
+    }
+    return (left + right) / 2;
+}
+
+/// The middle row of the curve in a column.
+int curveRow(const QImage& image, int column)
+{
+    int first = -1;
+    int last = -1;
+    for (int y = 0; y < image.height(); ++y) {
+        if (image.pixelColor(column, y) == QColor(Qt::blue)) {
+            first = first < 0 ? y : first;
+            last = y;
+        }
+    }
+    return (first + last) / 2;
+}
+
+} // namespace
+
+TEST(DiagrammTest, EachSizeIsPaintedAsIfItWereTheOnlyOne)
+{
+    QFont large;
+    large.setPointSize(20);
+    const struct {
+        const char* name;
+        Leinwand leinwand;
+    } rows[] = {{"screen", Flaeche}, {"smaller", {{230, 140}, {}, 1}}, {"screen again", Flaeche},
+        {"finer", {{460, 330}, {}, 2}}, {"other font", {{460, 330}, large, 1}}, {"nothing", {{0, 0}, {}, 1}}};
+    for (const Art& art : Arten) {
+        const auto painted = art.make();
+        for (const auto& row : rows) {
+            SCOPED_TRACE(std::string(art.name) + ", " + row.name);
+            const QImage image = picture(*painted, row.leinwand);
+            EXPECT_EQ(image, picture(*art.make(), row.leinwand));
+            EXPECT_EQ(image.size(), row.leinwand.size * row.leinwand.devicePixelRatio);
+            painted->positionText({100, 100}, Flaeche);
+        }
+    }
+}
+
+TEST(DiagrammTest, NewContentReplacesWhatWasLaidOut)
+{
+    Konzentrationsdiagramm series([] { return 1; });
+    const QImage empty = picture(series);
+    series.zeichneReihe(fallend());
+    const QImage first = picture(series);
+    EXPECT_NE(first, empty);
+    series.zeichneReihe(fallend(3)); // other labels beside the same curve
+    EXPECT_NE(picture(series), first);
+    series.zeichneReihe(fallend());
+    EXPECT_EQ(picture(series), first);
+
+    Ternaerdiagramm ternary;
+    ternary.setGitter(gitter(), {});
+    const QImage grid = picture(ternary);
+    ternary.setGitter(gitter(-1), {});
+    EXPECT_NE(picture(ternary), grid);
+    ternary.dragged({5, 0});
+    ternary.setGitter(gitter(), {});
+    EXPECT_NE(picture(ternary), grid) << "the view stays";
+    ternary.doubleClicked();
+    EXPECT_EQ(picture(ternary), grid);
+}
+
+TEST(DiagrammTest, CursorCurveReadOutAndValuesNameTheSamePoint)
+{
+    const struct {
+        const char* name;
+        std::unique_ptr<Diagramm> (*make)();
+        std::vector<Qt::Key> keys;
+        const char* text;
+        const char* line; ///< of the values
+    } rows[] = {
+        {"first at%", konzentration, {Qt::Key_Right}, "0,00 at% Al - 2 g/cm³", "\n0\t2\r"},
+        {"from the last at%", konzentration, {Qt::Key_End, Qt::Key_Right, Qt::Key_Left, Qt::Key_Left},
+            "98,00 at% Al - 1,02 g/cm³", "\n98\t1.02\r"},
+        {"first element", pse, {Qt::Key_Home, Qt::Key_Left}, "H   OZ 1   2", "\n1\t2\r"},
+        {"over the gap", pse, {Qt::Key_Right, Qt::Key_Right}, "Li   OZ 3   8", "\n3\t8\r"},
+        {"last element", pse, {Qt::Key_End, Qt::Key_Right}, "Be   OZ 4   5", "\n4\t5\r"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        const auto diagramm = row.make();
+        for (const Qt::Key key : row.keys)
+            EXPECT_TRUE(diagramm->keyPressed(key, Flaeche));
+        EXPECT_EQ(diagramm->cursorText().toStdString(), row.text);
+        EXPECT_NE(diagramm->values().find(row.line), std::string::npos) << diagramm->values();
+        const QImage image = picture(*diagramm);
+        const int column = cursorColumn(image, withCursor(*diagramm));
+        const QPointF point(column, curveRow(image, column));
+        EXPECT_EQ(diagramm->positionText(point, Flaeche).toStdString(), row.text);
+        diagramm->clearCursor();
+        EXPECT_EQ(withCursor(*diagramm), image);
+        EXPECT_EQ(diagramm->cursorText(), QString());
+    }
+}
+
+TEST(DiagrammTest, WhatIsOfNoUseIsLeftToOthers)
+{
+    const struct {
+        const char* name;
+        std::unique_ptr<Diagramm> (*make)();
+        bool arrow, plus, mouse;
+    } rows[] = {{"concentration", konzentration, true, false, false}, {"element property", pse, true, false, false},
+        {"ternary", ternaer, true, true, true}, {"message", meldung, false, false, false}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        const auto diagramm = row.make();
+        EXPECT_EQ(diagramm->keyPressed(Qt::Key_Left, Flaeche), row.arrow);
+        EXPECT_EQ(diagramm->keyPressed(Qt::Key_Plus, Flaeche), row.plus);
+        EXPECT_FALSE(diagramm->keyPressed(Qt::Key_Tab, Flaeche));
+        EXPECT_EQ(diagramm->dragged({1, 1}), row.mouse);
+        EXPECT_EQ(diagramm->wheelTurned(1), row.mouse);
+        EXPECT_EQ(diagramm->doubleClicked(), row.mouse);
+        EXPECT_EQ(diagramm->commands().size(), row.mouse ? 2U : 0U);
+    }
+}
+
+TEST(DiagrammTest, ExportsHoldValuesAndPicture)
+{
+    for (const Art& art : Arten) {
+        SCOPED_TRACE(art.name);
+        const auto diagramm = art.make();
+        std::string offered;
+        for (const Exportart& kind : diagramm->exportarten(Flaeche))
+            offered.append(kind.beschreibung).append("|");
+        EXPECT_EQ(offered, art.exports);
+    }
+    EXPECT_EQ(ternaer()->exportarten(Flaeche).at(0).bytes(), toWindows1252(ternaer()->values()));
+    EXPECT_EQ(
+        konzentration()->exportarten(Flaeche).at(0).bytes(), "Al [at%]\tg/cm\xB3\r\n0\t2\r\n50\t1.5\r\n100\t1\r\n");
+    const auto pixels = [](const Diagramm& diagramm) {
+        return QImage::fromData(QByteArray::fromStdString(*diagramm.exportarten(Flaeche).at(1).bytes()));
+    };
+    EXPECT_EQ(pixels(*pse()), picture(*pse()));
+    EXPECT_EQ(pixels(*ternaer()), picture(*ternaer()));
+    EXPECT_EQ(pixels(*konzentration()), picture(*konzentration()).copy(60, 0, 400, 300)) << "the plot alone";
+}
+
+} // namespace zerna
