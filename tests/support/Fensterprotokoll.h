@@ -9,7 +9,9 @@
 #include <QListWidget>
 #include <QRegularExpression>
 
+#include <iterator>
 #include <map>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -18,33 +20,38 @@
 /// What changed on the controls of a window and what came out of it, as compact lines.
 namespace zerna {
 
+inline std::vector<std::string> words(const std::string& text)
+{
+    std::istringstream stream(text);
+    return {std::istream_iterator<std::string>(stream), {}};
+}
+
 /// "a_0-2" means a_0, a_1 and a_2.
 inline std::vector<std::string> expanded(const std::string& name)
 {
     static const QRegularExpression range(QStringLiteral("^(.*_)(\\d+)-(\\d+)$"));
     const auto match = range.match(QString::fromStdString(name));
-    if (!match.hasMatch())
-        return {name};
     std::vector<std::string> names;
-    for (int i = match.captured(2).toInt(); i <= match.captured(3).toInt(); ++i)
+    for (int i = match.captured(2).toInt(); match.hasMatch() && i <= match.captured(3).toInt(); ++i)
         names.push_back(match.captured(1).toStdString() + std::to_string(i));
-    return names;
+    return match.hasMatch() ? names : std::vector{name};
 }
 
 /// The other way round: names with consecutive numbers become one.
 inline std::vector<std::string> contracted(const std::vector<std::string>& names)
 {
     std::vector<std::string> ranges;
-    for (std::size_t first = 0, next = 0; first < names.size(); first = next) {
-        const std::string& name = names[first];
-        const std::size_t digits = name.find_last_not_of("0123456789") + 1;
-        const int number = digits < name.size() ? std::stoi(name.substr(digits)) : 0;
-        int last = number;
-        for (next = first + 1; next < names.size() && digits < name.size(); ++next, ++last) {
-            if (names[next] != name.substr(0, digits) + std::to_string(last + 1))
-                break;
+    std::string first;
+    std::string next; // what continues the last range
+    for (const std::string& name : names) {
+        if (name == next) {
+            ranges.back() = first + '-' + name.substr(name.find_last_not_of("0123456789") + 1);
+        } else {
+            ranges.push_back(name);
+            first = name;
         }
-        ranges.push_back(last > number ? name + '-' + std::to_string(last) : name);
+        const std::size_t digits = name.find_last_not_of("0123456789") + 1;
+        next = digits < name.size() ? name.substr(0, digits) + std::to_string(std::stoi(name.substr(digits)) + 1) : "";
     }
     return ranges;
 }
@@ -61,6 +68,11 @@ inline std::string indented(QString text)
     for (const QString& line : text.split('\n'))
         lines += "    " + line.toStdString() + '\n';
     return lines;
+}
+
+inline std::string sizeText(const QImage& image)
+{
+    return std::to_string(image.width()) + " x " + std::to_string(image.height());
 }
 
 inline std::string checksum(const QByteArray& bytes)
@@ -84,8 +96,7 @@ inline std::string fileContent(const std::string& name, const std::string& bytes
         return textContent(QString::fromStdString(fromWindows1252(bytes)));
     const QImage image = QImage::fromData(QByteArray::fromStdString(bytes)).convertToFormat(QImage::Format_RGB32);
     const QByteArray pixels(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes());
-    return ": " + std::to_string(image.width()) + " x " + std::to_string(image.height()) + ' ' + checksum(pixels)
-        + '\n';
+    return ": " + sizeText(image) + ' ' + checksum(pixels) + '\n';
 }
 
 /// Entries of one kind in lines that are not too long; each line begins with the kind.
@@ -111,8 +122,7 @@ private:
 
 /// What the user sees of a control.
 struct Anblick {
-    std::string text;
-    std::string entries;
+    std::string text, entries;
     std::string hint; // the fault of a field, or what its formula comes to
     bool isVisible = false;
     bool isEnabled = true;
@@ -146,37 +156,28 @@ inline Anblick lookAt(QWidget& widget)
 
 using Anblicke = std::map<std::string, Anblick>;
 
-inline void logTexts(Protokoll& log, const std::string& name, const Anblick& before, const Anblick& now)
-{
-    const std::size_t underscore = name.rfind('_');
-    const bool isNumbered = name.find_last_not_of("0123456789") == underscore;
-    if (now.text != before.text && isNumbered)
-        log.add(name.substr(0, underscore), name.substr(underscore + 1) + " = " + now.text);
-    else if (now.text != before.text)
-        log.add(name, now.text);
-}
-
 /// Logs what differs on the named controls.
 inline void logChanges(
     Protokoll& log, const std::vector<std::string>& names, const Anblicke& before, const Anblicke& now)
 {
+    const auto forChanged = [&](auto Anblick::*part, const auto& act) {
+        for (const std::string& name : names) {
+            if (now.at(name).*part != before.at(name).*part)
+                act(name, now.at(name).*part);
+        }
+    };
+    forChanged(&Anblick::text, [&log](const std::string& name, const std::string& text) {
+        const std::size_t underscore = name.rfind('_');
+        if (name.find_last_not_of("0123456789") == underscore)
+            log.add(name.substr(0, underscore), name.substr(underscore + 1) + " = " + text);
+        else
+            log.add(name, text);
+    });
+    forChanged(&Anblick::entries, [&log](auto& name, auto& entries) { log.add("entries of " + name, entries); });
+    forChanged(&Anblick::hint, [&log](auto& name, auto& hint) { log.add("hint", name + " = " + hint); });
     std::map<std::string, std::vector<std::string>> states;
-    for (const std::string& name : names)
-        logTexts(log, name, before.at(name), now.at(name));
-    for (const std::string& name : names) {
-        const Anblick& was = before.at(name);
-        const Anblick& is = now.at(name);
-        if (is.entries != was.entries)
-            log.add("entries of " + name, is.entries);
-        if (is.isVisible != was.isVisible)
-            states[is.isVisible ? "shown" : "hidden"].push_back(name);
-        if (is.isEnabled != was.isEnabled)
-            states[is.isEnabled ? "enabled" : "disabled"].push_back(name);
-    }
-    for (const std::string& name : names) {
-        if (now.at(name).hint != before.at(name).hint)
-            log.add("hint", name + " = " + now.at(name).hint);
-    }
+    forChanged(&Anblick::isVisible, [&](auto& name, bool is) { states[is ? "shown" : "hidden"].push_back(name); });
+    forChanged(&Anblick::isEnabled, [&](auto& name, bool is) { states[is ? "enabled" : "disabled"].push_back(name); });
     for (const auto& [state, changed] : states) {
         for (const std::string& range : contracted(changed))
             log.add(state, range);

@@ -2,40 +2,12 @@
 #include <QTimer>
 
 #include <functional>
-#include <map>
-#include <sstream>
 
 #include "support/FakeDesk.h"
 #include "support/Fensterprotokoll.h"
 #include "support/Transkript.h"
 
 namespace zerna {
-
-namespace {
-
-/// The words of an action.
-class Worte : public std::istringstream {
-public:
-    using std::istringstream::istringstream;
-
-    std::string word()
-    {
-        std::string text;
-        *this >> text;
-        return text;
-    }
-
-    int number() { return std::stoi(word()); }
-
-    std::string rest()
-    {
-        std::string text;
-        std::getline(*this >> std::ws, text);
-        return text;
-    }
-};
-
-} // namespace
 
 /// A script drives the window; the log has what changed with each action on the controls that the script names.
 struct StundeTest : FakeDesk {
@@ -53,8 +25,7 @@ struct StundeTest : FakeDesk {
 
     void pressKey(const std::string& name, const std::string& key) const
     {
-        const QKeyCombination keys = QKeySequence(QString::fromStdString(key))[0];
-        QTest::keyClick(&control(name), keys.key(), keys.keyboardModifiers());
+        QTest::keySequence(&control(name), QKeySequence(QString::fromStdString(key)));
     }
 
     QPoint placeIn(const std::string& name, const QPoint& position) const
@@ -62,21 +33,10 @@ struct StundeTest : FakeDesk {
         return control(name).mapTo(window.get(), position);
     }
 
-    void moveMouse(const std::string& name, int x, int y) const
+    void moveMouse(const std::string& name, const QPoint& position) const
     {
         control(name).repaint(); // the read-out is that of the picture painted last
-        QTest::mouseMove(window->windowHandle(), placeIn(name, {x, y}));
-    }
-
-    /// Steps onto the entry with one key; the entries on the way to it would take long.
-    void choose(const std::string& name, const std::string& entry) const
-    {
-        auto& list = find<QComboBox>(name.c_str());
-        const int target = list.findText(QString::fromStdString(entry));
-        ASSERT_GE(target, 0) << entry;
-        list.setFocus();
-        list.setCurrentIndex(target > 0 ? target - 1 : 1);
-        QTest::keyClick(&list, target > 0 ? Qt::Key_Down : Qt::Key_Up);
+        QTest::mouseMove(window->windowHandle(), placeIn(name, position));
     }
 
     /// Chooses an entry of the menu that the action opens.
@@ -109,43 +69,36 @@ struct StundeTest : FakeDesk {
         saveDialog.answer.reset();
     }
 
-    using Aktion = std::function<void(const std::string& name, Worte& words)>;
+    void watch(const std::string& names)
+    {
+        for (const std::string& range : words(names)) {
+            for (const std::string& name : expanded(range)) {
+                watched.push_back(name);
+                seen[name];
+            }
+        }
+    }
+
+    /// An action is given the name of a control and what follows it.
+    using Aktion = std::function<void(const std::string& name, const std::string& rest)>;
     const std::map<std::string, Aktion> actions{
-        {"settings", [this](auto& name, Worte& words) { settings[name] = words.rest(); }},
-        {"open", [this](auto&, Worte&) { open(); }},
-        {"type", [this](auto& name, Worte& words) { type(name.c_str(), words.rest().c_str()); }},
-        {"choose", [this](auto& name, Worte& words) { choose(name, words.rest()); }},
-        {"click", [this](auto& name, Worte&) { click(name); }},
-        {"focus", [this](auto& name, Worte&) { control(name).setFocus(); }},
-        {"key", [this](auto& name, Worte& words) { pressKey(name, words.rest()); }},
-        {"press",
-            [this](
-                auto& name, Worte& words) { QTest::keyClicks(&control(name), QString::fromStdString(words.rest())); }},
+        {"settings", [this](auto& name, auto& text) { settings[name] = text; }},
+        {"open", [this](auto&, auto&) { open(); }},
+        {"type", [this](auto& name, auto& text) { type(name.c_str(), text.c_str()); }},
+        {"choose", [this](auto& name, auto& entry) { choose(name.c_str(), entry.c_str()); }},
+        {"click", [this](auto& name, auto&) { click(name); }},
+        {"focus", [this](auto& name, auto&) { control(name).setFocus(); }},
+        {"key", [this](auto& name, auto& key) { pressKey(name, key); }},
+        {"press", [this](auto& name, auto& text) { QTest::keyClicks(&control(name), QString::fromStdString(text)); }},
         {"move",
-            [this](auto& name, Worte& words) {
-                const int x = words.number();
-                moveMouse(name, x, words.number());
+            [this](auto& name, auto& xy) {
+                moveMouse(name, {std::stoi(words(xy).at(0)), std::stoi(words(xy).at(1))});
             }},
-        {"menu", [this](auto& name, Worte& words) { answerMenu(words.rest(), [&] { rightClick(name); }); }},
-        {"take", [this](auto& name, Worte& words) { answerMenu(words.rest(), [&] { pressKey(name, "Return"); }); }},
-        {"save",
-            [this](auto& name, Worte& words) {
-                const std::string file = words.word();
-                save(name, file, words.number());
-            }},
-        {"input",
-            [this](auto& text, Worte&) {
-                inputBox.answer = text.empty() ? std::nullopt : std::optional<std::string>(text);
-            }},
-        {"watch",
-            [this](auto& name, Worte& words) {
-                for (std::string range = name; !range.empty(); range = words.word()) {
-                    for (const std::string& one : expanded(range)) {
-                        watched.push_back(one);
-                        seen[one];
-                    }
-                }
-            }},
+        {"menu", [this](auto& name, auto& entry) { answerMenu(entry, [&] { rightClick(name); }); }},
+        {"take", [this](auto& name, auto& entry) { answerMenu(entry, [&] { pressKey(name, "Return"); }); }},
+        {"save", [this](auto& name, auto& file) { save(name, words(file).at(0), std::stoi(words(file).at(1))); }},
+        {"input", [this](auto& text, auto&) { inputBox.answer = text.empty() ? std::nullopt : std::optional(text); }},
+        {"watch", [this](auto& name, auto& others) { watch(name + ' ' + others); }},
     };
 
     /// Carries out one line of the script and returns what changed.
@@ -156,10 +109,9 @@ struct StundeTest : FakeDesk {
         saveDialog.asked.clear();
         QApplication::clipboard()->clear();
         const std::map<std::string, std::string> settingsBefore = settings.stored;
-        Worte words(line);
-        const std::string verb = words.word();
-        const std::string name = words.word();
-        actions.at(verb)(name, words);
+        const QString text = QString::fromStdString(line);
+        const std::string verb = text.section(' ', 0, 0).toStdString();
+        actions.at(verb)(text.section(' ', 1, 1).toStdString(), text.section(' ', 2).toStdString());
         QCoreApplication::processEvents();
         Protokoll log;
         logQuestions(log);
@@ -168,7 +120,10 @@ struct StundeTest : FakeDesk {
                 if (!settingsBefore.contains(key) || settingsBefore.at(key) != value)
                     log.add("setting", key + " = " + value);
             }
-            logControls(log);
+            Anblicke now;
+            for (const std::string& name : watched)
+                now[name] = lookAt(control(name));
+            logChanges(log, watched, std::exchange(seen, now), now);
         }
         return log.text() + clipboardText() + filesWritten();
     }
@@ -185,20 +140,10 @@ struct StundeTest : FakeDesk {
             log.add("prompt", oneLine(QString::fromStdString(prompt)));
     }
 
-    void logControls(Protokoll& log)
-    {
-        Anblicke now;
-        for (const std::string& name : watched)
-            now[name] = lookAt(control(name));
-        logChanges(log, watched, seen, now);
-        seen = std::move(now);
-    }
-
     static std::string clipboardText()
     {
         if (const QImage image = QApplication::clipboard()->image(); !image.isNull())
-            return "  clipboard: picture " + std::to_string(image.width()) + " x " + std::to_string(image.height())
-                + '\n';
+            return "  clipboard: picture " + sizeText(image) + '\n';
         const QString text = QApplication::clipboard()->text();
         return text.isEmpty() ? "" : "  clipboard" + textContent(text);
     }
