@@ -16,23 +16,13 @@ struct TafelfaerbungTest : FilesTest {
 
 TEST_F(TafelfaerbungTest, GroupsHaveAColourAndASignEach)
 {
-    struct Row {
-        const char* name;
-        const char* egk;
-        bool aufDunklem;
-        Zellfuellung expected;
-    };
-    const Row rows[]{
-        {"main group", "H", false, {Farbe{207, 226, 247}, Gruppenzeichen::Kreis}},
-        {"main group on a dark window", "H", true, {Farbe{36, 71, 110}, Gruppenzeichen::Kreis}},
-        {"transition metal", "N", false, {Farbe{251, 227, 188}, Gruppenzeichen::Quadrat}},
-        {"lanthanide", "L", false, {Farbe{207, 235, 210}, Gruppenzeichen::Dreieck}},
-        {"actinide", "A", false, {Farbe{243, 211, 230}, Gruppenzeichen::Raute}},
-        {"no group", "", false, {}},
-        {"unknown group", "HN", true, {}},
-    };
-    for (const Row& row : rows)
-        EXPECT_EQ(fuellung({}, row.egk, 0, row.aufDunklem), row.expected) << row.name;
+    const Zellfuellung expected{Farbe{251, 227, 188}, Gruppenzeichen::Quadrat};
+    EXPECT_EQ(fuellung({}, "N", 0, false), expected);
+    EXPECT_NE(fuellung({}, "N", 0, true), expected) << "darker on a dark window";
+    for (const Elementgruppe& group : elementgruppen())
+        EXPECT_EQ(fuellung({}, group.egk, 0, false) == expected, group.egk == "N") << group.name;
+    for (const char* const unknown : {"", "HN"})
+        EXPECT_EQ(fuellung({}, unknown, 0, true), Zellfuellung{});
 }
 
 TEST_F(TafelfaerbungTest, ValuesSpreadOverTheWholeScale)

@@ -10,25 +10,18 @@ using ZelltexteTest = FilesTest;
 TEST_F(ZelltexteTest, SizesFollowTheShorterSideOfTheCell)
 {
     struct Row {
-        const char* name;
-        double width;
-        double height;
-        Schriftgroessen expected;
+        double width, height, symbol, klein;
+        bool dritteZeile;
     };
-    const Row rows[]{
-        {"square", 50, 50, {19, 10, true}},
-        {"tall", 50, 90, {19, 10, true}},
-        {"flat, just high enough for a third line", 90, 40, {15.2, 8, true}},
-        {"too small a text for a third line", 39, 90, {14.82, 7.8, false}},
-        {"largest small text", 100, 100, {38, 14, true}},
-        {"smallest small text", 12, 12, {4.56, 6, false}},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const Row& row : {
+             Row{50, 90, 19, 10, true}, {90, 40, 15.2, 8, true}, // just high enough for a third line
+             {39, 90, 14.82, 7.8, false}, {100, 100, 38, 14, true}, // largest small text
+             {12, 12, 4.56, 6, false}, // smallest
+         }) {
         const Schriftgroessen groessen = schriftgroessen(row.width, row.height);
-        EXPECT_NEAR(groessen.symbol, row.expected.symbol, 1e-9);
-        EXPECT_NEAR(groessen.klein, row.expected.klein, 1e-9);
-        EXPECT_EQ(groessen.dritteZeile, row.expected.dritteZeile);
+        EXPECT_NEAR(groessen.symbol, row.symbol, 1e-9) << row.width;
+        EXPECT_NEAR(groessen.klein, row.klein, 1e-9) << row.width;
+        EXPECT_EQ(groessen.dritteZeile, row.dritteZeile) << row.width;
     }
 }
 
