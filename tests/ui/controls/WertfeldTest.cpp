@@ -25,29 +25,20 @@ TEST(WertfeldTest, WrittenValueIsNotTakenForTyping)
 
 TEST(WertfeldTest, ToolTipGivesTheReasonBeforeTheEchoBeforeTheHint)
 {
-    struct Row {
-        const char* name;
-        const char* fehler;
-        const char* echo;
-        const char* hinweis;
-        const char* expected;
-    };
-    const Row rows[]{
-        {"nothing to say", "", "", "", ""},
-        {"hint", "", "", "Zahl oder Formel", "Zahl oder Formel"},
-        {"echo with its formula", "", "= 1,5", "Zahl oder Formel", "3/2 = 1,5"},
-        {"fault", "Division durch Null", "= 1,5", "Zahl oder Formel", "Division durch Null"},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [fehler, echo, hinweis, expected] : {
+             std::tuple("", "", "", ""),
+             {"", "", "Zahl oder Formel", "Zahl oder Formel"},
+             {"", "= 1,5", "Zahl oder Formel", "3/2 = 1,5"},
+             {"Division durch Null", "= 1,5", "Zahl oder Formel", "Division durch Null"},
+         }) {
         Wertfeld feld;
         feld.setWert("3/2", false);
-        feld.setHinweis(row.hinweis);
-        feld.setEcho(row.echo);
-        feld.setFehler(row.fehler);
-        EXPECT_EQ(feld.toolTip().toStdString(), row.expected);
+        feld.setHinweis(hinweis);
+        feld.setEcho(echo);
+        feld.setFehler(fehler);
+        EXPECT_EQ(feld.toolTip().toStdString(), expected);
         EXPECT_EQ(feld.accessibleDescription(), feld.toolTip());
-        EXPECT_GE(feld.textMargins().right(), feld.fontMetrics().horizontalAdvance(row.echo)) << "beside the text";
+        EXPECT_GE(feld.textMargins().right(), feld.fontMetrics().horizontalAdvance(echo)) << "beside the text";
     }
 }
 

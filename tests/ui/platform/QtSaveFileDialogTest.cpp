@@ -1,12 +1,8 @@
 #include "ui/platform/QtSaveFileDialog.h"
 
-#include <QAbstractButton>
 #include <QComboBox>
 #include <QFileDialog>
-#include <QLabel>
-#include <QLibraryInfo>
 #include <QMessageBox>
-#include <QTranslator>
 
 #include "support/FakeServices.h"
 #include "support/ModalDialog.h"
@@ -14,106 +10,58 @@
 
 namespace zerna {
 
-/// The dialog in a folder of its own, with the toolkit's German texts.
+/// The dialog in a folder of its own.
 struct QtSaveFileDialogTest : testing::Test {
-    QtSaveFileDialogTest()
-    {
-        std::filesystem::current_path(folder.path());
-        EXPECT_TRUE(german.load("qtbase_de", QLibraryInfo::path(QLibraryInfo::TranslationsPath)));
-        QCoreApplication::installTranslator(&german);
-    }
-
-    /// What the user's keys make of the dialog: path and filter index, or "cancel".
-    template <class User>
-    std::string chosen(const User& user)
-    {
-        std::string result;
-        inDialog<QFileDialog>(user, [&] {
-            const auto choice = dialog.choose("Daten exportieren ...", types);
-            result = choice ? choice->path + '|' + std::to_string(choice->filterIndex) : "cancel";
-        });
-        return result;
-    }
-
-    template <class User>
-    bool replaces(const User& user)
-    {
-        bool answer = false;
-        inDialog<QMessageBox>(user, [&] { answer = dialog.confirmReplace("<b>größe.dat"); });
-        return answer;
-    }
+    QtSaveFileDialogTest() { std::filesystem::current_path(folder.path()); }
 
     KeptCurrentFolder kept;
     TemporaryFolder folder;
-    QTranslator german;
     const std::vector<Exportart> types{datDatei({}), friedelminima({})};
     QtSaveFileDialog dialog;
 };
 
 TEST_F(QtSaveFileDialogTest, TypedNameAndTypeAreTheAnswer)
 {
-    struct Row {
-        const char* name;
-        const char* typed;
-        bool secondType;
-        Qt::Key key;
-        const char* expected; // file and filter index
-    };
-    const Row rows[]{
-        {"first type", "Größen", false, Qt::Key_Return, "Größen|1"},
-        {"second type", "minima.fri", true, Qt::Key_Return, "minima.fri|2"},
-        {"cancel", "werte.dat", true, Qt::Key_Escape, nullptr},
-    };
-    for (const Row& row : rows) {
-        const auto answer = [&row](QFileDialog& shown) {
-            typeText(QString::fromUtf8(row.typed));
+    for (const auto& [typed, typeKey, key, index] : {std::tuple("Größen", Qt::Key_Up, Qt::Key_Return, 1),
+             {"minima.fri", Qt::Key_Down, Qt::Key_Return, 2}, {"werte.dat", Qt::Key_Down, Qt::Key_Escape, 0}}) {
+        std::optional<SaveFileDialog::Choice> choice;
+        const auto answer = [typed = typed, typeKey = typeKey, key = key](QFileDialog& shown) {
+            EXPECT_EQ(shown.windowTitle(), "Daten exportieren ...");
+            typeText(QString::fromUtf8(typed));
             shown.findChild<QComboBox*>("fileTypeCombo")->setFocus();
-            press(row.secondType ? Qt::Key_Down : Qt::Key_Up);
-            press(row.key);
+            press(typeKey);
+            press(key);
         };
-        EXPECT_EQ(chosen(answer), row.expected != nullptr ? (folder / row.expected).string() : "cancel") << row.name;
+        inDialog<QFileDialog>(answer, [&] { choice = dialog.choose("Daten exportieren ...", types); });
+        EXPECT_EQ(choice ? choice->filterIndex : 0, index) << typed;
+        EXPECT_TRUE(!choice || choice->path == (folder / typed).string()) << typed;
     }
 }
 
-TEST_F(QtSaveFileDialogTest, ExistingFileIsReplacedOnlyIfTheUserSaysSo)
+TEST_F(QtSaveFileDialogTest, ExistingFileIsAskedFor)
 {
     writeBytes(folder / "alt.dat", "1");
-    const auto answer = [](Qt::Key mnemonic) {
-        return [mnemonic](QFileDialog& shown) {
-            typeText("alt.dat");
-            inDialog<QMessageBox>(
-                [mnemonic](QMessageBox&) { press(mnemonic, Qt::AltModifier); }, [] { press(Qt::Key_Return); });
-            if (shown.isVisible())
-                press(Qt::Key_Escape);
-        };
+    const auto answer = [](QFileDialog&) {
+        typeText("alt.dat");
+        inDialog<QMessageBox>([](QMessageBox&) { press(Qt::Key_N, Qt::AltModifier); }, [] { press(Qt::Key_Return); });
+        press(Qt::Key_Escape); // back in the dialog
     };
-    EXPECT_EQ(chosen(answer(Qt::Key_J)), (folder / "alt.dat|1").string());
-    EXPECT_EQ(chosen(answer(Qt::Key_N)), "cancel") << "back in the dialog";
-}
-
-TEST_F(QtSaveFileDialogTest, DialogSpeaksGerman)
-{
-    chosen([](QFileDialog& shown) {
-        EXPECT_EQ(shown.windowTitle(), "Daten exportieren ...");
-        EXPECT_EQ(shown.findChild<QLabel*>("fileNameLabel")->text(), "Datei&name:");
-        EXPECT_EQ(shown.findChild<QLabel*>("fileTypeLabel")->text(), "Dateien des Typs:");
-        EXPECT_EQ(shown.labelText(QFileDialog::Accept), "S&peichern");
-        EXPECT_EQ(shown.labelText(QFileDialog::Reject), "Abbrechen");
-        press(Qt::Key_Escape);
-    });
+    inDialog<QFileDialog>(answer, [&] { EXPECT_FALSE(dialog.choose(Exporttitel, types)); });
 }
 
 TEST_F(QtSaveFileDialogTest, ReplacingIsAskedForWithNoAsDefault)
 {
-    EXPECT_FALSE(replaces([](QMessageBox& question) {
-        EXPECT_EQ(question.windowTitle(), "Daten exportieren ...");
-        EXPECT_EQ(question.text(), "Die Datei \"<b>größe.dat\" ist schon vorhanden.\nSoll sie ersetzt werden?");
-        EXPECT_EQ(question.textFormat(), Qt::PlainText);
-        EXPECT_EQ(question.button(QMessageBox::Yes)->text(), "&Ja");
-        press(Qt::Key_Return);
-    }));
-    EXPECT_FALSE(replaces([](QMessageBox&) { press(Qt::Key_Escape); }));
-    EXPECT_TRUE(replaces([](QMessageBox&) { press(Qt::Key_J, Qt::AltModifier); }));
+    for (const auto& [key, modifier, replaces] : {std::tuple(Qt::Key_Return, Qt::NoModifier, false),
+             {Qt::Key_Escape, Qt::NoModifier, false}, {Qt::Key_Y, Qt::AltModifier, true}}) {
+        const auto answer = [key = key, modifier = modifier](QMessageBox& question) {
+            EXPECT_EQ(question.text(), "Die Datei \"<b>größe.dat\" ist schon vorhanden.\nSoll sie ersetzt werden?");
+            EXPECT_EQ(question.textFormat(), Qt::PlainText);
+            press(key, modifier);
+        };
+        inDialog<QMessageBox>(answer, [&, expected = replaces] { //
+            EXPECT_EQ(dialog.confirmReplace("<b>größe.dat"), expected);
+        });
+    }
 }
 
 } // namespace zerna
