@@ -225,16 +225,4 @@ TEST_F(EingabeTest, FirstObstacleIsNamed)
     EXPECT_FALSE(eingabe.legierung());
 }
 
-TEST_F(EingabeTest, ACopyKeepsItsState)
-{
-    const Eingabe before = eingabe;
-    valenz(0, "3/2")(eingabe);
-    eingabe.setProzent(0, "60");
-    EXPECT_NE(eingabe, before);
-    EXPECT_EQ(before.zeile(0).prozent.text, "50");
-    eingabe = before;
-    EXPECT_EQ(eingabe, before);
-    EXPECT_EQ(zahlen(), "50 2,377 3|50 7,997 1|");
-}
-
 } // namespace zerna

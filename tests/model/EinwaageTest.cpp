@@ -80,15 +80,6 @@ TEST_F(EinwaageTest, FirstComponentIsDividedByThoughTheResultWouldNotNeedIt)
     }
 }
 
-TEST_F(EinwaageTest, LossFallsOnOneComponentAfterTheOther)
-{
-    setAlloy({{"Al", 10, 50}, {"Cu", 20, 50}});
-    EXPECT_THAT(verlustliste(calc, Masses{10, 20}, 5),
-        testing::ElementsAre("abgewogene Gesamtmasse: 30 mg", "Masseverlust = 5 mg", "",
-            "Masseverlust komplett bei Al: ", "Al: 33,333 at% Cu: 66,667 at% ", "",
-            "Masseverlust komplett bei Cu: ", "Al: 57,143 at% Cu: 42,857 at% "));
-}
-
 TEST_F(EinwaageTest, MassesAsTexts)
 {
     for (const auto& [mass, text] : {std::pair(2.980228e-7F, "2,98E-7"), {0.0123456F, "0,01235"}, {0.1F, "0,100"},

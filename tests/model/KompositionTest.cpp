@@ -45,13 +45,4 @@ TEST_F(KompositionTest, ComponentCountWrapsAndSurvivesDamagedSettings)
         EXPECT_EQ(gespeicherteKomponentenzahl(setting), count) << setting;
 }
 
-TEST_F(KompositionTest, BalanceRowTakesWhatIsMissing)
-{
-    const std::pair<std::vector<float>, const char*> rows[] = {{{30}, "70"}, {{120}, "-20"}, {{16.3F, 20.4F}, "63,3"},
-        {{33.3333F, 33.3333F}, "33,3334"}, {{1e-9F}, "100"}, {{-5, 100}, "5"}, {{}, "100"}};
-    for (const auto& [prozente, rest] : rows)
-        EXPECT_EQ(ausgleich(prozente), zahlenfeld(rest));
-    EXPECT_EQ(errorNumber([] { ausgleich(std::vector{3e38F, 3e38F}); }), 6);
-}
-
 } // namespace zerna

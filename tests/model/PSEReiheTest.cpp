@@ -47,16 +47,7 @@ TEST_F(PSEReiheTest, EachCodeHasItsTitleAndValues)
     };
     for (const auto& [code, titel, value, hasB] : {
              Row{0, "Valenz", 2, false},
-             {2, "Elektronendichte [e/nm³]", 400, false},
-             {4, "Atomvolumen [nm³]", 5e-30, false},
-             {5, "Hall-Koeffizient [m³/As]", -1.56038e-11, false},
-             {6, "Thermokraft [V/K²]", -3.70227e-9, false},
-             {7, "Plasmonenenergie [eV]", 23.4848, false},
              {8, "Fermienergie [eV]", 19.796, false},
-             {9, "2 Kf [1/nm]", 45.5887, false},
-             {10, "Friedel-Wellenlänge [nm]", 0.137823, false},
-             {11, "Schmelztemperatur [K]", 11, true},
-             {12, "Siedetemperatur [K]", 12, true},
              {13, "flüssige Dichte [g/cm³]", 2, false},
              {14, "kristalline Dichte [g/cm³]", 3, true},
              {15, "Masse [amu]", 6.022136, true},
@@ -75,14 +66,6 @@ TEST_F(PSEReiheTest, EachCodeHasItsTitleAndValues)
     }
     // Intended: 6,022136e23, not the 6,022142e23 of the concentration series.
     EXPECT_FLOAT_EQ(pseReihe(elements, calc, 19).y.at(0), 2e23F);
-}
-
-TEST_F(PSEReiheTest, OtherCodesFillNothingAndAreNotOffered)
-{
-    for (const int code : {-1, 1, 3, 23})
-        EXPECT_EQ(pseReihe(elements, calc, code).y, (std::vector<float>{0, 0}));
-    for (const int kennzahl : psegroessen())
-        EXPECT_TRUE(istPSEGroesse(kennzahl)) << kennzahl << " would draw nothing";
 }
 
 TEST_F(PSEReiheTest, FileLeavesElementsWithoutAValueOut)

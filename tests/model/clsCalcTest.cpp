@@ -86,30 +86,6 @@ TEST_F(clsCalcTest, WeightsByAtomicPercentWithoutNormalising)
     EXPECT_EQ(calc.Valenz(), Unbekannt);
 }
 
-TEST_F(clsCalcTest, ValencesFollowTheirTextAndTheElementsItNames)
-{
-    struct Row {
-        const char* text;
-        float valenceOfCopper, valence;
-    };
-    for (const auto& [text, valenceOfCopper, valence] : {
-             Row{"z_Cu", 1, 1},
-             {"z_Cu", 2, 2},
-             {"1,5", 2, 1.5F},
-             {"", 2, 0},
-             {"1/0", 1, Unbekannt},
-             {"1+foo(1)", 1, Unbekannt},
-             {"abc", 1, Unbekannt},
-             {"hex(3)", 1, Unbekannt},
-             {"1e39", 1, Unbekannt},
-         }) {
-        elements.Item("Cu")->setValenz(valenceOfCopper);
-        elements.Item("Al")->setValenz_Temp(text);
-        calc.Element_Add(0, "Al", 100);
-        EXPECT_EQ(calc.Valenz(), valence) << text;
-    }
-}
-
 TEST_F(clsCalcTest, AFailedRecalculationMakesAllUnknownButKf2)
 {
     calc.Element_Add(0, "Al", 100);

@@ -55,16 +55,4 @@ TEST_F(ExportFileDialogTest, LeavesEverythingAsItWasOnCancel)
     EXPECT_EQ(std::filesystem::current_path(), before);
 }
 
-TEST_F(ExportFileDialogTest, AsksBeforeTheAddedExtensionHitsAnotherFile)
-{
-    writeBytes(folder / "alt.dat", "alt");
-    EXPECT_EQ(ask("alt.dat", 1), "alt.dat"); // the dialog itself has asked
-    EXPECT_TRUE(dialog.asked.empty());
-    EXPECT_EQ(ask("alt", 1), "");
-    EXPECT_EQ(filterIndex, 7);
-    dialog.replace = true;
-    EXPECT_EQ(ask("alt", 1), "alt.dat");
-    EXPECT_EQ(dialog.asked, (std::vector<std::string>{"alt.dat", "alt.dat"}));
-}
-
 } // namespace zerna

@@ -87,15 +87,6 @@ TEST_F(ProgrammTest, FirstStartWritesTheBuiltInTableAndFillsTheWindow)
     EXPECT_TRUE(boxes.shown.empty() && settings.stored.empty());
 }
 
-TEST_F(ProgrammTest, StoredElementsAreChosenAgain)
-{
-    settings["Element_0"] = "C";
-    settings["Element_1"] = ""; // counts as none
-    settings["Element_2"] = "Qq"; // not in the list
-    ASSERT_TRUE(start());
-    EXPECT_TRUE(window->calls.starts_with("row 0 5\nrow 1 1\nrow 2 -1\nrow 3 3\nrow 4 4\n")) << window->calls;
-}
-
 TEST_F(ProgrammTest, BadDataFilesAreReportedAndNeverOverwritten)
 {
     const std::string helium("\x12\x01\x02\0He", 6); // how its record begins
