@@ -86,6 +86,15 @@ TEST_F(clsCalcTest, WeightsByAtomicPercentWithoutNormalising)
     EXPECT_EQ(calc.Valenz(), Unbekannt);
 }
 
+TEST_F(clsCalcTest, AValenceThatIsNoNumberIsUnknown)
+{
+    for (const char* const text : {"1/0", "abc", "hex(3)", "1e39"}) {
+        elements.Item("Al")->setValenz_Temp(text);
+        calc.Element_Add(0, "Al", 100);
+        EXPECT_EQ(calc.Valenz(), Unbekannt) << text;
+    }
+}
+
 TEST_F(clsCalcTest, AFailedRecalculationMakesAllUnknownButKf2)
 {
     calc.Element_Add(0, "Al", 100);
