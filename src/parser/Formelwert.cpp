@@ -51,22 +51,22 @@ Formelwert formelwert(std::string_view formula, const ElementCollection& element
     const bool hasBlanks = formula.find(' ') != std::string_view::npos;
     const std::string compact = hasBlanks ? removeBlanks(formula) : std::string();
     Auswertung auswertung(hasBlanks ? compact : formula, elements);
-    const auto first = [&](std::optional<Formelfehler> last) { // an unknown function came before it
-        const std::optional<Abbruch>& unknown = auswertung.unknownFunction();
-        return unknown ? formelfehler(*unknown, formula) : std::move(last);
-    };
-    std::optional<Formelfehler> end;
+    Formelwert result;
     try {
         const double value = auswertung.evaluate();
-        const bool hexadecimal = auswertung.hexadecimal();
-        return {hexadecimal ? "0x" + hexDigits(value) : textOfDouble(value), value, hexadecimal, first({}),
-            auswertung.takeMessages()};
+        result.text = auswertung.hexadecimal() ? "0x" + hexDigits(value) : textOfDouble(value);
+        result.wert = value;
+        result.hexadezimal = auswertung.hexadecimal();
     } catch (const Abbruch& abbruch) {
-        end = formelfehler(abbruch, formula);
+        result.fehler = formelfehler(abbruch, formula);
     } catch (const Laufzeitfehler& error) { // a hexadecimal result that is too large
-        end = Formelfehler{error.Nummer(), error.what(), 1};
+        result.fehler = Formelfehler{error.Nummer(), error.what(), 1};
     }
-    return {"0", 0, false, first(std::move(end)), auswertung.takeMessages()};
+    if (const std::optional<Abbruch>& unknown =
+            auswertung.unknownFunction()) // it came before what ended the evaluation
+        result.fehler = formelfehler(*unknown, formula);
+    result.meldungen = auswertung.takeMessages();
+    return result;
 }
 
 std::string removeBlanks(std::string_view formula)
