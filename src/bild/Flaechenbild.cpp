@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <span>
 
 namespace zerna {
 
@@ -50,6 +51,84 @@ std::uint32_t packed(const Farbe& colour, float light)
 /// How much of a line of that width covers a pixel at a distance from its middle.
 float coverage(float distance, float width) { return std::clamp(width / 2 + 0.5F - distance, 0.0F, 1.0F); }
 
+using Ecken = std::array<Flaechenecke, 3>;
+
+/// All that is the same for every pixel of a triangle.
+struct Dreieck {
+    std::array<Ebene, 3> weights; // barycentric
+    std::array<float, 3> slopes{}; // of the weights
+    Ebene depth;
+    Ebene share;
+    float shareSlope = 0;
+    float light = 1;
+    std::span<const float> levels; // whose lines may run over it
+};
+
+/// The first and last pixels that a triangle may touch.
+struct Pixelbereich {
+    int left = 0;
+    int right = 0;
+    int top = 0;
+    int bottom = 0;
+};
+
+Pixelbereich boundsOf(const Ecken& e, int width, int height)
+{
+    const auto first = [](float smallest) { return std::max(0, static_cast<int>(std::floor(smallest - 0.5F))); };
+    const auto last = [](float largest, int size) { return std::min(size - 1, static_cast<int>(std::ceil(largest))); };
+    return {first(std::min({e[0].x, e[1].x, e[2].x})), last(std::max({e[0].x, e[1].x, e[2].x}), width),
+        first(std::min({e[0].y, e[1].y, e[2].y})), last(std::max({e[0].y, e[1].y, e[2].y}), height)};
+}
+
+/// The steeper the depth, the darker: depth is in sides of the triangle, so it is compared per picture width.
+float lightOf(const Ebene& depth, int pictureSize)
+{
+    const float steepness = depth.slope() * static_cast<float>(pictureSize);
+    return 0.80F + 0.20F / (1 + 0.15F * steepness);
+}
+
+std::span<const float> levelsOver(const Ecken& e, float shareSlope, const Flaechenstil& stil)
+{
+    const float margin = stil.lineWidth * shareSlope * 2;
+    const float lowest = std::min({e[0].share, e[1].share, e[2].share}) - margin;
+    const float highest = std::max({e[0].share, e[1].share, e[2].share}) + margin;
+    const auto first = std::ranges::lower_bound(stil.levels, lowest);
+    const auto last = std::upper_bound(first, stil.levels.end(), highest);
+    return shareSlope > 0 ? std::span(first, last) : std::span<const float>();
+}
+
+/// `area` is twice the triangle's signed area, not 0.
+Dreieck dreieckOf(const Ecken& e, float area, const Flaechenstil& stil, int pictureSize)
+{
+    Dreieck d;
+    d.weights = {barycentric(e[1], e[2], area), barycentric(e[2], e[0], area), barycentric(e[0], e[1], area)};
+    for (std::size_t k = 0; k < 3; ++k)
+        d.slopes[k] = d.weights[k].slope();
+    d.depth = combined(d.weights, e[0].depth, e[1].depth, e[2].depth);
+    d.share = combined(d.weights, e[0].share, e[1].share, e[2].share);
+    d.shareSlope = d.share.slope();
+    d.light = stil.shaded ? lightOf(d.depth, pictureSize) : 1;
+    d.levels = levelsOver(e, d.shareSlope, stil);
+    return d;
+}
+
+/// The light of a pixel with these weights and this share, less where a line runs over it.
+float shadeOf(const Dreieck& d, const std::array<float, 3>& weights, float share, const Flaechenstil& stil)
+{
+    float shade = d.light;
+    if (stil.meshOpacity > 0) {
+        const float edge = std::min({weights[0] / d.slopes[0], weights[1] / d.slopes[1], weights[2] / d.slopes[2]});
+        shade *= 1 - stil.meshOpacity * coverage(edge, stil.lineWidth / 2);
+    }
+    if (!d.levels.empty()) {
+        float nearest = std::numeric_limits<float>::max();
+        for (const float level : d.levels)
+            nearest = std::min(nearest, std::abs(share - level));
+        shade *= 1 - stil.isoOpacity * coverage(nearest / d.shareSlope, stil.lineWidth);
+    }
+    return shade;
+}
+
 } // namespace
 
 Flaechenbild::Flaechenbild(int width, int height)
@@ -77,59 +156,26 @@ void Flaechenbild::fill(const Flaechenecke& a, const Flaechenecke& b, const Flae
     constexpr float Invisible = 1e-4F; // seen edge-on; its neighbours cover its pixels
     if (!(std::abs(area) > Invisible))
         return;
-    const std::array<Ebene, 3> weights{barycentric(b, c, area), barycentric(c, a, area), barycentric(a, b, area)};
-    const Ebene depth = combined(weights, a.depth, b.depth, c.depth);
-    const Ebene share = combined(weights, a.share, b.share, c.share);
-    const std::array<float, 3> slopes{weights[0].slope(), weights[1].slope(), weights[2].slope()};
-    const float shareSlope = share.slope();
-
+    const Dreieck d = dreieckOf({a, b, c}, area, stil, std::max(m_width, m_height));
+    const Pixelbereich bounds = boundsOf({a, b, c}, m_width, m_height);
     // A pixel belongs to the triangle when its middle does; the tolerance lets neighbours overlap instead of gape.
     constexpr float Tolerance = -1e-3F;
-    const int left = std::max(0, static_cast<int>(std::floor(std::min({a.x, b.x, c.x}) - 0.5F)));
-    const int right = std::min(m_width - 1, static_cast<int>(std::ceil(std::max({a.x, b.x, c.x}))));
-    const int top = std::max(0, static_cast<int>(std::floor(std::min({a.y, b.y, c.y}) - 0.5F)));
-    const int bottom = std::min(m_height - 1, static_cast<int>(std::ceil(std::max({a.y, b.y, c.y}))));
-
-    // The steeper the depth, the darker: depth is in sides of the triangle, so it is compared per picture width.
-    const float steepness = depth.slope() * static_cast<float>(std::max(m_width, m_height));
-    const float light = stil.shaded ? 0.80F + 0.20F / (1 + 0.15F * steepness) : 1.0F;
-
-    const float margin = stil.lineWidth * shareSlope * 2;
-    const float lowest = std::min({a.share, b.share, c.share}) - margin;
-    const float highest = std::max({a.share, b.share, c.share}) + margin;
-    const auto firstLevel = std::ranges::lower_bound(stil.levels, lowest);
-    const auto lastLevel = std::upper_bound(firstLevel, stil.levels.end(), highest);
-    const bool hasLevels = firstLevel != lastLevel && shareSlope > 0;
-
-    for (int y = top; y <= bottom; ++y) {
+    for (int y = bounds.top; y <= bounds.bottom; ++y) {
         const float py = static_cast<float>(y) + 0.5F;
         const std::size_t row = static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width);
-        for (int x = left; x <= right; ++x) {
+        for (int x = bounds.left; x <= bounds.right; ++x) {
             const float px = static_cast<float>(x) + 0.5F;
-            const float w0 = weights[0].at(px, py);
-            const float w1 = weights[1].at(px, py);
-            const float w2 = weights[2].at(px, py);
-            if (w0 < Tolerance || w1 < Tolerance || w2 < Tolerance)
+            const std::array w{d.weights[0].at(px, py), d.weights[1].at(px, py), d.weights[2].at(px, py)};
+            if (w[0] < Tolerance || w[1] < Tolerance || w[2] < Tolerance)
                 continue;
             const std::size_t place = row + static_cast<std::size_t>(x);
-            const float d = depth.at(px, py);
-            if (d <= m_depth[place])
+            const float depth = d.depth.at(px, py);
+            if (depth <= m_depth[place])
                 continue;
-            m_depth[place] = d;
-            const float s = share.at(px, py);
-            float shade = light;
-            if (stil.meshOpacity > 0) {
-                const float edge = std::min({w0 / slopes[0], w1 / slopes[1], w2 / slopes[2]});
-                shade *= 1 - stil.meshOpacity * coverage(edge, stil.lineWidth / 2);
-            }
-            if (hasLevels) {
-                float nearest = std::numeric_limits<float>::max();
-                for (auto level = firstLevel; level != lastLevel; ++level)
-                    nearest = std::min(nearest, std::abs(s - *level));
-                shade *= 1 - stil.isoOpacity * coverage(nearest / shareSlope, stil.lineWidth);
-            }
-            const auto index = static_cast<std::size_t>(std::clamp(s, 0.0F, 1.0F) * ColourSteps);
-            m_pixels[place] = packed(m_colours[index], shade);
+            m_depth[place] = depth;
+            const float share = d.share.at(px, py);
+            const auto index = static_cast<std::size_t>(std::clamp(share, 0.0F, 1.0F) * ColourSteps);
+            m_pixels[place] = packed(m_colours[index], shadeOf(d, w, share, stil));
         }
     }
 }
