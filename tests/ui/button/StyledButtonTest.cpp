@@ -179,25 +179,6 @@ TEST(ButtonTheme, EveryStateIsLegibleInLightDarkAndAwkwardPalettes)
     }
 }
 
-TEST(StyledButtonPicture, FollowsTheStateAndFallsBackToTheNormalOne)
-{
-    StyledButton button;
-    button.resize(40, 30);
-    for (const auto& [state, colour] : {std::pair(ButtonState::Normal, Qt::red), {ButtonState::Hover, Qt::blue}}) {
-        QPixmap pixmap(16, 16);
-        pixmap.fill(colour);
-        button.setPicture(state, pixmap);
-    }
-    const auto shown = [&button] { return rendered(button, 1).pixelColor(20, 15); };
-    EXPECT_EQ(shown(), QColor(Qt::red));
-    button.setAttribute(Qt::WA_UnderMouse);
-    EXPECT_EQ(shown(), QColor(Qt::blue));
-    button.setDown(true);
-    EXPECT_EQ(shown(), QColor(Qt::red)) << "none for pressed";
-    button.setEnabled(false);
-    EXPECT_LT(shown().hsvSaturation(), 60) << "normal one in grey";
-}
-
 TEST(StyledButtonFrame, StraightEdgesAreFullyFrameColouredAtEveryRatio)
 {
     for (const auto& [ratio, lines] : {std::pair(1.0, 1), {1.5, 2}, {3.0, 3}}) { // lines in device pixels

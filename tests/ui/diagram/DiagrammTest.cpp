@@ -196,27 +196,6 @@ TEST(DiagrammTest, CursorCurveReadOutAndValuesNameTheSamePoint)
     }
 }
 
-TEST(DiagrammTest, WhatIsOfNoUseIsLeftToOthers)
-{
-    const struct {
-        const char* name;
-        std::unique_ptr<Diagramm> (*make)();
-        bool arrow, plus, mouse;
-    } rows[] = {{"concentration", konzentration, true, false, false}, {"element property", pse, true, false, false},
-        {"ternary", ternaer, true, true, true}, {"message", meldung, false, false, false}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        const auto diagramm = row.make();
-        EXPECT_EQ(diagramm->keyPressed(Qt::Key_Left, Flaeche), row.arrow);
-        EXPECT_EQ(diagramm->keyPressed(Qt::Key_Plus, Flaeche), row.plus);
-        EXPECT_FALSE(diagramm->keyPressed(Qt::Key_Tab, Flaeche));
-        EXPECT_EQ(diagramm->dragged({1, 1}), row.mouse);
-        EXPECT_EQ(diagramm->wheelTurned(1), row.mouse);
-        EXPECT_EQ(diagramm->doubleClicked(), row.mouse);
-        EXPECT_EQ(diagramm->commands().size(), row.mouse ? 2U : 0U);
-    }
-}
-
 TEST(DiagrammTest, ExportsHoldValuesAndPicture)
 {
     for (const Art& art : Arten) {

@@ -45,12 +45,4 @@ TEST(DruckenTest, PictureFillsThePageThatTheUserPrintsToAFile)
     }
 }
 
-TEST(DruckenTest, CancelPrintsNothing)
-{
-    inDialog<QPrintDialog>([](QPrintDialog&) { press(Qt::Key_Escape); },
-        [] {
-            printPicture(nullptr, [](QPainter&, const Leinwand&) { ADD_FAILURE(); }, {{800, 400}, {}});
-        });
-}
-
 } // namespace zerna

@@ -14,17 +14,6 @@ struct TafelfaerbungTest : FilesTest {
     }
 };
 
-TEST_F(TafelfaerbungTest, GroupsHaveAColourAndASignEach)
-{
-    const Zellfuellung expected{Farbe{251, 227, 188}, Gruppenzeichen::Quadrat};
-    EXPECT_EQ(fuellung({}, "N", 0, false), expected);
-    EXPECT_NE(fuellung({}, "N", 0, true), expected) << "darker on a dark window";
-    for (const Elementgruppe& group : elementgruppen())
-        EXPECT_EQ(fuellung({}, group.egk, 0, false) == expected, group.egk == "N") << group.name;
-    for (const char* const unknown : {"", "HN"})
-        EXPECT_EQ(fuellung({}, unknown, 0, true), Zellfuellung{});
-}
-
 TEST_F(TafelfaerbungTest, ValuesSpreadOverTheWholeScale)
 {
     const Farbe lowest{68, 1, 84};

@@ -7,24 +7,6 @@ namespace zerna {
 
 using ZelltexteTest = FilesTest;
 
-TEST_F(ZelltexteTest, SizesFollowTheShorterSideOfTheCell)
-{
-    struct Row {
-        double width, height, symbol, klein;
-        bool dritteZeile;
-    };
-    for (const Row& row : {
-             Row{50, 90, 19, 10, true}, {90, 40, 15.2, 8, true}, // just high enough for a third line
-             {39, 90, 14.82, 7.8, false}, {100, 100, 38, 14, true}, // largest small text
-             {12, 12, 4.56, 6, false}, // smallest
-         }) {
-        const Schriftgroessen groessen = schriftgroessen(row.width, row.height);
-        EXPECT_NEAR(groessen.symbol, row.symbol, 1e-9) << row.width;
-        EXPECT_NEAR(groessen.klein, row.klein, 1e-9) << row.width;
-        EXPECT_EQ(groessen.dritteZeile, row.dritteZeile) << row.width;
-    }
-}
-
 TEST_F(ZelltexteTest, BelowTheSymbolStandAllNamesOrMasses)
 {
     ElementCollection elements;
