@@ -51,9 +51,9 @@ public:
 
     ElementRecord record(const Cells& cells) const
     {
-        if (cells.size() != Elementspalten.size())
-            fail(
-                "hat " + std::to_string(cells.size()) + " statt " + std::to_string(Elementspalten.size()) + " Spalten");
+        const std::size_t expected = Elementspalten.size();
+        if (cells.size() != expected)
+            fail("hat " + std::to_string(cells.size()) + " statt " + std::to_string(expected) + " Spalten");
         ElementRecord record;
         auto cell = cells.begin();
         forEachSpalte([&](const Elementspalte& spalte, auto field) { read(spalte, *cell++, record.*field); });

@@ -36,9 +36,6 @@ struct ElementRecord {
     bool operator==(const ElementRecord&) const = default;
 };
 
-/// In front of a text in the data file: its length in bytes.
-using Textlaenge = std::uint16_t;
-
 /// Reads a record at the file's position: little-endian, no padding, texts as 16-bit length and Windows-1252 bytes.
 /// The texts are cleared first; on error 62 the fields read so far stay. A number that is not finite is no
 /// tabulated value and is read as Unbekannt.

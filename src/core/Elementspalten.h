@@ -61,6 +61,9 @@ constexpr void forEachSpalte(Visit&& visit)
     (std::make_index_sequence<Elementspalten.size()>());
 }
 
+/// In front of a text in the data file: its length in bytes.
+using Textlaenge = std::uint16_t;
+
 /// Bytes of a record whose texts are all empty.
 inline constexpr std::size_t SmallestElementRecord = [] {
     std::size_t bytes = 0;

@@ -1,10 +1,11 @@
+#include "core/Zahlentext.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstdint>
 
 #include "core/CheckedArithmetic.h"
-#include "core/Zahlentext.h"
 
 namespace zerna {
 

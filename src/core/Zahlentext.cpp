@@ -6,9 +6,9 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
-#include <utility>
 
-#include "core/CheckedArithmetic.h"
+#include "core/Laufzeitfehler.h"
+#include "core/Unbekannt.h"
 
 namespace zerna {
 
@@ -114,7 +114,7 @@ std::string wholeText(double value)
 std::string shortestPlainText(double value, Dezimaltrenner trenner)
 {
     std::array<char, 32> buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): written by to_chars
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed).ptr;
+    char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed).ptr;
     *std::find(buffer.data(), end, '.') = static_cast<char>(trenner);
     return {buffer.data(), end};
 }
