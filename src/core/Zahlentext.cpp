@@ -51,14 +51,14 @@ Ziffern ziffern(std::string_view scientific)
 template <class Number>
 Ziffern shortestDigits(Number value)
 {
-    Puffer buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): written by to_chars
+    Puffer buffer; // written by to_chars
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::scientific);
     return ziffern({buffer.data(), end.ptr});
 }
 
 Ziffern roundedDigits(double value, int digits)
 {
-    Puffer buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): written by to_chars
+    Puffer buffer; // written by to_chars
     const auto end =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::scientific, digits - 1);
     return ziffern({buffer.data(), end.ptr});
@@ -105,7 +105,7 @@ bool isWholeBelow(double value, double limit) { return std::abs(value) < limit &
 /// The text of a whole number below 1e15: the usual valences, several times faster than by way of digits and exponent.
 std::string wholeText(double value)
 {
-    std::array<char, 16> buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): written by to_chars
+    std::array<char, 16> buffer; // written by to_chars
     const auto whole = static_cast<std::int64_t>(value);
     return {buffer.data(), std::to_chars(buffer.data(), buffer.data() + buffer.size(), whole).ptr};
 }
@@ -113,7 +113,7 @@ std::string wholeText(double value)
 /// The shortest text of a number that is in plain digits, 0.0001 or more and below 1e15, and not whole.
 std::string shortestPlainText(double value, Dezimaltrenner trenner)
 {
-    std::array<char, 32> buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): written by to_chars
+    std::array<char, 32> buffer; // written by to_chars
     char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed).ptr;
     *std::find(buffer.data(), end, '.') = static_cast<char>(trenner);
     return {buffer.data(), end};
@@ -157,7 +157,7 @@ std::string fixedText(double value, int decimals, Dezimaltrenner trenner)
 {
     if (!std::isfinite(value))
         return {};
-    Puffer buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): written by to_chars
+    Puffer buffer; // written by to_chars
     const auto end =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, decimals);
     std::string text(buffer.data(), end.ptr);
