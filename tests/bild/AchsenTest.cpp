@@ -40,33 +40,65 @@ TEST(AchsenTest, EndsOfASeriesAreItsOutermostKnownValues)
 
 TEST(AchsenTest, RangeHasAMarginOfTheLargestValue)
 {
-    for (const auto& [smallest, largest, bottom, top] :
-        {std::tuple(-20.0F, -10.0F, -20.5, -9.5), {2.0F, 2.0F, 1.9, 2.1}, {-10.0F, -10.0F, -10.5, -9.5},
-            {0.0F, 10.0F, -0.5, 10.5}, {-4.0F, 0.0F, -4.0, 0.0}, {-100.0F, 1.0F, -100.05, 1.05}}) {
-        EXPECT_NEAR(yBereich(smallest, largest).min, bottom, 1e-5) << smallest;
-        EXPECT_NEAR(yBereich(smallest, largest).max, top, 1e-6) << smallest;
+    const struct {
+        const char* name;
+        float smallest, largest;
+        double bottom, top;
+    } rows[] = {
+        {"all negative", -20, -10, -20.5, -9.5},
+        {"one positive value", 2, 2, 1.9, 2.1},
+        {"one negative value", -10, -10, -10.5, -9.5},
+        {"from zero", 0, 10, -0.5, 10.5},
+        {"up to zero: no margin", -4, 0, -4, 0},
+        {"mostly negative: a margin of the small largest", -100, 1, -100.05, 1.05},
+    };
+    for (const auto& row : rows) {
+        EXPECT_NEAR(yBereich(row.smallest, row.largest).min, row.bottom, 1e-5) << row.name;
+        EXPECT_NEAR(yBereich(row.smallest, row.largest).max, row.top, 1e-6) << row.name;
     }
 }
 
 TEST(AchsenTest, LabelsTurnScientificWhereTheLogarithmExceedsSeven)
 {
-    for (const auto& [value, text] : {std::pair(0.0, "0,000"), {0.000912, "0,001"}, {0.0009118, "9,12 E-04"},
-             {1096.6, "1096,600"}, {1096.7, "1,10 E+03"}, {-5.0, "-5,000"}, {-6.54e-11, "-6,54 E-11"}})
-        EXPECT_EQ(yLabel(value), text);
+    const struct {
+        const char* name;
+        double value;
+        const char* text;
+    } rows[] = {
+        {"zero", 0, "0,000"},
+        {"smallest plain", 0.000912, "0,001"},
+        {"largest small one", 0.0009118, "9,12 E-04"},
+        {"largest plain", 1096.6, "1096,600"},
+        {"smallest large one", 1096.7, "1,10 E+03"},
+        {"negative", -5, "-5,000"},
+        {"negative and small", -6.54e-11, "-6,54 E-11"},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(yLabel(row.value), row.text) << row.name;
     // 0 despite single precision: the range is -0,0175 to 0,1575.
     EXPECT_EQ(yMarken(plotArea(360, 300), 300, yBereich(-0.01F, 0.15F), 16).at(1).label, "0,000");
 }
 
 TEST(AchsenTest, DivisionsThatHaveRoomAreLabelled)
 {
-    for (const auto& [height, labelHeight, texts] :
-        {std::tuple(300, 16.0, "0,000 1,000 2,000 3,000 4,000 5,000 6,000 7,000 8,000 9,000 "),
-            {299, 16.0, "0,000 2,000 4,000 6,000 8,000 "}, {300, 30.0, "0,000 - 2,000 - 4,000 - 6,000 - 8,000 - "},
-            {300, 60.0, "0,000 - - 3,000 - - 6,000 - - - "}, {30, 16.0, "- - - - - "}}) // the top would be cut off
-        EXPECT_EQ(labels(yMarken(plotArea(360, height), height, {0, 10}, labelHeight)), texts);
-    for (const auto& [width, texts] :
-        {std::pair(360, "0 10 20 30 40 50 60 70 80 90 100 "), {160, "0 - 20 - 40 - 60 - 80 - - "}})
-        EXPECT_EQ(labels(xMarken(plotArea(width, 300), width, {0, 100}, breite)), texts);
+    const struct {
+        const char* name;
+        int height;
+        double labelHeight;
+        const char* texts;
+    } rows[] = {
+        {"high enough", 300, 16, "0,000 1,000 2,000 3,000 4,000 5,000 6,000 7,000 8,000 9,000 "},
+        {"one pixel lower", 299, 16, "0,000 2,000 4,000 6,000 8,000 "},
+        {"labels as high as a division", 300, 30, "0,000 - 2,000 - 4,000 - 6,000 - 8,000 - "},
+        {"twice as high", 300, 60, "0,000 - - 3,000 - - 6,000 - - - "},
+        {"no plot: the labels would be cut off", 30, 16, "- - - - - "},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(labels(yMarken(plotArea(360, row.height), row.height, {0, 10}, row.labelHeight)), row.texts)
+            << row.name;
+    const auto xLabels = [](int width) { return labels(xMarken(plotArea(width, 300), width, {0, 100}, breite)); };
+    EXPECT_EQ(xLabels(360), "0 10 20 30 40 50 60 70 80 90 100 ");
+    EXPECT_EQ(xLabels(160), "0 - 20 - 40 - 60 - 80 - - ") << "every second one has room";
 }
 
 TEST(AchsenTest, LabelsAreCentredAtTheirTicksAndShrinkToFit)
@@ -77,18 +109,39 @@ TEST(AchsenTest, LabelsAreCentredAtTheirTicksAndShrinkToFit)
     const auto columns = xMarken(plot, 360, {0, 100}, breite);
     EXPECT_EQ(std::pair(columns.at(4).position, columns.at(4).labelStart), std::pair(180.0, 173.0));
     EXPECT_EQ(columns.at(10).labelStart, 339) << "not beyond the edge";
-    for (const auto& [text, height, scale] : {std::tuple("1,000", 16.0, 1.0), {"-6,54 E-111", 16.0, 46 / 77.0},
-             {"1,000", 60.0, 30 / 105.0}, {"", 16.0, 1.0}})
-        EXPECT_DOUBLE_EQ(labelScale({{0, text}}, plot, breite, height), scale) << text;
+    const struct {
+        const char* name;
+        const char* label;
+        double height, scale;
+    } rows[] = {
+        {"fits", "1,000", 16, 1},
+        {"too wide for the strip on the left", "-6,54 E-111", 16, 46 / 77.0},
+        {"too high for the strip below", "1,000", 60, 30 / 105.0},
+        {"no label", "", 16, 1},
+    };
+    for (const auto& r : rows)
+        EXPECT_DOUBLE_EQ(labelScale({{0, r.label}}, plot, breite, r.height), r.scale) << r.name;
 }
 
 TEST(AchsenTest, PixelsAreWholeHalvesToEvenAndMapBack)
 {
     const Abbildung abbildung(200, 100, {0, 100}, {0, 10});
-    for (const auto& [x, column] : {std::pair(0.25, 0), {0.75, 2}, {0.3, 1}, {-0.75, -2}, {100.0, 200}})
-        EXPECT_EQ(abbildung.column(x), column) << x;
-    for (const auto& [y, row] : {std::pair(0.0, 100), {0.0625, 99}, {10.0, 0}, {9.75, 2}, {9.65, 4}, {-1.0, 110}})
-        EXPECT_EQ(abbildung.row(y), row) << y;
+    const struct {
+        const char* name;
+        double x, column;
+        double y, row;
+    } rows[] = {
+        {"corner", 0, 0, 0, 100},
+        {"opposite corner", 100, 200, 10, 0},
+        {"halves to even, down", 0.25, 0, 9.75, 2},
+        {"halves to even, up", 0.75, 2, 9.65, 4},
+        {"nearest pixel", 0.3, 1, 0.0625, 99},
+        {"outside", -0.75, -2, -1, 110},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(abbildung.column(row.x), row.column) << row.name;
+        EXPECT_EQ(abbildung.row(row.y), row.row) << row.name;
+    }
     EXPECT_EQ(std::pair(abbildung.x(50), abbildung.y(25)), std::pair(25.0, 7.5));
 }
 

@@ -54,13 +54,22 @@ TEST(Flaechenbild, FansHaveNoCracks)
 
 TEST(Flaechenbild, WhatIsNoAreaOrBesideThePictureLeavesNoPixel)
 {
-    const Dreieck rows[] = {{{{1, 1}, {5, 5}, {9, 9}}}, {{{4, 4}, {4, 4}, {4, 4}}}, {{{1, 1}, {NAN, 5}, {9, 1}}},
-        {{{1, 1}, {5, 5}, {9, NAN}}}, {{{-9, -9}, {-1, -9}, {-5, -1}}}, {{{1, 1e6F}, {9, 1e6F}, {5, 2e6F}}}};
-    for (const auto& [a, b, c] : rows) {
+    const struct {
+        const char* name;
+        Dreieck corners;
+    } rows[] = {
+        {"a line", {{{1, 1}, {5, 5}, {9, 9}}}},
+        {"a point", {{{4, 4}, {4, 4}, {4, 4}}}},
+        {"a column that is no number", {{{1, 1}, {NAN, 5}, {9, 1}}}},
+        {"a row that is no number", {{{1, 1}, {5, 5}, {9, NAN}}}},
+        {"above on the left", {{{-9, -9}, {-1, -9}, {-5, -1}}}},
+        {"far below", {{{1, 1e6F}, {9, 1e6F}, {5, 2e6F}}}},
+    };
+    for (const auto& row : rows) {
         for (const int size : {10, 0, -5}) {
             Flaechenbild bild(size, size);
-            bild.fill(a, b, c, {});
-            EXPECT_EQ(std::ranges::count(bild.pixels(), 0U), std::ssize(bild.pixels())) << a.x << ' ' << b.x;
+            bild.fill(row.corners[0], row.corners[1], row.corners[2], {});
+            EXPECT_EQ(std::ranges::count(bild.pixels(), 0U), std::ssize(bild.pixels())) << row.name << ", " << size;
         }
     }
 }

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <numeric>
-#include <tuple>
 
 #include "core/Unbekannt.h"
 
@@ -25,20 +24,39 @@ PSEBild layOut(std::vector<float> values, double labelHeight = 60)
 
 TEST(PSEGeometrieTest, RangesAreRoundedOutwards)
 {
-    const std::pair<Bereich, Bereich> rows[] = {{{0.25, 17.5}, {0, 20}}, {{22, 41}, {20, 50}}, {{95, 105}, {90, 110}},
-        {{-20.5, -9}, {-25, -5}}, {{9, 20.5}, {5, 25}}, {{125, 1750}, {0, 2000}}, {{5, 5}, {5, 5}}};
-    for (const auto& [range, rounded] : rows) {
-        EXPECT_EQ(gerundeterBereich(range).min, rounded.min) << range.min;
-        EXPECT_EQ(gerundeterBereich(range).max, rounded.max) << range.min;
-    }
+    const struct {
+        const char* name;
+        Bereich range, rounded;
+    } rows[] = {
+        {"to tens", {0.25, 17.5}, {0, 20}},
+        {"not from zero", {22, 41}, {20, 50}},
+        {"exactly ten wide", {95, 105}, {90, 110}},
+        {"negative, to halves of it", {-20.5, -9}, {-25, -5}},
+        {"to halves", {9, 20.5}, {5, 25}},
+        {"to thousands", {125, 1750}, {0, 2000}},
+        {"empty", {5, 5}, {5, 5}},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(gerundeterBereich(row.range), row.rounded) << row.name;
 }
 
 TEST(PSEGeometrieTest, MissingValuesBreakTheCurve)
 {
     const PSEBild bild = layOut({0, Unbekannt, 4, 10, Unbekannt});
     EXPECT_EQ(bild.curve, (std::vector<std::vector<Punkt>>{{{260, 1100}}, {{280, 700}, {290, 100}}}));
-    for (const auto& [x, element] : {std::pair(0.0, 0U), {269.0, 0U}, {271.0, 2U}, {286.0, 3U}, {900.0, 3U}})
-        EXPECT_EQ(nearestElement(bild, x), element) << x;
+    const struct {
+        const char* name;
+        double x;
+        std::size_t element;
+    } rows[] = {
+        {"left of all", 0, 0},
+        {"in the gap, nearer to the left", 269, 0},
+        {"in the gap, nearer to the right", 271, 2},
+        {"between two", 286, 3},
+        {"right of all", 900, 3},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(nearestElement(bild, row.x), row.element) << row.name;
     // Intended: the first value counts for the range even when it is missing.
     EXPECT_EQ(bereichMitErstemWert({Unbekannt, 7}).min, Unbekannt);
     EXPECT_EQ(layOut({Unbekannt, 7}).curve.size(), 1U);
@@ -49,25 +67,45 @@ TEST(PSEGeometrieTest, EverythingStandsInUserCoordinates)
 {
     const PSEBild bild = layOut({0, 1, 2, 3, 10});
     EXPECT_EQ(bild.lines.size(), 14U) << "two axes, the tick at 0, eleven divisions";
-    const std::pair<Punkt, Punkt> rows[] = {{bild.lines.at(0).to, {300, 1100}}, {bild.lines.at(1).to, {250, 1150}},
-        {bild.lines.at(2).to, {250, 100}}, {bild.lines.at(13).from, {220, 100}}, {bild.titel.position, {10, 1000}},
-        {bild.labels.at(0).position, {247, 1170}}, {bild.labels.at(1).position, {250, 1230}},
-        {bild.labels.at(2).position, {60, 1070}}};
-    for (const auto& [point, expected] : rows)
-        EXPECT_EQ(std::pair(point.x, point.y), std::pair(expected.x, expected.y));
+    const struct {
+        const char* name;
+        Punkt point, expected;
+    } rows[] = {
+        {"end of the x axis", bild.lines.at(0).to, {300, 1100}},
+        {"its tick at 0", bild.lines.at(1).to, {250, 1150}},
+        {"top of the y axis", bild.lines.at(2).to, {250, 100}},
+        {"its topmost tick", bild.lines.at(13).from, {220, 100}},
+        {"title", bild.titel.position, {10, 1000}},
+        {"number at 0", bild.labels.at(0).position, {247, 1170}},
+        {"caption of the x axis", bild.labels.at(1).position, {250, 1230}},
+        {"lowest label of the y axis", bild.labels.at(2).position, {60, 1070}},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(row.point, row.expected) << row.name;
 }
 
 TEST(PSEGeometrieTest, EveryDivisionThatHasRoomIsLabelled)
 {
-    const std::tuple<std::vector<float>, double, const char*> rows[] = {{{0, 10}, 60, "0|OZ|0|1|2|3|4|5|6|7|8|9|10|"},
-        {{0, 10}, 120, "0|0|2|4|6|8|10|"}, {{-0.375F, 0.375F}, 200, "-4 E-01|-2,4 E-01|-8 E-02|0,08|0,24|0,4|"},
-        {{-0.375F, 0.375F}, 500, "-4 E-01|0|0,4|"}, {{5, 5}, 60, "0|OZ|5|"}, {{0, 0}, 60, "0|OZ|0|"},
-        {{}, 60, "0|OZ|0|"}, {{Unbekannt, 1}, 400, "-2,5 E+38|-5 E+37|"}}; // no single is as low as the range
-    for (const auto& [values, height, texts] : rows) {
+    const struct {
+        const char* name;
+        std::vector<float> values;
+        double height;
+        const char* texts;
+    } rows[] = {
+        {"room for all", {0, 10}, 60, "0|OZ|0|1|2|3|4|5|6|7|8|9|10|"},
+        {"room for every second", {0, 10}, 120, "0|0|2|4|6|8|10|"},
+        {"negative", {-0.375F, 0.375F}, 200, "-4 E-01|-2,4 E-01|-8 E-02|0,08|0,24|0,4|"},
+        {"zero despite rounding", {-0.375F, 0.375F}, 500, "-4 E-01|0|0,4|"},
+        {"one value", {5, 5}, 60, "0|OZ|5|"},
+        {"zero alone", {0, 0}, 60, "0|OZ|0|"},
+        {"no value", {}, 60, "0|OZ|0|"},
+        {"no single is as low as the range", {Unbekannt, 1}, 400, "-2,5 E+38|-5 E+37|"},
+    };
+    for (const auto& row : rows) {
         std::string all;
-        for (const Schriftzug& label : layOut(values, height).labels)
+        for (const Schriftzug& label : layOut(row.values, row.height).labels)
             all += label.text + '|';
-        EXPECT_EQ(all, texts);
+        EXPECT_EQ(all, row.texts) << row.name;
     }
 }
 

@@ -7,14 +7,17 @@ namespace zerna {
 struct PSETafelTest : FilesTest {
     PSETafelTest()
     {
-        const std::tuple<const char*, std::uint8_t, std::uint8_t> cells[] = {{"H", 1, 1}, {"He", 18, 1}, {"Li", 1, 2},
-            {"B", 13, 2}, {"Sc", 3, 4}, {"Cu", 11, 4}, {"Zweit", 11, 4}, {"La", 4, 9}, {"Fern", 40, 200}};
-        for (const auto& [symbol, column, row] : cells) {
+        const struct {
+            const char* symbol;
+            std::uint8_t column, row;
+        } cells[] = {{"H", 1, 1}, {"He", 18, 1}, {"Li", 1, 2}, {"B", 13, 2}, {"Sc", 3, 4}, {"Cu", 11, 4},
+            {"Zweit", 11, 4}, {"La", 4, 9}, {"Fern", 40, 200}};
+        for (const auto& cell : cells) {
             const auto element = std::make_shared<clsElement>(files, boxes);
-            element->setX(column);
-            element->setY(row);
-            element->setsymbol(symbol);
-            elements.Add(element, symbol);
+            element->setX(cell.column);
+            element->setY(cell.row);
+            element->setsymbol(cell.symbol);
+            elements.Add(element, cell.symbol);
         }
     }
 
@@ -25,11 +28,24 @@ struct PSETafelTest : FilesTest {
 
 TEST_F(PSETafelTest, FirstElementOfTheCellUnderAPixelIsHit)
 {
-    const std::tuple<double, double, const char*> rows[] = {{1000, 300, "Cu"}, {1099.9, 399.9, "Cu"}, {1100.1, 300, ""},
-        {0, 0, "H"}, {-0.1, 0, ""}, {5, -150, ""}, {3950, 19950, "Fern"}, {26600, 300, ""}, {1e300, -1e300, ""}};
+    const struct {
+        const char* name;
+        double x, y;
+        const char* symbol;
+    } rows[] = {
+        {"first of two in a cell", 1000, 300, "Cu"},
+        {"the cell's last pixel", 1099.9, 399.9, "Cu"},
+        {"beside it", 1100.1, 300, ""},
+        {"top left pixel", 0, 0, "H"},
+        {"left of the table", -0.1, 0, ""},
+        {"above the table", 5, -150, ""},
+        {"far outside, where an element is", 3950, 19950, "Fern"},
+        {"a column that is no byte", 26600, 300, ""},
+        {"no whole number at all", 1e300, -1e300, ""},
+    };
     const Tafelmassstab scale(1820, 1020); // 100 pixels a cell
-    for (const auto& [x, y, symbol] : rows)
-        EXPECT_EQ(symbolOf(elementAt(elements, scale.columnAt(x), scale.rowAt(y))), symbol) << x << ' ' << y;
+    for (const auto& row : rows)
+        EXPECT_EQ(symbolOf(elementAt(elements, scale.columnAt(row.x), scale.rowAt(row.y))), row.symbol) << row.name;
     const Rechteck copper = scale.cell(11, 4);
     EXPECT_NEAR(copper.left - copper.top, 700, 1e-9);
     EXPECT_NEAR(copper.width + copper.height, 200, 1e-9);
@@ -38,18 +54,46 @@ TEST_F(PSETafelTest, FirstElementOfTheCellUnderAPixelIsHit)
 
 TEST_F(PSETafelTest, NeighboursLieBeyondGaps)
 {
-    const std::tuple<const char*, int, int, const char*> rows[] = {{"H", 1, 0, "He"}, {"He", -1, 0, "H"},
-        {"H", -1, 0, ""}, {"H", 0, -1, ""}, {"H", 0, 1, "Li"}, {"Li", 1, 0, "B"}, {"He", 0, 1, "B"}, {"Sc", 0, 1, "La"},
-        {"La", 0, -1, "Sc"}, {"La", 1, 0, ""}, {"Zweit", -1, 0, "Sc"}, {"Cu", 1, 0, ""}};
-    for (const auto& [from, dx, dy, to] : rows)
-        EXPECT_EQ(symbolOf(nextElement(elements, *elements.Item(from), dx, dy)), to) << from << dx << dy;
+    const struct {
+        const char* name;
+        const char* from;
+        int dx, dy;
+        const char* to;
+    } rows[] = {
+        {"right over a gap", "H", 1, 0, "He"},
+        {"left over a gap", "He", -1, 0, "H"},
+        {"left edge", "H", -1, 0, ""},
+        {"upper edge", "H", 0, -1, ""},
+        {"down", "H", 0, 1, "Li"},
+        {"right in the second row", "Li", 1, 0, "B"},
+        {"down to the nearest column", "He", 0, 1, "B"},
+        {"down over empty rows", "Sc", 0, 1, "La"},
+        {"and back", "La", 0, -1, "Sc"},
+        {"right, where the row ends", "La", 1, 0, ""},
+        {"from the second in a cell", "Zweit", -1, 0, "Sc"},
+        {"right edge", "Cu", 1, 0, ""},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(symbolOf(nextElement(elements, *elements.Item(row.from), row.dx, row.dy)), row.to) << row.name;
 }
 
 TEST_F(PSETafelTest, LettersFindASymbolInAnyCase)
 {
-    for (const auto& [letters, symbol] :
-        {std::pair("h", "H"), {"hE", "He"}, {"l", "Li"}, {"LA", "La"}, {"s", "Sc"}, {"hx", ""}, {"ä", ""}})
-        EXPECT_EQ(symbolOf(elementWithPrefix(elements, letters)), symbol) << letters;
+    const struct {
+        const char* name;
+        const char* letters;
+        const char* symbol;
+    } rows[] = {
+        {"the whole symbol before longer ones", "h", "H"},
+        {"other case", "hE", "He"},
+        {"first of several", "l", "Li"},
+        {"two letters", "LA", "La"},
+        {"one of two", "s", "Sc"},
+        {"no such symbol", "hx", ""},
+        {"no letter of a symbol", "ä", ""},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(symbolOf(elementWithPrefix(elements, row.letters)), row.symbol) << row.name;
 }
 
 } // namespace zerna

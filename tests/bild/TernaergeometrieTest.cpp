@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <tuple>
 
 #include "core/Unbekannt.h"
 
@@ -12,14 +11,24 @@ namespace zerna {
 TEST(Projektion, TiltsThenTurnsAndFindsBack)
 {
     const Raumpunkt place{0.2, 0.3, 0.5}; // 0.2 above the centre of rotation
-    const std::tuple<double, double, Bildpunkt> rows[] = {{90, 0, {0.2, 0.3, 0.2}}, {0, 0, {0.2, 0.2, -0.3}},
-        {-90, 0, {0.2, -0.3, -0.2}}, {0, 90, {-0.3, 0.2, -0.2}}, {30, 0, {0.2, 0.323205, -0.159808}}};
-    for (const auto& [tilt, turn, expected] : rows) {
-        const Projektion projektion({tilt, turn, 1.5}, 800, 600);
+    const struct {
+        const char* name;
+        double tilt, turn;
+        Bildpunkt expected; ///< in sides of the triangle, y upwards
+    } rows[] = {
+        {"from above", 90, 0, {0.2, 0.3, 0.2}},
+        {"from the front", 0, 0, {0.2, 0.2, -0.3}},
+        {"from below", -90, 0, {0.2, -0.3, -0.2}},
+        {"from the side", 0, 90, {-0.3, 0.2, -0.2}},
+        {"tilted", 30, 0, {0.2, 0.323205, -0.159808}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        const Projektion projektion({row.tilt, row.turn, 1.5}, 800, 600);
         const double side = projektion.scale();
         const auto [x, y, depth] = projektion.project(place);
-        EXPECT_NEAR(std::hypot((x - 400) / side - expected.x, (300 - y) / side - expected.y), 0, 1e-6) << tilt << turn;
-        EXPECT_NEAR(depth, expected.depth, 1e-6) << tilt << ' ' << turn;
+        EXPECT_NEAR(std::hypot((x - 400) / side - row.expected.x, (300 - y) / side - row.expected.y), 0, 1e-6);
+        EXPECT_NEAR(depth, row.expected.depth, 1e-6);
         const Raumpunkt back = projektion.unproject({x, y, depth});
         EXPECT_NEAR(std::hypot(back.x - place.x, back.y - place.y, back.z - place.z), 0, 1e-12);
     }
@@ -31,35 +40,66 @@ TEST(Projektion, TiltsThenTurnsAndFindsBack)
 
 TEST(Ansicht, StaysWithinItsLimits)
 {
-    const std::tuple<double, double, Ansicht> rows[] = {{64, -60, {89, -90}}, {66, 211, {90, -179}},
-        {-115, -150, {-90, -180}}, {-200, 215, {-90, -175}}, {0, 3600, {25, -30}}};
-    for (const auto& [tilt, turn, expected] : rows)
-        EXPECT_EQ(rotated({}, tilt, turn), expected) << tilt;
-    for (const auto& [factor, zoom] : {std::pair(2.0, 2.0), {1e300, 3.0}, {HUGE_VAL, 3.0}, {0.0, 0.5}})
-        EXPECT_EQ(zoomed({}, factor).zoom, zoom);
+    const struct {
+        const char* name;
+        double tilt, turn;
+        Ansicht expected;
+    } rows[] = {
+        {"inside", 64, -60, {89, -90}},
+        {"over the top, over the back", 66, 211, {90, -179}},
+        {"just at both limits", -115, -150, {-90, -180}},
+        {"below the bottom", -200, 215, {-90, -175}},
+        {"whole turns", 0, 3600, {25, -30}},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(rotated({}, row.tilt, row.turn), row.expected) << row.name;
+    EXPECT_EQ(zoomed({}, 2).zoom, 2);
+    EXPECT_EQ(zoomed({}, 1e300).zoom, 3);
+    EXPECT_EQ(zoomed({}, HUGE_VAL).zoom, 3);
+    EXPECT_EQ(zoomed({}, 0).zoom, 0.5);
 }
 
 TEST(Zusammensetzung, HasItsPlaceInTheTriangle)
 {
-    const std::tuple<Anteile3, double, double> rows[] = {
-        {{1, 0, 0}, -0.5, -0.288675}, {{0, 0, 1}, 0, 0.577350}, {{0.2, 0.5, 0.3}, 0.15, -0.028868}};
-    for (const auto& [anteile, x, y] : rows) {
+    const struct {
+        const char* name;
+        Anteile3 anteile;
+        double x, y;
+    } rows[] = {
+        {"first component", {1, 0, 0}, -0.5, -0.288675},
+        {"third component", {0, 0, 1}, 0, 0.577350},
+        {"a mixture", {0.2, 0.5, 0.3}, 0.15, -0.028868},
+    };
+    for (const auto& [name, anteile, x, y] : rows) {
         const Raumpunkt place = placeOf(anteile, 7);
-        EXPECT_NEAR(std::hypot(place.x - x, place.y - y), 0, 1e-6);
+        EXPECT_NEAR(std::hypot(place.x - x, place.y - y), 0, 1e-6) << name;
         const Anteile3 back = compositionAt(place).value_or(Anteile3{});
-        EXPECT_NEAR(std::hypot(back[0] - anteile[0], back[1] - anteile[1], back[2] - anteile[2]), 0, 1e-9);
+        EXPECT_NEAR(std::hypot(back[0] - anteile[0], back[1] - anteile[1], back[2] - anteile[2]), 0, 1e-9) << name;
     }
-    for (const auto& [x, y] : {std::pair(0.0, -0.29), {0.0, 0.58}, {0.4, 0.0}, {-0.4, 0.0}})
-        EXPECT_FALSE(compositionAt({x, y, 0})) << x;
+    EXPECT_FALSE(compositionAt({0, -0.29, 0})) << "below the base line";
+    EXPECT_FALSE(compositionAt({0, 0.58, 0})) << "above the third corner";
+    EXPECT_FALSE(compositionAt({0.4, 0, 0})) << "right of the triangle";
+    EXPECT_FALSE(compositionAt({-0.4, 0, 0})) << "left of it";
 }
 
 TEST(Ternaerflaeche, IsInterpolatedAndHasHoles)
 {
     Ternaergitter gitter{2, {}, {}, {0, 10, 20, 5, 15, 10}}; // 10 for all of the first, 20 of the second component
-    const std::pair<Anteile3, double> rows[] = {{{1, 0, 0}, 10}, {{0, 1, 0}, 20}, {{0, 0, 1}, 0},
-        {{0.25, 0.5, 0.25}, 12.5}, {{0.2, 0.2, 0.6}, 6}, {{0.4, 0.4, 0.2}, 12}, {{1 + 1e-7, -1e-7, 0}, 10}};
-    for (const auto& [anteile, value] : rows)
-        EXPECT_NEAR(interpolated(gitter, anteile).value_or(-1), value, 1e-5);
+    const struct {
+        const char* name;
+        Anteile3 anteile;
+        double value;
+    } rows[] = {
+        {"first component", {1, 0, 0}, 10},
+        {"second component", {0, 1, 0}, 20},
+        {"third component", {0, 0, 1}, 0},
+        {"on an edge of the grid", {0.25, 0.5, 0.25}, 12.5},
+        {"in an upright triangle", {0.2, 0.2, 0.6}, 6},
+        {"in one upside down", {0.4, 0.4, 0.2}, 12},
+        {"outside by a rounding error", {1 + 1e-7, -1e-7, 0}, 10},
+    };
+    for (const auto& row : rows)
+        EXPECT_NEAR(interpolated(gitter, row.anteile).value_or(-1), row.value, 1e-5) << row.name;
     gitter.werte[5] = Unbekannt;
     EXPECT_EQ(triangulate(gitter).size(), 3U) << "without a corner";
     EXPECT_FALSE(interpolated(gitter, {0.8, 0.1, 0.1}));

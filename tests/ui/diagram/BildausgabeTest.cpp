@@ -6,7 +6,7 @@
 
 namespace zerna {
 
-/// A picture that is red on the left, and how finely it was asked for.
+/// A picture that is red on its left half and remembers how finely it was asked for.
 struct BildausgabeTest : testing::Test {
     const Leinwand leinwand{{40, 20}, {}, 1};
     std::vector<double> ratios;
@@ -14,8 +14,6 @@ struct BildausgabeTest : testing::Test {
         ratios.push_back(canvas.devicePixelRatio);
         painter.fillRect(QRect(0, 0, canvas.size.width() / 2, canvas.size.height()), Qt::red);
     };
-
-    static QImage decoded(const Exportart& art) { return QImage::fromData(QByteArray::fromStdString(*art.bytes())); }
 };
 
 TEST_F(BildausgabeTest, ImagesHaveTheirPixelsAndVectorsFineSurfaces)
@@ -39,12 +37,14 @@ TEST_F(BildausgabeTest, ImagesHaveTheirPixelsAndVectorsFineSurfaces)
         EXPECT_TRUE(row.art.bytes()->starts_with(row.begin));
         EXPECT_EQ(std::exchange(ratios, {}), std::vector<double>{row.ratio});
     }
-    for (const auto& [art, scale] : {std::pair(rows[0].art, 1), {rows[1].art, 2}}) {
-        const QImage image = decoded(art);
+    const auto expectPicture = [this](const Exportart& art, int scale) {
+        const QImage image = QImage::fromData(QByteArray::fromStdString(*art.bytes()));
         EXPECT_EQ(image.size(), leinwand.size * scale);
         EXPECT_EQ(image.pixelColor(20 * scale - 1, 10), QColor(Qt::red));
         EXPECT_EQ(image.pixelColor(20 * scale, 10), QColor(Qt::white));
-    }
+    };
+    expectPicture(rows[0].art, 1);
+    expectPicture(rows[1].art, 2);
 }
 
 } // namespace zerna

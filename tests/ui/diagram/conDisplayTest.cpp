@@ -69,14 +69,26 @@ TEST_F(conDisplayTest, EachMappedPixelHasTheFullColour)
     display->Zeichne_Punkt(59, 1, 0x00FF00); // a green spike
     display->Zeichne_LinieZu(60, 2, 0x00FF00);
     display->Zeichne_LinieZu(61, 1, 0x00FF00);
+    const struct {
+        const char* name;
+        int x, y;
+        QColor expected;
+    } rows[] = {
+        {"a point", 100, 275, Qt::red},
+        {"left foot of the spike", 296, 275, Qt::green},
+        {"its tip", 300, 25, Qt::green},
+        {"right foot", 304, 275, Qt::green},
+        {"above the curve", 220, 120, Qt::white},
+        {"y axis", 59, 20, Qt::black},
+        {"a tick of it", 53, 270, Qt::black},
+    };
     for (const int ratio : {1, 2, 3}) {
         const QImage image = picture(ratio);
         const auto at = [&](int x, int y) { return colour(image.copy(x * ratio, y * ratio, ratio, ratio)); };
         for (int i = 0; i < 58; i += 2)
             EXPECT_EQ(at(60 + 4 * i, 25 + 5 * i / 2), QColor(Qt::blue)) << i << " at " << ratio;
-        for (const auto& [x, y, expected] : {std::tuple(100, 275, Qt::red), {296, 275, Qt::green}, {300, 25, Qt::green},
-                 {304, 275, Qt::green}, {220, 120, Qt::white}, {59, 20, Qt::black}, {53, 270, Qt::black}})
-            EXPECT_EQ(at(x, y), QColor(expected)) << x << " at " << ratio;
+        for (const auto& row : rows)
+            EXPECT_EQ(at(row.x, row.y), row.expected) << row.name << " at " << ratio;
     }
     display->Display_Loeschen();
     EXPECT_EQ(picture().pixelColor(300, 25), QColor(Qt::white));
@@ -88,8 +100,9 @@ TEST_F(conDisplayTest, UnknownValuesLeaveAGap)
     for (const auto& element : programm->ElementCollection())
         element->setDichte(element->Masse());
     display->Zeichne_Diagramm_2D(4, 0); // no volume at 50 at%, and so no particles
-    for (const auto& [x, y, expected] : {std::tuple(256, 153, Qt::blue), {260, 150, Qt::white}, {264, 147, Qt::blue}})
-        EXPECT_EQ(picture().pixelColor(x, y), QColor(expected)) << x;
+    EXPECT_EQ(picture().pixelColor(256, 153), QColor(Qt::blue)) << "49 at%";
+    EXPECT_EQ(picture().pixelColor(260, 150), QColor(Qt::white)) << "50 at%";
+    EXPECT_EQ(picture().pixelColor(264, 147), QColor(Qt::blue)) << "51 at%";
 }
 
 TEST_F(conDisplayTest, LabelsAreWholeAtAnyFont)
@@ -106,10 +119,13 @@ TEST_F(conDisplayTest, LabelsAreWholeAtAnyFont)
 TEST_F(conDisplayTest, FaultsKeepThePictureAndTheErrorDisplayReplacesIt)
 {
     const QImage before = picture();
-    for (const auto& [density, error] : {std::pair(0.0F, 11), {3.3e38F, 6}})
-        EXPECT_EQ(errorNumber([this, d = density] { draw(d, d); }), error) << density;
-    for (const auto& [index, error] : {std::pair(5, 9), {-1, 9}, {4, 91}})
-        EXPECT_EQ(errorNumber([this, i = index] { display->setVariablesElement(i); }), error);
+    const auto drawing = [this](float density) { return errorNumber([&] { draw(density, density); }); };
+    EXPECT_EQ(drawing(0), 11) << "an empty range";
+    EXPECT_EQ(drawing(3.3e38F), 6) << "a margin too large for a single";
+    const auto choosing = [this](int slot) { return errorNumber([&] { display->setVariablesElement(slot); }); };
+    EXPECT_EQ(choosing(5), 9) << "no such slot";
+    EXPECT_EQ(choosing(-1), 9) << "no such slot";
+    EXPECT_EQ(choosing(4), 91) << "an empty slot";
     display->setKompositionBereit(false);
     draw(7, 8);
     EXPECT_EQ(picture(), before);
@@ -128,9 +144,19 @@ TEST_F(conDisplayTest, MouseReadsValuesOut)
 TEST_F(conDisplayTest, SavesValuesWithAStepOrThePicture)
 {
     const std::string head = "Al [at%]\tg/cm\xB3\r\n";
-    for (const auto& [step, bytes] : {std::pair("10", 100U), {"3", 312U}, {"abc", 901U}, {"-1", head.size()}}) {
-        save("a.dat", 1, step);
-        EXPECT_EQ(bytesOf(folder / "a.dat").size(), bytes) << step;
+    const struct {
+        const char* name;
+        const char* step;
+        std::size_t bytes;
+    } rows[] = {
+        {"eleven lines", "10", 100},
+        {"the last line is 99", "3", 312},
+        {"no number: every at%", "abc", 901},
+        {"negative: the header alone", "-1", head.size()},
+    };
+    for (const auto& row : rows) {
+        save("a.dat", 1, row.step);
+        EXPECT_EQ(bytesOf(folder / "a.dat").size(), row.bytes) << row.name;
     }
     save("a.dat", 1, "50");
     save("b.dat", 1);
