@@ -179,29 +179,6 @@ TEST(ButtonTheme, EveryStateIsLegibleInLightDarkAndAwkwardPalettes)
     }
 }
 
-TEST(StyledButtonFrame, StraightEdgesAreFullyFrameColouredAtEveryRatio)
-{
-    for (const auto& [ratio, lines] : {std::pair(1.0, 1), {1.5, 2}, {3.0, 3}}) { // lines in device pixels
-        for (const int width : {100, 101}) { // 101 · 1.5 ends in the middle of a pixel
-            SCOPED_TRACE(testing::Message() << "ratio " << ratio << ", width " << width);
-            StyledButton button;
-            button.resize(width, 31);
-            const QImage image = rendered(button, ratio);
-            const int right = static_cast<int>(width * ratio) - 1;
-            const int bottom = static_cast<int>(31 * ratio) - 1;
-            const QPoint middle(right / 2, bottom / 2);
-            const ButtonLook& look = button.theme().normal;
-            for (int i = 0; i <= lines; ++i) { // the pixel after the line belongs to the background alone
-                const bool line = i < lines;
-                EXPECT_EQ(image.pixelColor(i, middle.y()), line ? look.frame : image.pixelColor(middle));
-                EXPECT_EQ(image.pixelColor(right - i, middle.y()), line ? look.frame : image.pixelColor(middle));
-                EXPECT_EQ(image.pixelColor(middle.x(), i), line ? look.frame : look.backgroundStart);
-                EXPECT_EQ(image.pixelColor(middle.x(), bottom - i), line ? look.frame : look.backgroundEnd);
-            }
-        }
-    }
-}
-
 TEST(StyledButtonTexts, ToolTipIsEscapedAndScreenReadersGetPlainTexts)
 {
     StyledButton button("&Speichern && Beenden");

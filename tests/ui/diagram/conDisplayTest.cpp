@@ -2,27 +2,16 @@
 
 #include "support/FakeDesk.h"
 #include "support/FilesTest.h"
-#include "support/FullDisk.h"
 #include "ui/diagram/Bildausgabe.h"
 
 namespace zerna {
-
-/// Asks for the step width.
-struct StepBox : InputBox {
-    std::optional<std::string> ask(std::string_view, std::string_view prompt, std::string_view) override
-    {
-        return prompt.ends_with("\r\nAluminium an.") ? answer : "wrong prompt";
-    }
-
-    std::optional<std::string> answer;
-};
 
 /// The density of aluminium and copper falls from 2 to 1: four pixels to the right and two and a half down per at%.
 struct conDisplayTest : FakeDesk {
     conDisplayTest()
     {
         openAluminiumCopper();
-        display.emplace(*programm, Dialoge{saveDialog, steps});
+        display.emplace(*programm, Dialoge{saveDialog, inputBox});
         QObject::connect(&*display, &conDisplay::PositionInfo, [this](auto& info) { position = info.toStdString(); });
         display->resize(460, 330);
         display->setKompositionBereit(true);
@@ -51,14 +40,6 @@ struct conDisplayTest : FakeDesk {
         return part == before ? before.pixelColor(0, 0) : Qt::transparent;
     }
 
-    void save(const char* name, int type, std::optional<std::string> step = std::nullopt)
-    {
-        steps.answer = std::move(step);
-        saveDialog.answer = {(folder / name).string(), type};
-        display->Speichern_Diagramm_2D();
-    }
-
-    StepBox steps;
     std::string position;
     std::optional<conDisplay> display;
 };
@@ -139,35 +120,6 @@ TEST_F(conDisplayTest, MouseReadsValuesOut)
     display->show();
     QTest::mouseMove(display->windowHandle(), QPoint(230, 125));
     EXPECT_EQ(position, "42,50 at% Al - 1,6 g/cm³");
-}
-
-TEST_F(conDisplayTest, SavesValuesWithAStepOrThePicture)
-{
-    const std::string head = "Al [at%]\tg/cm\xB3\r\n";
-    const struct {
-        const char* name;
-        const char* step;
-        std::size_t bytes;
-    } rows[] = {
-        {"eleven lines", "10", 100},
-        {"the last line is 99", "3", 312},
-        {"no number: every at%", "abc", 901},
-        {"negative: the header alone", "-1", head.size()},
-    };
-    for (const auto& row : rows) {
-        save("a.dat", 1, row.step);
-        EXPECT_EQ(bytesOf(folder / "a.dat").size(), row.bytes) << row.name;
-    }
-    save("a.dat", 1, "50");
-    save("b.dat", 1);
-    EXPECT_FALSE(std::filesystem::exists(folder / "b.dat")) << "cancelled";
-    save("c.bmp", 2);
-    EXPECT_EQ(QImage::fromData(QByteArray::fromStdString(bytesOf(folder / "c.bmp"))), picture().copy(60, 0, 400, 300));
-    const FullDisk disk(20);
-    save("a.dat", 1, "1");
-    save("c.bmp", 2);
-    EXPECT_EQ(boxes.shown.size(), 2U);
-    EXPECT_EQ(bytesOf(folder / "a.dat"), head + "0\t2\r\n50\t1.5\r\n100\t1\r\n") << "the earlier file stays";
 }
 
 } // namespace zerna
