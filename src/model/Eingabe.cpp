@@ -74,7 +74,7 @@ Aenderung Eingabe::waehleElement(int zeile, std::string_view key)
 
 Aenderung Eingabe::setProzent(int zeile, std::string_view text)
 {
-    at(zeile).prozent = zahlenfeld(text);
+    readZahl(at(zeile).prozent, text);
     return {.anteil = !istAusgleich(zeile) && balance()};
 }
 

@@ -32,14 +32,23 @@ std::string Eingabefehler::text() const
 
 Eingabefeld zahlenfeld(std::string_view text)
 {
-    Eingabefeld feld{std::string(text)};
+    Eingabefeld feld;
+    readZahl(feld, text);
+    return feld;
+}
+
+void readZahl(Eingabefeld& feld, std::string_view text)
+{
+    feld.text = text;
+    feld.fehler.reset();
+    feld.echo.clear();
+    feld.meldungen.clear();
     try {
         feld.wert = singleFromText(text);
     } catch (const Laufzeitfehler& error) {
         feld.wert = Unbekannt;
         feld.fehler = Eingabefehler{"Keine gültige Zahl (" + std::string(error.what()) + ")"};
     }
-    return feld;
 }
 
 Eingabefeld valenzfeld(std::string_view text, const ElementCollection& elements)

@@ -34,8 +34,9 @@ struct Eingabefeld {
     bool operator==(const Eingabefeld&) const = default;
 };
 
-/// A text that must be a number.
+/// A text that must be a number, as a new field or into one that is there and keeps its memory.
 Eingabefeld zahlenfeld(std::string_view text);
+void readZahl(Eingabefeld& feld, std::string_view text);
 
 /// A text that may be a formula. A hexadecimal result is no valence.
 Eingabefeld valenzfeld(std::string_view text, const ElementCollection& elements);
