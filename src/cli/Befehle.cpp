@@ -18,22 +18,22 @@ namespace zerna {
 
 namespace {
 
-CLI::App& addBefehl(CLI::App& parent, const char* name, const char* beschreibung)
+/// Adds a command. A `Befehl` says with define(CLI::App&) which options it has and carries them out with
+/// run(Umgebung&).
+template <class Befehl>
+void addBefehl(CLI::App& parent, Umgebung& umgebung, const char* name, const char* beschreibung)
 {
-    CLI::App* const befehl = parent.add_subcommand(name, beschreibung);
-    befehl->option_defaults()->group("Optionen");
-    befehl->group("Befehle");
-    return *befehl;
-}
-
-/// Makes the command carry out `run(Umgebung&)` of its options, which live as long as it.
-template <class Optionen>
-void onCall(CLI::App& befehl, Umgebung& umgebung, std::shared_ptr<Optionen> optionen)
-{
-    befehl.callback([&umgebung, optionen = std::move(optionen)] { optionen->run(umgebung); });
+    CLI::App& app = *parent.add_subcommand(name, beschreibung);
+    app.option_defaults()->group("Optionen");
+    app.group("Befehle");
+    const auto befehl = std::make_shared<Befehl>();
+    befehl->define(app);
+    app.callback([&umgebung, befehl] { befehl->run(umgebung); });
 }
 
 struct Formel {
+    void define(CLI::App& befehl) { befehl.add_option("text", text, "Formel")->required()->option_text("FORMEL"); }
+
     void run(Umgebung& umgebung) const
     {
         umgebung.load();
@@ -47,15 +47,14 @@ struct Formel {
     std::string text;
 };
 
-void defineFormel(CLI::App& app, Umgebung& umgebung)
-{
-    CLI::App& befehl = addBefehl(app, "formel", "Wert einer Formel");
-    auto o = std::make_shared<Formel>();
-    befehl.add_option("text", o->text, "Formel")->required()->option_text("FORMEL");
-    onCall(befehl, umgebung, o);
-}
-
 struct Groessenliste {
+    void define(CLI::App& befehl)
+    {
+        form.define(befehl);
+        komponenten.define(befehl);
+        ausgabe.define(befehl);
+    }
+
     void run(Umgebung& umgebung) const
     {
         umgebung.loadAlloy(komponenten.texte);
@@ -68,17 +67,13 @@ struct Groessenliste {
     Ausgabe ausgabe;
 };
 
-void defineGroessen(CLI::App& app, Umgebung& umgebung)
-{
-    CLI::App& befehl = addBefehl(app, "groessen", "Größen einer Legierung als Tabelle");
-    auto o = std::make_shared<Groessenliste>();
-    o->form.define(befehl);
-    o->komponenten.define(befehl);
-    o->ausgabe.define(befehl);
-    onCall(befehl, umgebung, o);
-}
-
 struct Text {
+    void define(CLI::App& befehl)
+    {
+        komponenten.define(befehl);
+        ausgabe.define(befehl);
+    }
+
     void run(Umgebung& umgebung) const
     {
         umgebung.loadAlloy(komponenten.texte);
@@ -94,15 +89,6 @@ struct Text {
     Ausgabe ausgabe;
 };
 
-void defineText(CLI::App& app, Umgebung& umgebung)
-{
-    CLI::App& befehl = addBefehl(app, "text", "Ergebnistext einer Legierung");
-    auto o = std::make_shared<Text>();
-    o->komponenten.define(befehl);
-    o->ausgabe.define(befehl);
-    onCall(befehl, umgebung, o);
-}
-
 /// The code of a quantity over compositions.
 int reihenkennzahl(const Ganzzahl& groesse)
 {
@@ -114,6 +100,15 @@ int reihenkennzahl(const Ganzzahl& groesse)
 }
 
 struct Konzentration {
+    void define(CLI::App& befehl)
+    {
+        befehl.add_option("--variabel", variabel, "Komponente entlang der Achse")->required()->option_text("SYMBOL");
+        schritt.define(befehl, "--schritt", "Schrittweite in at%");
+        groesse.define(befehl, "--groesse", "Kennzahl der Größe")->required();
+        komponenten.define(befehl);
+        ausgabe.define(befehl);
+    }
+
     void run(Umgebung& umgebung) const
     {
         const int kennzahl = reihenkennzahl(groesse);
@@ -151,19 +146,13 @@ struct Konzentration {
     Ausgabe ausgabe;
 };
 
-void defineReihe(CLI::App& app, Umgebung& umgebung)
-{
-    CLI::App& befehl = addBefehl(app, "reihe", "Größe über den at% einer Komponente");
-    auto o = std::make_shared<Konzentration>();
-    befehl.add_option("--variabel", o->variabel, "Komponente entlang der Achse")->required()->option_text("SYMBOL");
-    o->schritt.define(befehl, "--schritt", "Schrittweite in at%");
-    o->groesse.define(befehl, "--groesse", "Kennzahl der Größe")->required();
-    o->komponenten.define(befehl);
-    o->ausgabe.define(befehl);
-    onCall(befehl, umgebung, o);
-}
-
 struct PSE {
+    void define(CLI::App& befehl)
+    {
+        ausgabe.define(befehl);
+        groesse.define(befehl, "--groesse", "Kennzahl der Größe")->required();
+    }
+
     void run(Umgebung& umgebung) const
     {
         const int kennzahl = groesse.wert();
@@ -177,16 +166,15 @@ struct PSE {
     Ganzzahl groesse;
 };
 
-void definePSE(CLI::App& app, Umgebung& umgebung)
-{
-    CLI::App& befehl = addBefehl(app, "pse", "Größe über der Ordnungszahl");
-    auto o = std::make_shared<PSE>();
-    o->ausgabe.define(befehl);
-    o->groesse.define(befehl, "--groesse", "Kennzahl der Größe")->required();
-    onCall(befehl, umgebung, o);
-}
-
 struct Ternaer {
+    void define(CLI::App& befehl)
+    {
+        aufloesung.define(befehl, "--aufloesung", "Auflösung, 1 bis 10")->required();
+        groesse.define(befehl, "--groesse", "Kennzahl der Größe")->required();
+        komponenten.define(befehl);
+        ausgabe.define(befehl);
+    }
+
     void run(Umgebung& umgebung) const
     {
         const int kennzahl = reihenkennzahl(groesse);
@@ -208,18 +196,15 @@ struct Ternaer {
     Ausgabe ausgabe;
 };
 
-void defineTernaer(CLI::App& app, Umgebung& umgebung)
-{
-    CLI::App& befehl = addBefehl(app, "ternaer", "Größe über allen Zusammensetzungen dreier Komponenten");
-    auto o = std::make_shared<Ternaer>();
-    o->aufloesung.define(befehl, "--aufloesung", "Auflösung, 1 bis 10")->required();
-    o->groesse.define(befehl, "--groesse", "Kennzahl der Größe")->required();
-    o->komponenten.define(befehl);
-    o->ausgabe.define(befehl);
-    onCall(befehl, umgebung, o);
-}
-
 struct Wiegen {
+    void define(CLI::App& befehl)
+    {
+        befehl.add_option("--masse", masse, "Gesamtmasse in mg")->required()->option_text("ZAHL");
+        form.define(befehl);
+        komponenten.define(befehl);
+        ausgabe.define(befehl);
+    }
+
     void run(Umgebung& umgebung) const
     {
         const Eingabefeld gesamt = zahlenfeld(masse);
@@ -240,18 +225,13 @@ struct Wiegen {
     Ausgabe ausgabe;
 };
 
-void defineWiegen(CLI::App& app, Umgebung& umgebung)
-{
-    CLI::App& befehl = addBefehl(app, "wiegen", "Sollmassen für eine Gesamtmasse");
-    auto o = std::make_shared<Wiegen>();
-    befehl.add_option("--masse", o->masse, "Gesamtmasse in mg")->required()->option_text("ZAHL");
-    o->form.define(befehl);
-    o->komponenten.define(befehl);
-    o->ausgabe.define(befehl);
-    onCall(befehl, umgebung, o);
-}
-
 struct Friedel {
+    void define(CLI::App& befehl)
+    {
+        komponenten.define(befehl);
+        ausgabe.define(befehl);
+    }
+
     void run(Umgebung& umgebung) const
     {
         umgebung.loadAlloy(komponenten.texte);
@@ -262,16 +242,9 @@ struct Friedel {
     Ausgabe ausgabe;
 };
 
-void defineFriedel(CLI::App& app, Umgebung& umgebung)
-{
-    CLI::App& befehl = addBefehl(app, "friedel", "Friedelminima als Datei für Zeichenprogramme");
-    auto o = std::make_shared<Friedel>();
-    o->komponenten.define(befehl);
-    o->ausgabe.define(befehl);
-    onCall(befehl, umgebung, o);
-}
-
 struct Exportieren {
+    void define(CLI::App& befehl) { befehl.add_option("csv", csv, "Zieldatei")->required()->option_text("CSV"); }
+
     void run(Umgebung& umgebung) const
     {
         umgebung.load();
@@ -285,6 +258,12 @@ struct Exportieren {
 };
 
 struct Importieren {
+    void define(CLI::App& befehl)
+    {
+        befehl.add_option("csv", csv, "Tabelle")->required()->option_text("CSV");
+        befehl.add_option("dat", dat, "Zieldatei")->required()->option_text("DAT");
+    }
+
     void run(Umgebung&) const
     {
         try {
@@ -300,20 +279,13 @@ struct Importieren {
     std::string dat;
 };
 
-void defineElemente(CLI::App& app, Umgebung& umgebung)
+void addElemente(CLI::App& app, Umgebung& umgebung)
 {
     CLI::App& elemente = *app.add_subcommand("elemente", "Elementdaten umwandeln");
     elemente.group("Befehle");
     elemente.require_subcommand(1);
-    CLI::App& exportieren = addBefehl(elemente, "exportieren", "Elementdaten als CSV-Tabelle");
-    auto e = std::make_shared<Exportieren>();
-    exportieren.add_option("csv", e->csv, "Zieldatei")->required()->option_text("CSV");
-    onCall(exportieren, umgebung, e);
-    CLI::App& importieren = addBefehl(elemente, "importieren", "Elementdatei aus einer CSV-Tabelle");
-    auto i = std::make_shared<Importieren>();
-    importieren.add_option("csv", i->csv, "Tabelle")->required()->option_text("CSV");
-    importieren.add_option("dat", i->dat, "Zieldatei")->required()->option_text("DAT");
-    onCall(importieren, umgebung, i);
+    addBefehl<Exportieren>(elemente, umgebung, "exportieren", "Elementdaten als CSV-Tabelle");
+    addBefehl<Importieren>(elemente, umgebung, "importieren", "Elementdatei aus einer CSV-Tabelle");
 }
 
 } // namespace
@@ -324,15 +296,15 @@ void defineBefehle(CLI::App& app, Umgebung& umgebung)
     app.add_option("--daten", umgebung.daten, "Elementdatei statt elemente.dat neben dem Programm")
         ->option_text("DATEI");
     app.require_subcommand(1);
-    defineFormel(app, umgebung);
-    defineGroessen(app, umgebung);
-    defineText(app, umgebung);
-    defineReihe(app, umgebung);
-    definePSE(app, umgebung);
-    defineTernaer(app, umgebung);
-    defineWiegen(app, umgebung);
-    defineFriedel(app, umgebung);
-    defineElemente(app, umgebung);
+    addBefehl<Formel>(app, umgebung, "formel", "Wert einer Formel");
+    addBefehl<Groessenliste>(app, umgebung, "groessen", "Größen einer Legierung als Tabelle");
+    addBefehl<Text>(app, umgebung, "text", "Ergebnistext einer Legierung");
+    addBefehl<Konzentration>(app, umgebung, "reihe", "Größe über den at% einer Komponente");
+    addBefehl<PSE>(app, umgebung, "pse", "Größe über der Ordnungszahl");
+    addBefehl<Ternaer>(app, umgebung, "ternaer", "Größe über allen Zusammensetzungen dreier Komponenten");
+    addBefehl<Wiegen>(app, umgebung, "wiegen", "Sollmassen für eine Gesamtmasse");
+    addBefehl<Friedel>(app, umgebung, "friedel", "Friedelminima als Datei für Zeichenprogramme");
+    addElemente(app, umgebung);
 }
 
 } // namespace zerna
