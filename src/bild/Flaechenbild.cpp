@@ -23,7 +23,8 @@ struct Ebene {
     float slope() const { return std::hypot(dx, dy); }
 };
 
-/// The plane that is 1 at `top` and 0 along the line from `a` to `b`; `area` is twice the triangle's signed area.
+/// The plane that is 0 along the line from `a` to `b` and 1 at the third corner; `area` is twice the triangle's signed
+/// area.
 Ebene barycentric(const Flaechenecke& a, const Flaechenecke& b, float area)
 {
     return {(a.x * b.y - a.y * b.x) / area, (a.y - b.y) / area, (b.x - a.x) / area};
@@ -41,11 +42,23 @@ std::uint8_t scaled(std::uint8_t channel, float factor)
     return static_cast<std::uint8_t>(std::clamp(static_cast<float>(channel) * factor, 0.0F, 255.0F));
 }
 
-/// The colour darkened by a line's opacity.
+/// The colour under a light of 0 to 1, as a pixel.
 std::uint32_t packed(const Farbe& colour, float light)
 {
     return 0xFF000000U | static_cast<std::uint32_t>(scaled(colour.red, light)) << 16U
         | static_cast<std::uint32_t>(scaled(colour.green, light)) << 8U | scaled(colour.blue, light);
+}
+
+/// The colours of the shares, made once for all pictures.
+std::span<const Farbe> colourTable()
+{
+    static const auto table = [] {
+        std::array<Farbe, ColourSteps + 1> colours;
+        for (std::size_t i = 0; i < colours.size(); ++i)
+            colours.at(i) = farbskala(static_cast<double>(i) / ColourSteps);
+        return colours;
+    }();
+    return table;
 }
 
 /// How much of a line of that width covers a pixel at a distance from its middle.
@@ -100,16 +113,13 @@ std::span<const float> levelsOver(const Ecken& e, float shareSlope, const Flaech
 /// `area` is twice the triangle's signed area, not 0.
 Dreieck dreieckOf(const Ecken& e, float area, const Flaechenstil& stil, int pictureSize)
 {
-    Dreieck d;
-    d.weights = {barycentric(e[1], e[2], area), barycentric(e[2], e[0], area), barycentric(e[0], e[1], area)};
-    for (std::size_t k = 0; k < 3; ++k)
-        d.slopes[k] = d.weights[k].slope();
-    d.depth = combined(d.weights, e[0].depth, e[1].depth, e[2].depth);
-    d.share = combined(d.weights, e[0].share, e[1].share, e[2].share);
-    d.shareSlope = d.share.slope();
-    d.light = stil.shaded ? lightOf(d.depth, pictureSize) : 1;
-    d.levels = levelsOver(e, d.shareSlope, stil);
-    return d;
+    const std::array<Ebene, 3> weights{
+        barycentric(e[1], e[2], area), barycentric(e[2], e[0], area), barycentric(e[0], e[1], area)};
+    const Ebene depth = combined(weights, e[0].depth, e[1].depth, e[2].depth);
+    const Ebene share = combined(weights, e[0].share, e[1].share, e[2].share);
+    const float shareSlope = share.slope();
+    return {weights, {weights[0].slope(), weights[1].slope(), weights[2].slope()}, depth, share, shareSlope,
+        stil.shaded ? lightOf(depth, pictureSize) : 1, levelsOver(e, shareSlope, stil)};
 }
 
 /// The light of a pixel with these weights and this share, less where a line runs over it.
@@ -136,10 +146,8 @@ Flaechenbild::Flaechenbild(int width, int height)
     , m_height(std::max(0, height))
     , m_pixels(static_cast<std::size_t>(m_width) * static_cast<std::size_t>(m_height))
     , m_depth(m_pixels.size(), Nothing)
+    , m_colours(colourTable())
 {
-    m_colours.reserve(ColourSteps + 1);
-    for (int i = 0; i <= ColourSteps; ++i)
-        m_colours.push_back(farbskala(static_cast<double>(i) / ColourSteps));
 }
 
 bool Flaechenbild::depthAt(int x, int y, float& depth) const
@@ -156,8 +164,9 @@ void Flaechenbild::fill(const Flaechenecke& a, const Flaechenecke& b, const Flae
     constexpr float Invisible = 1e-4F; // seen edge-on; its neighbours cover its pixels
     if (!(std::abs(area) > Invisible))
         return;
-    const Dreieck d = dreieckOf({a, b, c}, area, stil, std::max(m_width, m_height));
-    const Pixelbereich bounds = boundsOf({a, b, c}, m_width, m_height);
+    const Ecken corners{a, b, c};
+    const Dreieck d = dreieckOf(corners, area, stil, std::max(m_width, m_height));
+    const Pixelbereich bounds = boundsOf(corners, m_width, m_height);
     // A pixel belongs to the triangle when its middle does; the tolerance lets neighbours overlap instead of gape.
     constexpr float Tolerance = -1e-3F;
     for (int y = bounds.top; y <= bounds.bottom; ++y) {

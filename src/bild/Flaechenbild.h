@@ -48,7 +48,7 @@ private:
     int m_height;
     std::vector<std::uint32_t> m_pixels;
     std::vector<float> m_depth;
-    std::vector<Farbe> m_colours; // of the shares, tabulated
+    std::span<const Farbe> m_colours; // of the shares, tabulated
 };
 
 } // namespace zerna

@@ -15,8 +15,7 @@ class QPainter;
 namespace zerna {
 
 /// What the diagram area shows. A diagram paints itself on any painter and at any size, which leaves it as it is. Its
-/// owner hands on what the user does and paints anew where that was of use; what a diagram has no use for answers
-/// false.
+/// owner hands it what the user does: keys and mouse answer true where they were of use, and it is to be painted anew.
 class Diagramm {
 public:
     /// An entry of the context menu.
@@ -41,7 +40,8 @@ public:
     /// The values as they are copied: UTF-8 with tabs and CR LF.
     virtual std::string values() const { return {}; }
 
-    /// The ways to save values and picture as on that canvas, valid as long as the diagram; none without values.
+    /// The ways to save the values and the picture on that canvas, valid as long as the diagram; none where there are
+    /// no values.
     virtual std::vector<Exportart> exportarten(const Leinwand&) const { return {}; }
 
     /// What is under a position on that canvas; empty for nothing.

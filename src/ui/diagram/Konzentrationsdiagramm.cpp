@@ -137,19 +137,20 @@ void Konzentrationsdiagramm::paintSurface(QPainter& painter, const Leinwand& lei
     const Layout& layout = this->layout(leinwand);
     const Rechteck area = areaOf(leinwand);
     const QFontMetricsF metrics(layout.labelFont);
+    const double ascent = metrics.ascent();
     painter.fillRect(QRect(QPoint(0, 0), leinwand.size), Qt::white);
     painter.setFont(layout.labelFont);
     painter.setPen(Qt::black);
     for (const Achsenmarke& marke : layout.yMarken) {
         const int row = std::min(static_cast<int>(std::lround(marke.position)), leinwand.size.height() - 1);
         painter.fillRect(QRectF(area.left - TickLength, row, TickLength, 1), Qt::black);
-        painter.drawText(QPointF(LabelColumn, marke.labelStart + metrics.ascent()), toQt(marke.label));
+        painter.drawText(QPointF(LabelColumn, marke.labelStart + ascent), toQt(marke.label));
     }
     const double labelTop = xLabelTop(area, metrics.height());
     for (const Achsenmarke& marke : layout.xMarken) {
         const int column = std::min(static_cast<int>(std::lround(marke.position)), leinwand.size.width() - 1);
         painter.fillRect(QRectF(column, area.height, 1, TickLength), Qt::black);
-        painter.drawText(QPointF(marke.labelStart, labelTop + metrics.ascent()), toQt(marke.label));
+        painter.drawText(QPointF(marke.labelStart, labelTop + ascent), toQt(marke.label));
     }
     if (layout.xMarken.empty())
         return;
