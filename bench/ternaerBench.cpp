@@ -88,7 +88,7 @@ void dreiecke(benchmark::State& state)
     Aufbau aufbau;
     const Ternaergitter grid = ternaergitter(aufbau.calc, komponenten(aufbau), Fermienergie, Feinste);
     const auto triangles = triangulate(grid);
-    const Wertebereich range = wertebereich(grid);
+    const Wertebereich range = wertebereich(grid.werte);
     QImage image(Bildgroesse, QImage::Format_ARGB32_Premultiplied);
     Ansicht ansicht;
     for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)

@@ -48,7 +48,7 @@ std::vector<Flaechenecke> cornersOf(
 
 Ternaerinhalt::Ternaerinhalt(Ternaergitter values, const Anteile3& alloy)
     : gitter(std::move(values))
-    , range(wertebereich(gitter))
+    , range(wertebereich(gitter.werte))
     , triangles(triangulate(gitter))
 {
     if (range.known)

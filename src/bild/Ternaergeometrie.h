@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "model/Ternaergitter.h"
+#include "model/Wertebereich.h"
 
 /// Geometry of the ternary diagram. The base is an equilateral triangle of side 1 in the plane z = 0, centred on the
 /// origin; the surface stands above it, its heights from 0 to SurfaceHeight.

@@ -60,19 +60,6 @@ Ternaergitter ternaergitter(
     return gitter;
 }
 
-Wertebereich wertebereich(const Ternaergitter& gitter)
-{
-    Wertebereich range;
-    for (const float wert : gitter.werte) {
-        if (istUnbekannt(wert))
-            continue;
-        range.min = range.known ? std::min(range.min, wert) : wert;
-        range.max = range.known ? std::max(range.max, wert) : wert;
-        range.known = true;
-    }
-    return range;
-}
-
 std::string ternaerdatei(const Ternaergitter& gitter)
 {
     std::string text;

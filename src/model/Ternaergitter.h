@@ -36,14 +36,6 @@ inline constexpr int FeinsteAufloesung = 10;
 Ternaergitter ternaergitter(
     const clsCalc& calc, std::span<const Legierungskomponente> komponenten, int groesse, int aufloesung);
 
-/// Smallest and largest known value; no value if there is none.
-struct Wertebereich {
-    float min = 0;
-    float max = 0;
-    bool known = false;
-};
-Wertebereich wertebereich(const Ternaergitter& gitter);
-
 /// The content of a ternary file: header, then a line per known point, first component outside, second inside, CR LF.
 std::string ternaerdatei(const Ternaergitter& gitter);
 

@@ -2,6 +2,7 @@
 
 #include "core/ElementCsv.h"
 #include "core/Unbekannt.h"
+#include "model/Wertebereich.h"
 #include "support/FilesTest.h"
 
 namespace zerna {
@@ -54,7 +55,7 @@ TEST_F(TernaergitterTest, PointsThatCannotBeComputedAreMissing)
     const std::vector<float> hall = grid(5).werte;
     EXPECT_TRUE(istUnbekannt(hall[0]));
     EXPECT_EQ(std::count(hall.begin(), hall.end(), Unbekannt), 1);
-    EXPECT_LT(wertebereich(grid(5)).max, 0);
+    EXPECT_LT(wertebereich(grid(5).werte).max, 0);
     EXPECT_EQ(ternaerdatei({2, {"A", "B", "C"}, "eV", {-1.5F, Unbekannt, 2e-7F, 3, 1e20F, Unbekannt}}),
         "A [at%]\tB [at%]\tC [at%]\teV\r\n0\t0\t100\t-1.5\r\n0\t100\t0\t2E-7\r\n50\t0\t50\t3\r\n50\t50\t0\t1E+20\r\n");
 }

@@ -23,15 +23,8 @@ std::span<const Elementgruppe> elementgruppen() { return Gruppen; }
 Tafelfaerbung::Tafelfaerbung(const PSEReihe& reihe)
     : m_titel(reihe.titel)
     , m_werte(reihe.y)
+    , m_bereich(wertebereich(m_werte))
 {
-    bool first = true;
-    for (const float wert : m_werte) {
-        if (istUnbekannt(wert))
-            continue;
-        m_kleinster = first ? wert : std::min(m_kleinster, wert);
-        m_groesster = first ? wert : std::max(m_groesster, wert);
-        first = false;
-    }
 }
 
 Zellfuellung Tafelfaerbung::fuellung(const clsElement& element, std::size_t index, bool aufDunklem) const
@@ -43,8 +36,8 @@ Zellfuellung Tafelfaerbung::fuellung(const clsElement& element, std::size_t inde
     const float wert = m_werte.at(index);
     if (istUnbekannt(wert))
         return {.fehlt = true};
-    const double breite = static_cast<double>(m_groesster) - m_kleinster;
-    return {farbskala(breite > 0 ? (static_cast<double>(wert) - m_kleinster) / breite : 0.5)};
+    const double breite = static_cast<double>(m_bereich.max) - m_bereich.min;
+    return {farbskala(breite > 0 ? (static_cast<double>(wert) - m_bereich.min) / breite : 0.5)};
 }
 
 } // namespace zerna

@@ -10,6 +10,7 @@
 #include "bild/Farbskala.h"
 #include "core/clsElement.h"
 #include "model/PSEReihe.h"
+#include "model/Wertebereich.h"
 
 /// How the cells of the periodic table are coloured: by group of elements or by a property.
 namespace zerna {
@@ -53,14 +54,13 @@ public:
 
     /// Title and ends of the scale; 0 to 0 when all values are missing.
     const std::string& titel() const { return m_titel; }
-    float kleinsterWert() const { return m_kleinster; }
-    float groessterWert() const { return m_groesster; }
+    float kleinsterWert() const { return m_bereich.min; }
+    float groessterWert() const { return m_bereich.max; }
 
 private:
     std::string m_titel;
     std::vector<float> m_werte;
-    float m_kleinster = 0;
-    float m_groesster = 0;
+    Wertebereich m_bereich;
 };
 
 } // namespace zerna
