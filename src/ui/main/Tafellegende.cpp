@@ -1,6 +1,5 @@
 #include "ui/main/Tafellegende.h"
 
-#include <QLinearGradient>
 #include <QPainter>
 
 #include <algorithm>
@@ -38,14 +37,10 @@ void paintGruppen(QPainter& painter, const QRectF& area, const QPalette& palette
 
 void paintSkala(QPainter& painter, const QRectF& area, const Tafelfaerbung& faerbung, const QPalette& palette)
 {
-    constexpr int Stops = 17;
     const double barHeight = std::min(14.0, area.height() / 3);
     const QRectF bar(area.left(), area.top() + 2, area.width(), barHeight);
-    QLinearGradient gradient(bar.topLeft(), bar.topRight());
-    for (int i = 0; i < Stops; ++i)
-        gradient.setColorAt(i / (Stops - 1.0), toQt(farbskala(i / (Stops - 1.0))));
     painter.setPen(Qt::NoPen);
-    painter.setBrush(gradient);
+    painter.setBrush(farbverlauf(bar.topLeft(), bar.topRight()));
     painter.drawRect(bar);
     painter.setPen(palette.color(QPalette::WindowText));
     const QRectF labels(bar.left(), bar.bottom() + 2, bar.width(), area.bottom() - bar.bottom() - 2);

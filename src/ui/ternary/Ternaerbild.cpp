@@ -1,7 +1,6 @@
 #include "ui/ternary/Ternaerbild.h"
 
 #include <QImage>
-#include <QLinearGradient>
 #include <QPainter>
 
 #include <algorithm>
@@ -10,6 +9,7 @@
 
 #include "core/Zahlentext.h"
 #include "model/Werttext.h"
+#include "ui/platform/Farben.h"
 #include "ui/platform/QtText.h"
 
 namespace zerna {
@@ -221,17 +221,11 @@ void Ternaerbild::paintCurrent(QPainter& painter) const
 void Ternaerbild::paintColourBar(QPainter& painter) const
 {
     constexpr double Width = 14;
-    constexpr int Stops = 17;
     const QRectF bar(m_size.width() - BarSpace + 14, LabelSpace, Width, m_size.height() - 2 * LabelSpace);
     if (bar.height() < 2 * LabelSpace || !m_inhalt->range.known)
         return;
-    QLinearGradient gradient(bar.bottomLeft(), bar.topLeft());
-    for (int i = 0; i < Stops; ++i) {
-        const Farbe f = farbskala(i / (Stops - 1.0));
-        gradient.setColorAt(i / (Stops - 1.0), QColor(f.red, f.green, f.blue));
-    }
     painter.setPen(QPen(Qt::black, 1));
-    painter.setBrush(gradient);
+    painter.setBrush(farbverlauf(bar.bottomLeft(), bar.topLeft()));
     painter.drawRect(bar);
     painter.setBrush(Qt::NoBrush);
     const QFontMetricsF metrics(painter.font());
