@@ -9,6 +9,9 @@
 
 namespace zerna {
 
+/// Title of the save dialog for values.
+inline constexpr std::string_view Exporttitel = "Daten exportieren ...";
+
 /// The platform's save dialog.
 class SaveFileDialog {
 public:

@@ -2,15 +2,10 @@
 
 #include <functional>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 
-#include "core/MessageBoxes.h"
-
 namespace zerna {
-
-class SaveFileDialog;
 
 /// One way to save something: what the save dialog calls it, the extension it appends, and how its bytes are made.
 struct Exportart {
@@ -31,13 +26,5 @@ Exportart textdatei(std::string_view beschreibung, std::string_view muster, std:
 /// The text kinds that several exports offer.
 Exportart datDatei(Exporttext text);
 Exportart friedelminima(Exporttext text);
-
-/// Title of the save dialog for values.
-inline constexpr std::string_view Exporttitel = "Daten exportieren ...";
-
-/// Lets the user choose a file name and one of the kinds, and writes that kind's bytes under that name. A failure is
-/// shown with the file's name and the reason and leaves an earlier file of that name untouched. Whether a file was
-/// written.
-bool exportieren(MessageBoxes& boxes, SaveFileDialog& dialog, std::string_view titel, std::span<const Exportart> arten);
 
 } // namespace zerna

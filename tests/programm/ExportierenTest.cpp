@@ -1,4 +1,4 @@
-#include "programm/Exportart.h"
+#include "programm/Exportieren.h"
 
 #include "support/FakeServices.h"
 #include "support/FilesTest.h"
@@ -7,7 +7,7 @@
 namespace zerna {
 
 /// Offers a text that tests set, and one that cannot be made.
-struct ExportartTest : FilesTest {
+struct ExportierenTest : FilesTest {
     bool save(const std::string& typed, int type)
     {
         dialog.answer = {(folder / typed).string(), type};
@@ -24,7 +24,7 @@ struct ExportartTest : FilesTest {
     FakeSaveDialog dialog;
 };
 
-TEST_F(ExportartTest, ChosenKindIsWrittenAndNoOtherMade)
+TEST_F(ExportierenTest, ChosenKindIsWrittenAndNoOtherMade)
 {
     EXPECT_TRUE(save("a", 1));
     EXPECT_EQ(contentOf("a.dat"), "5 g/cm\xB3\r\n");
@@ -34,7 +34,7 @@ TEST_F(ExportartTest, ChosenKindIsWrittenAndNoOtherMade)
     EXPECT_EQ(made, 1);
 }
 
-TEST_F(ExportartTest, NothingIsWrittenWhereTheUserGivesUp)
+TEST_F(ExportierenTest, NothingIsWrittenWhereTheUserGivesUp)
 {
     EXPECT_FALSE(exportieren(boxes, dialog, Exporttitel, arten)) << "the dialog is cancelled";
     writeBytes(folder / "a.dat", "alt");
@@ -50,7 +50,7 @@ TEST_F(ExportartTest, NothingIsWrittenWhereTheUserGivesUp)
     EXPECT_EQ(contentOf("a.dat"), "neu");
 }
 
-TEST_F(ExportartTest, FailureNamesFileAndReasonAndLeavesTheEarlierFile)
+TEST_F(ExportierenTest, FailureNamesFileAndReasonAndLeavesTheEarlierFile)
 {
     writeBytes(folder / "a.dat", "alt");
     EXPECT_FALSE(save("b", 2)) << "the bytes cannot be made";

@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QPainter>
 
+#include "programm/Exportieren.h"
 #include "ui/diagram/Bildausgabe.h"
 #include "ui/diagram/conDisplay.h"
 

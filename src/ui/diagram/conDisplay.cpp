@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "core/Zahlentext.h"
+#include "programm/Exportieren.h"
 #include "ui/diagram/Plotflaeche.h"
 
 namespace zerna {

@@ -6,7 +6,7 @@
 #include "core/CheckedArithmetic.h"
 #include "core/Zahlentext.h"
 #include "model/Konstanten.h"
-#include "programm/Exportart.h"
+#include "programm/Exportieren.h"
 #include "ui/button/StyledButton.h"
 #include "ui/controls/Knopfzeile.h"
 #include "ui/controls/Wertanzeige.h"

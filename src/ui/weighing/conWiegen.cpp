@@ -13,6 +13,7 @@
 #include "core/Fehlermeldung.h"
 #include "core/Zahlentext.h"
 #include "model/Einwaage.h"
+#include "programm/Exportieren.h"
 #include "ui/button/StyledButton.h"
 #include "ui/controls/Knopfzeile.h"
 #include "ui/controls/Wertfeld.h"
