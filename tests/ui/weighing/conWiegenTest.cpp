@@ -48,6 +48,22 @@ TEST_F(conWiegenTest, EachEditOfAMassReportsOnce)
     }
 }
 
+TEST_F(conWiegenTest, HintSaysWhyThereAreNoTargetMasses)
+{
+    struct Row {
+        const char* prozent;
+        const char* shown;
+    };
+    for (const auto& [prozent, shown] : {
+             Row{"0", "Sollmassen nicht berechenbar: Aluminium hat 0 at% und ist der Bezug der Rechnung.||"},
+             {"1e-45", "Sollmassen nicht berechenbar: Division durch Null.||"},
+             {"50", "|298,048|701,952"},
+         }) {
+        type("txtProzent_0", prozent);
+        EXPECT_EQ(texts({"lblHinweis", "Sollmasse_0", "Sollmasse_1"}), shown) << prozent;
+    }
+}
+
 TEST_F(conWiegenTest, OnlyMassesFromZeroOnAreNotMarked)
 {
     for (const char* const typed : {"-5", "1e39", "&HFF", "1.234,5", " 5", "0", "99999999999999999999", "1e30", ".5"}) {
