@@ -10,6 +10,8 @@
 
 #include <algorithm>
 
+#include "core/Laufzeitfehler.h"
+
 namespace zerna {
 
 namespace {
@@ -23,12 +25,14 @@ Leinwand withRatio(Leinwand leinwand, double devicePixelRatio)
     return leinwand;
 }
 
+/// Error 5 for a picture without pixels, of which there is no file.
 std::string encoded(const QImage& image, const char* format)
 {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, format);
+    if (!image.save(&buffer, format))
+        throw Laufzeitfehler(Fehler::UngueltigesArgument);
     return bytes.toStdString();
 }
 

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include "core/Laufzeitfehler.h"
+
 namespace zerna {
 
 /// A picture that is red on its left half and remembers how finely it was asked for.
@@ -45,6 +47,13 @@ TEST_F(BildausgabeTest, ImagesHaveTheirPixelsAndVectorsFineSurfaces)
     };
     expectPicture(rows[0].art, 1);
     expectPicture(rows[1].art, 2);
+}
+
+TEST_F(BildausgabeTest, PictureWithoutPixelsIsNoFile)
+{
+    const Leinwand empty{{0, 20}, {}, 1};
+    EXPECT_THROW(bitmap(maler, empty).bytes(), Laufzeitfehler);
+    EXPECT_THROW(bildarten(maler, empty).at(0).bytes(), Laufzeitfehler);
 }
 
 } // namespace zerna
