@@ -1,8 +1,6 @@
 #include "ui/diagram/Diagrammflaeche.h"
 
-#include <QClipboard>
 #include <QContextMenuEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
@@ -10,6 +8,7 @@
 #include "programm/Exportieren.h"
 #include "ui/diagram/Bildausgabe.h"
 #include "ui/diagram/conDisplay.h"
+#include "ui/platform/Zwischenablage.h"
 
 namespace zerna {
 
@@ -66,20 +65,9 @@ void Diagrammflaeche::showHinweis(const QString& hinweis)
     showDiagramm(m_meldung, Qt::NoFocus);
 }
 
-void Diagrammflaeche::copyPicture()
-{
-    QClipboard* const clipboard = QGuiApplication::clipboard();
-    if (clipboard == nullptr)
-        return;
-    clipboard->clear();
-    clipboard->setImage(imageOf(m_diagramm->maler(), leinwand()));
-}
+void Diagrammflaeche::copyPicture() { copyToClipboard(imageOf(m_diagramm->maler(), leinwand())); }
 
-void Diagrammflaeche::copyValues()
-{
-    if (QClipboard* const clipboard = QGuiApplication::clipboard())
-        clipboard->setText(toQt(m_diagramm->values()));
-}
+void Diagrammflaeche::copyValues() { copyToClipboard(toQt(m_diagramm->values())); }
 
 void Diagrammflaeche::save()
 {

@@ -85,6 +85,13 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    /// One component. Those that Element_Add brings are read from their elements' records whenever a series is
+    /// computed.
+    struct Platz {
+        Legierungskomponente komponente;
+        bool gelesen = false;
+    };
+
     Leinwand leinwand() const { return leinwandOf(*this); }
     Reihe computeSeries(int groesse) const;
     void drawSeries(const Reihe& reihe);
@@ -96,13 +103,6 @@ private:
     Dialoge m_dialoge;
     Konzentrationsdiagramm m_diagramm;
     Plotflaeche* m_pic = nullptr;
-    /// One component. Those that Element_Add brings are read from their elements' records whenever a series is
-    /// computed.
-    struct Platz {
-        Legierungskomponente komponente;
-        bool gelesen = false;
-    };
-
     std::array<Platz, MaxKomponenten> m_komponenten;
     int m_variable = 0;
     bool m_bereit = false;

@@ -2,10 +2,12 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QImage>
 
 namespace zerna {
 
-/// Puts a text into the clipboard in place of what is in it.
+/// Put a text or a picture into the clipboard in place of what is in it.
 inline void copyToClipboard(const QString& text) { QGuiApplication::clipboard()->setText(text); }
+inline void copyToClipboard(const QImage& picture) { QGuiApplication::clipboard()->setImage(picture); }
 
 } // namespace zerna
