@@ -46,6 +46,8 @@ void Wertanzeige::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Copy))
         emit copyRequested();
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space)
+        emit detailsRequested();
     else
         QLabel::keyPressEvent(event);
 }
@@ -54,6 +56,8 @@ void Wertanzeige::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::RightButton)
         emit menuRequested(event->globalPosition().toPoint());
+    else if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+        emit detailsRequested();
     else
         QLabel::mouseReleaseEvent(event);
 }

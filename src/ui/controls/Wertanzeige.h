@@ -5,7 +5,8 @@
 namespace zerna {
 
 /// One result value: number and unit stand in columns, so that the units of all lines are aligned. Takes the keyboard
-/// focus; Ctrl+C copies what it shows, the right mouse button or the menu key asks for its menu.
+/// focus; Ctrl+C copies what it shows, the right mouse button or the menu key asks for its menu, a click, Enter or the
+/// space bar for the details of its value.
 class Wertanzeige : public QLabel {
     Q_OBJECT
 
@@ -22,6 +23,7 @@ public:
 signals:
     void menuRequested(const QPoint& globalPosition);
     void copyRequested();
+    void detailsRequested();
 
 protected:
     void changeEvent(QEvent* event) override;

@@ -59,6 +59,9 @@ void Ergebnisgitter::createLine(const Groesse& zeile)
     connect(line, &Wertanzeige::menuRequested, this,
         [this, number = zeile.zeile](const QPoint& position) { emit menuRequested(number, position); });
     connect(line, &Wertanzeige::copyRequested, this, [this, number = zeile.zeile] { emit copyRequested(number); });
+    connect(line, &Wertanzeige::detailsRequested, this, [this, line, number = zeile.zeile] {
+        emit detailsRequested(number, {line->mapToGlobal(QPoint()), line->size()});
+    });
     m_anzeigen.at(k) = line;
 }
 

@@ -49,6 +49,8 @@ signals:
     void friedelStepped(int step);
     void menuRequested(int zeile, const QPoint& globalPosition);
     void copyRequested(int zeile);
+    /// The details of a line are wanted; the line's value stands in `area`, in screen coordinates.
+    void detailsRequested(int zeile, const QRect& area);
 
 protected:
     void changeEvent(QEvent* event) override;

@@ -1,5 +1,8 @@
 #include "ui/controls/Wertanzeige.h"
 
+#include <QSignalSpy>
+#include <QTest>
+
 #include <gtest/gtest.h>
 
 namespace zerna {
@@ -18,6 +21,21 @@ TEST(WertanzeigeTest, UnitsStandInAColumn)
     EXPECT_EQ(unit("-1234,56 eV"), einheit);
     EXPECT_NE(unit("1,5"), einheit) << "no unit, no columns";
     EXPECT_GE(anzeige.sizeHint().width(), NumberWidth + anzeige.fontMetrics().horizontalAdvance(" eV"));
+}
+
+TEST(WertanzeigeTest, ClickAndKeysAskForTheDetails)
+{
+    Wertanzeige anzeige;
+    anzeige.resize(160, 24);
+    QSignalSpy asked(&anzeige, &Wertanzeige::detailsRequested);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_A})
+        QTest::keyClick(&anzeige, key);
+    EXPECT_EQ(asked.count(), 3);
+    QTest::mouseClick(&anzeige, Qt::LeftButton);
+    QTest::mouseClick(&anzeige, Qt::RightButton);
+    QTest::mousePress(&anzeige, Qt::LeftButton);
+    QTest::mouseRelease(&anzeige, Qt::LeftButton, {}, QPoint(500, 5)); // taken back outside
+    EXPECT_EQ(asked.count(), 4);
 }
 
 } // namespace zerna
