@@ -212,10 +212,12 @@ struct Wiegen {
             throw Aufruffehler("--masse " + masse + ": keine gültige Zahl");
         umgebung.loadAlloy(komponenten.texte);
         const clsCalc& calc = umgebung.kern().calc();
-        if (calc.Element_Prozente(0) == 0)
-            throw Datenfehler(
-                "Komponente \"" + komponenten.texte.front() + "\": hat 0 at% und ist der Bezug der Rechnung");
-        const Tabelle tabelle = wiegetabelle(calc, umgebung.kern().eingabe().anzahl(), gesamt.wert);
+        const int anzahl = umgebung.kern().eingabe().anzahl();
+        if (const auto hindernis = sollmassenHindernis(calc, anzahl)) {
+            const auto komponente = static_cast<std::size_t>(hindernis->komponente);
+            throw Datenfehler("Komponente \"" + komponenten.texte.at(komponente) + "\": " + hindernis->grund);
+        }
+        const Tabelle tabelle = wiegetabelle(calc, anzahl, gesamt.wert);
         put(form.json ? alsJson(tabelle) : alsText(tabelle), ausgabe.datei);
     }
 

@@ -1,5 +1,6 @@
 #include "model/Einwaage.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "core/CheckedArithmetic.h"
@@ -11,10 +12,36 @@ namespace {
 
 constexpr std::string_view Zeilenende = "\r\n";
 
+bool hasAtommasse(const clsCalc& calc, int i)
+{
+    const float masse = calc.Element_Masse(i);
+    return !istUnbekannt(masse) && masse != 0;
+}
+
+/// Mass of component i in g/mol; error 5 if the element has none.
+double atommasse(const clsCalc& calc, int i)
+{
+    if (!hasAtommasse(calc, i))
+        throw Laufzeitfehler(Fehler::UngueltigesArgument);
+    return calc.Element_Masse(i);
+}
+
 /// Share of component i times its mass: the mass of i in one mole of the alloy, in g.
 double massOf(const clsCalc& calc, int i)
 {
-    return static_cast<double>(calc.Element_Prozente(i)) / 100 * calc.Element_Masse(i);
+    const double prozent = calc.Element_Prozente(i);
+    return prozent == 0 ? 0 : prozent / 100 * atommasse(calc, i);
+}
+
+/// The first component that is used (has a share, or was weighed) without an atomic mass.
+template <class Used>
+std::optional<Wiegehindernis> missingAtommasse(const clsCalc& calc, int komponentenzahl, const Used& used)
+{
+    for (int i = 0; i < komponentenzahl; ++i) {
+        if (used(i) && !hasAtommasse(calc, i))
+            return Wiegehindernis{i, "hat keine bekannte Atommasse"};
+    }
+    return std::nullopt;
 }
 
 } // namespace
@@ -34,20 +61,22 @@ std::vector<float> sollmassen(const clsCalc& calc, int komponentenzahl, float ge
 
 std::vector<float> sollmassenZu(const clsCalc& calc, int komponentenzahl, int referenz, float masse)
 {
-    const double perMole =
-        quotient(masse, static_cast<double>(calc.Element_Prozente(referenz)) * calc.Element_Masse(referenz));
+    const double perMole = quotient(masse, massOf(calc, referenz));
     std::vector<float> massen;
     for (int i = 0; i < komponentenzahl; ++i)
-        massen.push_back(toSingle(perMole * calc.Element_Prozente(i) * calc.Element_Masse(i)));
+        massen.push_back(toSingle(perMole * massOf(calc, i)));
     return massen;
 }
 
 std::vector<float> gewogeneAtomprozente(const clsCalc& calc, std::span<const float> massen)
 {
     const auto count = static_cast<int>(massen.size());
-    const float q = toSingle(quotient(calc.Element_Masse(0), massen.empty() ? 0 : massen[0]));
+    const float q = toSingle(quotient(atommasse(calc, 0), massen.empty() ? 0 : massen[0]));
     float s = 1;
-    const auto moles = [&](int i) { return quotient(massen[static_cast<std::size_t>(i)], calc.Element_Masse(i)); };
+    const auto moles = [&](int i) {
+        const float masse = massen[static_cast<std::size_t>(i)];
+        return masse == 0 ? 0 : quotient(masse, atommasse(calc, i));
+    };
     for (int i = 1; i < count; ++i)
         s = toSingle(s + moles(i) * q);
     const float w = toSingle(quotient(q, s));
@@ -55,6 +84,23 @@ std::vector<float> gewogeneAtomprozente(const clsCalc& calc, std::span<const flo
     for (int i = 0; i < count; ++i)
         prozente.push_back(toSingle(moles(i) * w * 100));
     return prozente;
+}
+
+std::optional<Wiegehindernis> sollmassenHindernis(const clsCalc& calc, int komponentenzahl)
+{
+    if (calc.Element_Prozente(0) == 0)
+        return Wiegehindernis{0, "hat 0 at% und ist der Bezug der Rechnung"};
+    return missingAtommasse(calc, komponentenzahl, [&](int i) { return calc.Element_Prozente(i) != 0; });
+}
+
+std::optional<Wiegehindernis> atomprozentHindernis(const clsCalc& calc, std::span<const float> massen)
+{
+    if (const auto found = std::ranges::find_if(massen, istUnbekannt); found != massen.end())
+        return Wiegehindernis{static_cast<int>(found - massen.begin()), "hat keine gültige Masse"};
+    if (!massen.empty() && massen[0] == 0)
+        return Wiegehindernis{0, "hat 0 mg und ist der Bezug der Rechnung"};
+    return missingAtommasse(
+        calc, static_cast<int>(massen.size()), [&](int i) { return massen[static_cast<std::size_t>(i)] != 0; });
 }
 
 std::vector<float> massenprozente(std::span<const float> massen)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -10,8 +11,8 @@
 
 /// The weighing of an alloy: masses of the components for a wanted total, and what weighed masses come to. All masses
 /// are in milligrams, all results single precision; component 0 is the reference of every ratio, so a share or a mass
-/// of 0 there is a division by zero even where the result would not need it. Spans and results have one value per
-/// component of the alloy.
+/// of 0 there is a division by zero even where the result would not need it. A component that has a share or was
+/// weighed but has no atomic mass is error 5. Spans and results have one value per component of the alloy.
 namespace zerna {
 
 /// Mass of each component for a wanted total mass.
@@ -22,6 +23,20 @@ std::vector<float> sollmassenZu(const clsCalc& calc, int komponentenzahl, int re
 
 /// The at% that weighed masses give.
 std::vector<float> gewogeneAtomprozente(const clsCalc& calc, std::span<const float> massen);
+
+/// Which component keeps masses or at% from being computed, and why.
+struct Wiegehindernis {
+    int komponente = 0;
+    std::string grund; ///< in German, the rest of a sentence that begins with the component's name
+
+    bool operator==(const Wiegehindernis&) const = default;
+};
+
+/// Why there are no target masses.
+std::optional<Wiegehindernis> sollmassenHindernis(const clsCalc& calc, int komponentenzahl);
+
+/// Why there are no at%; a mass may be Unbekannt.
+std::optional<Wiegehindernis> atomprozentHindernis(const clsCalc& calc, std::span<const float> massen);
 
 /// The share of each mass in their sum, in percent.
 std::vector<float> massenprozente(std::span<const float> massen);

@@ -118,8 +118,14 @@ void Rechenkern::setAlloy(std::span<const Komponentenangabe> angaben)
     m_eingabe.elementeSetzen();
     m_komponentenzahl = m_eingabe.anzahl();
     m_calc.Legierung_Setzen(m_legierung.komponenten());
-    if (istUnbekannt(m_calc.Valenz()))
+    if (!istUnbekannt(m_calc.Valenz()))
+        return;
+    const auto hasNoMass = [](const Legierungskomponente& k) { return istUnbekannt(k.element->Masse()); };
+    const auto found = std::ranges::find_if(komponenten(), hasNoMass);
+    if (found == komponenten().end())
         throw Datenfehler("Die Legierung lässt sich mit diesen Dichten und Valenzen nicht berechnen");
+    const auto zeile = static_cast<std::size_t>(found - komponenten().begin());
+    throw Datenfehler("Komponente " + inQuotes(angaben[zeile].text) + ": hat keine bekannte Atommasse");
 }
 
 void Rechenkern::enterElement(int zeile, const Komponentenangabe& angabe)

@@ -80,6 +80,38 @@ TEST_F(EinwaageTest, FirstComponentIsDividedByThoughTheResultWouldNotNeedIt)
     }
 }
 
+TEST_F(EinwaageTest, WithoutAnAtomicMassNothingIsComputedAndTheComponentIsNamed)
+{
+    using Hindernis = std::optional<Wiegehindernis>;
+    const Hindernis none;
+    const auto noMass = [](int k) { return Hindernis({k, "hat keine bekannte Atommasse"}); };
+    struct Row {
+        const char* name;
+        Alloy alloy;
+        Masses weighed;
+        Hindernis target, percent;
+    };
+    for (const auto& [name, alloy, weighed, target, percent] : {
+             Row{"unknown", {{"A", 10, 50}, {"B", Unbekannt, 50}}, {5, 5}, noMass(1), noMass(1)},
+             {"zero", {{"A", 10, 50}, {"B", 0, 50}}, {5, 5}, noMass(1), noMass(1)},
+             {"the first", {{"A", Unbekannt, 50}, {"B", 20, 50}}, {5, 0}, noMass(0), noMass(0)},
+             {"without a share", {{"A", 10, 100}, {"B", Unbekannt, 0}}, {5, 0}, none, none},
+             {"not a number", {{"A", 10, 50}, {"B", 20, 50}}, {5, Unbekannt}, none,
+                 Hindernis({1, "hat keine gültige Masse"})},
+             {"the reference", {{"A", 10, 0}, {"B", 20, 100}}, {0, 5},
+                 Hindernis({0, "hat 0 at% und ist der Bezug der Rechnung"}),
+                 Hindernis({0, "hat 0 mg und ist der Bezug der Rechnung"})},
+         }) {
+        SCOPED_TRACE(name);
+        setAlloy(alloy);
+        EXPECT_EQ(sollmassenHindernis(calc, count), target);
+        EXPECT_EQ(atomprozentHindernis(calc, weighed), percent);
+        EXPECT_EQ(errorNumber([this] { sollmassen(calc, count, 1000); }) == 0, !target);
+        const bool isReadable = std::ranges::none_of(weighed, istUnbekannt);
+        EXPECT_EQ(errorNumber([&, m = weighed] { gewogeneAtomprozente(calc, m); }) == 0, !percent || !isReadable);
+    }
+}
+
 TEST_F(EinwaageTest, MassesAsTexts)
 {
     for (const auto& [mass, text] : {std::pair(2.980228e-7F, "2,98E-7"), {0.0123456F, "0,01235"}, {0.1F, "0,100"},

@@ -1,5 +1,7 @@
 #include "ui/weighing/Massenfeld.h"
 
+#include <QFocusEvent>
+
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
 #include "ui/platform/QtText.h"
@@ -18,6 +20,16 @@ void Massenfeld::read()
 {
     m_masse = ParseValue(fromQt(text()));
     setFehler(istUnbekannt(m_masse) ? QStringLiteral("Keine gültige Zahl") : QString());
+}
+
+void Massenfeld::focusOutEvent(QFocusEvent* event)
+{
+    Wertfeld::focusOutEvent(event);
+    const Qt::FocusReason reason = event->reason();
+    const bool comesBack =
+        reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
+    if (!comesBack)
+        emit left();
 }
 
 } // namespace zerna

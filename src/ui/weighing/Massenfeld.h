@@ -14,6 +14,13 @@ public:
     /// Unbekannt while the text is no mass, 0 while there is none.
     float masse() const { return m_masse; }
 
+signals:
+    /// The focus went to another field of the window, not to a menu or another window.
+    void left();
+
+protected:
+    void focusOutEvent(QFocusEvent* event) override;
+
 private:
     void read();
 

@@ -57,8 +57,9 @@ Wiegezeile::Wiegezeile(int row, QWidget* panel)
     , m_massProzent(makeLabel("MassProzent", row, panel))
 {
     m_label->setObjectName(numberedName("Label", row));
-    m_istmasse->setHinweis(QStringLiteral("Gewogene Masse; Eingabetaste: die übrigen Sollmassen darauf beziehen"));
+    zeigeMangel({}, false);
     connect(m_istmasse, &Massenfeld::textChanged, this, &Wiegezeile::istmasseEntered);
+    connect(m_istmasse, &Massenfeld::left, this, &Wiegezeile::istmasseLeft);
     connect(m_istmasse, &Massenfeld::returnPressed, this, &Wiegezeile::returnPressed);
     hide();
 }
@@ -110,6 +111,13 @@ void Wiegezeile::hide()
 float Wiegezeile::istmasse() const { return m_istmasse->masse(); }
 
 bool Wiegezeile::istGewogen() const { return !m_istmasse->text().isEmpty(); }
+
+void Wiegezeile::zeigeMangel(const QString& grund, bool istSchuld)
+{
+    static const QString hint = QStringLiteral("Gewogene Masse; Eingabetaste: die übrigen Sollmassen darauf beziehen");
+    m_istmasse->setHinweis(grund.isEmpty() ? hint : grund);
+    m_istmasse->setPlaceholderText(istSchuld ? QStringLiteral("fehlt") : QString());
+}
 
 void Wiegezeile::zeigeSollmasse(const QString& text) { m_sollmasse->setText(text); }
 

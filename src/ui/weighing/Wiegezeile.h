@@ -33,6 +33,10 @@ public:
     float istmasse() const;
     bool istGewogen() const; ///< something has been typed, be it valid or not
 
+    /// Says at the field of the mass weighed why the masses give no at%; empty if they do. An empty field that is to
+    /// blame is marked as missing.
+    void zeigeMangel(const QString& grund, bool istSchuld);
+
     void zeigeSollmasse(const QString& text);
 
     /// The share in a total mass, in percent; `bezug` says in which.
@@ -48,6 +52,7 @@ public:
 
 signals:
     void istmasseEntered();
+    void istmasseLeft();
     void returnPressed(); ///< in the field of the mass weighed
 
 private:

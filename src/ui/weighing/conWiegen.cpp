@@ -2,9 +2,13 @@
 
 #include <QDate>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QListWidget>
+#include <QTimer>
 #include <QVBoxLayout>
+
+#include <utility>
 
 #include "core/CheckedArithmetic.h"
 #include "core/Fehlermeldung.h"
@@ -49,6 +53,7 @@ void conWiegen::createControls()
     for (int row = 0; row < MaxKomponenten; ++row) {
         m_zeilen.at(static_cast<std::size_t>(row)) = new Wiegezeile(row, this);
         connect(&at(row), &Wiegezeile::istmasseEntered, this, &conWiegen::Istmasse_Change);
+        connect(&at(row), &Wiegezeile::istmasseLeft, this, &conWiegen::reportLater);
         connect(&at(row), &Wiegezeile::returnPressed, this, [this, row] { Istmasse_KeyDown(row); });
     }
     m_gesamt = new QLabel(this);
@@ -128,12 +133,13 @@ void conWiegen::Aktualisieren(const Eingabe& eingabe)
     } catch (const Laufzeitfehler&) {
         clearWeighed();
     }
+    showMangel();
     verlustChanged();
 }
 
 void conWiegen::sollMasseChanged()
 {
-    m_hinweis->clear();
+    m_sollGrund.clear();
     try {
         showTargets();
     } catch (const Laufzeitfehler& error) {
@@ -143,17 +149,23 @@ void conWiegen::sollMasseChanged()
                 zeile->zeigeMassenanteil({}, {});
         }
         if (!istUnbekannt(m_txtSollMasse->masse())) // else the field is marked
-            m_hinweis->setText(QStringLiteral("Sollmassen nicht berechenbar: %1.").arg(grundFor(error)));
+            m_sollGrund = QStringLiteral("Sollmassen nicht berechenbar: %1.").arg(sollGrund(error));
     }
+    showHinweis();
 }
 
 /// Why there are no target masses, in terms of the alloy where that is to blame.
-QString conWiegen::grundFor(const Laufzeitfehler& error) const
+QString conWiegen::sollGrund(const Laufzeitfehler& error) const
 {
-    const clsCalc& calc = m_programm.Calc();
-    return calc.Element_Prozente(0) == 0
-        ? QStringLiteral("%1 hat 0 at% und ist der Bezug der Rechnung").arg(toQt(calc.Element_Name(0)))
-        : toQt(error.what());
+    const auto hindernis = sollmassenHindernis(m_programm.Calc(), m_anzahl);
+    return hindernis ? toQt(m_programm.Calc().Element_Name(hindernis->komponente) + " " + hindernis->grund)
+                     : toQt(error.what());
+}
+
+void conWiegen::showHinweis()
+{
+    const bool both = !m_sollGrund.isEmpty() && !m_istGrund.isEmpty();
+    m_hinweis->setText(m_sollGrund + (both ? QStringLiteral("\n") : QString()) + m_istGrund);
 }
 
 /// Target masses and, until something is weighed, the mass percents that they mean.
@@ -191,16 +203,54 @@ bool conWiegen::isAnythingWeighed() const
 
 void conWiegen::Istmasse_Change()
 {
-    reporting(m_programm.boxes(), "Istmasse_Change", Steuerelement, [this] {
-        try {
-            showWeighed();
-        } catch (const Laufzeitfehler&) {
-            clearWeighed();
-            verlustChanged();
-            throw;
-        }
-        verlustChanged();
+    m_meldung.reset();
+    try {
+        showWeighed();
+    } catch (const Laufzeitfehler& error) {
+        clearWeighed();
+        m_meldung = error;
+    }
+    showMangel();
+    verlustChanged();
+}
+
+/// Out of the focus event, and not while a mouse button is down: its release would be lost to the box.
+void conWiegen::reportLater()
+{
+    constexpr int Wait = 20; // ms
+    if (!m_meldung)
+        return;
+    QTimer::singleShot(QGuiApplication::mouseButtons() == Qt::NoButton ? 0 : Wait, this, [this] {
+        if (QGuiApplication::mouseButtons() == Qt::NoButton)
+            report();
+        else
+            reportLater();
     });
+}
+
+/// Shows once what the last change of a mass has run into.
+void conWiegen::report()
+{
+    const std::optional<Laufzeitfehler> error = std::exchange(m_meldung, std::nullopt);
+    if (error)
+        reporting(m_programm.boxes(), "Istmasse_Change", Steuerelement, [&error] { throw *error; });
+}
+
+/// Says in the fields and below them what the masses lack for their at%.
+void conWiegen::showMangel()
+{
+    std::vector<float> massen;
+    for (int row = 0; row < m_anzahl; ++row)
+        massen.push_back(at(row).istmasse());
+    const clsCalc& calc = m_programm.Calc();
+    const auto hindernis = isAnythingWeighed() ? atomprozentHindernis(calc, massen) : std::nullopt;
+    m_istGrund.clear();
+    if (hindernis)
+        m_istGrund = QStringLiteral("Atomprozente nicht berechenbar: %1 %2.")
+                         .arg(toQt(calc.Element_Name(hindernis->komponente)), toQt(hindernis->grund));
+    for (int row = 0; row < m_anzahl; ++row)
+        at(row).zeigeMangel(m_istGrund, hindernis && hindernis->komponente == row);
+    showHinweis();
 }
 
 /// Sum, at%, deviation and mass percent of what was weighed; with nothing weighed the shares of the target masses.
@@ -236,6 +286,7 @@ void conWiegen::clearWeighed()
 /// The mass weighed in this row becomes the reference for the others' target masses.
 void conWiegen::Istmasse_KeyDown(int row)
 {
+    report();
     const clsCalc& calc = m_programm.Calc();
     if (calc.Element_Prozente(row) == 0) {
         m_programm.boxes().show(Icon::Exclamation, "Zerna @ Marra",

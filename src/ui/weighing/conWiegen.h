@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -37,12 +38,16 @@ private:
 
     void sollMasseChanged();
     void Istmasse_Change();
+    void reportLater();
+    void report();
     void Istmasse_KeyDown(int row);
     void verlustChanged();
-    QString grundFor(const Laufzeitfehler& error) const;
+    QString sollGrund(const Laufzeitfehler& error) const;
+    void showHinweis();
     void showTargets();
     void showWeighed();
     void clearWeighed();
+    void showMangel();
     std::vector<float> istmassen() const;
     bool isAnythingWeighed() const;
     std::string protokoll() const;
@@ -54,6 +59,9 @@ private:
     Programm& m_programm;
     SaveFileDialog& m_saveDialog;
     int m_anzahl = 0; // components of the alloy that is weighed
+    std::optional<Laufzeitfehler> m_meldung; // of the last change of a mass, not shown yet
+    QString m_sollGrund; // why there are no target masses
+    QString m_istGrund; // why there are no at%
     QLabel* m_sollMasseCaption = nullptr;
     Massenfeld* m_txtSollMasse = nullptr;
     std::array<Wiegezeile*, MaxKomponenten> m_zeilen{};

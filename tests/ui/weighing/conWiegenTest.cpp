@@ -24,7 +24,7 @@ struct conWiegenTest : FakeDesk {
     }
 };
 
-TEST_F(conWiegenTest, EachEditOfAMassReportsOnce)
+TEST_F(conWiegenTest, AMassIsReportedWhenItsFieldIsLeftAndOnlyOnce)
 {
     const std::vector<const char*> weighed{"IstProzent_0", "IstProzent_1", "Abweichung_0", "lblGesamtmasse"};
     const std::string end = ") in procedure Istmasse_Change of Benutzersteuerelement conWiegen\n";
@@ -33,19 +33,40 @@ TEST_F(conWiegenTest, EachEditOfAMassReportsOnce)
         const char* name;
         const char* field;
         const char* typed;
-        std::string messages;
         const char* shown;
+        const char* missing; // said below the masses
+        std::string messages;
     };
-    for (const auto& [name, field, typed, messages, shown] : {
-             Row{"two letters", "Istmasse_1", "70", division + division, "|||Gesamtmasse = 70 mg"},
-             {"too much", "Istmasse_0", "298,048", "", "90,932|9,0679|+40,93|Gesamtmasse = 368,05 mg"},
-             {"exactly", "Istmasse_1", "701.952", "", "50|50|0,00|Gesamtmasse = 1000 mg"},
-             {"nothing stale", "Istmasse_1", "7x", "Zerna: Error 13 (Typen unverträglich" + end, "|||"},
+    for (const auto& [name, field, typed, shown, missing, messages] : {
+             Row{"the second first", "Istmasse_1", "70", "|||Gesamtmasse = 70 mg",
+                 "Atomprozente nicht berechenbar: Aluminium hat 0 mg und ist der Bezug der Rechnung.", division},
+             {"below one", "Istmasse_0", "0,85", "2,7803|97,22|-47,22|Gesamtmasse = 70,85 mg", "", ""},
+             {"too much", "Istmasse_0", "298,048", "90,932|9,0679|+40,93|Gesamtmasse = 368,05 mg", "", ""},
+             {"exactly", "Istmasse_1", "701.952", "50|50|0,00|Gesamtmasse = 1000 mg", "", ""},
+             {"nothing stale", "Istmasse_1", "7x", "|||",
+                 "Atomprozente nicht berechenbar: Kupfer hat keine gültige Masse.",
+                 "Zerna: Error 13 (Typen unverträglich" + end},
          }) {
+        SCOPED_TRACE(name);
         type(field, typed);
-        EXPECT_EQ(heard(), messages) << name;
-        EXPECT_EQ(texts(weighed), shown) << name;
+        EXPECT_EQ(texts(weighed), shown);
+        EXPECT_EQ(text("lblHinweis"), missing);
+        EXPECT_TRUE(find("Istmasse_0").toolTip() == missing || *missing == '\0');
+        EXPECT_EQ(heard(), "") << "between keys";
+        EXPECT_EQ(text(field), typed);
+        for (const char* const next : {"txtVerlust", "txtSollMasse"})
+            find(next).setFocus();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(heard(), messages);
     }
+    type("Istmasse_0", "");
+    type("Istmasse_1", "7");
+    EXPECT_EQ(find<QLineEdit>("Istmasse_0").placeholderText(), "fehlt");
+    QTest::keyClick(&find("Istmasse_1"), Qt::Key_Return);
+    EXPECT_EQ(heard(), division) << "a failure is followed by another edit: one box";
+    find("txtVerlust").setFocus();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(heard(), "") << "told on Enter already";
 }
 
 TEST_F(conWiegenTest, HintSaysWhyThereAreNoTargetMasses)
