@@ -67,10 +67,7 @@ void writeFile(const std::string& file, std::string_view bytes)
 
 std::string readFile(const std::string& file)
 {
-    return withFile(file, [](const std::filesystem::path& path) {
-        Datei input(path, Zugriff::Eingabe);
-        return std::string(input.readText(static_cast<std::size_t>(input.remaining())));
-    });
+    return withFile(file, [](const std::filesystem::path& path) { return readFile(path); });
 }
 
 } // namespace zerna

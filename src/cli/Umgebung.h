@@ -42,7 +42,7 @@ void put(const std::string& text, const std::string& file);
 /// Writes bytes to a file. Throws Datenfehler, which names the file.
 void writeFile(const std::string& file, std::string_view bytes);
 
-/// All bytes of a file; 0 for what is no ordinary file. Throws Datenfehler, which names the file.
+/// All bytes of a file. Throws Datenfehler, which names the file.
 std::string readFile(const std::string& file);
 
 } // namespace zerna

@@ -3,7 +3,7 @@
 #include <cerrno>
 #include <system_error>
 
-#include "core/Plattform.h"
+#include "core/Plattformdatei.h"
 
 namespace zerna {
 
@@ -13,7 +13,7 @@ constexpr std::size_t Blockgroesse = 16384;
 
 int closeFile(std::FILE* file) { return std::fclose(file); }
 
-[[noreturn]] void throwSystemError() { throw Laufzeitfehler(fehlerOfSystem(errno)); }
+[[noreturn]] void throwSystemError() { throw Laufzeitfehler(systemfehler(errno)); }
 
 std::FILE* openWith(const std::filesystem::path& path, Zugriff zugriff)
 {
@@ -29,7 +29,7 @@ std::FILE* openWith(const std::filesystem::path& path, Zugriff zugriff)
         return file;
     if (errno == ENOENT)
         return openFile(path, "w+b");
-    return errno == EACCES || errno == EROFS ? openFile(path, "rb") : nullptr;
+    return errno == EACCES || errno == EPERM || errno == EROFS ? openFile(path, "rb") : nullptr;
 }
 
 } // namespace
@@ -38,15 +38,15 @@ Datei::Datei(const std::filesystem::path& path, Zugriff zugriff)
     : m_file(openWith(path, zugriff), &closeFile)
 {
     if (!m_file) {
-        const bool folderMissing =
-            errno == ENOENT && path.has_parent_path() && !std::filesystem::exists(path.parent_path());
-        throw Laufzeitfehler(folderMissing ? Fehler::PfadNichtGefunden : fehlerOfSystem(errno));
+        const int error = errno;
+        std::error_code unknown;
+        if (error == ENOENT && path.has_parent_path() && !std::filesystem::exists(path.parent_path(), unknown))
+            throw Laufzeitfehler(Fehler::PfadNichtGefunden);
+        throw Laufzeitfehler(systemfehler(error));
     }
-    std::error_code noOrdinaryFile;
-    const auto size = std::filesystem::file_size(path, noOrdinaryFile);
-    if (noOrdinaryFile == std::errc::is_a_directory) // opens for reading here and there, but has no end
-        throw Laufzeitfehler(Fehler::PfadZugriff);
-    m_size = noOrdinaryFile ? 0 : size;
+    std::error_code unknown;
+    const auto size = std::filesystem::file_size(path, unknown);
+    m_size = unknown ? 0 : size;
 }
 
 Datei::Datei(std::string bytes)
@@ -83,7 +83,7 @@ bool Datei::tryFill(std::size_t count)
         m_buffer.resize(old + got);
         m_readIntoBuffer += got;
         if (got == 0 && std::ferror(handle()) != 0)
-            throw Laufzeitfehler(fehlerOfSystem(systemError));
+            throw Laufzeitfehler(systemfehler(systemError));
         if (got == 0)
             return false;
     }
@@ -129,7 +129,7 @@ void Datei::write(std::string_view bytes)
         m_writing = true;
     }
     if (std::fwrite(bytes.data(), 1, bytes.size(), handle()) != bytes.size()) {
-        m_writeError = fehlerOfSystem(errno);
+        m_writeError = systemfehler(errno);
         throw Laufzeitfehler(*m_writeError);
     }
 }
@@ -150,34 +150,51 @@ void Datei::close()
     const bool closed = std::fclose(file) == 0;
     const int systemError = errno;
     if (m_writeError || !closed)
-        throw Laufzeitfehler(m_writeError.value_or(fehlerOfSystem(systemError)));
+        throw Laufzeitfehler(m_writeError.value_or(systemfehler(systemError)));
 }
 
-Fehler fehlerOfSystem(int systemError)
+std::string readFile(const std::filesystem::path& path)
 {
-    switch (systemError) {
+    constexpr std::uint64_t Largest = 64U << 20U;
+    Datei file(path, Zugriff::Eingabe);
+    if (file.remaining() > Largest)
+        throw Laufzeitfehler(Fehler::EinAusgabefehler, "die Datei ist größer als 64 MB");
+    return std::string(file.readText(static_cast<std::size_t>(file.remaining())));
+}
+
+Laufzeitfehler systemfehler(int error)
+{
+    switch (error) {
     case ENOENT:
-        return Fehler::DateiNichtGefunden;
+        return Laufzeitfehler(Fehler::DateiNichtGefunden);
     case ENOTDIR:
-        return Fehler::PfadNichtGefunden;
+        return Laufzeitfehler(Fehler::PfadNichtGefunden);
     case EACCES:
     case EPERM:
+        return Laufzeitfehler(Fehler::ZugriffVerweigert);
     case EROFS:
-        return Fehler::ZugriffVerweigert;
+        return Laufzeitfehler(Fehler::ZugriffVerweigert, "der Datenträger ist schreibgeschützt");
     case EISDIR:
+        return Laufzeitfehler(Fehler::PfadZugriff, "das ist ein Ordner");
+    case ENXIO:
+        return Laufzeitfehler(Fehler::PfadZugriff, "das ist keine gewöhnliche Datei");
+    case ELOOP:
+        return Laufzeitfehler(Fehler::PfadZugriff, "die Verknüpfung führt im Kreis");
     case EEXIST:
     case EBUSY:
-        return Fehler::PfadZugriff;
+        return Laufzeitfehler(Fehler::PfadZugriff);
     case ENAMETOOLONG:
     case EINVAL:
-        return Fehler::DateinummerFalsch;
+        return Laufzeitfehler(Fehler::DateinummerFalsch);
     case ENOSPC:
 #ifdef EDQUOT
     case EDQUOT:
 #endif
-        return Fehler::DatentraegerVoll;
+        return Laufzeitfehler(Fehler::DatentraegerVoll);
+    case EFBIG:
+        return Laufzeitfehler(Fehler::DatentraegerVoll, "so groß darf eine Datei hier nicht werden");
     default:
-        return Fehler::EinAusgabefehler;
+        return Laufzeitfehler(Fehler::EinAusgabefehler);
     }
 }
 

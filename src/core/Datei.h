@@ -18,11 +18,11 @@ namespace zerna {
 enum class Zugriff : int {
     Ausgabe = 0, ///< write a new text file; an existing one is emptied
     Eingabe = 1, ///< read a text file
-    Binaer = 2, ///< read and write bytes; a missing file is created, a write-protected one opened for reading
+    Binaer = 2, ///< read and write bytes; a missing file is created, one that must not be written opened for reading
 };
 
 /// One open file: bytes in and out at the current position. Every failure is a Laufzeitfehler; a read never goes past
-/// the end (error 62).
+/// the end (error 62). Folders, pipes and devices are no files (error 75).
 class Datei {
 public:
     Datei(const std::filesystem::path& path, Zugriff zugriff);
@@ -57,7 +57,7 @@ public:
 
     bool atEnd();
 
-    /// Bytes between the position and the end of the file; 0 for what is no ordinary file.
+    /// Bytes between the position and the end of the file.
     std::uint64_t remaining();
 
     /// Writes what is still buffered and closes; error 61 if the disk is full. Later calls do nothing.
@@ -77,11 +77,14 @@ private:
     std::uint64_t m_size = 0; // of the file when it was opened
     std::uint64_t m_readIntoBuffer = 0; // bytes of the file that have passed into the buffer
     bool m_writing = false;
-    std::optional<Fehler> m_writeError;
+    std::optional<Laufzeitfehler> m_writeError;
 };
 
+/// All bytes of a file that fits into memory with ease; an error for one of more than 64 MB.
+std::string readFile(const std::filesystem::path& path);
+
 /// The run-time error that a failed call of the system means, from its error code (errno).
-Fehler fehlerOfSystem(int systemError);
+Laufzeitfehler systemfehler(int error);
 
 /// A UTF-8 text as the name of a file, and back.
 std::filesystem::path pathFromUtf8(std::string_view utf8);

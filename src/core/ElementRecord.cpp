@@ -63,11 +63,11 @@ void readElementRecord(Datei& file, ElementRecord& record)
     forEachSpalte([&](const Elementspalte&, auto field) { readField(file, record.*field); });
 }
 
-void writeElementRecord(Datei& file, const ElementRecord& record)
+std::string elementRecordBytes(const ElementRecord& record)
 {
     std::string bytes;
     forEachSpalte([&](const Elementspalte&, auto field) { writeField(bytes, record.*field); });
-    file.write(bytes);
+    return bytes;
 }
 
 } // namespace zerna

@@ -41,8 +41,7 @@ struct ElementRecord {
 /// tabulated value and is read as Unbekannt.
 void readElementRecord(Datei& file, ElementRecord& record);
 
-/// Writes a record in the same layout. Error 6 for a text of more than 65535 bytes; nothing is
-/// written then.
-void writeElementRecord(Datei& file, const ElementRecord& record);
+/// A record in the same layout. Error 6 for a text of more than 65535 bytes.
+std::string elementRecordBytes(const ElementRecord& record);
 
 } // namespace zerna

@@ -39,14 +39,11 @@ void loadElements(Dateinummern& files, int number, MessageBoxes& boxes, ElementC
 
 void saveElements(const std::filesystem::path& path, std::span<const ElementRecord> records)
 {
-    Exportdatei target(path);
-    Datei file(target.writtenFile(), Zugriff::Ausgabe);
     const auto count = static_cast<std::int32_t>(records.size());
-    file.write({reinterpret_cast<const char*>(&count), sizeof count});
+    std::string bytes(reinterpret_cast<const char*>(&count), sizeof count);
     for (const ElementRecord& record : records)
-        writeElementRecord(file, record);
-    file.close(); // a full disk ends here
-    target.commit();
+        bytes += elementRecordBytes(record);
+    writeExport(path, bytes);
 }
 
 } // namespace zerna

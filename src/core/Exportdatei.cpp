@@ -3,96 +3,137 @@
 #include <cerrno>
 #include <string>
 #include <system_error>
+#include <utility>
 
 #include "core/Datei.h"
-#include "core/Plattform.h"
+#include "core/Plattformdatei.h"
 
 namespace zerna {
 
 namespace {
 
-/// The target with links resolved, so that a link keeps pointing at the file that is replaced.
-std::filesystem::path resolved(const std::filesystem::path& target)
+/// The file that a write to the target reaches, links followed even where they lead to no file yet.
+std::filesystem::path behindLinks(std::filesystem::path target)
 {
-    std::error_code missing;
-    const auto path = std::filesystem::canonical(target, missing);
-    return missing ? target : path;
+    constexpr int MostLinks = 40;
+    std::error_code noLink;
+    for (int links = 0; links <= MostLinks; ++links) {
+        const std::filesystem::path next = std::filesystem::read_symlink(target, noLink);
+        if (noLink)
+            return target;
+        target = target.parent_path() / next;
+    }
+    throw Laufzeitfehler(systemfehler(ELOOP));
 }
 
-/// An existing file that must not be written would be replaced by a rename all the same.
-void requireWritable(const std::filesystem::path& target)
+/// Whether there is a file to replace; an error if it must not be written.
+bool isWritableFile(const std::filesystem::path& file)
 {
-    std::FILE* const file = openFile(target, "r+b");
-    if (file == nullptr)
-        throw Laufzeitfehler(fehlerOfSystem(errno));
-    std::fclose(file);
+    std::FILE* const old = openFile(file, "r+b");
+    if (old == nullptr && errno != ENOENT)
+        throw Laufzeitfehler(systemfehler(errno));
+    if (old != nullptr)
+        std::fclose(old);
+    return old != nullptr;
 }
 
-/// A short name that no file of the folder has.
-std::filesystem::path freeNameIn(const std::filesystem::path& folder)
+[[noreturn]] void throwNotCreated(const std::filesystem::path& folder, int error)
 {
     std::error_code unknown;
-    std::filesystem::path name;
-    int number = 0;
-    do {
-        name = folder / (".zerna-" + std::to_string(number++) + ".neu");
-    } while (
-        std::filesystem::symlink_status(name, unknown).type() != std::filesystem::file_type::not_found && !unknown);
-    return name;
+    if (!folder.empty() && !std::filesystem::exists(folder, unknown))
+        throw Laufzeitfehler(Fehler::PfadNichtGefunden);
+    if (error == EACCES || error == EPERM || error == ENOENT)
+        throw Laufzeitfehler(Fehler::ZugriffVerweigert, "in diesem Ordner lässt sich keine Datei anlegen");
+    throw Laufzeitfehler(systemfehler(error));
 }
 
-/// The new file may be read and written by whom the old one could be.
-void keepPermissions(const std::filesystem::path& from, const std::filesystem::path& to)
+/// The new version of a file: beside it until it takes its place, and gone if it does not.
+class Neufassung {
+public:
+    Neufassung(const std::filesystem::path& target, bool replaces)
+    {
+        constexpr int Cleaned = 16; // names that are looked at for what killed runs have left
+        for (int number = 0; number < Cleaned; ++number)
+            removeLeftover(nameIn(target.parent_path(), number));
+        for (int number = 0; m_file == nullptr; ++number) {
+            m_name = nameIn(target.parent_path(), number);
+            m_file = createFile(m_name, replaces);
+            if (m_file == nullptr && errno != EEXIST)
+                throwNotCreated(target.parent_path(), errno);
+        }
+    }
+
+    ~Neufassung()
+    {
+        if (m_file != nullptr)
+            discard(m_name, m_file);
+    }
+
+    Neufassung(const Neufassung&) = delete;
+    Neufassung& operator=(const Neufassung&) = delete;
+
+    void write(std::string_view bytes)
+    {
+        if (std::fwrite(bytes.data(), 1, bytes.size(), m_file) != bytes.size() || !writeThrough(m_file))
+            throw Laufzeitfehler(systemfehler(errno));
+    }
+
+    /// Whether nothing of the old file but its bytes would be lost.
+    bool canReplace(const std::filesystem::path& old)
+    {
+        std::error_code unknown;
+        return std::filesystem::hard_link_count(old, unknown) <= 1 && takeRightsOf(old, m_file);
+    }
+
+    void takePlaceOf(const std::filesystem::path& target)
+    {
+        if (!moveInto(target, m_name, std::exchange(m_file, nullptr)))
+            throw Laufzeitfehler(systemfehler(errno));
+    }
+
+private:
+    static std::filesystem::path nameIn(const std::filesystem::path& folder, int number)
+    {
+        return folder / (".zerna-" + std::to_string(number) + ".neu");
+    }
+
+    std::filesystem::path m_name;
+    std::FILE* m_file = nullptr;
+};
+
+void rewrite(const std::filesystem::path& file, std::string_view bytes)
 {
-    std::error_code ignored;
-    const auto status = std::filesystem::status(from, ignored);
-    if (std::filesystem::is_regular_file(status))
-        std::filesystem::permissions(to, status.permissions(), ignored);
+    Datei output(file, Zugriff::Ausgabe);
+    output.write(bytes);
+    output.close();
+}
+
+/// Writes into a file that must stay the same one; what fails is undone.
+void overwrite(const std::filesystem::path& file, std::string_view bytes)
+{
+    const std::string before = readFile(file);
+    try {
+        rewrite(file, bytes);
+    } catch (const Laufzeitfehler&) {
+        rewrite(file, before);
+        throw;
+    }
 }
 
 } // namespace
 
-Exportdatei::Exportdatei(const std::filesystem::path& target)
-    : m_target(resolved(target))
-    , m_written(m_target)
-{
-    std::error_code unknown;
-    const auto status = std::filesystem::status(m_target, unknown);
-    if (std::filesystem::is_directory(status))
-        throw Laufzeitfehler(Fehler::PfadZugriff);
-    if (std::filesystem::is_regular_file(status))
-        requireWritable(m_target);
-    else if (std::filesystem::exists(status))
-        return;
-    m_written = freeNameIn(m_target.parent_path());
-}
-
-Exportdatei::~Exportdatei()
-{
-    std::error_code ignored;
-    if (m_written != m_target)
-        std::filesystem::remove(m_written, ignored);
-}
-
-void Exportdatei::commit()
-{
-    if (m_written == m_target)
-        return;
-    keepPermissions(m_target, m_written);
-    std::error_code failed;
-    std::filesystem::rename(m_written, m_target, failed);
-    if (failed)
-        throw Laufzeitfehler(fehlerOfSystem(failed.value()));
-    m_written = m_target;
-}
-
 void writeExport(const std::filesystem::path& target, std::string_view bytes)
 {
-    Exportdatei file(target);
-    Datei output(file.writtenFile(), Zugriff::Ausgabe);
-    output.write(bytes);
-    output.close();
-    file.commit();
+    if (target.empty())
+        throw Laufzeitfehler(Fehler::DateinummerFalsch);
+    const std::filesystem::path file = behindLinks(target);
+    const bool replaces = isWritableFile(file);
+    Neufassung neu(file, replaces);
+    neu.write(bytes); // in full before the old file is touched: then there is room for it
+    if (!replaces || neu.canReplace(file))
+        neu.takePlaceOf(file);
+    else
+        overwrite(file, bytes);
 }
 
 } // namespace zerna

@@ -5,32 +5,10 @@
 
 namespace zerna {
 
-/// A file that is written beside its target and renamed over it, so that a failed write (disk full, no permission)
-/// leaves an earlier file of that name untouched. A target that is no ordinary file (a device, a pipe) is written
-/// directly.
-class Exportdatei {
-public:
-    /// Error 70 if the target exists and must not be written, error 75 if it is a folder.
-    explicit Exportdatei(const std::filesystem::path& target);
-
-    /// Removes what was written unless it was committed.
-    ~Exportdatei();
-
-    Exportdatei(const Exportdatei&) = delete;
-    Exportdatei& operator=(const Exportdatei&) = delete;
-
-    /// The file to write to and to close before commit.
-    const std::filesystem::path& writtenFile() const { return m_written; }
-
-    /// Puts the written file in the target's place.
-    void commit();
-
-private:
-    std::filesystem::path m_target;
-    std::filesystem::path m_written;
-};
-
-/// Writes the bytes to the target in that way; the errors of Datei.
+/// Writes the bytes to a file beside the target and renames that over it once the disk has them all, so that a write
+/// that fails (disk full, no permission) or is killed leaves an earlier file of that name untouched. Links, further
+/// names, owner and permissions of the earlier file stay. Error 70 if the target must not be written, 75 for a folder,
+/// a pipe or a device, 76 for a folder that is not there, 61 for a full disk.
 void writeExport(const std::filesystem::path& target, std::string_view bytes);
 
 } // namespace zerna

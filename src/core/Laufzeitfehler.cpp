@@ -1,5 +1,7 @@
 #include "core/Laufzeitfehler.h"
 
+#include <string>
+
 namespace zerna {
 
 namespace {
@@ -43,8 +45,9 @@ const char* beschreibung(Fehler fehler)
 
 } // namespace
 
-Laufzeitfehler::Laufzeitfehler(Fehler fehler)
-    : std::runtime_error(beschreibung(fehler))
+Laufzeitfehler::Laufzeitfehler(Fehler fehler, std::string_view ursache)
+    : std::runtime_error(
+        ursache.empty() ? beschreibung(fehler) : std::string(beschreibung(fehler)).append(" (").append(ursache) + ")")
     , m_fehler(fehler)
 {
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <stdexcept>
+#include <string_view>
 
 namespace zerna {
 
@@ -23,10 +24,10 @@ enum class Fehler : int {
     SchluesselVergeben = 457,
 };
 
-/// A run-time error; what() is its German description (UTF-8).
+/// A run-time error; what() is its German description (UTF-8), behind it in brackets the cause if it is known.
 class Laufzeitfehler : public std::runtime_error {
 public:
-    explicit Laufzeitfehler(Fehler fehler);
+    explicit Laufzeitfehler(Fehler fehler, std::string_view ursache = {});
 
     int Nummer() const noexcept { return static_cast<int>(m_fehler); }
 

@@ -22,11 +22,6 @@ std::filesystem::path executableFolder()
     return std::filesystem::path(name.data()).parent_path();
 }
 
-std::FILE* openFile(const std::filesystem::path& path, const char* mode)
-{
-    return _wfopen(path.c_str(), std::filesystem::path(mode).c_str());
-}
-
 std::optional<std::tm> lastWriteTime(const std::filesystem::path& path)
 {
     struct _stat64 information { };
@@ -53,8 +48,6 @@ std::filesystem::path executableFolder()
     std::error_code unreadable;
     return std::filesystem::read_symlink("/proc/self/exe", unreadable).parent_path();
 }
-
-std::FILE* openFile(const std::filesystem::path& path, const char* mode) { return std::fopen(path.c_str(), mode); }
 
 std::optional<std::tm> lastWriteTime(const std::filesystem::path& path)
 {

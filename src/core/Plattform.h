@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdio>
 #include <ctime>
 #include <filesystem>
 #include <optional>
@@ -18,9 +17,6 @@ inline constexpr const char* Programmdatei = "zerna";
 
 /// The folder in which the running executable really lies, symbolic links resolved.
 std::filesystem::path executableFolder();
-
-/// Opens a file for any name; `mode` as for fopen. Null with errno set on failure.
-std::FILE* openFile(const std::filesystem::path& path, const char* mode);
 
 /// Time of the last write to a file in local time; no value with errno set on failure.
 std::optional<std::tm> lastWriteTime(const std::filesystem::path& path);

@@ -44,7 +44,8 @@ void clsElement::Daten_Lesen()
 
 void clsElement::Daten_Speichern()
 {
-    reporting(m_boxes, "Daten_Speichern", Klasse, [&] { writeElementRecord(m_files.at(m_dateinummer), m_record); });
+    reporting(
+        m_boxes, "Daten_Speichern", Klasse, [&] { m_files.at(m_dateinummer).write(elementRecordBytes(m_record)); });
 }
 
 std::uint8_t clsElement::Elektronen(int index) const { return m_record.Elektronen.at(checkedSlot(index)); }

@@ -44,7 +44,7 @@ void clsLoader::Connect()
         m_creationDate = dateText(*time);
         m_creationTime = timeText(*time);
     } else {
-        const Laufzeitfehler reason(fehlerOfSystem(errno));
+        const Laufzeitfehler reason = systemfehler(errno);
         m_boxes.show(Icon::Exclamation, "Fehler - cApplication Modul", reason.what());
         m_creationDate.clear();
         m_creationTime.clear();

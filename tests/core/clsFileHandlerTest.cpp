@@ -1,6 +1,9 @@
 #include "core/clsFileHandler.h"
 
+#include <sys/stat.h>
+
 #include "support/FilesTest.h"
+#include "support/FullDisk.h"
 
 namespace zerna {
 
@@ -29,12 +32,16 @@ TEST_F(clsFileHandlerTest, SaysWhyAFileIsNotOpened)
         int modus;
         const char* message;
     };
+    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
     const Row rows[] = {
         {"", 1, ""},
         {path, 3, ""},
         {path, 1, "Datei nicht gefunden"},
         {path + "/a.dat", 0, "Pfad nicht gefunden"},
-        {folder.path(), 1, "Fehler beim Zugriff auf Pfad/Datei"},
+        {folder.path(), 1, "Fehler beim Zugriff auf Pfad/Datei (das ist ein Ordner)"},
+        {folder / "pipe", 0, "Fehler beim Zugriff auf Pfad/Datei (das ist keine gewöhnliche Datei)"},
+        {folder / "pipe", 1, "Fehler beim Zugriff auf Pfad/Datei (das ist keine gewöhnliche Datei)"},
+        {"/dev/zero", 2, "Fehler beim Zugriff auf Pfad/Datei (das ist keine gewöhnliche Datei)"},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.message);
@@ -52,10 +59,15 @@ TEST_F(clsFileHandlerTest, SaysWhyAFileIsNotOpened)
 TEST_F(clsFileHandlerTest, ASecondFileClosesTheFirstAndCanBeReadAndWrittenAnywhere)
 {
     writeBytes(path, "abcdef");
-    ASSERT_TRUE(handler.OpenFile("/dev/full", 0));
-    handler.WriteLine("x");
-    ASSERT_TRUE(handler.OpenFile(path, 2));
-    EXPECT_EQ(boxes.shown, std::vector<RecordingBoxes::Box>({{Icon::Exclamation, "FileHandler", "Datenträger voll"}}));
+    ASSERT_TRUE(handler.OpenFile((folder / "voll.dat").string(), 0));
+    {
+        const FullDisk disk(0);
+        handler.WriteLine("x");
+        ASSERT_TRUE(handler.OpenFile(path, 2));
+    }
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_EQ(boxes.shown[0].caption, "FileHandler");
+    EXPECT_TRUE(boxes.shown[0].text.starts_with("Datenträger voll")) << boxes.shown[0].text;
     Datei& file = files.at(1);
     EXPECT_EQ(file.readText(2), "ab");
     file.write("XY");

@@ -1,0 +1,206 @@
+#include "core/Plattformdatei.h"
+
+#include <cerrno>
+#include <string_view>
+#include <system_error>
+
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#include <windows.h>
+#else
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace zerna {
+
+#ifdef _WIN32
+
+namespace {
+
+std::FILE* failedWith(int error)
+{
+    errno = error;
+    return nullptr;
+}
+
+} // namespace
+
+std::FILE* openFile(const std::filesystem::path& path, const char* mode)
+{
+    std::error_code unknown;
+    if (std::filesystem::is_directory(path, unknown))
+        return failedWith(EISDIR);
+    std::FILE* const file = _wfopen(path.c_str(), std::filesystem::path(mode).c_str());
+    if (file == nullptr || GetFileType(reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(file)))) == FILE_TYPE_DISK)
+        return file;
+    std::fclose(file);
+    return failedWith(ENXIO);
+}
+
+std::FILE* createFile(const std::filesystem::path& path, bool)
+{
+    // Nobody can delete it while it is open, since deleting is not shared.
+    const HANDLE handle = CreateFileW(path.c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_NEW,
+        FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (handle == INVALID_HANDLE_VALUE) {
+        const DWORD error = GetLastError();
+        const bool missing = error == ERROR_PATH_NOT_FOUND || error == ERROR_FILE_NOT_FOUND;
+        return failedWith(error == ERROR_FILE_EXISTS ? EEXIST : missing ? ENOENT : EACCES);
+    }
+    return _fdopen(_open_osfhandle(reinterpret_cast<intptr_t>(handle), _O_BINARY), "w+b");
+}
+
+void removeLeftover(const std::filesystem::path& path) noexcept { DeleteFileW(path.c_str()); }
+
+bool writeThrough(std::FILE* file) { return std::fflush(file) == 0 && _commit(_fileno(file)) == 0; }
+
+bool takeRightsOf(const std::filesystem::path&, std::FILE*) { return true; } // moveInto keeps them
+
+bool moveInto(const std::filesystem::path& target, const std::filesystem::path& path, std::FILE* file)
+{
+    const bool moved = std::fclose(file) == 0
+        && (ReplaceFileW(target.c_str(), path.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr) != 0
+            || MoveFileExW(path.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING) != 0);
+    if (moved)
+        return true;
+    DeleteFileW(path.c_str());
+    errno = EACCES;
+    return false;
+}
+
+void discard(const std::filesystem::path& path, std::FILE* file) noexcept
+{
+    std::fclose(file);
+    DeleteFileW(path.c_str());
+}
+
+#else
+
+namespace {
+
+/// Closes without touching errno.
+void closeQuietly(int descriptor)
+{
+    const int error = errno;
+    ::close(descriptor);
+    errno = error;
+}
+
+int flagsOf(std::string_view mode)
+{
+    const bool both = mode.find('+') != std::string_view::npos;
+    if (mode.starts_with('r'))
+        return both ? O_RDWR : O_RDONLY;
+    return (both ? O_RDWR : O_WRONLY) | O_CREAT | O_TRUNC;
+}
+
+bool isOrdinary(int descriptor)
+{
+    struct stat file { };
+    if (::fstat(descriptor, &file) != 0)
+        return false;
+    if (!S_ISREG(file.st_mode))
+        errno = S_ISDIR(file.st_mode) ? EISDIR : ENXIO;
+    return S_ISREG(file.st_mode);
+}
+
+/// Whether the path still names the open file.
+bool isStillAt(const std::filesystem::path& path, int descriptor)
+{
+    struct stat open { };
+    struct stat named { };
+    return ::fstat(descriptor, &open) == 0 && ::lstat(path.c_str(), &named) == 0 && open.st_dev == named.st_dev
+        && open.st_ino == named.st_ino;
+}
+
+/// The stream of a descriptor that it takes over.
+std::FILE* streamOf(int descriptor, const char* mode)
+{
+    std::FILE* const file = ::fdopen(descriptor, mode);
+    if (file == nullptr)
+        closeQuietly(descriptor);
+    return file;
+}
+
+} // namespace
+
+std::FILE* openFile(const std::filesystem::path& path, const char* mode)
+{
+    const int descriptor = ::open(path.c_str(), flagsOf(mode) | O_NONBLOCK | O_CLOEXEC | O_NOCTTY, 0666);
+    if (descriptor < 0)
+        return nullptr;
+    if (isOrdinary(descriptor))
+        return streamOf(descriptor, mode);
+    closeQuietly(descriptor);
+    return nullptr;
+}
+
+std::FILE* createFile(const std::filesystem::path& path, bool forOwnerAlone)
+{
+    const int descriptor =
+        ::open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, forOwnerAlone ? 0600 : 0666);
+    if (descriptor < 0)
+        return nullptr;
+    // Whoever cleans up may have come between, have the lock, and be removing the file.
+    const bool lost = ::flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    if (!lost && isStillAt(path, descriptor))
+        return streamOf(descriptor, "w+b");
+    ::close(descriptor);
+    errno = EEXIST;
+    return nullptr;
+}
+
+void removeLeftover(const std::filesystem::path& path) noexcept
+{
+    const int descriptor = ::open(path.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0)
+        return;
+    // The lock ends with its writer. Between open and lock the name may have gone to another writer's file.
+    if (isOrdinary(descriptor) && ::flock(descriptor, LOCK_EX | LOCK_NB) == 0 && isStillAt(path, descriptor))
+        ::unlink(path.c_str());
+    ::close(descriptor);
+}
+
+bool writeThrough(std::FILE* file)
+{
+    if (std::fflush(file) != 0)
+        return false;
+    return ::fsync(::fileno(file)) == 0 || errno == EINVAL; // a file system that cannot wait
+}
+
+bool takeRightsOf(const std::filesystem::path& other, std::FILE* file)
+{
+    struct stat from { };
+    struct stat to { };
+    const int descriptor = ::fileno(file);
+    if (::stat(other.c_str(), &from) != 0 || ::fstat(descriptor, &to) != 0)
+        return false;
+    const bool sameOwner = from.st_uid == to.st_uid && from.st_gid == to.st_gid;
+    return (sameOwner || ::fchown(descriptor, from.st_uid, from.st_gid) == 0)
+        && ::fchmod(descriptor, from.st_mode & 07777U) == 0;
+}
+
+bool moveInto(const std::filesystem::path& target, const std::filesystem::path& path, std::FILE* file)
+{
+    const bool moved = ::rename(path.c_str(), target.c_str()) == 0;
+    const int error = errno;
+    if (!moved)
+        ::unlink(path.c_str());
+    std::fclose(file); // only now: the lock must last as long as the name
+    errno = error;
+    return moved;
+}
+
+void discard(const std::filesystem::path& path, std::FILE* file) noexcept
+{
+    ::unlink(path.c_str());
+    std::fclose(file);
+}
+
+#endif
+
+} // namespace zerna
