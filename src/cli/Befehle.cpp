@@ -51,6 +51,7 @@ struct Groessenliste {
     void define(CLI::App& befehl)
     {
         form.define(befehl);
+        befehl.add_flag("--lehrbuch", lehrbuch, "Wo der Wert vom Lehrbuch abweicht, dahinter dessen Wert und Einheit");
         komponenten.define(befehl);
         ausgabe.define(befehl);
     }
@@ -58,10 +59,13 @@ struct Groessenliste {
     void run(Umgebung& umgebung) const
     {
         umgebung.loadAlloy(komponenten.texte);
-        const Tabelle tabelle = groessentabelle(umgebung.kern().calc());
+        Rechenkern& kern = umgebung.kern();
+        const Tabelle tabelle =
+            lehrbuch ? lehrbuchtabelle(kern.calc(), kern.komponenten()) : groessentabelle(kern.calc());
         put(form.json ? alsJson(tabelle) : alsText(tabelle), ausgabe.datei);
     }
 
+    bool lehrbuch = false;
     Tabellenform form;
     Komponenten komponenten;
     Ausgabe ausgabe;

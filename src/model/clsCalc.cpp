@@ -227,11 +227,11 @@ void clsCalc::Class_Initialize()
     // Held as a single, which lies below the normal range and so carries about four digits only.
     constexpr float FeldkonstanteMalMasse = 8.065874e-42F;
 
-    m_elementarladung = 1.6021765e-19F;
-    m_elektronmasse = 9.109382e-31F;
-    m_feldkonstante = 8.854188e-12F;
-    m_planck = 1.0545716e-34F;
-    m_boltzmann = 1.38065e-23F;
+    m_elementarladung = toSingle(Elementarladung);
+    m_elektronmasse = toSingle(Elektronmasse);
+    m_feldkonstante = toSingle(Feldkonstante);
+    m_planck = toSingle(PlanckReduziert);
+    m_boltzmann = toSingle(Boltzmann);
     const double charge = m_elementarladung;
     const double mass = m_elektronmasse;
     const double planck = m_planck;

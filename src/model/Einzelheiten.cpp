@@ -1,0 +1,97 @@
+#include "model/Einzelheiten.h"
+
+#include <algorithm>
+
+#include "core/CheckedArithmetic.h"
+#include "core/Zahlentext.h"
+#include "model/Groessen.h"
+
+namespace zerna {
+
+namespace {
+
+/// "-1,5E-34" as "−1,5·10⁻³⁴".
+std::string mitZehnerpotenz(std::string_view number)
+{
+    constexpr std::array<std::string_view, 10> Hochgestellt{"⁰", "¹", "²", "³", "⁴", "⁵", "⁶", "⁷", "⁸", "⁹"};
+    std::string text;
+    bool exponent = false;
+    for (const char c : number) {
+        if (c == 'E') {
+            exponent = true;
+            text += "·10";
+        } else if (c == '-') {
+            text += exponent ? "⁻" : "−";
+        } else if (exponent && c != '+') {
+            text += Hochgestellt.at(static_cast<std::size_t>(c - '0'));
+        } else if (!exponent) {
+            text += c;
+        }
+    }
+    return text;
+}
+
+std::string mitEinheit(const std::string& number, std::string_view unit)
+{
+    return number.empty() ? "unbekannt" : mitZehnerpotenz(number) + ' ' + std::string(unit);
+}
+
+std::string konstantentext(const Lehrbucheintrag& eintrag)
+{
+    std::string text;
+    for (const Naturkonstante* const konstante : eintrag.konstanten) {
+        if (konstante != nullptr)
+            text.append(text.empty() ? "" : ", ")
+                .append(konstante->zeichen)
+                .append(" = ")
+                .append(mitEinheit(textOfDouble(konstante->wert), konstante->einheit));
+    }
+    return text;
+}
+
+/// The textbook's value with five digits, which is what results are shown with.
+std::string lehrbuchtext(
+    const Lehrbucheintrag& eintrag, const clsCalc& calc, std::span<const Legierungskomponente> komponenten)
+{
+    const float value = lehrbuchwert(eintrag, calc, komponenten);
+    return mitEinheit(istUnbekannt(value) ? "" : textWithDigits(value, 5), eintrag.einheit);
+}
+
+} // namespace
+
+Einzelheiten einzelheiten(int zeile, const clsCalc& calc, std::span<const Legierungskomponente> komponenten)
+{
+    const auto groesse = std::ranges::find(ergebniszeilen(), zeile, &Groesse::zeile);
+    const Lehrbucheintrag* const eintrag = findLehrbuch(zeile);
+    if (groesse == ergebniszeilen().end() || eintrag == nullptr)
+        throw Laufzeitfehler(Fehler::IndexAusserhalb);
+    const float value = orUnbekannt([&] { return groesse->wert(calc); });
+    Einzelheiten alle{std::string(groesse->bezeichnung()), {}};
+    alle.zeilen.push_back({"Wert", mitEinheit(istUnbekannt(value) ? "" : textOfSingle(value), groesse->einheit)});
+    alle.zeilen.push_back({"Formel", std::string(eintrag->formel)});
+    if (!eintrag->grund.empty()) {
+        alle.zeilen.push_back({"Lehrbuch", lehrbuchtext(*eintrag, calc, komponenten)});
+        alle.zeilen.push_back({"Formel dazu", std::string(eintrag->lehrbuchformel)});
+        alle.zeilen.push_back({"Unterschied", std::string(eintrag->grund)});
+    }
+    if (std::string konstanten = konstantentext(*eintrag); !konstanten.empty())
+        alle.zeilen.push_back({"Konstanten", std::move(konstanten)});
+    return alle;
+}
+
+Einzelheiten diagrammeinzelheiten(int zeile, const clsCalc& calc, std::span<const Legierungskomponente> komponenten)
+{
+    const Lehrbucheintrag* const eintrag = abweichungImDiagramm(zeile);
+    const auto groesse = std::ranges::find(ergebniszeilen(), zeile, &Groesse::zeile);
+    if (eintrag == nullptr || groesse == ergebniszeilen().end())
+        return {};
+    Einzelheiten alle{std::string(groesse->name) + " im Diagramm", {}};
+    alle.zeilen.push_back({"Unterschied", std::string(eintrag->diagrammgrund)});
+    alle.zeilen.push_back({"Lehrbuch", lehrbuchtext(*eintrag, calc, komponenten) + " (eingetragene Legierung)"});
+    alle.zeilen.push_back({"Formel dazu", std::string(eintrag->lehrbuchformel)});
+    if (std::string konstanten = konstantentext(*eintrag); !konstanten.empty())
+        alle.zeilen.push_back({"Konstanten", std::move(konstanten)});
+    return alle;
+}
+
+} // namespace zerna
