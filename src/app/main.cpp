@@ -14,6 +14,7 @@
 
 int main(int argc, char** argv)
 {
+    zerna::surviveFileSizeLimit();
     // The platform's own dialogs would speak the platform's language; the toolkit's speak German like the program.
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     const QApplication application(argc, argv);

@@ -7,6 +7,7 @@
 #include "cli/Argumente.h"
 #include "cli/Befehle.h"
 #include "cli/Umgebung.h"
+#include "core/Plattform.h"
 
 namespace zerna {
 
@@ -42,6 +43,7 @@ int fail(int status, const std::string& reason)
 
 int runCommandLine(int argc, char** argv)
 try {
+    surviveFileSizeLimit();
     CLI::App app("Modell freier Elektronen für metallische Legierungen", "zerna-cli");
     Umgebung umgebung;
     defineBefehle(app, umgebung);

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <iostream>
+#include <system_error>
 #include <vector>
 
 #include "core/Elementdatei.h"
@@ -35,9 +36,11 @@ void StandardErrorBoxes::show(Icon, std::string_view, std::string_view text)
 void Umgebung::load()
 {
     const std::filesystem::path beside = executableFolder() / Elementdateiname;
+    std::error_code unknown; // a name that leads nowhere or cannot be looked at is reported when it is opened
+    const auto kind = std::filesystem::symlink_status(beside, unknown).type();
     if (!daten.empty())
         m_kern.loadFile(pathFromUtf8(daten));
-    else if (std::filesystem::exists(beside))
+    else if (kind != std::filesystem::file_type::not_found)
         m_kern.loadFile(beside);
     else
         m_kern.loadBuiltIn();

@@ -7,6 +7,8 @@
 #include <sys/stat.h>
 #include <windows.h>
 #else
+#include <csignal>
+
 #include <dlfcn.h>
 #include <sys/stat.h>
 #endif
@@ -21,6 +23,8 @@ std::filesystem::path executableFolder()
     GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size()));
     return std::filesystem::path(name.data()).parent_path();
 }
+
+void surviveFileSizeLimit() { } // there is none
 
 std::optional<std::tm> lastWriteTime(const std::filesystem::path& path)
 {
@@ -48,6 +52,8 @@ std::filesystem::path executableFolder()
     std::error_code unreadable;
     return std::filesystem::read_symlink("/proc/self/exe", unreadable).parent_path();
 }
+
+void surviveFileSizeLimit() { std::signal(SIGXFSZ, SIG_IGN); }
 
 std::optional<std::tm> lastWriteTime(const std::filesystem::path& path)
 {

@@ -18,6 +18,9 @@ inline constexpr const char* Programmdatei = "zerna";
 /// The folder in which the running executable really lies, symbolic links resolved.
 std::filesystem::path executableFolder();
 
+/// Makes writing beyond the largest size that a file may have an error like any other instead of the program's end.
+void surviveFileSizeLimit();
+
 /// Time of the last write to a file in local time; no value with errno set on failure.
 std::optional<std::tm> lastWriteTime(const std::filesystem::path& path);
 

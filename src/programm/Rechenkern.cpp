@@ -97,7 +97,12 @@ void Rechenkern::loadBuiltIn()
 void Rechenkern::load(int number, const std::string& name)
 {
     m_elements.clear();
-    loadElements(m_files, number, m_boxes, m_elements);
+    m_satzfehler.gemeldet = false;
+    loadElements(m_files, number, m_satzfehler, m_elements, [&](const auto&, int position) {
+        if (m_satzfehler.gemeldet)
+            throw Datenfehler("Datei " + inQuotes(name) + ": Element " + std::to_string(position)
+                + " ist nicht lesbar, die Datei ist abgeschnitten oder beschädigt");
+    });
     m_files.close(number);
     if (m_elements.Count() == 0)
         throw Datenfehler("Datei " + inQuotes(name) + " enthält keine Elemente");

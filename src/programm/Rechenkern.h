@@ -42,7 +42,8 @@ class Rechenkern {
 public:
     explicit Rechenkern(MessageBoxes& boxes);
 
-    /// Replaces the elements by those of a data file. Throws Datenfehler.
+    /// Replaces the elements by those of a data file. Throws Datenfehler, also for a file that is cut off: half a table
+    /// would give wrong numbers.
     void loadFile(const std::filesystem::path& file);
 
     /// Replaces the elements by the built-in table.
@@ -61,12 +62,20 @@ public:
     clsCalc& calc() { return m_calc; }
 
 private:
+    /// Notices when a record cannot be read.
+    class Satzfehler : public MessageBoxes {
+    public:
+        void show(Icon, std::string_view, std::string_view) override { gemeldet = true; }
+        bool gemeldet = false;
+    };
+
     void load(int number, const std::string& name);
     void enterElement(int zeile, const Komponentenangabe& angabe);
     void enterDichte(int zeile, const Komponentenangabe& angabe);
     void enterValenz(int zeile, const Komponentenangabe& angabe);
 
     MessageBoxes& m_boxes;
+    Satzfehler m_satzfehler;
     Dateinummern m_files;
     ElementCollection m_elements;
     int m_komponentenzahl = 0;
