@@ -5,6 +5,7 @@
 #include <concepts>
 #include <set>
 
+#include "core/Csvzeile.h"
 #include "core/Elementspalten.h"
 #include "core/Laufzeitfehler.h"
 #include "core/Unbekannt.h"
@@ -15,31 +16,6 @@ namespace zerna {
 namespace {
 
 using Cells = std::vector<std::string>;
-
-/// Takes the line that begins at `position` apart and moves on behind it. A quoted cell may hold line ends.
-Cells nextLine(std::string_view text, std::size_t& position)
-{
-    Cells cells(1);
-    bool quoted = false;
-    for (; position < text.size(); ++position) {
-        const char c = text[position];
-        if (c == '"') {
-            const bool doubled = quoted && position + 1 < text.size() && text[position + 1] == '"';
-            if (doubled)
-                cells.back() += text[position++];
-            else
-                quoted = !quoted;
-        } else if (quoted || std::string_view(",\n\r").find(c) == std::string_view::npos) {
-            cells.back() += c;
-        } else if (c == ',') {
-            cells.emplace_back();
-        } else if (c == '\n') {
-            ++position;
-            break;
-        }
-    }
-    return cells;
-}
 
 /// Reads the cells of one line and says in messages where they stand.
 class LineReader {
@@ -133,13 +109,13 @@ std::vector<ElementRecord> readElementCsv(std::string_view text)
     if (text.starts_with("\xEF\xBB\xBF"))
         text.remove_prefix(3);
     std::size_t position = 0;
-    const Cells header = nextLine(text, position);
+    const Cells header = csvZeile(text, position);
     if (!std::ranges::equal(header, Elementspalten, {}, {}, &Elementspalte::name))
         throw Tabellenfehler("Zeile 1 enthält nicht die erwarteten Spaltennamen");
     std::vector<ElementRecord> records;
     std::set<std::string> symbols;
     for (std::size_t line = 2; position < text.size(); ++line) {
-        const Cells cells = nextLine(text, position);
+        const Cells cells = csvZeile(text, position);
         if (cells.size() == 1 && cells.front().empty())
             continue;
         records.push_back(LineReader(line).record(cells));

@@ -134,7 +134,7 @@ inline Anblick lookAt(QWidget& widget)
     QStringList entries;
     if (const auto* const field = qobject_cast<QLineEdit*>(&widget)) {
         seen.text = field->text().toStdString();
-        seen.hint = field->toolTip().toStdString();
+        seen.hint = oneLine(field->toolTip());
     } else if (const auto* const label = qobject_cast<QLabel*>(&widget)) {
         seen.text = oneLine(label->text());
     } else if (const auto* const button = qobject_cast<QAbstractButton*>(&widget)) {

@@ -77,13 +77,13 @@ Auskunftsliste::Auskunftsliste(QWidget* parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
-void Auskunftsliste::setLines(std::span<const std::string> lines)
+void Auskunftsliste::setLines(std::span<const std::string> lines, std::span<const std::string> details)
 {
     const int row = currentRow();
     clear();
-    for (const std::string& line : lines) {
-        addItem(toQt(line));
-        item(count() - 1)->setToolTip(toQt(line));
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        addItem(toQt(lines[i]));
+        item(count() - 1)->setToolTip(toQt(i < details.size() ? lines[i] + '\n' + details[i] : lines[i]));
     }
     setCurrentRow(row);
 }

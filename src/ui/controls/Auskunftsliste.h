@@ -14,7 +14,8 @@ class Auskunftsliste : public QListWidget {
 public:
     explicit Auskunftsliste(QWidget* parent = nullptr);
 
-    void setLines(std::span<const std::string> lines);
+    /// Each line's tool tip is the line itself and its detail, if there are details.
+    void setLines(std::span<const std::string> lines, std::span<const std::string> details = {});
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;

@@ -1,7 +1,9 @@
 #include "ui/main/Elementkarte.h"
 
+#include <QLabel>
 #include <QPainter>
 
+#include "model/Herkunft.h"
 #include "model/PSEAuskunft.h"
 #include "ui/controls/Auskunftsliste.h"
 #include "ui/platform/QtText.h"
@@ -21,18 +23,41 @@ Elementkarte::Elementkarte(QWidget* parent)
     m_lstInfo = new Auskunftsliste(this);
     m_lstInfo->setObjectName(QStringLiteral("lstInfo"));
     m_lstInfo->setAccessibleName(QStringLiteral("Daten des Elements"));
+    m_lblHerkunft = new QLabel(this);
+    m_lblHerkunft->setObjectName(QStringLiteral("lblHerkunft"));
+    m_lblHerkunft->setWordWrap(true);
+    m_lblHerkunft->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_lblHerkunft->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    connect(m_lstInfo, &QListWidget::currentRowChanged, this, &Elementkarte::showHerkunft);
 }
 
 void Elementkarte::setElement(const std::shared_ptr<clsElement>& element)
 {
     m_element = element;
-    m_lstInfo->setLines(element ? elementauskunft(*element) : std::vector<std::string>());
+    m_herkunft = element ? auskunftsherkunft(*element) : std::vector<std::string>();
+    m_lstInfo->setLines(element ? elementauskunft(*element) : std::vector<std::string>(), m_herkunft);
+    showHerkunft();
     update();
 }
 
+void Elementkarte::showHerkunft()
+{
+    const auto row = static_cast<std::size_t>(m_lstInfo->currentRow()); // none is beyond all of them
+    m_lblHerkunft->setText(row < m_herkunft.size() ? toQt(m_herkunft[row])
+            : m_element                            ? QStringLiteral("Zeile wählen: woher ihr Wert kommt")
+                                                   : QString());
+}
+
+/// The list takes what its lines need, the text below it the rest, at least some lines.
 void Elementkarte::resizeEvent(QResizeEvent*)
 {
-    m_lstInfo->setGeometry(Rand, Kopfhoehe, qMax(0, width() - 2 * Rand), qMax(0, height() - Kopfhoehe - Rand));
+    constexpr int Zeilen = 5;
+    const int textHeight = Zeilen * fontMetrics().height();
+    const int lines = m_lstInfo->count() * qMax(0, m_lstInfo->sizeHintForRow(0)) + 2 * m_lstInfo->frameWidth();
+    const int free = height() - Kopfhoehe - 2 * Rand;
+    const QSize list(qMax(0, width() - 2 * Rand), qMax(0, qMin(lines, free - textHeight)));
+    m_lstInfo->setGeometry({{Rand, Kopfhoehe}, list});
+    m_lblHerkunft->setGeometry(Rand, Kopfhoehe + list.height() + Rand, list.width(), qMax(0, free - list.height()));
 }
 
 void Elementkarte::paintEvent(QPaintEvent*)

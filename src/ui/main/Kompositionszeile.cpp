@@ -4,6 +4,7 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include "model/Herkunft.h"
 #include "ui/controls/Wertfeld.h"
 #include "ui/platform/QtText.h"
 
@@ -102,6 +103,7 @@ void Kompositionszeile::zeige(const Eingabe& eingabe)
     const Eingabe::Zeile& zeile = eingabe.zeile(m_row);
     for (QWidget* const widget : widgets())
         widget->setVisible(m_row < eingabe.anzahl());
+    showHerkunft(zeile);
     if (zeile.element != m_element)
         fillChoices(zeile.element);
     m_cmdDichte->setCurrentIndex(m_cmdDichte->findText(toQt(zeile.dichtewahl)));
@@ -114,6 +116,19 @@ void Kompositionszeile::zeige(const Eingabe& eingabe)
     m_txtDichte->setEnabled(zeile.dichtewahl == AndereWahl);
     write(*m_txtValenz, zeile.valenz);
     m_txtValenz->setEnabled(zeile.element && zeile.valenzwahl == ValenzAndere);
+}
+
+/// Looked up only when another value has been chosen.
+void Kompositionszeile::showHerkunft(const Eingabe::Zeile& zeile)
+{
+    const bool isSame =
+        zeile.element == m_element && zeile.dichtewahl == m_dichtewahl && zeile.valenzwahl == m_valenzwahl;
+    if (isSame || !zeile.element)
+        return;
+    m_dichtewahl = zeile.dichtewahl;
+    m_valenzwahl = zeile.valenzwahl;
+    m_txtDichte->setHinweis(toQt(dichteherkunft(*zeile.element, m_dichtewahl)));
+    m_txtValenz->setHinweis(toQt(valenzherkunft(*zeile.element, m_valenzwahl)));
 }
 
 void Kompositionszeile::fillChoices(const std::shared_ptr<clsElement>& element)

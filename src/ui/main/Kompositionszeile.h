@@ -4,6 +4,7 @@
 
 #include <array>
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include "model/Eingabe.h"
@@ -50,6 +51,7 @@ private:
     std::array<QWidget*, 7> widgets() const;
     void connectControls();
     void fillChoices(const std::shared_ptr<clsElement>& element);
+    void showHerkunft(const Eingabe::Zeile& zeile);
 
     int m_row;
     QComboBox* m_cmbElement = nullptr;
@@ -60,6 +62,8 @@ private:
     QComboBox* m_cmbValenz = nullptr;
     Wertfeld* m_txtValenz = nullptr;
     std::shared_ptr<clsElement> m_element; // whose choices the lists hold
+    std::string m_dichtewahl; // whose source the field tells
+    int m_valenzwahl = 0;
 };
 
 } // namespace zerna

@@ -1,5 +1,6 @@
 #include "ui/main/PSEbereich.h"
 
+#include <QListWidget>
 #include <QPaintEvent>
 #include <QTimer>
 
@@ -62,6 +63,22 @@ TEST_F(PSEbereichTest, DoubleClickOpensTheMenuOfAnElement)
     QTest::mouseDClick(&table(), Qt::LeftButton, {}, cell(2, 3).center());
     EXPECT_EQ(text("cmbElement_0"), "Mg");
     QTest::mouseDClick(&table(), Qt::LeftButton, {}, cell(2, 8).center()); // no menu to wait for
+}
+
+TEST_F(PSEbereichTest, TheChosenLineTellsWhereItsValueComesFrom)
+{
+    clickCell(11, 4);
+    auto& list = find<QListWidget>("lstInfo");
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_Home);
+    for (int i = 0; i < 8; ++i)
+        QTest::keyClick(&list, Qt::Key_Down);
+    EXPECT_EQ(text("lblHerkunft"), "Quelle: Wikipedia (Stand 2016) oder libelemental\nZustand: Raumtemperatur");
+    EXPECT_EQ(list.currentItem()->toolTip().toStdString(), "Dichte (kristallin): 8,96 g/cm³\n" + text("lblHerkunft"));
+    clickCell(12, 4);
+    programm->ElementCollection().Item("Cu")->setDichte_Kristallin(9);
+    clickCell(11, 4);
+    EXPECT_EQ(text("lblHerkunft"), "eigener Wert (Quelle nennt 8,96 g/cm³)");
 }
 
 TEST_F(PSEbereichTest, CellsAreColouredByAProperty)

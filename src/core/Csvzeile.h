@@ -1,0 +1,14 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zerna {
+
+/// Takes the line of comma-separated text that begins at `position` apart and moves on behind it. A cell in quotation
+/// marks may hold commas, line ends and doubled quotation marks.
+std::vector<std::string> csvZeile(std::string_view text, std::size_t& position);
+
+} // namespace zerna
