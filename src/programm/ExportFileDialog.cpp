@@ -1,42 +1,50 @@
 #include "programm/ExportFileDialog.h"
 
 #include <filesystem>
-#include <system_error>
 
 #include "core/Datei.h"
+#include "programm/Exportziel.h"
 
 namespace zerna {
 
 namespace {
 
-std::string withExtension(const std::string& name, std::string_view extension)
+/// Makes it the current folder; why it cannot be, else empty.
+std::string enter(const std::filesystem::path& folder)
 {
-    return name.ends_with(extension) ? name : name + std::string(extension);
+    std::error_code failed;
+    std::filesystem::current_path(folder, failed);
+    if (!failed)
+        return {};
+    return "Der Ordner \"" + utf8FromPath(folder) + "\" lässt sich nicht öffnen: " + systemfehler(failed.value()).what()
+        + ".";
 }
 
 } // namespace
 
-std::string ExportFileDialog(
-    SaveFileDialog& dialog, int& filterIndex, std::string_view titel, std::span<const Exportart> arten)
+std::string ExportFileDialog(SaveFileDialog& dialog, MessageBoxes& boxes, int& filterIndex, std::string_view titel,
+    std::span<const Exportart> arten, std::optional<SaveFileDialog::Choice> refused)
 {
-    const auto choice = dialog.choose(titel, arten);
-    if (!choice || choice->filterIndex < 1 || choice->filterIndex > std::ssize(arten))
-        return {};
-    const std::filesystem::path path = pathFromUtf8(choice->path);
-    const std::string typed = utf8FromPath(path.filename());
-    if (typed.empty())
-        return {};
-    std::error_code failed;
-    std::filesystem::current_path(path.parent_path(), failed);
-    if (failed)
-        return {};
-    const auto chosen = static_cast<std::size_t>(choice->filterIndex) - 1;
-    std::string name = withExtension(typed, arten[chosen].endung);
-    const bool hitsAnother = name != typed && std::filesystem::exists(pathFromUtf8(name), failed);
-    if (hitsAnother && !dialog.confirmReplace(name))
-        return {};
-    filterIndex = choice->filterIndex;
-    return name;
+    while (true) {
+        const auto choice = dialog.choose(titel, arten, refused);
+        if (!choice || choice->filterIndex < 1 || choice->filterIndex > std::ssize(arten))
+            return {};
+        refused = choice;
+        const Exportziel ziel = exportziel(choice->path, static_cast<std::size_t>(choice->filterIndex) - 1, arten);
+        std::string grund = hindernis(ziel);
+        if (grund.empty()) {
+            std::error_code unknown;
+            if (std::filesystem::exists(ziel.ordner / pathFromUtf8(ziel.name), unknown)
+                && !dialog.confirmReplace(ziel.name))
+                continue;
+            grund = enter(ziel.ordner);
+        }
+        if (grund.empty()) {
+            filterIndex = static_cast<int>(ziel.art) + 1;
+            return ziel.name;
+        }
+        boxes.show(Icon::Exclamation, Programmtitel, grund);
+    }
 }
 
 } // namespace zerna

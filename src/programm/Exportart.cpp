@@ -8,10 +8,11 @@ namespace zerna {
 
 Exportart textdatei(std::string_view beschreibung, std::string_view muster, std::string_view endung, Exporttext text)
 {
-    return {beschreibung, muster, endung, [text = std::move(text)]() -> std::optional<std::string> {
-                const auto utf8 = text();
-                return utf8 ? std::optional(toWindows1252(*utf8)) : std::nullopt;
-            }};
+    const auto bytes = [text = std::move(text)]() -> std::optional<std::string> {
+        const auto utf8 = text();
+        return utf8 ? std::optional(toWindows1252(*utf8)) : std::nullopt;
+    };
+    return {beschreibung, muster, endung, bytes, true};
 }
 
 Exportart datDatei(Exporttext text) { return textdatei("DAT-File (*.dat)", "*.dat", ".dat", std::move(text)); }

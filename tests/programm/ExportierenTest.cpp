@@ -50,6 +50,29 @@ TEST_F(ExportierenTest, NothingIsWrittenWhereTheUserGivesUp)
     EXPECT_EQ(contentOf("a.dat"), "neu");
 }
 
+TEST_F(ExportierenTest, AfterAFailureTheDialogComesAgainAndTheBytesAreMadeOnce)
+{
+    {
+        const FullDisk disk(4);
+        dialog.next = {(folder / "b").string(), 1};
+        EXPECT_FALSE(save("a", 1));
+    }
+    EXPECT_EQ(
+        dialog.offeredAgain, (std::vector{(folder / "a.dat").string() + "|1", (folder / "b.dat").string() + "|1"}));
+    EXPECT_EQ(boxes.shown.size(), 2U);
+    EXPECT_EQ(made, 1);
+    EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
+}
+
+TEST_F(ExportierenTest, NothingToSaveIsSaidAndNoFileMade)
+{
+    text = "";
+    EXPECT_FALSE(save("a", 1));
+    EXPECT_EQ(boxes.shown.at(0).text, "Es gibt nichts zu speichern: Für diese Dateiart ist kein Wert bekannt.");
+    EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
+    EXPECT_EQ(dialog.offeredAgain.size(), 1U) << "another kind may have values";
+}
+
 TEST_F(ExportierenTest, FailureNamesFileAndReasonAndLeavesTheEarlierFile)
 {
     writeBytes(folder / "a.dat", "alt");
@@ -57,6 +80,7 @@ TEST_F(ExportierenTest, FailureNamesFileAndReasonAndLeavesTheEarlierFile)
     EXPECT_FALSE(std::filesystem::exists(folder / "b.fri"));
     {
         const FullDisk disk(4);
+        dialog.replace = true;
         EXPECT_FALSE(save("a.dat", 1));
     }
     EXPECT_EQ(contentOf("a.dat"), "alt");

@@ -4,6 +4,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/Settings.h"
@@ -38,11 +39,16 @@ private:
     }
 };
 
-/// A save dialog that gives its answer at once; no answer is a cancel.
+/// A save dialog that gives its answer at once; no answer is a cancel. A refused answer is followed by the next one.
 class FakeSaveDialog : public SaveFileDialog {
 public:
-    std::optional<Choice> choose(std::string_view title, std::span<const Exportart> arten) override
+    std::optional<Choice> choose(
+        std::string_view title, std::span<const Exportart> arten, const std::optional<Choice>& refused) override
     {
+        if (refused) {
+            offeredAgain.push_back(refused->path + '|' + std::to_string(refused->filterIndex));
+            return std::exchange(next, std::nullopt);
+        }
         offered = title;
         for (const Exportart& art : arten)
             offered.append("|").append(art.beschreibung).append("|").append(art.muster);
@@ -56,7 +62,9 @@ public:
     }
 
     std::optional<Choice> answer;
+    std::optional<Choice> next; ///< once
     bool replace = false;
+    std::vector<std::string> offeredAgain; ///< path and kind
     std::string offered; ///< title and types of the last question
     std::vector<std::string> asked; ///< names of files to replace
 };

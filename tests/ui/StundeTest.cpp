@@ -130,8 +130,11 @@ struct StundeTest : FakeDesk {
 
     void logQuestions(Protokoll& log)
     {
-        for (const RecordingBoxes::Box& box : boxes.shown)
-            log.add("box", box.caption + ": " + oneLine(QString::fromStdString(box.text)));
+        for (const RecordingBoxes::Box& box : boxes.shown) {
+            QString text = QString::fromStdString(box.text);
+            text.replace(QString::fromStdString(folder.path().string()), QStringLiteral("(folder)"));
+            log.add("box", box.caption + ": " + oneLine(text));
+        }
         if (saveDialog.offered != std::exchange(offered, saveDialog.offered))
             log.add("dialog", saveDialog.offered);
         for (const std::string& asked : saveDialog.asked)

@@ -85,7 +85,7 @@ QImage imageOf(const Bildmaler& maler, const Leinwand& leinwand)
 
 Exportart bitmap(const Bildmaler& maler, const Leinwand& leinwand)
 {
-    return {"Bitmap (*.bmp)", "", ".bmp", [=] { return encoded(imageOf(maler, leinwand), "BMP"); }};
+    return {"Bitmap (*.bmp)", "", ".bmp", [=] { return encoded(imageOf(maler, leinwand), "BMP"); }, true};
 }
 
 std::vector<Exportart> bildarten(const Bildmaler& maler, const Leinwand& leinwand)

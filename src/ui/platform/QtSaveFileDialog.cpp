@@ -1,28 +1,97 @@
 #include "ui/platform/QtSaveFileDialog.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QDir>
+#include <QEvent>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QStringList>
 
+#include "core/Datei.h"
+#include "programm/Exportziel.h"
 #include "ui/platform/QtText.h"
 
 namespace zerna {
 
-std::optional<SaveFileDialog::Choice> QtSaveFileDialog::choose(std::string_view title, std::span<const Exportart> arten)
+namespace {
+
+/// A dialog that answers with the name as it was typed and leaves it to the program to judge it. The toolkit's own
+/// takes a name apart at quotation marks, and one that is too long it greys its button for and says nothing.
+class Speicherdialog : public QFileDialog {
+public:
+    Speicherdialog(const QString& title, const QStringList& filters)
+        : QFileDialog(QApplication::activeWindow(), title, QDir::currentPath())
+    {
+        setOption(DontUseNativeDialog); // which would not ask accept()
+        setAcceptMode(AcceptSave);
+        setFileMode(AnyFile);
+        setNameFilters(filters);
+        saveButton().installEventFilter(this);
+        saveButton().setEnabled(true);
+    }
+
+    /// Shows a path again that may not exist.
+    void offer(const QString& path)
+    {
+        const std::filesystem::path folder = vorhandenerOrdner(pathFromUtf8(fromQt(path)));
+        setDirectory(toQt(utf8FromPath(folder)));
+        name().setText(path.mid(directory().filePath(QStringLiteral("x")).size() - 1));
+    }
+
+    /// Folder and name.
+    QString path() const
+    {
+        QString typed = name().text();
+        if (typed == QLatin1String("~") || typed.startsWith(QLatin1String("~/")))
+            typed.replace(0, 1, QDir::homePath());
+        return QDir::isAbsolutePath(typed) ? typed : directory().absolutePath() + QLatin1Char('/') + typed;
+    }
+
+protected:
+    void accept() override
+    {
+        const QFileInfo target(path());
+        if (target.isDir() && QDir(target.filePath()) != directory())
+            QFileDialog::accept(); // goes there
+        else
+            QDialog::accept();
+    }
+
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        if (object == &saveButton() && event->type() == QEvent::EnabledChange)
+            saveButton().setEnabled(true);
+        return QFileDialog::eventFilter(object, event);
+    }
+
+private:
+    QLineEdit& name() const { return *findChild<QLineEdit*>(QStringLiteral("fileNameEdit")); }
+    QPushButton& saveButton() const
+    {
+        return *findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"))->button(QDialogButtonBox::Save);
+    }
+};
+
+} // namespace
+
+std::optional<SaveFileDialog::Choice> QtSaveFileDialog::choose(
+    std::string_view title, std::span<const Exportart> arten, const std::optional<Choice>& refused)
 {
-    QFileDialog dialog(QApplication::activeWindow(), toQt(title), QDir::currentPath());
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setFileMode(QFileDialog::AnyFile);
     QStringList filters;
     for (const Exportart& art : arten)
         filters << toQt(art.beschreibung);
-    dialog.setNameFilters(filters);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+    Speicherdialog dialog(toQt(title), filters);
+    if (refused) {
+        dialog.selectNameFilter(filters.value(refused->filterIndex - 1));
+        dialog.offer(toQt(refused->path));
+    }
+    if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     const auto filter = static_cast<int>(filters.indexOf(dialog.selectedNameFilter()));
-    return Choice{fromQt(dialog.selectedFiles().constFirst()), qMax(0, filter) + 1}; // some dialogs do not tell it
+    return Choice{fromQt(dialog.path()), qMax(0, filter) + 1};
 }
 
 bool QtSaveFileDialog::confirmReplace(std::string_view name)

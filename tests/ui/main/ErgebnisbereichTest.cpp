@@ -38,6 +38,7 @@ TEST_F(ErgebnisbereichTest, FullDiskIsReportedAndKeepsTheEarlierFile)
 {
     writeBytes(folder / "a.dat", "alt");
     saveDialog.answer = {(folder / "a.dat").string(), 1};
+    saveDialog.replace = true;
     const FullDisk disk(100);
     click("cmdMFE_Speichern");
     ASSERT_EQ(boxes.shown.size(), 1U);

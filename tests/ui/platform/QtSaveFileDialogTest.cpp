@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 
 #include "support/FakeServices.h"
@@ -22,8 +23,13 @@ struct QtSaveFileDialogTest : testing::Test {
 
 TEST_F(QtSaveFileDialogTest, TypedNameAndTypeAreTheAnswer)
 {
+    writeBytes(folder / "alt.dat", "1"); // whether to replace it is the program's question
+    const std::string tooLong(300, 'x');
     for (const auto& [typed, typeKey, key, index] : {std::tuple("Größen", Qt::Key_Up, Qt::Key_Return, 1),
-             {"minima.fri", Qt::Key_Down, Qt::Key_Return, 2}, {"werte.dat", Qt::Key_Down, Qt::Key_Escape, 0}}) {
+             {"minima.fri", Qt::Key_Down, Qt::Key_Return, 2}, {"werte.dat", Qt::Key_Down, Qt::Key_Escape, 0},
+             {"Al/Cu", Qt::Key_Up, Qt::Key_Return, 1}, {"Al \"rein\"", Qt::Key_Up, Qt::Key_Return, 1},
+             {"", Qt::Key_Up, Qt::Key_Return, 1}, {".", Qt::Key_Up, Qt::Key_Return, 1},
+             {"alt.dat", Qt::Key_Up, Qt::Key_Return, 1}, {tooLong.c_str(), Qt::Key_Up, Qt::Key_Return, 1}}) {
         std::optional<SaveFileDialog::Choice> choice;
         const auto answer = [typed = typed, typeKey = typeKey, key = key](QFileDialog& shown) {
             EXPECT_EQ(shown.windowTitle(), "Daten exportieren ...");
@@ -32,21 +38,30 @@ TEST_F(QtSaveFileDialogTest, TypedNameAndTypeAreTheAnswer)
             press(typeKey);
             press(key);
         };
-        inDialog<QFileDialog>(answer, [&] { choice = dialog.choose("Daten exportieren ...", types); });
+        inDialog<QFileDialog>(answer, [&] { choice = dialog.choose("Daten exportieren ...", types, {}); });
         EXPECT_EQ(choice ? choice->filterIndex : 0, index) << typed;
-        EXPECT_TRUE(!choice || choice->path == (folder / typed).string()) << typed;
+        EXPECT_TRUE(!choice || choice->path == folder.path().string() + '/' + typed) << typed;
     }
 }
 
-TEST_F(QtSaveFileDialogTest, ExistingFileIsAskedFor)
+TEST_F(QtSaveFileDialogTest, RefusedChoiceIsShownAgainAndAFolderIsEntered)
 {
-    writeBytes(folder / "alt.dat", "1");
-    const auto answer = [](QFileDialog&) {
-        typeText("alt.dat");
-        inDialog<QMessageBox>([](QMessageBox&) { press(Qt::Key_N, Qt::AltModifier); }, [] { press(Qt::Key_Return); });
-        press(Qt::Key_Escape); // back in the dialog
+    std::filesystem::create_directory(folder / "unter");
+    std::optional<SaveFileDialog::Choice> choice{{(folder / "Al/Cu \"x\"").string(), 2}};
+    const auto answer = [](QFileDialog& shown) {
+        auto* const name = shown.findChild<QLineEdit*>("fileNameEdit");
+        EXPECT_EQ(name->text(), "Al/Cu \"x\"");
+        name->setFocus();
+        name->setText("unter");
+        press(Qt::Key_Return);
+        EXPECT_EQ(shown.directory().dirName(), "unter");
+        name->setText("b");
+        press(Qt::Key_Return);
     };
-    inDialog<QFileDialog>(answer, [&] { EXPECT_FALSE(dialog.choose(Exporttitel, types)); });
+    inDialog<QFileDialog>(answer, [&] { choice = dialog.choose(Exporttitel, types, choice); });
+    ASSERT_TRUE(choice);
+    EXPECT_EQ(choice->path, (folder / "unter/b").string());
+    EXPECT_EQ(choice->filterIndex, 2);
 }
 
 TEST_F(QtSaveFileDialogTest, ReplacingIsAskedForWithNoAsDefault)
