@@ -2,7 +2,7 @@
 
 namespace zerna {
 
-std::vector<std::string> csvZeile(std::string_view text, std::size_t& position)
+std::vector<std::string> csvZeile(std::string_view text, std::size_t& position, char separator)
 {
     std::vector<std::string> cells(1);
     bool quoted = false;
@@ -14,9 +14,9 @@ std::vector<std::string> csvZeile(std::string_view text, std::size_t& position)
                 cells.back() += text[position++];
             else
                 quoted = !quoted;
-        } else if (quoted || std::string_view(",\n\r").find(c) == std::string_view::npos) {
+        } else if (quoted || (c != separator && c != '\n' && c != '\r')) {
             cells.back() += c;
-        } else if (c == ',') {
+        } else if (c == separator) {
             cells.emplace_back();
         } else if (c == '\n') {
             ++position;

@@ -8,7 +8,7 @@
 namespace zerna {
 
 /// Takes the line of comma-separated text that begins at `position` apart and moves on behind it. A cell in quotation
-/// marks may hold commas, line ends and doubled quotation marks.
-std::vector<std::string> csvZeile(std::string_view text, std::size_t& position);
+/// marks may hold separators, line ends and doubled quotation marks.
+std::vector<std::string> csvZeile(std::string_view text, std::size_t& position, char separator = ',');
 
 } // namespace zerna

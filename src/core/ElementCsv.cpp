@@ -3,19 +3,57 @@
 #include <algorithm>
 #include <charconv>
 #include <concepts>
+#include <optional>
 #include <set>
 
 #include "core/Csvzeile.h"
 #include "core/Elementspalten.h"
+#include "core/Kuerzung.h"
 #include "core/Laufzeitfehler.h"
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
+#include "core/Zeichensatz.h"
 
 namespace zerna {
 
 namespace {
 
+constexpr std::string_view KeinUtf8 = "kein UTF-8-Text (die Tabelle als \"CSV UTF-8\" speichern)";
+
 using Cells = std::vector<std::string>;
+
+/// A table's lines one after the other. What stands between its cells is seen in the header.
+class Lines {
+public:
+    explicit Lines(std::string_view text)
+        : m_text(text)
+    {
+        const std::size_t end = std::min(text.find_first_of(",;\t\n"), text.size());
+        if (end < text.size() && text[end] != '\n')
+            m_separator = text[end];
+    }
+
+    bool atEnd() const { return m_next >= m_text.size(); }
+
+    /// Number of the line read last, 1 = header; of its first one if quoted cells go over several.
+    std::size_t number() const { return m_number; }
+
+    Cells next()
+    {
+        m_number = m_nextNumber;
+        const std::size_t begin = m_next;
+        Cells cells = csvZeile(m_text, m_next, m_separator);
+        m_nextNumber += static_cast<std::size_t>(std::ranges::count(m_text.substr(begin, m_next - begin), '\n'));
+        return cells;
+    }
+
+private:
+    std::string_view m_text;
+    char m_separator = ',';
+    std::size_t m_next = 0;
+    std::size_t m_number = 0;
+    std::size_t m_nextNumber = 1;
+};
 
 /// Reads the cells of one line and says in messages where they stand.
 class LineReader {
@@ -42,9 +80,14 @@ private:
         throw Tabellenfehler("Zeile " + std::to_string(m_line) + " " + reason);
     }
 
-    [[noreturn]] void failAt(const Elementspalte& spalte, std::string_view text) const
+    [[noreturn]] void failAt(const Elementspalte& spalte, const std::string& reason) const
     {
-        fail("Spalte " + std::string(spalte.name) + ": \"" + std::string(text) + "\" ist keine gültige Zahl");
+        fail("Spalte " + std::string(spalte.name) + ": " + reason);
+    }
+
+    [[noreturn]] void failNumber(const Elementspalte& spalte, std::string_view text) const
+    {
+        failAt(spalte, "\"" + gekuerzt(text) + "\" ist keine gültige Zahl");
     }
 
     template <std::integral Integer>
@@ -52,7 +95,7 @@ private:
     {
         const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
         if (error != std::errc() || end != text.data() + text.size())
-            failAt(spalte, text);
+            failNumber(spalte, text);
     }
 
     void read(const Elementspalte& spalte, std::string_view text, float& value) const
@@ -60,11 +103,19 @@ private:
         try {
             value = text.empty() ? Unbekannt : singleFromText(text);
         } catch (const Laufzeitfehler&) {
-            failAt(spalte, text);
+            failNumber(spalte, text);
         }
     }
 
-    void read(const Elementspalte&, std::string_view text, std::string& value) const { value = text; }
+    void read(const Elementspalte& spalte, std::string_view text, std::string& value) const
+    {
+        const std::optional<Fremdzeichen> fremd = fremdzeichen(text);
+        if (fremd && fremd->beschaedigt)
+            failAt(spalte, std::string(KeinUtf8));
+        if (fremd)
+            failAt(spalte, "das Zeichen \"" + std::string(fremd->zeichen) + "\" kann die Elementdatei nicht aufnehmen");
+        value = text;
+    }
 
     void read(const Elementspalte& spalte, std::string_view text, Elektronenzahlen& counts) const
     {
@@ -74,7 +125,7 @@ private:
             text.remove_prefix(std::min(end + 1, text.size()));
         }
         if (!text.empty())
-            failAt(spalte, text);
+            failNumber(spalte, text);
     }
 
     std::size_t m_line; // 1 = header
@@ -108,21 +159,22 @@ std::vector<ElementRecord> readElementCsv(std::string_view text)
 {
     if (text.starts_with("\xEF\xBB\xBF"))
         text.remove_prefix(3);
-    std::size_t position = 0;
-    const Cells header = csvZeile(text, position);
-    if (!std::ranges::equal(header, Elementspalten, {}, {}, &Elementspalte::name))
+    Lines lines(text);
+    if (const auto fremd = fremdzeichen(text.substr(0, text.find('\n'))); fremd && fremd->beschaedigt)
+        throw Tabellenfehler("Zeile 1: " + std::string(KeinUtf8));
+    if (!std::ranges::equal(lines.next(), Elementspalten, {}, {}, &Elementspalte::name))
         throw Tabellenfehler("Zeile 1 enthält nicht die erwarteten Spaltennamen");
     std::vector<ElementRecord> records;
     std::set<std::string> symbols;
-    for (std::size_t line = 2; position < text.size(); ++line) {
-        const Cells cells = csvZeile(text, position);
-        if (cells.size() == 1 && cells.front().empty())
+    while (!lines.atEnd()) {
+        const Cells cells = lines.next();
+        if (std::ranges::all_of(cells, &std::string::empty))
             continue;
-        records.push_back(LineReader(line).record(cells));
+        records.push_back(LineReader(lines.number()).record(cells));
         const std::string& symbol = records.back().symbol;
         if (symbol.empty() || !symbols.insert(symbol).second)
-            throw Tabellenfehler(
-                "Zeile " + std::to_string(line) + ": Symbol \"" + symbol + "\" fehlt oder ist schon vergeben");
+            throw Tabellenfehler("Zeile " + std::to_string(lines.number()) + ": Symbol \"" + gekuerzt(symbol)
+                + "\" fehlt oder ist schon vergeben");
     }
     return records;
 }

@@ -18,7 +18,9 @@ public:
 
 /// The element table as comma-separated text: UTF-8, a header line with the record's field names, decimal point, an
 /// empty cell for an unknown number, the 18 subshell counts in one cell separated by blanks, cells with a comma or a
-/// quotation mark in quotation marks. Throws Tabellenfehler.
+/// quotation mark in quotation marks. A table as spreadsheets write it is read as well: semicolons or tabs between the
+/// cells, decimal commas, lines of empty cells. Throws Tabellenfehler, also for a character that the data file cannot
+/// hold.
 std::vector<ElementRecord> readElementCsv(std::string_view text);
 
 /// The same table from records, lines ending in LF.

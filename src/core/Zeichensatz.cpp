@@ -29,11 +29,12 @@ char byteOf(std::uint32_t codePoint)
     return special == Sonderzeichen.end() ? '?' : static_cast<char>(0x80 + (special - Sonderzeichen.begin()));
 }
 
-/// Decodes the character that begins at `position` and moves on behind it; 0xFFFFFFFF for a damaged sequence, which
-/// is passed over up to the next byte that can begin a character.
+constexpr std::uint32_t Damaged = 0xFFFFFFFF;
+
+/// Decodes the character that begins at `position` and moves on behind it; Damaged for a damaged sequence, which is
+/// passed over up to the next byte that can begin a character.
 std::uint32_t nextCodePoint(std::string_view utf8, std::size_t& position)
 {
-    constexpr std::uint32_t Damaged = 0xFFFFFFFF;
     const auto lead = static_cast<unsigned char>(utf8[position++]);
     if (lead < 0x80)
         return lead;
@@ -88,6 +89,17 @@ std::string toWindows1252(std::string_view utf8)
     for (std::size_t position = 0; position < utf8.size();)
         bytes += byteOf(nextCodePoint(utf8, position));
     return bytes;
+}
+
+std::optional<Fremdzeichen> fremdzeichen(std::string_view utf8)
+{
+    for (std::size_t position = 0; position < utf8.size();) {
+        const std::size_t begin = position;
+        const std::uint32_t codePoint = nextCodePoint(utf8, position);
+        if (codePoint != '?' && byteOf(codePoint) == '?')
+            return Fremdzeichen{utf8.substr(begin, position - begin), codePoint == Damaged};
+    }
+    return std::nullopt;
 }
 
 std::string fromWindows1252(std::string_view bytes)

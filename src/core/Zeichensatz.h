@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -8,6 +9,15 @@ namespace zerna {
 
 /// UTF-8 to Windows-1252; a character that has no place there, and a damaged UTF-8 sequence, becomes "?".
 std::string toWindows1252(std::string_view utf8);
+
+/// A character that toWindows1252 makes a "?".
+struct Fremdzeichen {
+    std::string_view zeichen;
+    bool beschaedigt = false; ///< no UTF-8 at all
+};
+
+/// The first such character of a text.
+std::optional<Fremdzeichen> fremdzeichen(std::string_view utf8);
 
 /// Windows-1252 to UTF-8. The five bytes without a character (81, 8D, 8F, 90, 9D) become the control characters of
 /// the same number, so that every byte text survives there and back.

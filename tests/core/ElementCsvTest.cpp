@@ -1,6 +1,9 @@
 #include "core/ElementCsv.h"
 
+#include <algorithm>
+
 #include "core/Elementspalten.h"
+#include "core/Zahlentext.h"
 #include "support/FilesTest.h"
 
 namespace zerna {
@@ -20,10 +23,27 @@ TEST_F(ElementCsvTest, TablesSurviveReadingAndWriting)
         EXPECT_EQ(writeElementCsv(readElementCsv("\xEF\xBB\xBF" + table)), table);
 }
 
+TEST_F(ElementCsvTest, ReadsTablesOfSpreadsheets)
+{
+    std::string german = builtin;
+    std::ranges::replace(german, ',', ';');
+    std::ranges::replace(german, '.', ',');
+    std::string tabs = ReplaceText(german, ";", "\t");
+    for (std::string table : {german, tabs, ReplaceText(german, "\n", "\r\n") + std::string(17, ';') + "\r\n"})
+        EXPECT_EQ(readElementCsv(table), readElementCsv(builtin));
+}
+
 TEST_F(ElementCsvTest, ErrorsNameLineAndColumn)
 {
     const std::pair<std::string, std::string> rows[] = {{"", "Zeile 1 enthält nicht die erwarteten Spaltennamen"},
         {changed("Bor", "\"Bor"), "Zeile 6 hat 4 statt " + std::to_string(Elementspalten.size()) + " Spalten"},
+        {ReplaceText(changed("Lithium", "\"Li\nth\""), "10.811", "x"),
+            "Zeile 7 Spalte Masse: \"x\" ist keine gültige Zahl"},
+        {changed("Bor", "B\xF6r"), "Zeile 6 Spalte Name: kein UTF-8-Text (die Tabelle als \"CSV UTF-8\" speichern)"},
+        {changed("Bor", "Bωr?"), "Zeile 6 Spalte Name: das Zeichen \"ω\" kann die Elementdatei nicht aufnehmen"},
+        {changed("6.941", std::string(100000, '7')),
+            "Zeile 4 Spalte Masse: \"" + std::string(40, '7') + "…" + std::string(20, '7')
+                + "\" ist keine gültige Zahl"},
         {changed("6.941", "1e39"), "Zeile 4 Spalte Masse: \"1e39\" ist keine gültige Zahl"},
         {changed("\n1,1", "\n256,1"), "Zeile 2 Spalte X: \"256\" ist keine gültige Zahl"},
         {changed("1 0 ", "1 "), "Zeile 2 Spalte Elektronen: \"\" ist keine gültige Zahl"},

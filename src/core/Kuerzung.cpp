@@ -1,0 +1,27 @@
+#include "core/Kuerzung.h"
+
+namespace zerna {
+
+namespace {
+
+bool isInsideCharacter(std::string_view text, std::size_t position)
+{
+    return position < text.size() && (static_cast<unsigned char>(text[position]) & 0xC0U) == 0x80;
+}
+
+} // namespace
+
+std::string gekuerzt(std::string_view text, std::size_t length)
+{
+    if (text.size() <= length)
+        return std::string(text);
+    std::size_t head = length * 2 / 3;
+    std::size_t tail = text.size() - (length - head);
+    while (head > 0 && isInsideCharacter(text, head))
+        --head;
+    while (isInsideCharacter(text, tail))
+        ++tail;
+    return std::string(text.substr(0, head)) + "…" + std::string(text.substr(tail));
+}
+
+} // namespace zerna

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace zerna {
+
+/// A text for a message: as it is, or beginning and end with "…" between them if it has more than so many bytes. UTF-8
+/// characters are not cut.
+std::string gekuerzt(std::string_view text, std::size_t length = 60);
+
+} // namespace zerna
