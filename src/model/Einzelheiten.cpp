@@ -1,6 +1,7 @@
 #include "model/Einzelheiten.h"
 
 #include <algorithm>
+#include <array>
 
 #include "core/CheckedArithmetic.h"
 #include "core/Zahlentext.h"
@@ -36,7 +37,7 @@ std::string mitEinheit(const std::string& number, std::string_view unit)
     return number.empty() ? "unbekannt" : mitZehnerpotenz(number) + ' ' + std::string(unit);
 }
 
-std::string konstantentext(const Lehrbucheintrag& eintrag)
+void addKonstanten(Einzelheiten& alle, const Lehrbucheintrag& eintrag)
 {
     std::string text;
     for (const Naturkonstante* const konstante : eintrag.konstanten) {
@@ -46,26 +47,27 @@ std::string konstantentext(const Lehrbucheintrag& eintrag)
                 .append(" = ")
                 .append(mitEinheit(textOfDouble(konstante->wert), konstante->einheit));
     }
-    return text;
+    if (!text.empty())
+        alle.zeilen.push_back({"Konstanten", std::move(text)});
 }
 
 /// The textbook's value with five digits, which is what results are shown with.
 std::string lehrbuchtext(
-    const Lehrbucheintrag& eintrag, const clsCalc& calc, std::span<const Legierungskomponente> komponenten)
+    const Lehrbucheintrag& eintrag, const clsCalc* calc, std::span<const Legierungskomponente> komponenten)
 {
-    const float value = lehrbuchwert(eintrag, calc, komponenten);
+    const float value = calc == nullptr ? Unbekannt : lehrbuchwert(eintrag, *calc, komponenten);
     return mitEinheit(istUnbekannt(value) ? "" : textWithDigits(value, 5), eintrag.einheit);
 }
 
 } // namespace
 
-Einzelheiten einzelheiten(int zeile, const clsCalc& calc, std::span<const Legierungskomponente> komponenten)
+Einzelheiten einzelheiten(int zeile, const clsCalc* calc, std::span<const Legierungskomponente> komponenten)
 {
     const auto groesse = std::ranges::find(ergebniszeilen(), zeile, &Groesse::zeile);
     const Lehrbucheintrag* const eintrag = findLehrbuch(zeile);
     if (groesse == ergebniszeilen().end() || eintrag == nullptr)
         throw Laufzeitfehler(Fehler::IndexAusserhalb);
-    const float value = orUnbekannt([&] { return groesse->wert(calc); });
+    const float value = calc == nullptr ? Unbekannt : orUnbekannt([&] { return groesse->wert(*calc); });
     Einzelheiten alle{std::string(groesse->bezeichnung()), {}};
     alle.zeilen.push_back({"Wert", mitEinheit(istUnbekannt(value) ? "" : textOfSingle(value), groesse->einheit)});
     alle.zeilen.push_back({"Formel", std::string(eintrag->formel)});
@@ -74,12 +76,11 @@ Einzelheiten einzelheiten(int zeile, const clsCalc& calc, std::span<const Legier
         alle.zeilen.push_back({"Formel dazu", std::string(eintrag->lehrbuchformel)});
         alle.zeilen.push_back({"Unterschied", std::string(eintrag->grund)});
     }
-    if (std::string konstanten = konstantentext(*eintrag); !konstanten.empty())
-        alle.zeilen.push_back({"Konstanten", std::move(konstanten)});
+    addKonstanten(alle, *eintrag);
     return alle;
 }
 
-Einzelheiten diagrammeinzelheiten(int zeile, const clsCalc& calc, std::span<const Legierungskomponente> komponenten)
+Einzelheiten diagrammeinzelheiten(int zeile, const clsCalc* calc, std::span<const Legierungskomponente> komponenten)
 {
     const Lehrbucheintrag* const eintrag = abweichungImDiagramm(zeile);
     const auto groesse = std::ranges::find(ergebniszeilen(), zeile, &Groesse::zeile);
@@ -89,8 +90,7 @@ Einzelheiten diagrammeinzelheiten(int zeile, const clsCalc& calc, std::span<cons
     alle.zeilen.push_back({"Unterschied", std::string(eintrag->diagrammgrund)});
     alle.zeilen.push_back({"Lehrbuch", lehrbuchtext(*eintrag, calc, komponenten) + " (eingetragene Legierung)"});
     alle.zeilen.push_back({"Formel dazu", std::string(eintrag->lehrbuchformel)});
-    if (std::string konstanten = konstantentext(*eintrag); !konstanten.empty())
-        alle.zeilen.push_back({"Konstanten", std::move(konstanten)});
+    addKonstanten(alle, *eintrag);
     return alle;
 }
 

@@ -21,10 +21,10 @@ struct Einzelheiten {
     std::vector<Zeile> zeilen;
 };
 
-/// Of a result line. `komponenten` are those of the alloy in the calculator.
-Einzelheiten einzelheiten(int zeile, const clsCalc& calc, std::span<const Legierungskomponente> komponenten);
+/// Of a result line. `calc` is null while the line has no result; `komponenten` are those of the alloy in it.
+Einzelheiten einzelheiten(int zeile, const clsCalc* calc, std::span<const Legierungskomponente> komponenten);
 
 /// Of what diagrams show of a result line's quantity. Empty if it is what the textbook gives.
-Einzelheiten diagrammeinzelheiten(int zeile, const clsCalc& calc, std::span<const Legierungskomponente> komponenten);
+Einzelheiten diagrammeinzelheiten(int zeile, const clsCalc* calc, std::span<const Legierungskomponente> komponenten);
 
 } // namespace zerna

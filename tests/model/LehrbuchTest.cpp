@@ -121,15 +121,15 @@ TEST_F(LehrbuchTest, DetailsOfAluminiumCopper)
              {3, "1,6587362·10⁻²⁹ m³", ""}, {5, "−7,728214·10⁻⁹ V/K²", "−3,8641·10⁻⁹ V/K²"}, {7, "9,483467 eV", ""},
              {17, "19,372446 eV/nm³", "754,68 eV/nm³"}, {18, "1,3434812·10⁻¹⁶ N/m²", "134,35 GPa"}}) {
         SCOPED_TRACE(zeile);
-        const Einzelheiten alle = einzelheiten(zeile, calc, alloy);
+        const Einzelheiten alle = einzelheiten(zeile, &calc, alloy);
         EXPECT_EQ(row(alle, "Wert"), wert);
         EXPECT_EQ(row(alle, "Lehrbuch"), lehrbuch);
         EXPECT_EQ(row(alle, "Unterschied").empty(), *lehrbuch == '\0');
     }
-    EXPECT_EQ(row(einzelheiten(5, calc, alloy), "Konstanten"),
+    EXPECT_EQ(row(einzelheiten(5, &calc, alloy), "Konstanten"),
         "k_B = 1,38065·10⁻²³ J/K, e = 1,6021765·10⁻¹⁹ C, ħ = 1,0545716·10⁻³⁴ Js, m = 9,109382·10⁻³¹ kg");
-    EXPECT_EQ(row(diagrammeinzelheiten(3, calc, alloy), "Lehrbuch"), "0,016587 nm³ (eingetragene Legierung)");
-    EXPECT_TRUE(diagrammeinzelheiten(7, calc, alloy).zeilen.empty());
+    EXPECT_EQ(row(diagrammeinzelheiten(3, &calc, alloy), "Lehrbuch"), "0,016587 nm³ (eingetragene Legierung)");
+    EXPECT_TRUE(diagrammeinzelheiten(7, &calc, alloy).zeilen.empty());
 }
 
 TEST_F(LehrbuchTest, WhatIsMadeOfUnknownsIsUnknown)

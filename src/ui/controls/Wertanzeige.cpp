@@ -1,6 +1,7 @@
 #include "ui/controls/Wertanzeige.h"
 
 #include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
@@ -22,11 +23,28 @@ void Wertanzeige::setEinheit(const QString& einheit, int numberWidth)
     update();
 }
 
+void Wertanzeige::setMarke(const QString& bedeutung)
+{
+    m_marke = bedeutung.isEmpty() ? QString() : QStringLiteral(" ≠");
+    setAccessibleDescription(bedeutung);
+    updateGeometry();
+    update();
+}
+
 QSize Wertanzeige::sizeHint() const
 {
     if (m_numberWidth == 0)
         return QLabel::sizeHint();
-    return {m_numberWidth + fontMetrics().horizontalAdvance(QLatin1Char(' ') + m_einheit) + 1, fontMetrics().height()};
+    return {m_numberWidth + fontMetrics().horizontalAdvance(QLatin1Char(' ') + m_einheit + m_marke) + 1,
+        fontMetrics().height()};
+}
+
+bool Wertanzeige::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QLabel::event(event);
+    emit hintRequested(static_cast<QHelpEvent*>(event)->globalPos());
+    return true;
 }
 
 void Wertanzeige::changeEvent(QEvent* event)
@@ -74,7 +92,7 @@ void Wertanzeige::paintEvent(QPaintEvent*)
         const int width = qMax(m_numberWidth, fontMetrics().horizontalAdvance(number));
         const QRect numberArea(area.left(), area.top(), width, area.height());
         painter.drawText(numberArea, Qt::AlignRight | Qt::AlignVCenter, number);
-        painter.drawText(area.adjusted(width + gap, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, m_einheit);
+        painter.drawText(area.adjusted(width + gap, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, m_einheit + m_marke);
     } else {
         painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, text());
     }

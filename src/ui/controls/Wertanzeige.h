@@ -17,6 +17,9 @@ public:
     void setEinheit(const QString& einheit, int numberWidth);
     const QString& einheit() const { return m_einheit; }
 
+    /// A mark behind the value says that more is to be said of it; `bedeutung` is for screen readers, empty: no mark.
+    void setMarke(const QString& bedeutung);
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -24,9 +27,11 @@ signals:
     void menuRequested(const QPoint& globalPosition);
     void copyRequested();
     void detailsRequested();
+    void hintRequested(const QPoint& globalPosition); ///< the mouse rests on it
 
 protected:
     void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -35,6 +40,7 @@ protected:
 private:
     QString m_einheit;
     int m_numberWidth = 0; // logical pixels
+    QString m_marke; // behind the unit; empty if there is none
 };
 
 } // namespace zerna

@@ -1,6 +1,7 @@
 #include "ui/main/Ergebnisbereich.h"
 
 #include <QMenu>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 #include "core/CheckedArithmetic.h"
@@ -11,6 +12,7 @@
 #include "ui/controls/Knopfzeile.h"
 #include "ui/controls/Wertanzeige.h"
 #include "ui/controls/Wertfeld.h"
+#include "ui/main/Ergebnisdetails.h"
 #include "ui/platform/QtText.h"
 #include "ui/platform/Tabreihenfolge.h"
 #include "ui/platform/Zwischenablage.h"
@@ -22,11 +24,15 @@ Ergebnisbereich::Ergebnisbereich(Programm& programm, SaveFileDialog& saveDialog,
     , m_programm(programm)
     , m_saveDialog(saveDialog)
     , m_gitter(new Ergebnisgitter(this))
+    , m_details(new Ergebnisdetails(this))
 {
     connect(m_gitter, &Ergebnisgitter::fieldEdited, this, &Ergebnisbereich::fieldEdited);
     connect(m_gitter, &Ergebnisgitter::friedelStepped, this, &Ergebnisbereich::stepFriedel);
     connect(m_gitter, &Ergebnisgitter::copyRequested, this,
         [this](int zeile) { copyToClipboard(m_gitter->wertUndEinheitIn(zeile)); });
+    connect(m_gitter, &Ergebnisgitter::detailsRequested, this,
+        [this](int zeile, const QRect& area) { m_details->zeige(einzelheitenVon(zeile), area); });
+    connect(m_gitter, &Ergebnisgitter::hintRequested, this, &Ergebnisbereich::showHint);
     createButtons();
     createMenu();
     layOut();
@@ -168,6 +174,22 @@ void Ergebnisbereich::showFriedel()
         // The line stays empty.
     }
     m_gitter->zeigeFriedel(QStringLiteral("n = %1").arg(toQt(textOfSingle(m_friedelindex + 1))), text);
+}
+
+Einzelheiten Ergebnisbereich::einzelheitenVon(int zeile) const
+{
+    const std::optional<Legierung> legierung = m_programm.gerechneteEingabe().legierung();
+    const bool known = legierung && m_texte.at(static_cast<std::size_t>(zeile)).known;
+    return einzelheiten(zeile, known ? &m_programm.Calc() : nullptr, legierung.value_or(Legierung()).komponenten());
+}
+
+/// Computed while the mouse waits, not with every edit.
+void Ergebnisbereich::showHint(int zeile, const QPoint& globalPosition)
+{
+    const QString hint = abweichungImErgebnis(zeile) != nullptr
+        ? einzelheitenHtml(einzelheitenVon(zeile))
+        : QStringLiteral("Formel und Konstanten: Klick oder Eingabetaste");
+    QToolTip::showText(globalPosition, hint, &m_gitter->anzeige(zeile));
 }
 
 void Ergebnisbereich::copyText()

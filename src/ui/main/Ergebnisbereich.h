@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "model/Einzelheiten.h"
 #include "model/Ergebnisse.h"
 #include "programm/ExportFileDialog.h"
 #include "programm/Programm.h"
@@ -13,6 +14,7 @@ class QMenu;
 
 namespace zerna {
 
+class Ergebnisdetails;
 class StyledButton;
 
 /// The results panel: all free-electron quantities of the alloy in the calculator, three of which can be typed to
@@ -43,6 +45,8 @@ private:
     void setTyped(Ergebnisgitter::Feld feld, float value);
     void stepFriedel(int step);
     void showFriedel();
+    Einzelheiten einzelheitenVon(int zeile) const;
+    void showHint(int zeile, const QPoint& globalPosition);
     void copyText();
     void save();
 
@@ -54,6 +58,7 @@ private:
     Ergebnisgitter* m_gitter = nullptr;
     StyledButton* m_cmdKopieren = nullptr;
     StyledButton* m_cmdSpeichern = nullptr;
+    Ergebnisdetails* m_details = nullptr;
     QMenu* m_menu = nullptr;
     int m_menuLine = 0;
 };

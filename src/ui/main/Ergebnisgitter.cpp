@@ -7,6 +7,7 @@
 
 #include <algorithm>
 
+#include "model/Lehrbuch.h"
 #include "ui/button/StyledButton.h"
 #include "ui/controls/Wertanzeige.h"
 #include "ui/controls/Wertfeld.h"
@@ -59,6 +60,10 @@ void Ergebnisgitter::createLine(const Groesse& zeile)
     connect(line, &Wertanzeige::menuRequested, this,
         [this, number = zeile.zeile](const QPoint& position) { emit menuRequested(number, position); });
     connect(line, &Wertanzeige::copyRequested, this, [this, number = zeile.zeile] { emit copyRequested(number); });
+    if (abweichungImErgebnis(zeile.zeile) != nullptr)
+        line->setMarke(QStringLiteral("weicht vom Lehrbuch ab"));
+    connect(line, &Wertanzeige::hintRequested, this,
+        [this, number = zeile.zeile](const QPoint& position) { emit hintRequested(number, position); });
     connect(line, &Wertanzeige::detailsRequested, this, [this, line, number = zeile.zeile] {
         emit detailsRequested(number, {line->mapToGlobal(QPoint()), line->size()});
     });

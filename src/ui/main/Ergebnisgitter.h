@@ -51,6 +51,7 @@ signals:
     void copyRequested(int zeile);
     /// The details of a line are wanted; the line's value stands in `area`, in screen coordinates.
     void detailsRequested(int zeile, const QRect& area);
+    void hintRequested(int zeile, const QPoint& globalPosition);
 
 protected:
     void changeEvent(QEvent* event) override;

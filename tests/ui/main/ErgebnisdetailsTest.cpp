@@ -1,0 +1,69 @@
+#include "ui/main/Ergebnisdetails.h"
+
+#include <QToolTip>
+
+#include "support/FakeDesk.h"
+
+namespace zerna {
+
+struct ErgebnisdetailsTest : FakeDesk {
+    ErgebnisdetailsTest() { openAluminiumCopper(); }
+
+    Ergebnisdetails& details() const { return find<Ergebnisdetails>("Ergebnisdetails"); }
+};
+
+TEST_F(ErgebnisdetailsTest, OpensByClickAndKeysAndEscapeGivesTheKeyboardBack)
+{
+    auto& line = find("lblMFE_18");
+    auto& text = find<QLabel>("lblEinzelheiten");
+    const std::initializer_list<std::function<void()>> ways{[&] { click("lblMFE_18"); },
+        [&] { QTest::keyClick(&line, Qt::Key_Return); }, [&] { QTest::keyClick(&line, Qt::Key_Space); }};
+    for (const auto& open : ways) {
+        line.setFocus();
+        open();
+        ASSERT_TRUE(details().isVisible());
+        QTest::keyClick(&text, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(&text, Qt::Key_C, Qt::ControlModifier);
+        EXPECT_NE(clipboard().find("Lehrbuch:\n148,75 GPa"), std::string::npos) << clipboard();
+        EXPECT_EQ(text.accessibleName(), "Einzelheiten: Kompressionsmodul");
+        EXPECT_TRUE(text.accessibleDescription().contains("Formel: 2/3·n·E_F"));
+        QTest::keyClick(&text, Qt::Key_Escape);
+        EXPECT_FALSE(details().isVisible());
+        EXPECT_EQ(window->focusWidget(), &line);
+    }
+}
+
+TEST_F(ErgebnisdetailsTest, TheHintOfAMarkedLineFollowsTheAlloy)
+{
+    const auto hint = [this](const char* name) {
+        auto& line = find(name);
+        QHelpEvent event(QEvent::ToolTip, QPoint(), line.mapToGlobal(QPoint()));
+        QApplication::sendEvent(&line, &event);
+        return QToolTip::text().toStdString();
+    };
+    EXPECT_NE(hint("lblMFE_17").find("835,6 eV/nm³"), std::string::npos) << hint("lblMFE_17");
+    type("txtProzent_0", "100");
+    EXPECT_EQ(hint("lblMFE_17").find("835,6 eV/nm³"), std::string::npos);
+    EXPECT_EQ(hint("lblMFE_7").find("Lehrbuch"), std::string::npos);
+    EXPECT_FALSE(find("lblMFE_5").accessibleDescription().isEmpty());
+    EXPECT_TRUE(find("lblMFE_7").accessibleDescription().isEmpty());
+}
+
+TEST_F(ErgebnisdetailsTest, WithoutAResultThereIsNoValue)
+{
+    type("txtMFE_0", "");
+    click("lblMFE_17");
+    EXPECT_EQ(find<QLabel>("lblEinzelheiten").text().count("unbekannt"), 2) << "value and textbook";
+}
+
+TEST(ErgebnisdetailsPlaceTest, StaysOnTheScreen)
+{
+    const QRect screen(0, 0, 1000, 700);
+    const QSize size(400, 200);
+    EXPECT_EQ(platzNeben({100, 100, 150, 20}, size, screen), QPoint(100, 123));
+    EXPECT_EQ(platzNeben({900, 100, 150, 20}, size, screen), QPoint(599, 123)) << "at the right";
+    EXPECT_EQ(platzNeben({100, 600, 150, 20}, size, screen), QPoint(100, 396)) << "at the bottom";
+    EXPECT_EQ(platzNeben({-50, 300, 150, 20}, {400, 690}, screen), QPoint(0, 0)) << "too tall for either side";
+}
+
+} // namespace zerna
