@@ -108,6 +108,32 @@ Aenderung Eingabe::waehleDichte(int zeile, std::string_view wahl)
     return {.dichte = true};
 }
 
+Aenderung Eingabe::waehleDichteart(std::string_view wahl)
+{
+    Aenderung aenderung;
+    for (int i = 0; i < m_anzahl; ++i) {
+        if (zeile(i).element && hatDichte(*zeile(i).element, wahl))
+            aenderung = waehleDichte(i, wahl);
+    }
+    return aenderung;
+}
+
+std::vector<std::string> Eingabe::ohneDichte(std::string_view wahl) const
+{
+    std::vector<std::string> symbole;
+    for (const Zeile& row : zeilen()) {
+        if (row.element && !hatDichte(*row.element, wahl) && std::ranges::count(symbole, row.element->symbol()) == 0)
+            symbole.push_back(row.element->symbol());
+    }
+    return symbole;
+}
+
+std::string Eingabe::gemeinsameDichtewahl() const
+{
+    const std::string& first = m_zeilen.front().dichtewahl;
+    return std::ranges::all_of(zeilen(), [&](const Zeile& row) { return row.dichtewahl == first; }) ? first : "";
+}
+
 Aenderung Eingabe::waehleValenz(int zeile, int wahl)
 {
     if (!at(zeile).element)
@@ -174,14 +200,13 @@ void Eingabe::mirror(int zeile)
 
 bool Eingabe::istVollstaendig() const
 {
-    return std::ranges::all_of(std::span(m_zeilen).first(static_cast<std::size_t>(m_anzahl)),
-        [](const Zeile& zeile) { return zeile.element && !zeile.prozent.fehler; });
+    return std::ranges::all_of(zeilen(), [](const Zeile& zeile) { return zeile.element && !zeile.prozent.fehler; });
 }
 
 std::optional<Legierung> Eingabe::legierung() const
 {
     std::optional<Legierung> legierung(std::in_place);
-    for (const Zeile& row : std::span(m_zeilen).first(static_cast<std::size_t>(m_anzahl))) {
+    for (const Zeile& row : zeilen()) {
         if (!row.element) {
             legierung.reset();
             break;

@@ -3,6 +3,7 @@
 #include <array>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -78,6 +79,15 @@ public:
     /// Chooses one of dichteauswahl(); "<andere>" begins at 0. Nothing for a row without an element.
     Aenderung waehleDichte(int zeile, std::string_view wahl);
 
+    /// Chooses one of dichtearten() for all rows in use whose element has it; the others stay as they are.
+    Aenderung waehleDichteart(std::string_view wahl);
+
+    /// The symbols of the elements in use that do not have a density of that choice.
+    std::vector<std::string> ohneDichte(std::string_view wahl) const;
+
+    /// The density choice of all rows in use; empty if they differ.
+    std::string gemeinsameDichtewahl() const;
+
     /// Chooses a valence by its code; ValenzAndere begins at 0. Nothing for a row without an element.
     Aenderung waehleValenz(int zeile, int wahl);
 
@@ -115,6 +125,7 @@ public:
     bool operator==(const Eingabe&) const = default;
 
 private:
+    std::span<const Zeile> zeilen() const { return std::span(m_zeilen).first(static_cast<std::size_t>(m_anzahl)); }
     Zeile& at(int zeile) { return m_zeilen.at(static_cast<std::size_t>(zeile)); }
     bool balance();
     void writeDichte(int zeile, Eingabefeld feld);

@@ -31,6 +31,19 @@ float electronsOf(const clsElement& element, int orbital)
 
 } // namespace
 
+std::vector<std::string_view> dichtearten()
+{
+    std::vector<std::string_view> choices;
+    for (const Dichteart& art : Dichtearten)
+        choices.push_back(art.text);
+    return choices;
+}
+
+bool hatDichte(const clsElement& element, std::string_view choice)
+{
+    return std::ranges::count(dichteauswahl(element), choice) > 0;
+}
+
 std::vector<std::string_view> dichteauswahl(const clsElement& element)
 {
     std::vector<std::string_view> choices;

@@ -22,6 +22,12 @@ struct Valenzeintrag {
     int code = 0;
 };
 
+/// The density choices that an element may have: amorph, flüssig, kristallin.
+std::vector<std::string_view> dichtearten();
+
+/// Whether the element has a density for a choice; it always has "<andere>".
+bool hatDichte(const clsElement& element, std::string_view choice);
+
 /// The density choices that the element has, in the order amorph, flüssig, kristallin, then "<andere>".
 std::vector<std::string_view> dichteauswahl(const clsElement& element);
 

@@ -197,6 +197,40 @@ TEST_F(EingabeTest, RowsOfOneElementShareItsValues)
     EXPECT_EQ(zahlen(), "50 2,5 2,5|50 7,997 1|") << "each has its own again";
 }
 
+TEST_F(EingabeTest, OneDensityKindForAllRowsThatHaveIt)
+{
+    eingabe.setAnzahl(4);
+    eingabe.waehleElement(2, "Se");
+    eingabe.waehleElement(3, "Po");
+    eingabe.waehleDichte(3, AndereWahl);
+    eingabe.waehleElement(4, "Zn"); // not in use
+    struct Row {
+        const char* wahl;
+        Aenderung aenderung;
+        const char* wahlen; // of the rows
+        const char* ohne;
+    };
+    for (const auto& [wahl, aenderung, wahlen, ohne] : {
+             Row{"kristallin", {.dichte = true}, "kristallin kristallin kristallin kristallin flüssig ", ""},
+             Row{"amorph", {.dichte = true}, "kristallin kristallin amorph kristallin flüssig ", "Al Cu Po "},
+             Row{"flüssig", {.dichte = true}, "flüssig flüssig flüssig kristallin flüssig ", "Po "},
+             Row{"gasförmig", {}, "flüssig flüssig flüssig kristallin flüssig ", "Al Cu Se Po "},
+         }) {
+        EXPECT_EQ(eingabe.waehleDichteart(wahl), aenderung);
+        std::string chosen;
+        for (int row = 0; row < MaxKomponenten; ++row)
+            chosen += eingabe.zeile(row).dichtewahl + ' ';
+        EXPECT_EQ(chosen, wahlen) << wahl;
+        std::string missing;
+        for (const std::string& symbol : eingabe.ohneDichte(wahl))
+            missing += symbol + ' ';
+        EXPECT_EQ(missing, ohne) << wahl;
+    }
+    EXPECT_EQ(eingabe.gemeinsameDichtewahl(), "");
+    eingabe.setAnzahl(3);
+    EXPECT_EQ(eingabe.gemeinsameDichtewahl(), "flüssig");
+}
+
 TEST_F(EingabeTest, FirstObstacleIsNamed)
 {
     struct Row {

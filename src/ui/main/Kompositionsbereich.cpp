@@ -7,6 +7,7 @@
 #include "core/Zahlentext.h"
 #include "parser/Formelwert.h"
 #include "ui/button/StyledButton.h"
+#include "ui/main/Dichteschalter.h"
 #include "ui/main/Kompositionszeile.h"
 #include "ui/platform/QtText.h"
 
@@ -38,6 +39,9 @@ void Kompositionsbereich::createControls()
             [this, step] { setAnzahl(naechsteKomponentenzahl(eingabe().anzahl(), step)); });
     }
     m_label1->setBuddy(m_cmdKom[0]);
+    m_dichteschalter = new Dichteschalter(this);
+    connect(
+        m_dichteschalter, &Dichteschalter::chosen, this, [this](const auto& wahl) { dichteartChosen(fromQt(wahl)); });
     const std::array<std::pair<const char*, QString>, 4> heads{
         {{"Label5", QStringLiteral("Komponente")}, {"Label2", QStringLiteral("at %")},
             {"Label3", QStringLiteral("Dichte [g/cm³]")}, {"Label4", QStringLiteral("Valenz")}}};
@@ -90,6 +94,7 @@ void Kompositionsbereich::layOut()
         top->addWidget(button);
     }
     top->addStretch();
+    top->addWidget(m_dichteschalter);
 
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(6);
@@ -107,6 +112,7 @@ void Kompositionsbereich::layOut()
     column->setSpacing(4);
     column->addLayout(top);
     column->addLayout(grid);
+    column->addWidget(m_dichteschalter->meldung());
 }
 
 void Kompositionsbereich::restoreCount()
@@ -163,6 +169,12 @@ void Kompositionsbereich::elementChosen(int row, std::string_view key)
         emit geaendert(aenderung);
 }
 
+void Kompositionsbereich::dichteartChosen(std::string_view wahl)
+{
+    taken(eingabe().waehleDichteart(wahl));
+    m_dichteschalter->zeigeOhneDichte(wahl, eingabe().ohneDichte(wahl));
+}
+
 void Kompositionsbereich::valenzEdited(int row, const Aenderung& aenderung)
 {
     taken(aenderung);
@@ -183,6 +195,7 @@ void Kompositionsbereich::zeige()
 {
     for (Kompositionszeile* const zeile : m_zeilen)
         zeile->zeige(eingabe());
+    m_dichteschalter->zeige(eingabe());
     m_lblAnzahl->setText(QString::number(eingabe().anzahl()));
 }
 

@@ -11,6 +11,7 @@ class QLabel;
 
 namespace zerna {
 
+class Dichteschalter;
 class Kompositionszeile;
 class StyledButton;
 
@@ -47,6 +48,7 @@ private:
     void setAnzahl(int count);
     void elementChosen(int row, std::string_view key);
     void valenzEdited(int row, const Aenderung& aenderung);
+    void dichteartChosen(std::string_view wahl);
     void taken(const Aenderung& aenderung);
     void zeige();
 
@@ -58,6 +60,7 @@ private:
     QLabel* m_label1 = nullptr;
     QLabel* m_lblAnzahl = nullptr;
     std::array<StyledButton*, 2> m_cmdKom{};
+    Dichteschalter* m_dichteschalter = nullptr;
     std::array<QLabel*, 4> m_heads{};
     std::array<Kompositionszeile*, MaxKomponenten> m_zeilen{};
 };

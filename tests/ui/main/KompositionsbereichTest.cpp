@@ -34,4 +34,20 @@ TEST_F(KompositionsbereichTest, FormulasEchoTheirValueOrAreMarkedAndSpokenOfOnce
     }
 }
 
+TEST_F(KompositionsbereichTest, OneListChoosesTheDensityOfAllRows)
+{
+    EXPECT_EQ(text("cmbDichteart"), "kristallin");
+    choose("cmbElement_1", "Se");
+    EXPECT_EQ(text("cmbDichteart"), "") << "they differ";
+    choose("cmbDichteart", "flüssig");
+    EXPECT_EQ(texts({"cmdDichte_0", "txtDichte_0", "cmdDichte_1", "txtDichte_1"}), "flüssig|2,377|flüssig|3,99");
+    EXPECT_FALSE(find("lblDichteart").isVisible());
+    choose("cmbDichteart", "amorph");
+    EXPECT_EQ(texts({"cmdDichte_0", "cmdDichte_1", "lblDichteart"}),
+        "flüssig|amorph|Keine Dichte „amorph“ bekannt, unverändert: Al");
+    EXPECT_TRUE(find("lblDichteart").isVisible());
+    type("txtProzent_0", "40");
+    EXPECT_FALSE(find("lblDichteart").isVisible()) << "until the next entry";
+}
+
 } // namespace zerna
