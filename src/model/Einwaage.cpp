@@ -154,6 +154,11 @@ std::string massentext(float masse)
     return textWithDigits(masse, Digits);
 }
 
+bool istEineMasseBekannt(std::span<const Einwaagezeile> zeilen)
+{
+    return std::ranges::any_of(zeilen, [](const auto& z) { return !z.sollmasse.empty() || !z.istmasse.empty(); });
+}
+
 std::string wiegeprotokoll(std::string_view datum, std::span<const Einwaagezeile> zeilen)
 {
     std::string text = "Einwaage vom " + std::string(datum);

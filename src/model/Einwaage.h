@@ -63,6 +63,9 @@ struct Einwaagezeile {
     std::string massprozent;
 };
 
+/// Whether there is a mass in the rows, wanted or weighed.
+bool istEineMasseBekannt(std::span<const Einwaagezeile> zeilen);
+
 /// The weighing protocol: tab-separated lines with decimal points, CR LF, units in the header.
 std::string wiegeprotokoll(std::string_view datum, std::span<const Einwaagezeile> zeilen);
 

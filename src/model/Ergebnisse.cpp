@@ -1,5 +1,7 @@
 #include "model/Ergebnisse.h"
 
+#include <algorithm>
+
 #include "core/CheckedArithmetic.h"
 #include "core/Zahlentext.h"
 
@@ -45,6 +47,8 @@ std::string_view withoutCharacters(std::string_view text, std::size_t count)
 } // namespace
 
 Ergebnistexte keineErgebnisse() { return Ergebnistexte(positionen()); }
+
+bool istEtwasBekannt(const Ergebnistexte& texte) { return std::ranges::any_of(texte, &Ergebnistext::known); }
 
 bool berechneErgebnisse(const clsCalc& calc, Ergebnistexte& texte)
 {

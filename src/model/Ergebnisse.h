@@ -23,6 +23,9 @@ using Ergebnistexte = std::vector<Ergebnistext>;
 /// Texts of which none is known.
 Ergebnistexte keineErgebnisse();
 
+/// Whether at least one line's value is known.
+bool istEtwasBekannt(const Ergebnistexte& texte);
+
 /// Formats all lines. From the first line that cannot be computed on all value lines are empty, the Friedel read-out
 /// too, and false is returned; an alloy that could not be computed has no lines at all. The three editable lines hold
 /// their unit, line 10 the first Friedel minimum.

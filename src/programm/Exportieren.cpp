@@ -51,6 +51,10 @@ void zeigeNichtsZuSpeichern(MessageBoxes& boxes, std::string_view grund)
 
 bool exportieren(MessageBoxes& boxes, SaveFileDialog& dialog, std::string_view titel, std::span<const Exportart> arten)
 {
+    if (arten.empty()) {
+        zeigeNichtsZuSpeichern(boxes, "Es ist kein Wert bekannt.");
+        return false;
+    }
     int filterIndex = 1;
     Inhalt inhalt;
     std::optional<SaveFileDialog::Choice> refused;

@@ -71,9 +71,7 @@ void Diagrammflaeche::copyValues() { copyToClipboard(toQt(m_diagramm->values()))
 
 void Diagrammflaeche::save()
 {
-    const auto arten = m_diagramm->exportarten(leinwand());
-    if (!arten.empty())
-        exportieren(m_programm.boxes(), m_dialoge.save, Exporttitel, arten);
+    exportieren(m_programm.boxes(), m_dialoge.save, Exporttitel, m_diagramm->exportarten(leinwand()));
 }
 
 void Diagrammflaeche::savePicture()

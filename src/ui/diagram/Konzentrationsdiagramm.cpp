@@ -196,6 +196,8 @@ std::string Konzentrationsdiagramm::values(int schritt) const
 /// The bitmap shows the plot alone.
 std::vector<Exportart> Konzentrationsdiagramm::exportarten(const Leinwand& leinwand) const
 {
+    if (!m_y || !istEinerBekannt(m_reihe))
+        return {};
     const auto text = [this]() -> std::optional<std::string> {
         const auto schritt = m_schrittfrage();
         return schritt ? std::optional(values(*schritt)) : std::nullopt;

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <utility>
 
+#include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
 #include "model/Werttext.h"
 #include "ui/diagram/Bildausgabe.h"
@@ -106,6 +107,8 @@ std::string PSEDiagramm::values() const { return psedatei(m_reihe); }
 
 std::vector<Exportart> PSEDiagramm::exportarten(const Leinwand& leinwand) const
 {
+    if (!istEinerBekannt(m_reihe.y))
+        return {};
     return {datDatei([this] { return values(); }), bitmap(maler(), leinwand)};
 }
 

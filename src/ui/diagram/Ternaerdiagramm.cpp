@@ -5,6 +5,7 @@
 #include <cmath>
 #include <utility>
 
+#include "core/Unbekannt.h"
 #include "ui/diagram/Bildausgabe.h"
 
 namespace zerna {
@@ -37,6 +38,8 @@ std::string Ternaerdiagramm::values() const { return m_inhalt ? ternaerdatei(m_i
 
 std::vector<Exportart> Ternaerdiagramm::exportarten(const Leinwand& leinwand) const
 {
+    if (!m_inhalt || !istEinerBekannt(m_inhalt->gitter.werte))
+        return {};
     return {textdatei("Daten 3D (*.3dd)", "*.3dd", ".3dd", [this] { return values(); }), bitmap(maler(), leinwand)};
 }
 

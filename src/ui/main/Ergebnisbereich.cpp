@@ -204,6 +204,8 @@ void Ergebnisbereich::copyText()
 
 void Ergebnisbereich::save()
 {
+    if (!istEtwasBekannt(m_texte))
+        return zeigeNichtsZuSpeichern(m_programm.boxes(), "Die Legierung lässt sich nicht berechnen.");
     const Exportart arten[] = {
         datDatei([this] { return ergebnisdatei(m_programm.Calc(), m_zeilen, m_texte); }),
         friedelminima([this] { return friedeldatei(m_programm.Calc()); }),

@@ -320,21 +320,28 @@ void conWiegen::verlustChanged()
     }
 }
 
-std::string conWiegen::protokoll() const
+std::vector<Einwaagezeile> conWiegen::einwaagen() const
 {
     const clsCalc& calc = m_programm.Calc();
     std::vector<Einwaagezeile> zeilen;
     for (int row = 0; row < m_anzahl; ++row)
         zeilen.push_back(at(row).einwaage(calc.Element_Symbol(row), textOfSingle(calc.Element_Prozente(row))));
-    return wiegeprotokoll(fromQt(QDate::currentDate().toString(QStringLiteral("d.M.yyyy"))), zeilen);
+    return zeilen;
+}
+
+std::string conWiegen::protokoll() const
+{
+    return wiegeprotokoll(fromQt(QDate::currentDate().toString(QStringLiteral("d.M.yyyy"))), einwaagen());
 }
 
 void conWiegen::copy() { copyToClipboard(toQt(protokoll())); }
 
 void conWiegen::save()
 {
-    const auto text = [this] { return protokoll(); };
-    exportieren(m_programm.boxes(), m_saveDialog, Exporttitel, std::array{datDatei(text), friedelminima(text)});
+    if (!istEineMasseBekannt(einwaagen()))
+        return zeigeNichtsZuSpeichern(m_programm.boxes(), "Es gibt weder Sollmassen noch gewogene Massen.");
+    const Exportart art = textdatei("Wiegeprotokoll (*.dat)", "*.dat", ".dat", [this] { return protokoll(); });
+    exportieren(m_programm.boxes(), m_saveDialog, Exporttitel, std::span(&art, 1));
 }
 
 } // namespace zerna

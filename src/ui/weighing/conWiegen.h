@@ -15,6 +15,7 @@ class QListWidget;
 
 namespace zerna {
 
+struct Einwaagezeile;
 class Massenfeld;
 class StyledButton;
 class Wiegezeile;
@@ -50,6 +51,7 @@ private:
     void showMangel();
     std::vector<float> istmassen() const;
     bool isAnythingWeighed() const;
+    std::vector<Einwaagezeile> einwaagen() const;
     std::string protokoll() const;
     void copy();
     void save();
