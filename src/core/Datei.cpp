@@ -42,6 +42,8 @@ Datei::Datei(const std::filesystem::path& path, Zugriff zugriff)
         std::error_code unknown;
         if (error == ENOENT && path.has_parent_path() && !std::filesystem::exists(path.parent_path(), unknown))
             throw Laufzeitfehler(Fehler::PfadNichtGefunden);
+        if (error == ENOENT && std::filesystem::is_symlink(path, unknown))
+            throw Laufzeitfehler(Fehler::DateiNichtGefunden, "die Verknüpfung führt zu keiner Datei");
         throw Laufzeitfehler(systemfehler(error));
     }
     std::error_code unknown;

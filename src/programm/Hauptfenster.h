@@ -28,6 +28,9 @@ public:
     /// Computes and shows everything from the rows as they are now.
     virtual void compute() = 0;
 
+    /// Shows instead of everything why nothing can be entered or computed; closing works.
+    virtual void sperren(std::string_view grund) = 0;
+
     virtual void show() = 0;
 };
 

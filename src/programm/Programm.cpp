@@ -1,14 +1,22 @@
 #include "programm/Programm.h"
 
 #include <string>
+#include <system_error>
 
 #include "core/Elementdatei.h"
 #include "core/Exportdatei.h"
+#include "core/Kuerzung.h"
 #include "programm/EingebauteTabelle.h"
 
 namespace zerna {
 
 namespace {
+
+constexpr std::string_view Dateiabhilfe = "Bitte die Datei durch eine gute ersetzen oder entfernen (dann legt der "
+                                          "nächste Start die eingebaute Tabelle mit sechs "
+                                          "Elementen an) und das Programm neu starten.";
+constexpr std::string_view Neustart =
+    "Das Programm ist nicht vollständig gestartet und kann nichts berechnen. Bitte beenden und neu starten.";
 
 template <class Object>
 Object& existing(const std::unique_ptr<Object>& object)
@@ -34,12 +42,20 @@ bool Programm::start(const CreateWindow& createWindow)
         if (!startSteps(createWindow, window))
             return false;
     } catch (const Laufzeitfehler& error) {
-        // Whatever has been filled in is shown all the same.
-        m_boxes.show(Icon::Exclamation, clsLoader::ApplicationName(), error.what());
+        // The window is shown all the same.
+        const std::string reason = m_elementCollection.Count() == 0 ? ohneElemente() : std::string(Neustart);
+        m_boxes.show(Icon::Exclamation, clsLoader::ApplicationName(), error.what() + std::string("\r\n\r\n") + reason);
+        if (window != nullptr)
+            window->sperren(reason);
     }
     if (window == nullptr)
         return false;
     window->show();
+    if (!m_fehlendeElemente.empty())
+        m_boxes.show(Icon::Exclamation, Programmtitel,
+            "Diese zuletzt gewählten Elemente fehlen in der Datei\r\n" + utf8FromPath(dataFile()) + ":\r\n"
+                + m_fehlendeElemente
+                + "\r\n\r\nBitte in den Listen andere wählen oder die Datei durch eine ersetzen, die sie enthält.");
     return true;
 }
 
@@ -69,29 +85,40 @@ std::filesystem::path Programm::dataFile()
     return pathFromUtf8(Loader().ApplicationPath() + std::string(Elementdateiname));
 }
 
-/// Writes the built-in table out if there is no data file; false if there is none even then.
+/// Writes the built-in table out if nothing has the data file's name; false if there is no file even then.
 bool Programm::provideDataFile()
 {
-    const std::string name = utf8FromPath(dataFile());
-    if (m_loader->IsFileFailed(name)) {
-        try {
-            writeExport(
-                dataFile(), {reinterpret_cast<const char*>(EingebauteTabelle.data()), EingebauteTabelle.size()});
-        } catch (const Laufzeitfehler&) {
-            // What counts is whether the file is there afterwards.
-        }
+    const std::filesystem::path file = dataFile();
+    std::string reason = "Es ist keine lesbare Datei";
+    try {
+        std::error_code unknown;
+        if (std::filesystem::symlink_status(file, unknown).type() == std::filesystem::file_type::not_found)
+            writeExport(file, {reinterpret_cast<const char*>(EingebauteTabelle.data()), EingebauteTabelle.size()});
+        else if (m_loader->IsFileFailed(utf8FromPath(file)))
+            Datei(file, Zugriff::Eingabe); // which says why not
+    } catch (const Laufzeitfehler& error) {
+        reason = error.what();
     }
-    if (!m_loader->IsFileFailed(name))
+    if (!m_loader->IsFileFailed(utf8FromPath(file)))
         return true;
-    ShowDataFileMissing(Elementdateiname);
+    ShowDataFileMissing(Elementdateiname, reason);
     return false;
 }
 
-void Programm::ShowDataFileMissing(std::string_view name)
+void Programm::ShowDataFileMissing(std::string_view name, const std::string& reason)
 {
     m_boxes.show(Icon::Exclamation, "Zerna - Loader",
         "Sie benötigen eine neuere Version der Datei '" + std::string(name)
-            + "'.\r\nProgramm kann nicht ausgeführt werden.");
+            + "'.\r\nProgramm kann nicht ausgeführt werden.\r\n\r\n" + utf8FromPath(dataFile()) + ":\r\n" + reason
+            + ".\r\nDen Schreibschutz des Ordners aufheben oder eine lesbare Datei dieses Namens hineinlegen.");
+}
+
+/// Why a program without elements can do nothing, and what helps.
+std::string Programm::ohneElemente()
+{
+    return "Die Elementdatei\r\n" + utf8FromPath(dataFile())
+        + "\r\nenthält keine Elemente oder ist nicht lesbar; ohne Elemente lässt sich nichts berechnen.\r\n\r\n"
+        + std::string(Dateiabhilfe);
 }
 
 /// Fills the collection and the window's element lists; false if the program must end. A file that cannot be opened
@@ -112,7 +139,8 @@ bool Programm::LoadElements(Hauptfenster& window)
         loadElements(m_files, m_fileHandler->FileHandle(), m_boxes, m_elementCollection, fill);
     } catch (const Laufzeitfehler& error) {
         m_boxes.show(Icon::Exclamation, Programmtitel,
-            "Fehler beim Einlesen der Datei:\r\n" + name + "\r\n\r\n" + error.what() + "\r\nProgramm wird beendet.");
+            "Fehler beim Einlesen der Datei:\r\n" + name + "\r\n\r\n" + error.what()
+                + "\r\nProgramm wird beendet.\r\n\r\n" + std::string(Dateiabhilfe));
         return false;
     }
     m_fileHandler->CloseFile();
@@ -121,10 +149,14 @@ bool Programm::LoadElements(Hauptfenster& window)
 
 void Programm::restoreElements(Hauptfenster& window)
 {
+    m_fehlendeElemente.clear();
     for (int list = 0; list < MaxKomponenten; ++list) {
         const std::string value =
             m_settings.LoadSetting("Element_" + std::to_string(list), window.elementEntry(list, list));
-        window.ComboElementListIndex(list, window.findElementEntry(list, value));
+        const int position = window.findElementEntry(list, value);
+        if (position < 0 && !value.empty())
+            m_fehlendeElemente += "\r\nKomponente " + std::to_string(list + 1) + ": " + gekuerzt(value);
+        window.ComboElementListIndex(list, position);
     }
 }
 

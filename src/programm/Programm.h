@@ -26,7 +26,8 @@ public:
     Programm(MessageBoxes& boxes, SettingsStore& settings, std::filesystem::path programFolder);
 
     /// Makes sure that the element data file exists, loads it, restores the chosen elements and shows the window.
-    /// False if the program must end at once; the reason has been shown.
+    /// False if the program must end at once; the reason has been shown. A run-time error later than that is shown and
+    /// leaves a window in which nothing can be entered and StartupDone false.
     bool start(const CreateWindow& createWindow);
 
     /// Releases the program-wide objects in their fixed order. Nothing is stored.
@@ -86,7 +87,8 @@ private:
     bool provideDataFile();
     bool LoadElements(Hauptfenster& window);
     void restoreElements(Hauptfenster& window);
-    void ShowDataFileMissing(std::string_view name);
+    void ShowDataFileMissing(std::string_view name, const std::string& reason);
+    std::string ohneElemente();
     std::filesystem::path dataFile();
 
     MessageBoxes& m_boxes;
@@ -99,6 +101,7 @@ private:
     zerna::Eingabe m_eingabe{m_elementCollection};
     zerna::Eingabe m_gerechnet{m_elementCollection};
     bool m_startupDone = false;
+    std::string m_fehlendeElemente; // chosen last time and not in the table, a line each
     int m_komponentenzahl = 0;
     std::unique_ptr<clsFileHandler> m_fileHandler;
     std::unique_ptr<clsParser> m_parser;

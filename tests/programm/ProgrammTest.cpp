@@ -1,5 +1,7 @@
 #include "programm/Programm.h"
 
+#include <sys/stat.h>
+
 #include <algorithm>
 #include <map>
 
@@ -38,6 +40,11 @@ public:
     void ComboElementListIndex(int index, int listIndex) override { log("row", index, listIndex); }
     void selectFirstDiagram() override { log("diagram", 0, 0); }
     void compute() override { log("compute", 0, m_programm.StartupDone() ? 1 : 0); }
+    void sperren(std::string_view grund) override
+    {
+        EXPECT_NE(grund.find("neu starten"), grund.npos);
+        log("sperren", 0, 0);
+    }
     void show() override { log("show", 0, m_programm.StartupDone() ? 1 : 0); }
 
     std::map<int, std::vector<std::string>> lists;
@@ -91,10 +98,14 @@ TEST_F(ProgrammTest, BadDataFilesAreReportedAndNeverOverwritten)
 {
     const std::string helium("\x12\x01\x02\0He", 6); // how its record begins
     const std::string hydrogen = builtIn.substr(4, builtIn.find(helium) - 4);
-    const auto damaged = [this](const std::string& reason) {
+    const std::string remedy = "\r\n\r\nBitte die Datei durch eine gute ersetzen oder entfernen (dann legt der nächste "
+                               "Start die eingebaute Tabelle mit sechs Elementen an) und das Programm neu starten.";
+    const auto damaged = [&](const std::string& reason) {
         return "Fehler beim Einlesen der Datei:\r\n" + dataFile.string() + "\r\n\r\n" + reason
-            + "\r\nProgramm wird beendet.";
+            + "\r\nProgramm wird beendet." + remedy;
     };
+    const std::string none = "Index außerhalb des gültigen Bereichs\r\n\r\nDie Elementdatei\r\n" + dataFile.string()
+        + "\r\nenthält keine Elemente oder ist nicht lesbar; ohne Elemente lässt sich nichts berechnen." + remedy;
     const std::string twice = damaged("Dieser Schlüssel ist bereits einem Element dieser Auflistung zugeordnet");
     const std::string tooShort = damaged("Eingabe hinter Dateiende");
     struct Row {
@@ -105,7 +116,7 @@ TEST_F(ProgrammTest, BadDataFilesAreReportedAndNeverOverwritten)
         bool runs;
     };
     for (const auto& [name, bytes, caption, text, runs] : {
-             Row{"no elements", std::string(4, '\0'), "KoltZerna", "Index außerhalb des gültigen Bereichs", true},
+             Row{"no elements", std::string(4, '\0'), "KoltZerna", none, true},
              {"an element twice", builtIn.substr(0, 4) + hydrogen + hydrogen, "Zerna", twice, false},
              {"empty", "", "Zerna", tooShort, false},
              {"a negative count", "\xFF\xFF\xFF\xFF" + hydrogen, "Zerna", tooShort, false},
@@ -116,24 +127,57 @@ TEST_F(ProgrammTest, BadDataFilesAreReportedAndNeverOverwritten)
         writeBytes(dataFile, bytes);
         EXPECT_EQ(start(), runs);
         EXPECT_EQ(boxes.shown, std::vector({Box{Icon::Exclamation, caption, text}}));
-        EXPECT_EQ(window->calls, runs ? "show 0 0\n" : "");
+        EXPECT_EQ(window->calls, runs ? "sperren 0 0\nshow 0 0\n" : "");
         EXPECT_EQ(bytesOf(dataFile), bytes);
     }
 }
 
-TEST_F(ProgrammTest, EndsWithAMessageWhenTheDataFileCannotBeWritten)
+TEST_F(ProgrammTest, EndsWithAMessageWhenThereIsNoDataFile)
 {
-    const Box missing{Icon::Exclamation, "Zerna - Loader",
-        "Sie benötigen eine neuere Version der Datei 'elemente.dat'.\r\nProgramm kann nicht ausgeführt werden."};
+    const auto says = [this](const std::filesystem::path& file, const std::string& cause) {
+        const std::string text = "Sie benötigen eine neuere Version der Datei 'elemente.dat'.\r\nProgramm kann nicht "
+                                 "ausgeführt werden.\r\n\r\n"
+            + file.string() + ":\r\n" + cause;
+        const Box& box = boxes.shown.back();
+        EXPECT_TRUE(box.caption == "Zerna - Loader" && box.text.starts_with(text)) << box.text;
+    };
     {
         const FullDisk disk(100);
         EXPECT_FALSE(start());
-        EXPECT_EQ(boxes.shown, std::vector{missing});
+        says(dataFile, "Datenträger voll");
     }
     Programm nowhere(boxes, settings, folder / "fehlt");
     EXPECT_FALSE(start(nowhere));
-    EXPECT_EQ(boxes.shown.back(), missing);
+    says(folder / "fehlt/elemente.dat", "Pfad nicht gefunden.");
     EXPECT_FALSE(window || std::filesystem::exists(dataFile));
+    const std::pair<std::function<void()>, const char*> rows[] = {
+        {[&] { std::filesystem::create_symlink("fehlt.dat", dataFile); },
+            "Datei nicht gefunden (die Verknüpfung führt zu keiner Datei)."},
+        {[&] { std::filesystem::create_directory(dataFile); },
+            "Fehler beim Zugriff auf Pfad/Datei (das ist ein Ordner)."},
+        {[&] { ASSERT_EQ(mkfifo(dataFile.c_str(), 0600), 0); },
+            "Fehler beim Zugriff auf Pfad/Datei (das ist keine gewöhnliche Datei)."}};
+    for (const auto& [make, cause] : rows) {
+        make();
+        EXPECT_FALSE(start());
+        says(dataFile, cause);
+        EXPECT_NE(std::filesystem::symlink_status(dataFile).type(), std::filesystem::file_type::regular);
+        std::filesystem::remove(dataFile);
+    }
+    EXPECT_FALSE(std::filesystem::exists(folder / "fehlt.dat"));
+}
+
+TEST_F(ProgrammTest, StoredElementsThatTheTableLacksAreNamed)
+{
+    settings["Element_1"] = "Cu";
+    settings["Element_3"] = std::string(1000, 'x');
+    ASSERT_TRUE(start());
+    EXPECT_NE(window->calls.find("row 1 -1\n"), std::string::npos);
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_TRUE(boxes.shown[0].text.starts_with("Diese zuletzt gewählten Elemente fehlen in der Datei\r\n"
+        + dataFile.string() + ":\r\n\r\nKomponente 2: Cu\r\nKomponente 4: xxx"))
+        << boxes.shown[0].text;
+    EXPECT_LT(boxes.shown[0].text.size(), 500U);
 }
 
 TEST_F(ProgrammTest, AfterShutdownNothingIsLeft)

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QIcon>
+#include <QLabel>
 #include <QVBoxLayout>
 
 #include "ui/button/StyledButton.h"
@@ -174,6 +175,22 @@ void frmMain::uebernehmen(const Aenderung& aenderung)
             m_conWiegen1->Aktualisieren(m_programm.gerechneteEingabe());
     }
     m_diagramm->zeige(m_programm.Eingabe(), aenderung);
+}
+
+void frmMain::sperren(std::string_view grund)
+{
+    for (QWidget* const part : {m_left, static_cast<QWidget*>(m_diagramm)})
+        part->hide();
+    for (StyledButton* const button : m_optButton1)
+        button->setEnabled(false);
+    auto* reason = new QLabel(toQt(grund).remove(QLatin1Char('\r')), m_pic1);
+    reason->setObjectName(QStringLiteral("lblSperre"));
+    reason->setTextFormat(Qt::PlainText);
+    reason->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    reason->setWordWrap(true);
+    reason->setAlignment(Qt::AlignCenter);
+    reason->setContentsMargins(40, 0, 40, 0);
+    (new QVBoxLayout(m_pic1))->addWidget(reason);
 }
 
 void frmMain::show() { QWidget::show(); }

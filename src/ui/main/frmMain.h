@@ -34,6 +34,7 @@ public:
     int findElementEntry(int list, std::string_view text) const override;
     void selectFirstDiagram() override;
     void compute() override;
+    void sperren(std::string_view grund) override;
     void show() override;
 
 protected:

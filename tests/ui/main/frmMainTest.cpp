@@ -168,4 +168,15 @@ TEST_F(frmMainTest, AboutBoxTellsVersionAndBuild)
     EXPECT_TRUE(closed);
 }
 
+TEST_F(frmMainTest, AWindowWithoutElementsSaysWhyAndOffersNothing)
+{
+    writeBytes(folder / "elemente.dat", std::string(4, '\0'));
+    open();
+    EXPECT_NE(text("lblSperre").find("enthält keine Elemente"), std::string::npos);
+    EXPECT_FALSE(find("txtProzent_0").isVisible() || find("optButton_1_1").isEnabled() || programm->StartupDone());
+    QTest::keyClick(window.get(), Qt::Key_P, Qt::AltModifier);
+    EXPECT_TRUE(find("lblSperre").isVisible());
+    EXPECT_TRUE(window->close());
+}
+
 } // namespace zerna
