@@ -37,9 +37,10 @@ void paintEckzeichen(QPainter& painter, const QRectF& area, Gruppenzeichen zeich
     paintZeichen(painter, {area.right() - size - Margin, area.top() + Margin, size, size}, zeichen, colour);
 }
 
-/// Atomic number and symbol; below them name or mass where there is room.
-void paintTexte(QPainter& painter, const QRectF& area, const clsElement& element, const Zellstil& stil)
+/// Atomic number and symbol; below them value, name or mass where there is room.
+void paintTexte(QPainter& painter, const QRectF& area, const Elementzelle& zelle, const Zellstil& stil)
 {
+    const clsElement& element = zelle.element;
     const Schriftgroessen groessen = schriftgroessen(area.width(), area.height());
     const QFont smallFont = withPixelSize(stil.font, groessen.klein);
     painter.setFont(smallFont);
@@ -54,8 +55,12 @@ void paintTexte(QPainter& painter, const QRectF& area, const clsElement& element
     if (!groessen.dritteZeile)
         return;
     painter.setFont(smallFont);
-    const QString below = toQt(dritteZeile(element, stil.namen));
-    if (passt(QFontMetricsF(smallFont).horizontalAdvance(below), area.width()))
+    const Textbreite breite = [metrics = QFontMetricsF(smallFont)](
+                                  std::string_view text) { return metrics.horizontalAdvance(toQt(text)); };
+    const std::string text =
+        zelle.wert ? zellwert(*zelle.wert, area.width(), breite) : dritteZeile(element, stil.namen);
+    const QString below = toQt(text);
+    if (passt(breite(text), area.width()))
         painter.drawText(area.adjusted(2, 0, -2, -3), Qt::AlignHCenter | Qt::AlignBottom, below);
 }
 
@@ -78,7 +83,7 @@ void paintZelle(QPainter& painter, const QRectF& area, const Elementzelle& zelle
     if (zeichen)
         paintEckzeichen(painter, cell, *zeichen, text);
     painter.setPen(text);
-    paintTexte(painter, cell, zelle.element, stil);
+    paintTexte(painter, cell, zelle, stil);
     if (zelle.isSelected) {
         painter.setBrush(Qt::NoBrush);
         painter.setPen(QPen(stil.palette.color(stil.hasFocus ? QPalette::Highlight : QPalette::WindowText), 3));

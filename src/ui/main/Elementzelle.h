@@ -4,6 +4,8 @@
 #include <QPalette>
 #include <QRectF>
 
+#include <optional>
+
 #include "ui/main/Tafelfaerbung.h"
 
 class QPainter;
@@ -23,6 +25,7 @@ struct Zellstil {
 struct Elementzelle {
     const clsElement& element;
     Zellfuellung fuellung;
+    std::optional<float> wert = std::nullopt; ///< shown in place of name or mass
     bool isHovered = false; ///< lifted, with a shadow
     bool isSelected = false;
 };

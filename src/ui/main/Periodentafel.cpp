@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <QToolTip>
 
+#include <algorithm>
+
 #include "bild/PSETafel.h"
 #include "ui/main/Tafellegende.h"
 #include "ui/main/Zelltexte.h"
@@ -91,10 +93,18 @@ bool Periodentafel::event(QEvent* event)
     if (event->type() == QEvent::ToolTip) {
         const auto* help = static_cast<QHelpEvent*>(event);
         const auto element = elementUnder(help->pos());
-        QToolTip::showText(help->globalPos(), element ? toQt(element->Name()) : QString(), this);
+        QToolTip::showText(help->globalPos(), element ? hinweis(element) : QString(), this);
         return true;
     }
     return QWidget::event(event);
+}
+
+/// Name and what the cell is coloured by.
+QString Periodentafel::hinweis(const std::shared_ptr<clsElement>& element) const
+{
+    const auto index = std::ranges::find(m_elements, element) - m_elements.begin();
+    const std::string beschreibung = m_faerbung.beschreibung(*element, static_cast<std::size_t>(index));
+    return toQt(beschreibung.empty() ? element->Name() : element->Name() + '\n' + beschreibung);
 }
 
 void Periodentafel::mousePressEvent(QMouseEvent* event)
@@ -190,7 +200,7 @@ void Periodentafel::paintCell(
     QPainter& painter, const clsElement& element, std::size_t index, const Zellstil& stil) const
 {
     const Elementzelle zelle{element, m_faerbung.fuellung(element, index, istDunkel(stil.palette)),
-        &element == m_hovered.get(), &element == m_selected.get()};
+        m_faerbung.wert(index), &element == m_hovered.get(), &element == m_selected.get()};
     paintZelle(painter, cellOf(element), zelle, stil);
 }
 

@@ -49,6 +49,7 @@ private:
     std::shared_ptr<clsElement> elementUnder(const QPointF& position) const;
     void select(const std::shared_ptr<clsElement>& element);
     void hover(const std::shared_ptr<clsElement>& element);
+    QString hinweis(const std::shared_ptr<clsElement>& element) const;
     void updateCell(const std::shared_ptr<clsElement>& element);
     void moveSelection(int dx, int dy);
     void typeLetter(const QString& letter);

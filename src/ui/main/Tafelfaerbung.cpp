@@ -4,6 +4,7 @@
 #include <array>
 
 #include "core/Unbekannt.h"
+#include "model/Werttext.h"
 
 namespace zerna {
 
@@ -16,6 +17,13 @@ constexpr std::array<Elementgruppe, 4> Gruppen{{
     {"A", "Actinoide", {0xF3, 0xD3, 0xE6}, {0x6A, 0x25, 0x50}, Gruppenzeichen::Raute},
 }};
 
+/// Null for a record of no known group.
+const Elementgruppe* findGruppe(const clsElement& element)
+{
+    const auto* const gruppe = std::ranges::find(Gruppen, element.EGK(), &Elementgruppe::egk);
+    return gruppe == Gruppen.end() ? nullptr : gruppe;
+}
+
 } // namespace
 
 std::span<const Elementgruppe> elementgruppen() { return Gruppen; }
@@ -23,21 +31,33 @@ std::span<const Elementgruppe> elementgruppen() { return Gruppen; }
 Tafelfaerbung::Tafelfaerbung(const PSEReihe& reihe)
     : m_titel(reihe.titel)
     , m_werte(reihe.y)
-    , m_bereich(wertebereich(m_werte))
+    , m_skala(m_werte)
 {
 }
 
 Zellfuellung Tafelfaerbung::fuellung(const clsElement& element, std::size_t index, bool aufDunklem) const
 {
     if (nachGruppe()) {
-        const auto* const gruppe = std::ranges::find(Gruppen, element.EGK(), &Elementgruppe::egk);
-        return gruppe == Gruppen.end() ? Zellfuellung{} : Zellfuellung{gruppe->farbe(aufDunklem), gruppe->zeichen};
+        const auto* const gruppe = findGruppe(element);
+        return gruppe == nullptr ? Zellfuellung{} : Zellfuellung{gruppe->farbe(aufDunklem), gruppe->zeichen};
     }
     const float wert = m_werte.at(index);
     if (istUnbekannt(wert))
         return {.fehlt = true};
-    const double breite = static_cast<double>(m_bereich.max) - m_bereich.min;
-    return {farbskala(breite > 0 ? (static_cast<double>(wert) - m_bereich.min) / breite : 0.5)};
+    return {farbskala(m_skala.position(wert))};
+}
+
+std::optional<float> Tafelfaerbung::wert(std::size_t index) const
+{
+    return nachGruppe() ? std::nullopt : std::optional(m_werte.at(index));
+}
+
+std::string Tafelfaerbung::beschreibung(const clsElement& element, std::size_t index) const
+{
+    if (!nachGruppe())
+        return m_titel + ": " + (istUnbekannt(m_werte.at(index)) ? "unbekannt" : werttext(m_werte.at(index)));
+    const auto* const gruppe = findGruppe(element);
+    return gruppe == nullptr ? std::string() : std::string(gruppe->name);
 }
 
 } // namespace zerna

@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "bild/Farbskala.h"
+#include "bild/Wertskala.h"
 #include "core/clsElement.h"
 #include "model/PSEReihe.h"
-#include "model/Wertebereich.h"
 
 /// How the cells of the periodic table are coloured: by group of elements or by a property.
 namespace zerna {
@@ -52,15 +52,19 @@ public:
     /// The filling of an element; `index` is its place in the collection.
     Zellfuellung fuellung(const clsElement& element, std::size_t index, bool aufDunklem) const;
 
-    /// Title and ends of the scale; 0 to 0 when all values are missing.
+    /// What the element is coloured by; no value while coloured by group.
+    std::optional<float> wert(std::size_t index) const;
+
+    /// The same in words: the group, or title and value; empty for an element without a group.
+    std::string beschreibung(const clsElement& element, std::size_t index) const;
+
     const std::string& titel() const { return m_titel; }
-    float kleinsterWert() const { return m_bereich.min; }
-    float groessterWert() const { return m_bereich.max; }
+    const Wertskala& skala() const { return m_skala; }
 
 private:
     std::string m_titel;
     std::vector<float> m_werte;
-    Wertebereich m_bereich;
+    Wertskala m_skala;
 };
 
 } // namespace zerna

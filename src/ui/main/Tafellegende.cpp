@@ -44,10 +44,16 @@ void paintSkala(QPainter& painter, const QRectF& area, const Tafelfaerbung& faer
     painter.drawRect(bar);
     painter.setPen(palette.color(QPalette::WindowText));
     const QRectF labels(bar.left(), bar.bottom() + 2, bar.width(), area.bottom() - bar.bottom() - 2);
-    painter.drawText(labels, Qt::AlignLeft | Qt::AlignTop, toQt(werttext(faerbung.kleinsterWert())));
-    painter.drawText(labels, Qt::AlignRight | Qt::AlignTop, toQt(werttext(faerbung.groessterWert())));
+    const Wertskala& skala = faerbung.skala();
+    painter.drawText(labels, Qt::AlignLeft | Qt::AlignTop, toQt(werttext(skala.kleinster())));
+    painter.drawText(labels, Qt::AlignRight | Qt::AlignTop, toQt(werttext(skala.groesster())));
     const double line = painter.fontMetrics().height();
-    painter.drawText(labels.adjusted(0, line, 0, 0), Qt::AlignHCenter | Qt::AlignTop, toQt(faerbung.titel()));
+    QString titel = toQt(faerbung.titel());
+    if (skala.art() != Skalenart::Linear) {
+        painter.drawText(labels, Qt::AlignHCenter | Qt::AlignTop, toQt(werttext(skala.mitte())));
+        titel += QStringLiteral(", Farbe %1").arg(toQt(skalenhinweis(skala.art())));
+    }
+    painter.drawText(labels.adjusted(0, line, 0, 0), Qt::AlignHCenter | Qt::AlignTop, titel);
 }
 
 } // namespace

@@ -35,4 +35,17 @@ std::string dritteZeile(const clsElement& element, bool name)
     return istUnbekannt(element.Masse()) ? std::string() : textWithDigits(element.Masse(), MassDigits);
 }
 
+std::string zellwert(float wert, double cellWidth, const Textbreite& breite)
+{
+    constexpr int Most = 5;
+    constexpr int Least = 2;
+    if (istUnbekannt(wert))
+        return "?";
+    for (int digits = Most; digits >= Least; --digits) {
+        if (std::string text = textWithDigits(wert, digits); passt(breite(text), cellWidth))
+            return text;
+    }
+    return {};
+}
+
 } // namespace zerna

@@ -38,10 +38,17 @@ TEST_F(TafelfaerbungTest, ValuesSpreadOverTheWholeScale)
             const Zellfuellung expected{row.expected.at(i), std::nullopt, !row.expected.at(i)};
             EXPECT_EQ(fuellung(faerbung, "H", i, false), expected) << "no sign of the group, value " << i;
         }
-        EXPECT_EQ(faerbung.kleinsterWert(), row.kleinster);
-        EXPECT_EQ(faerbung.groessterWert(), row.groesster);
+        EXPECT_EQ(faerbung.skala().kleinster(), row.kleinster);
+        EXPECT_EQ(faerbung.skala().groesster(), row.groesster);
     }
     EXPECT_TRUE(Tafelfaerbung(PSEReihe()).nachGruppe()) << "a series without values";
+    clsElement element(files, boxes);
+    const Tafelfaerbung masse({"Masse [amu]", {}, {63.546F, Unbekannt}});
+    EXPECT_EQ(masse.beschreibung(element, 0), "Masse [amu]: 63,546");
+    EXPECT_EQ(masse.beschreibung(element, 1), "Masse [amu]: unbekannt");
+    element.setEGK("N");
+    EXPECT_EQ(Tafelfaerbung().beschreibung(element, 0), "Nebengruppen");
+    EXPECT_EQ(Tafelfaerbung().wert(0), std::nullopt);
 }
 
 } // namespace zerna

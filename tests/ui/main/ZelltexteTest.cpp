@@ -22,6 +22,11 @@ TEST_F(ZelltexteTest, BelowTheSymbolStandAllNamesOrMasses)
     EXPECT_EQ(dritteZeile(*elements.Item("Zinn"), true), "Zinn");
     EXPECT_EQ(dritteZeile(*elements.Item("Zinn"), false), "118,71");
     EXPECT_EQ(dritteZeile(*elements.Item("Rutherfordium"), false), "");
+    EXPECT_EQ(zellwert(118.714F, 40, fiveEach), "118,71");
+    EXPECT_EQ(zellwert(118.714F, 30, fiveEach), "118,7");
+    EXPECT_EQ(zellwert(-8.3514e21F, 44, fiveEach), "-8,4E+21");
+    EXPECT_EQ(zellwert(-8.3514e21F, 43, fiveEach), "");
+    EXPECT_EQ(zellwert(Unbekannt, 43, fiveEach), "?");
 }
 
 } // namespace zerna
