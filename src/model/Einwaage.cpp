@@ -44,6 +44,24 @@ std::optional<Wiegehindernis> missingAtommasse(const clsCalc& calc, int komponen
     return std::nullopt;
 }
 
+/// FormatValue has no text for 0.
+std::string massenangabe(float masse) { return masse == 0 ? "0 mg" : FormatValue(masse, "mg"); }
+
+/// The at% of all components as one line, or why there are none.
+std::string prozentzeile(const clsCalc& calc, std::span<const float> massen)
+{
+    if (const auto hindernis = atomprozentHindernis(calc, massen))
+        return "nicht berechenbar: " + calc.Element_Symbol(hindernis->komponente) + " " + hindernis->grund;
+    try {
+        std::string line;
+        for (int j = 0; const float prozent : gewogeneAtomprozente(calc, massen))
+            line += calc.Element_Symbol(j++) + ": " + FormatValue(prozent, "at% ");
+        return line;
+    } catch (const Laufzeitfehler& error) {
+        return std::string("nicht berechenbar: ") + error.what();
+    }
+}
+
 } // namespace
 
 std::vector<float> sollmassen(const clsCalc& calc, int komponentenzahl, float gesamtmasse)
@@ -122,18 +140,19 @@ float gesamtmasse(std::span<const float> massen)
 
 std::vector<std::string> verlustliste(const clsCalc& calc, std::span<const float> massen, float verlust)
 {
-    std::vector<std::string> lines{"abgewogene Gesamtmasse: " + FormatValue(gesamtmasse(massen), "mg"),
-        "Masseverlust = " + FormatValue(verlust, "mg")};
+    const bool isReadable = std::ranges::none_of(massen, istUnbekannt);
+    std::vector<std::string> lines{
+        "abgewogene Gesamtmasse: " + (isReadable ? massenangabe(gesamtmasse(massen)) : std::string()),
+        "Masseverlust = " + massenangabe(verlust)};
     for (std::size_t k = 0; k < massen.size(); ++k) {
-        std::vector<float> left(massen.begin(), massen.end());
-        left[k] = toSingle(static_cast<double>(left[k]) - verlust);
         lines.emplace_back();
         lines.push_back("Masseverlust komplett bei " + calc.Element_Symbol(static_cast<int>(k)) + ": ");
-        const std::vector<float> prozente = gewogeneAtomprozente(calc, left);
-        std::string line;
-        for (std::size_t j = 0; j < prozente.size(); ++j)
-            line += calc.Element_Symbol(static_cast<int>(j)) + ": " + FormatValue(prozente[j], "at% ");
-        lines.push_back(std::move(line));
+        std::vector<float> left(massen.begin(), massen.end());
+        if (!istUnbekannt(left[k]))
+            left[k] = toSingle(static_cast<double>(left[k]) - verlust);
+        lines.push_back(prozentzeile(calc, left));
+        if (left[k] < 0 && !istUnbekannt(left[k]))
+            lines.push_back("(mehr, als von " + calc.Element_Symbol(static_cast<int>(k)) + " gewogen wurde)");
     }
     return lines;
 }

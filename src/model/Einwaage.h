@@ -38,13 +38,17 @@ std::optional<Wiegehindernis> sollmassenHindernis(const clsCalc& calc, int kompo
 /// Why there are no at%; a mass may be Unbekannt.
 std::optional<Wiegehindernis> atomprozentHindernis(const clsCalc& calc, std::span<const float> massen);
 
+/// Deviation from the wanted at% up to which an alloy counts as weighed out.
+inline constexpr float Abweichungstoleranz = 0.1F;
+
 /// The share of each mass in their sum, in percent.
 std::vector<float> massenprozente(std::span<const float> massen);
 
 /// Sum in single precision.
 float gesamtmasse(std::span<const float> massen);
 
-/// The loss analysis: what composition is left when the whole loss falls on one component, for each of them.
+/// The loss analysis: what composition is left when the whole loss falls on one component, for each of them. A
+/// component for which that cannot be computed has the reason in place of the at%. Masses may be Unbekannt.
 std::vector<std::string> verlustliste(const clsCalc& calc, std::span<const float> massen, float verlust);
 
 /// The mass that a field's text came to; error 13 for a text that came to none.

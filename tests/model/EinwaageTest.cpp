@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "model/Wiegeauskunft.h"
 #include "support/FilesTest.h"
 
 namespace zerna {
@@ -110,6 +111,68 @@ TEST_F(EinwaageTest, WithoutAnAtomicMassNothingIsComputedAndTheComponentIsNamed)
         const bool isReadable = std::ranges::none_of(weighed, istUnbekannt);
         EXPECT_EQ(errorNumber([&, m = weighed] { gewogeneAtomprozente(calc, m); }) == 0, !percent || !isReadable);
     }
+}
+
+TEST_F(EinwaageTest, LossListKeepsTheLinesThatCanBeComputed)
+{
+    setAlloy({{"A", 10, 50}, {"B", 20, 50}});
+    struct Row {
+        const char* name;
+        Masses masses;
+        float loss;
+        std::string lines;
+    };
+    const std::string head = "abgewogene Gesamtmasse: ";
+    for (const auto& [name, masses, loss, lines] : {
+             Row{"all", {10, 20}, 5,
+                 "30 mg|Masseverlust = 5 mg||Masseverlust komplett bei A: |A: 33,333 at% B: 66,667 at% |"
+                 "|Masseverlust komplett bei B: |A: 57,143 at% B: 42,857 at% |"},
+             {"no loss", {10, 20}, 0,
+                 "30 mg|Masseverlust = 0 mg||Masseverlust komplett bei A: |A: 50 at% B: 50 at% |"
+                 "|Masseverlust komplett bei B: |A: 50 at% B: 50 at% |"},
+             {"more than there was", {10, 20}, 15,
+                 "30 mg|Masseverlust = 15 mg||Masseverlust komplett bei A: |A: -1 E+02 at% B: 200 at% |"
+                 "(mehr, als von A gewogen wurde)|"
+                 "|Masseverlust komplett bei B: |A: 80 at% B: 20 at% |"},
+             {"the reference lost", {10, 20}, 10,
+                 "30 mg|Masseverlust = 10 mg||Masseverlust komplett bei A: |"
+                 "nicht berechenbar: A hat 0 mg und ist der Bezug der Rechnung|"
+                 "|Masseverlust komplett bei B: |A: 66,667 at% B: 33,333 at% |"},
+             {"no number", {10, Unbekannt}, 1,
+                 "|Masseverlust = 1 mg||Masseverlust komplett bei A: |nicht berechenbar: B hat keine gültige Masse|"
+                 "|Masseverlust komplett bei B: |nicht berechenbar: B hat keine gültige Masse|"},
+         }) {
+        std::string all;
+        for (const std::string& line : verlustliste(calc, masses, loss))
+            all += line + "|";
+        EXPECT_EQ(all, head + lines) << name;
+    }
+}
+
+TEST_F(EinwaageTest, TheStateOfTheWeighingInWords)
+{
+    setAlloy({{"A", 10, 50}, {"B", 20, 30}, {"C", 40, 20}}); // 10 : 12 : 16
+    const std::optional<float> none;
+    struct Row {
+        const char* name;
+        std::vector<Wiegung> masses;
+        std::optional<Wiegebezug> reference;
+        const char* text;
+    };
+    for (const auto& [name, masses, reference, text] : {
+             Row{"nothing", {{10, none}, {12.5F, none}, {0.0123F, none}}, {}, "Noch 10 mg A, 12,5 mg B, 0,0123 mg C"},
+             {"a part", {{10, 10.0F}, {12, 11.5F}, {16, none}}, {}, "Noch 0,5 mg B, 16 mg C"},
+             {"all", {{10, 10.0F}, {12, 12.0F}, {16, 16.02F}}, {}, "Alles eingewogen, größte Abweichung 0,02 at%"},
+             {"too much", {{10, 11.0F}, {12, none}, {16, 16.0F}}, {},
+                 "Noch 12 mg B; 1 mg A zu viel (Eingabetaste: die übrigen darauf beziehen)"},
+             {"matched", {{10, 11.0F}, {13.2F, 13.3F}, {17.6F, none}}, Wiegebezug{0, 11},
+                 "Noch 17,6 mg C; 0,1 mg B zu viel"},
+             {"changed since", {{10, 12.0F}, {13.2F, none}, {17.6F, none}}, Wiegebezug{0, 11},
+                 "Die Sollmassen beziehen sich noch auf 11 mg A (Eingabetaste: neu beziehen)"},
+             {"below 0", {{12, none}, {-2, none}, {1, none}}, {}, ""},
+             {"no targets", {{Unbekannt, 12.0F}, {1, none}, {1, none}}, {}, ""},
+         })
+        EXPECT_EQ(wiegestand(calc, masses, reference), text) << name;
 }
 
 TEST_F(EinwaageTest, MassesAsTexts)

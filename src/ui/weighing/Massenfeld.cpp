@@ -1,6 +1,8 @@
 #include "ui/weighing/Massenfeld.h"
 
 #include <QFocusEvent>
+#include <QStyle>
+#include <QStyleOptionFrame>
 
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
@@ -13,6 +15,7 @@ Massenfeld::Massenfeld(const QString& name, QWidget* parent)
 {
     setObjectName(name);
     setAlignment(Qt::AlignRight);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(this, &Wertfeld::textChanged, this, &Massenfeld::read); // before whoever asks for the mass then
 }
 
@@ -20,6 +23,21 @@ void Massenfeld::read()
 {
     m_masse = ParseValue(fromQt(text()));
     setFehler(istUnbekannt(m_masse) ? QStringLiteral("Keine gültige Zahl") : QString());
+}
+
+void Massenfeld::setMasse(const QString& text)
+{
+    setWert(text, false);
+    read();
+}
+
+QSize Massenfeld::sizeHint() const
+{
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    const QSize text(fontMetrics().horizontalAdvance(QStringLiteral("0000000,0000")), fontMetrics().height());
+    const int width = style()->sizeFromContents(QStyle::CT_LineEdit, &option, text, this).width();
+    return {width, QLineEdit::sizeHint().height()};
 }
 
 void Massenfeld::focusOutEvent(QFocusEvent* event)

@@ -13,6 +13,10 @@ public:
 
     /// Unbekannt while the text is no mass, 0 while there is none.
     float masse() const { return m_masse; }
+    void setMasse(const QString& text); ///< without taking it for typing
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
 
 signals:
     /// The focus went to another field of the window, not to a menu or another window.

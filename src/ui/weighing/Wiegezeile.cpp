@@ -1,7 +1,7 @@
 #include "ui/weighing/Wiegezeile.h"
 
+#include <QFrame>
 #include <QGridLayout>
-#include <QLabel>
 
 #include <cmath>
 #include <utility>
@@ -10,6 +10,7 @@
 #include "model/Einwaage.h"
 #include "ui/platform/Farben.h"
 #include "ui/platform/QtText.h"
+#include "ui/weighing/Festlabel.h"
 #include "ui/weighing/Massenfeld.h"
 
 namespace zerna {
@@ -18,31 +19,63 @@ namespace {
 
 struct Spalte {
     QString head;
-    int width; ///< 0: what is left
+    QString sample; ///< the widest text that is to be expected
     QString hint = {};
 };
 
-/// The columns of the table in the order of the row's controls.
-const std::array<Spalte, 6>& spalten()
+/// The columns of the table in the order of the row's controls. The first four are wanted, the others weighed.
+const std::array<Spalte, 8>& spalten()
 {
-    static const std::array<Spalte, 6> columns{{
-        {QStringLiteral("Komponente"), 0},
-        {QStringLiteral("Sollmasse [mg]"), 110},
-        {QStringLiteral("Istmasse [mg]"), 110},
-        {QStringLiteral("Ist [at%]"), 84},
-        {QStringLiteral("Ist − Soll"), 84,
-            QStringLiteral("Abweichung der eingewogenen von der gewünschten Zusammensetzung in at%")},
-        {QStringLiteral("Masse [%]"), 80},
+    static const std::array<Spalte, 8> columns{{
+        {QStringLiteral("Komponente"), {}},
+        {{}, QStringLiteral("Bezug")},
+        {QStringLiteral("Sollmasse\n[mg]"), QStringLiteral("00000,000")},
+        {QStringLiteral("Masse\n[%]"), QStringLiteral("100,00"),
+            QStringLiteral("Anteil an der gewünschten Gesamtmasse")},
+        {QStringLiteral("Istmasse\n[mg]"), {}},
+        {QStringLiteral("Ist\n[at%]"), QStringLiteral("100,000")},
+        {QStringLiteral("Ist − Soll\n[at%]"), QStringLiteral("−100,00"),
+            QStringLiteral("Abweichung der eingewogenen von der gewünschten Zusammensetzung")},
+        {QStringLiteral("Masse\n[%]"), QStringLiteral("100,00"), QStringLiteral("Anteil an der gewogenen Masse")},
     }};
     return columns;
 }
 
-QLabel* makeLabel(const char* name, int row, QWidget* panel)
+constexpr int FirstWanted = 2;
+constexpr int FirstWeighed = 4;
+constexpr int Gap = 1; // column between wanted and weighed
+static_assert(FirstWeighed + Gap + 1 == Wiegezeile::BisIstmasse);
+
+int gridColumn(std::size_t column)
 {
-    auto* label = new QLabel(panel);
+    const auto number = static_cast<int>(column);
+    return number < FirstWeighed ? number : number + Gap;
+}
+
+QLabel* makeLabel(const char* name, int row, std::size_t column, QWidget* panel)
+{
+    auto* label = new Festlabel(spalten().at(column).sample, 1, panel);
     label->setObjectName(numberedName(name, row));
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     return label;
+}
+
+QColor abweichungsfarbe(const QPalette& ground)
+{
+    return istDunkel(ground) ? QColor(255, 138, 101) : QColor(191, 54, 12);
+}
+
+/// A caption over a group of columns, with a line below it.
+void layOutGroup(QGridLayout& grid, QWidget* panel, const QString& caption, int first, int count)
+{
+    auto* const label = new QLabel(caption, panel);
+    label->setAlignment(Qt::AlignHCenter);
+    auto* const line = new QFrame(panel);
+    line->setFrameShape(QFrame::HLine);
+    line->setFrameShadow(QFrame::Plain);
+    line->setForegroundRole(QPalette::Mid);
+    grid.addWidget(label, 0, first, 1, count);
+    grid.addWidget(line, 1, first, 1, count);
 }
 
 } // namespace
@@ -50,11 +83,13 @@ QLabel* makeLabel(const char* name, int row, QWidget* panel)
 Wiegezeile::Wiegezeile(int row, QWidget* panel)
     : QObject(panel)
     , m_label(new QLabel(panel))
-    , m_sollmasse(makeLabel("Sollmasse", row, panel))
+    , m_bezug(makeLabel("Bezug", row, 1, panel))
+    , m_sollmasse(makeLabel("Sollmasse", row, 2, panel))
+    , m_sollMassProzent(makeLabel("SollMassProzent", row, 3, panel))
     , m_istmasse(new Massenfeld(numberedName("Istmasse", row), panel))
-    , m_istProzent(makeLabel("IstProzent", row, panel))
-    , m_abweichung(makeLabel("Abweichung", row, panel))
-    , m_massProzent(makeLabel("MassProzent", row, panel))
+    , m_istProzent(makeLabel("IstProzent", row, 5, panel))
+    , m_abweichung(makeLabel("Abweichung", row, 6, panel))
+    , m_massProzent(makeLabel("MassProzent", row, 7, panel))
 {
     m_label->setObjectName(numberedName("Label", row));
     zeigeMangel({}, false);
@@ -64,53 +99,70 @@ Wiegezeile::Wiegezeile(int row, QWidget* panel)
     hide();
 }
 
-std::array<QWidget*, 6> Wiegezeile::widgets() const
+std::array<QWidget*, 8> Wiegezeile::widgets() const
 {
-    return {m_label, m_sollmasse, m_istmasse, m_istProzent, m_abweichung, m_massProzent};
+    return {m_label, m_bezug, m_sollmasse, m_sollMassProzent, m_istmasse, m_istProzent, m_abweichung, m_massProzent};
 }
 
-void Wiegezeile::layOutHeads(QGridLayout& grid, QWidget* panel)
+int Wiegezeile::layOutHeads(QGridLayout& grid, QWidget* panel)
 {
+    constexpr int HeadRow = 2;
+    constexpr int GapWidth = 8;
     grid.setHorizontalSpacing(8);
     grid.setVerticalSpacing(3);
     grid.setColumnStretch(0, 1);
-    for (int column = 0; const Spalte& spalte : spalten()) {
-        auto* const head = new QLabel(spalte.head, panel);
-        head->setToolTip(spalte.hint);
-        head->setAlignment(column == 0 ? Qt::AlignLeft : Qt::AlignRight);
-        grid.addWidget(head, 0, column++);
+    grid.setColumnMinimumWidth(FirstWeighed, GapWidth);
+    layOutGroup(grid, panel, QStringLiteral("gewünscht"), FirstWanted, FirstWeighed - FirstWanted);
+    layOutGroup(
+        grid, panel, QStringLiteral("gewogen"), FirstWeighed + Gap, static_cast<int>(spalten().size()) - FirstWeighed);
+    for (std::size_t column = 0; column < spalten().size(); ++column) {
+        auto* const head = new QLabel(spalten().at(column).head, panel);
+        head->setToolTip(spalten().at(column).hint);
+        head->setAlignment(Qt::AlignBottom | (column == 0 ? Qt::AlignLeft : Qt::AlignRight));
+        grid.addWidget(head, HeadRow, gridColumn(column));
     }
+    return HeadRow + 1;
 }
 
 void Wiegezeile::layOut(QGridLayout& grid, int gridRow)
 {
-    constexpr int Height = 24;
     const auto controls = widgets();
-    for (std::size_t column = 0; column < controls.size(); ++column) {
-        controls.at(column)->setFixedHeight(Height);
-        if (const int width = spalten().at(column).width; width > 0)
-            controls.at(column)->setFixedWidth(width);
-        grid.addWidget(controls.at(column), gridRow, static_cast<int>(column));
-    }
+    for (std::size_t column = 0; column < controls.size(); ++column)
+        grid.addWidget(controls.at(column), gridRow, gridColumn(column));
 }
 
-void Wiegezeile::zeige(const QString& komponente)
+std::optional<AbgelegteMasse> Wiegezeile::zeige(const std::string& symbol, const QString& name)
 {
+    const auto taken = symbol == m_symbol ? std::nullopt : takeMasse();
+    m_symbol = symbol;
     for (QWidget* const widget : widgets())
         widget->show();
-    m_label->setText(komponente);
-    m_istmasse->setAccessibleName(QStringLiteral("Gewogene Masse von %1 in Milligramm").arg(komponente));
+    m_label->setText(name);
+    m_istmasse->setAccessibleName(QStringLiteral("Gewogene Masse von %1 in Milligramm").arg(name));
+    return taken;
 }
 
-void Wiegezeile::hide()
+std::optional<AbgelegteMasse> Wiegezeile::hide()
 {
     for (QWidget* const widget : widgets())
         widget->hide();
+    return takeMasse();
+}
+
+std::optional<AbgelegteMasse> Wiegezeile::takeMasse()
+{
+    if (!istGewogen())
+        return std::nullopt;
+    AbgelegteMasse taken{m_label->text(), m_istmasse->text()};
+    setIstmasse({});
+    return taken;
 }
 
 float Wiegezeile::istmasse() const { return m_istmasse->masse(); }
 
 bool Wiegezeile::istGewogen() const { return !m_istmasse->text().isEmpty(); }
+
+void Wiegezeile::setIstmasse(const QString& text) { m_istmasse->setMasse(text); }
 
 void Wiegezeile::zeigeMangel(const QString& grund, bool istSchuld)
 {
@@ -119,39 +171,45 @@ void Wiegezeile::zeigeMangel(const QString& grund, bool istSchuld)
     m_istmasse->setPlaceholderText(istSchuld ? QStringLiteral("fehlt") : QString());
 }
 
-void Wiegezeile::zeigeSollmasse(const QString& text) { m_sollmasse->setText(text); }
-
-void Wiegezeile::zeigeMassenanteil(const QString& text, const QString& bezug)
+void Wiegezeile::zeigeBezug(const QString& hinweis)
 {
-    m_massProzent->setText(text);
-    m_massProzent->setToolTip(bezug);
+    m_bezug->setText(hinweis.isEmpty() ? QString() : QStringLiteral("Bezug"));
+    m_bezug->setToolTip(hinweis);
+    QFont font; // the rest is the panel's
+    font.setBold(!hinweis.isEmpty());
+    m_label->setFont(font);
 }
 
-void Wiegezeile::zeigeAtomprozent(float ist, float soll)
+void Wiegezeile::zeigeSollmasse(const QString& text) { m_sollmasse->setText(text); }
+
+void Wiegezeile::zeigeSollanteil(const QString& text) { m_sollMassProzent->setText(text); }
+
+void Wiegezeile::zeigeMassenanteil(const QString& text) { m_massProzent->setText(text); }
+
+void Wiegezeile::zeigeAtomprozent(float ist, std::optional<float> abweichung)
 {
     constexpr int Digits = 5; // that tell something
-    constexpr float Tolerance = 0.1F; // at%
-    const float difference = ist - soll;
-    const std::string text = fixedText(difference, 2);
-    const bool isMore = difference > 0 && text != fixedText(0, 2);
-    QPalette colours = m_abweichung->parentWidget()->palette();
-    if (std::abs(difference) > Tolerance)
-        colours.setColor(QPalette::WindowText, istDunkel(colours) ? QColor(255, 138, 101) : QColor(191, 54, 12));
     m_istProzent->setText(toQt(textWithDigits(ist, Digits)));
+    const std::string text = abweichung ? fixedText(*abweichung, 2) : "";
+    const bool isMore = abweichung.value_or(0) > 0 && text != fixedText(0, 2);
+    QPalette colours;
+    if (std::abs(abweichung.value_or(0)) > Abweichungstoleranz)
+        colours.setColor(QPalette::WindowText, abweichungsfarbe(m_abweichung->parentWidget()->palette()));
     m_abweichung->setText(toQt((isMore ? "+" : "") + text));
     m_abweichung->setPalette(colours);
 }
 
-void Wiegezeile::clearAtomprozent()
+void Wiegezeile::clearGewogen()
 {
-    m_istProzent->clear();
-    m_abweichung->clear();
+    for (QLabel* const label : {m_istProzent, m_abweichung, m_massProzent})
+        label->clear();
 }
 
 Einwaagezeile Wiegezeile::einwaage(std::string symbol, std::string prozent) const
 {
+    const QLabel* const share = m_massProzent->text().isEmpty() ? m_sollMassProzent : m_massProzent;
     return {std::move(symbol), std::move(prozent), fromQt(m_sollmasse->text()), fromQt(m_istmasse->text()),
-        fromQt(m_istProzent->text()), fromQt(m_massProzent->text())};
+        fromQt(m_istProzent->text()), fromQt(share->text())};
 }
 
 } // namespace zerna

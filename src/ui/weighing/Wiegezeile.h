@@ -3,7 +3,10 @@
 #include <QObject>
 
 #include <array>
+#include <optional>
 #include <string>
+
+#include "ui/weighing/Massenablage.h"
 
 class QGridLayout;
 class QLabel;
@@ -13,7 +16,7 @@ namespace zerna {
 class Massenfeld;
 struct Einwaagezeile;
 
-/// One row of the weighing table: the target mass of a component, the mass weighed, and what that comes to.
+/// One row of the weighing table: what is wanted of a component, and what was weighed of it.
 class Wiegezeile : public QObject {
     Q_OBJECT
 
@@ -21,31 +24,37 @@ public:
     /// Makes the controls, hidden, on `panel`; `row` counts from 0.
     Wiegezeile(int row, QWidget* panel);
 
-    /// Makes the heads of the columns on `panel` and puts them into the first row of a grid.
-    static void layOutHeads(QGridLayout& grid, QWidget* panel);
+    /// Makes the heads of the columns on `panel` and puts them into the first rows of a grid; the row behind them.
+    static int layOutHeads(QGridLayout& grid, QWidget* panel);
     void layOut(QGridLayout& grid, int gridRow);
 
-    /// Shows the row for a component of that name.
-    void zeige(const QString& komponente);
-    void hide();
+    /// Columns of the grid up to that of the masses weighed.
+    static constexpr int BisIstmasse = 6;
+
+    /// Shows the row for a component, or hides it. A mass weighed of another component is taken out and returned.
+    std::optional<AbgelegteMasse> zeige(const std::string& symbol, const QString& name);
+    std::optional<AbgelegteMasse> hide();
 
     /// The mass weighed in mg; Unbekannt while its field holds none.
     float istmasse() const;
     bool istGewogen() const; ///< something has been typed, be it valid or not
+    void setIstmasse(const QString& text); ///< without taking it for typing
 
     /// Says at the field of the mass weighed why the masses give no at%; empty if they do. An empty field that is to
     /// blame is marked as missing.
     void zeigeMangel(const QString& grund, bool istSchuld);
 
+    /// Marks the row that the others' target masses were set to match; empty for one that is not.
+    void zeigeBezug(const QString& hinweis);
+
     void zeigeSollmasse(const QString& text);
+    void zeigeSollanteil(const QString& text); ///< mass percent
+    void zeigeMassenanteil(const QString& text);
 
-    /// The share in a total mass, in percent; `bezug` says in which.
-    void zeigeMassenanteil(const QString& text, const QString& bezug);
+    /// The at% that the masses weighed give, and how they differ from the wanted ones if that is known yet.
+    void zeigeAtomprozent(float ist, std::optional<float> abweichung);
 
-    /// The at% that the masses weighed give, beside the wanted ones.
-    void zeigeAtomprozent(float ist, float soll);
-
-    void clearAtomprozent();
+    void clearGewogen();
 
     /// The row of the protocol for a component and its wanted at%, all other texts as shown.
     Einwaagezeile einwaage(std::string symbol, std::string prozent) const;
@@ -56,14 +65,18 @@ signals:
     void returnPressed(); ///< in the field of the mass weighed
 
 private:
-    std::array<QWidget*, 6> widgets() const;
+    std::array<QWidget*, 8> widgets() const;
+    std::optional<AbgelegteMasse> takeMasse();
 
     QLabel* m_label = nullptr;
+    QLabel* m_bezug = nullptr;
     QLabel* m_sollmasse = nullptr;
+    QLabel* m_sollMassProzent = nullptr;
     Massenfeld* m_istmasse = nullptr;
     QLabel* m_istProzent = nullptr;
     QLabel* m_abweichung = nullptr;
     QLabel* m_massProzent = nullptr;
+    std::string m_symbol;
 };
 
 } // namespace zerna

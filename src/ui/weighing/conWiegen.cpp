@@ -3,11 +3,10 @@
 #include <QDate>
 #include <QGridLayout>
 #include <QGuiApplication>
-#include <QLabel>
-#include <QListWidget>
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 #include "core/CheckedArithmetic.h"
@@ -19,7 +18,10 @@
 #include "ui/controls/Knopfzeile.h"
 #include "ui/platform/QtText.h"
 #include "ui/platform/Zwischenablage.h"
+#include "ui/weighing/Festlabel.h"
+#include "ui/weighing/Massenablage.h"
 #include "ui/weighing/Massenfeld.h"
+#include "ui/weighing/Verlustbereich.h"
 #include "ui/weighing/Wiegezeile.h"
 
 namespace zerna {
@@ -28,12 +30,18 @@ namespace {
 
 constexpr std::string_view Steuerelement = "Benutzersteuerelement conWiegen";
 
-Massenfeld* makeMassField(const char* name, const QString& accessibleName, QWidget* parent)
+/// The reason of an arithmetic failure that no component is to blame for.
+QString ursache(const Laufzeitfehler& error)
 {
-    auto* field = new Massenfeld(QLatin1String(name), parent);
-    field->setAccessibleName(accessibleName);
-    field->setFixedSize(110, 26);
-    return field;
+    return error.Nummer() == static_cast<int>(Fehler::Ueberlauf)
+        ? QStringLiteral("die Zahlen sind zu groß für die Rechnung")
+        : QStringLiteral("die Zahlen sind zu klein für die Rechnung");
+}
+
+/// The sentence about the component that is to blame.
+QString satz(const clsCalc& calc, const Wiegehindernis& hindernis)
+{
+    return toQt(calc.Element_Name(hindernis.komponente) + " " + hindernis.grund);
 }
 
 } // namespace
@@ -50,46 +58,59 @@ conWiegen::conWiegen(Programm& programm, SaveFileDialog& saveDialog, QWidget* pa
 void conWiegen::createControls()
 {
     createTarget();
+    createRows();
+    createAuskunft();
+    createButtons();
+}
+
+void conWiegen::createTarget()
+{
+    m_sollMasseCaption = new QLabel(QStringLiteral("&Gesamtmasse [mg]:"), this);
+    m_txtSollMasse = new Massenfeld(QStringLiteral("txtSollMasse"), this);
+    m_txtSollMasse->setAccessibleName(QStringLiteral("Gewünschte Gesamtmasse in Milligramm"));
+    m_txtSollMasse->setMasse(QStringLiteral("1000"));
+    m_sollMasseCaption->setBuddy(m_txtSollMasse);
+    connect(m_txtSollMasse, &Massenfeld::textChanged, this, [this] {
+        computeTargets();
+        showAuskunft();
+    });
+}
+
+void conWiegen::createRows()
+{
     for (int row = 0; row < MaxKomponenten; ++row) {
-        m_zeilen.at(static_cast<std::size_t>(row)) = new Wiegezeile(row, this);
-        connect(&at(row), &Wiegezeile::istmasseEntered, this, &conWiegen::Istmasse_Change);
-        connect(&at(row), &Wiegezeile::istmasseLeft, this, &conWiegen::reportLater);
-        connect(&at(row), &Wiegezeile::returnPressed, this, [this, row] { Istmasse_KeyDown(row); });
+        auto* const zeile = new Wiegezeile(row, this);
+        m_zeilen.at(static_cast<std::size_t>(row)) = zeile;
+        connect(zeile, &Wiegezeile::istmasseEntered, this, [this, row] { Istmasse_Change(row); });
+        connect(zeile, &Wiegezeile::istmasseLeft, this, &conWiegen::reportLater);
+        connect(zeile, &Wiegezeile::returnPressed, this, [this, row] { Istmasse_KeyDown(row); });
     }
-    m_gesamt = new QLabel(this);
+    m_gesamt = new Festlabel({}, 1, this);
     m_gesamt->setObjectName(QStringLiteral("lblGesamtmasse"));
-    m_hinweis = new QLabel(this);
+}
+
+void conWiegen::createAuskunft()
+{
+    constexpr int Lines = 2;
+    m_hinweis = new Festlabel({}, Lines, this);
     m_hinweis->setObjectName(QStringLiteral("lblHinweis"));
-    m_hinweis->setWordWrap(true);
-    createLoss();
+    m_hinweis->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_ablage = new Massenablage(this);
+    connect(m_ablage, &Massenablage::zurueckholen, this, &conWiegen::putBack);
+    m_verlust = new Verlustbereich(this);
+    connect(m_verlust, &Verlustbereich::verlustEntered, this, &conWiegen::zeigeVerlust);
+}
+
+void conWiegen::createButtons()
+{
     m_kopieren = new StyledButton(QStringLiteral("&Kopieren"), this);
     m_kopieren->setObjectName(QStringLiteral("cmdWiegen_Kopieren"));
     m_kopieren->setToolTipText(QStringLiteral("Wiegeprotokoll in die Zwischenablage"));
     m_speichern = new StyledButton(QStringLiteral("&Speichern"), this);
     m_speichern->setObjectName(QStringLiteral("cmdWiegen_Speichern"));
     m_speichern->setToolTipText(QStringLiteral("Wiegeprotokoll als Textdatei speichern"));
-    connect(m_kopieren, &StyledButton::clicked, this, &conWiegen::copy);
+    connect(m_kopieren, &StyledButton::clicked, this, [this] { copyToClipboard(toQt(protokoll())); });
     connect(m_speichern, &StyledButton::clicked, this, &conWiegen::save);
-}
-
-void conWiegen::createTarget()
-{
-    m_sollMasseCaption = new QLabel(QStringLiteral("&Gesamtmasse [mg]:"), this);
-    m_txtSollMasse = makeMassField("txtSollMasse", QStringLiteral("Gewünschte Gesamtmasse in Milligramm"), this);
-    m_txtSollMasse->setText(QStringLiteral("1000"));
-    m_sollMasseCaption->setBuddy(m_txtSollMasse);
-    connect(m_txtSollMasse, &Massenfeld::textChanged, this, &conWiegen::sollMasseChanged);
-}
-
-void conWiegen::createLoss()
-{
-    m_verlustCaption = new QLabel(QStringLiteral("Masse&verlust [mg]:"), this);
-    m_txtVerlust = makeMassField("txtVerlust", QStringLiteral("Masseverlust in Milligramm"), this);
-    m_verlustCaption->setBuddy(m_txtVerlust);
-    m_lstVerlust = new QListWidget(this);
-    m_lstVerlust->setObjectName(QStringLiteral("lstVerlust"));
-    m_lstVerlust->setAccessibleName(QStringLiteral("Zusammensetzung nach dem Masseverlust"));
-    connect(m_txtVerlust, &Massenfeld::textChanged, this, &conWiegen::verlustChanged);
 }
 
 void conWiegen::layOut()
@@ -98,120 +119,182 @@ void conWiegen::layOut()
     total->addWidget(m_sollMasseCaption);
     total->addWidget(m_txtSollMasse);
     total->addStretch();
-    auto* grid = new QGridLayout;
-    Wiegezeile::layOutHeads(*grid, this);
-    for (int row = 0; row < MaxKomponenten; ++row)
-        at(row).layOut(*grid, row + 1);
-    auto* loss = new QHBoxLayout;
-    loss->addWidget(m_verlustCaption);
-    loss->addWidget(m_txtVerlust);
-    loss->addStretch();
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(6);
     column->addLayout(total);
-    column->addLayout(grid);
-    column->addWidget(m_gesamt);
+    column->addLayout(table());
     column->addWidget(m_hinweis);
-    column->addLayout(loss);
-    column->addWidget(m_lstVerlust, 1);
+    column->addWidget(m_ablage);
+    column->addWidget(m_verlust, 1);
     column->addLayout(knopfzeile({m_kopieren, m_speichern}));
+}
+
+QGridLayout* conWiegen::table()
+{
+    auto* grid = new QGridLayout;
+    const int first = Wiegezeile::layOutHeads(*grid, this);
+    for (int row = 0; row < MaxKomponenten; ++row)
+        at(row).layOut(*grid, first + row);
+    grid->addWidget(m_gesamt, first + MaxKomponenten, 0, 1, Wiegezeile::BisIstmasse, Qt::AlignRight);
+    return grid;
 }
 
 void conWiegen::Aktualisieren(const Eingabe& eingabe)
 {
     m_anzahl = eingabe.anzahl();
+    const clsCalc& calc = m_programm.Calc();
     for (int row = 0; row < MaxKomponenten; ++row) {
-        if (row < m_anzahl)
-            at(row).zeige(toQt(m_programm.Calc().Element_Name(row)));
-        else
-            at(row).hide();
+        auto taken =
+            row < m_anzahl ? at(row).zeige(calc.Element_Symbol(row), toQt(calc.Element_Name(row))) : at(row).hide();
+        if (taken)
+            m_ablage->legeAb(row, *std::move(taken));
     }
-    sollMasseChanged();
-    try {
-        showWeighed(); // the same masses mean other at% now
-    } catch (const Laufzeitfehler&) {
-        clearWeighed();
-    }
-    showMangel();
-    verlustChanged();
+    m_meldung.reset();
+    computeTargets();
+    weigh(); // the same masses mean other at% now
 }
 
-void conWiegen::sollMasseChanged()
+/// Target masses for the wanted total.
+void conWiegen::computeTargets()
 {
-    m_sollGrund.clear();
+    m_sollFehler.reset();
+    m_sollmassen.clear();
+    setBezug(std::nullopt);
     try {
-        showTargets();
+        const float wanted = wiegezahl(m_txtSollMasse->masse());
+        m_sollmassen = sollmassen(m_programm.Calc(), m_anzahl, wanted);
+        showTargets(wanted);
     } catch (const Laufzeitfehler& error) {
+        m_sollFehler = error;
         for (Wiegezeile* const zeile : m_zeilen) {
             zeile->zeigeSollmasse({});
-            if (!isAnythingWeighed())
-                zeile->zeigeMassenanteil({}, {});
+            zeile->zeigeSollanteil({});
         }
-        if (!istUnbekannt(m_txtSollMasse->masse())) // else the field is marked
-            m_sollGrund = QStringLiteral("Sollmassen nicht berechenbar: %1.").arg(sollGrund(error));
     }
-    showHinweis();
 }
 
-/// Why there are no target masses, in terms of the alloy where that is to blame.
-QString conWiegen::sollGrund(const Laufzeitfehler& error) const
+void conWiegen::showTargets(float wanted)
 {
-    const auto hindernis = sollmassenHindernis(m_programm.Calc(), m_anzahl);
-    return hindernis ? toQt(m_programm.Calc().Element_Name(hindernis->komponente) + " " + hindernis->grund)
-                     : toQt(error.what());
-}
-
-void conWiegen::showHinweis()
-{
-    const bool both = !m_sollGrund.isEmpty() && !m_istGrund.isEmpty();
-    m_hinweis->setText(m_sollGrund + (both ? QStringLiteral("\n") : QString()) + m_istGrund);
-}
-
-/// Target masses and, until something is weighed, the mass percents that they mean.
-void conWiegen::showTargets()
-{
-    const float wanted = wiegezahl(m_txtSollMasse->masse());
-    const std::vector<float> massen = sollmassen(m_programm.Calc(), m_anzahl, wanted);
-    const bool weighed = isAnythingWeighed();
-    for (int row = 0; row < m_anzahl; ++row) {
-        const float masse = massen.at(static_cast<std::size_t>(row));
+    for (int row = 0; const float masse : m_sollmassen) {
+        const QString share = wanted == 0 ? QString() : toQt(fixedText(quotient(masse, wanted) * 100, 2));
         at(row).zeigeSollmasse(toQt(massentext(masse)));
-        if (weighed)
-            continue;
-        at(row).zeigeMassenanteil(wanted == 0 ? QString() : toQt(fixedText(quotient(masse, wanted) * 100, 2)),
-            QStringLiteral("Anteil an der gewünschten Gesamtmasse"));
+        at(row++).zeigeSollanteil(share);
     }
 }
 
-std::vector<float> conWiegen::istmassen() const
+void conWiegen::setBezug(const std::optional<Wiegebezug>& bezug)
 {
-    std::vector<float> massen;
+    m_bezug = bezug;
+    for (int row = 0; row < MaxKomponenten; ++row) {
+        const bool isReference = bezug && bezug->komponente == row;
+        at(row).zeigeBezug(isReference
+                ? QStringLiteral("Die übrigen Sollmassen beziehen sich auf %1 mg").arg(toQt(textOfSingle(bezug->masse)))
+                : QString());
+    }
+}
+
+std::vector<float> conWiegen::massen() const
+{
+    std::vector<float> all;
     for (int row = 0; row < m_anzahl; ++row)
-        massen.push_back(wiegezahl(at(row).istmasse()));
-    return massen;
+        all.push_back(at(row).istmasse());
+    return all;
 }
 
 bool conWiegen::isAnythingWeighed() const
 {
-    for (int row = 0; row < m_anzahl; ++row) {
-        if (at(row).istGewogen())
-            return true;
-    }
-    return false;
+    return std::any_of(m_zeilen.begin(), m_zeilen.end(), [](const Wiegezeile* zeile) { return zeile->istGewogen(); });
 }
 
-void conWiegen::Istmasse_Change()
+/// Whether the deviations from the wanted at% tell something.
+bool conWiegen::isEverythingWeighed() const
 {
-    m_meldung.reset();
-    try {
-        showWeighed();
-    } catch (const Laufzeitfehler& error) {
-        clearWeighed();
-        m_meldung = error;
+    for (int row = 0; row < m_anzahl; ++row) {
+        if (!at(row).istGewogen() && m_programm.Calc().Element_Prozente(row) != 0)
+            return false;
     }
-    showMangel();
-    verlustChanged();
+    return true;
+}
+
+void conWiegen::Istmasse_Change(int row)
+{
+    m_ablage->nimm(row);
+    m_meldung = weigh();
+}
+
+/// Shows what the masses weighed come to; returns why they come to nothing.
+std::optional<Laufzeitfehler> conWiegen::weigh()
+{
+    m_istFehler.reset();
+    for (Wiegezeile* const zeile : m_zeilen)
+        zeile->clearGewogen();
+    m_gesamt->clear();
+    m_gesamt->setToolTip({});
+    try {
+        if (isAnythingWeighed())
+            showWeighed();
+        else if (m_bezug)
+            computeTargets();
+    } catch (const Laufzeitfehler& error) {
+        m_istFehler = error;
+        for (Wiegezeile* const zeile : m_zeilen)
+            zeile->clearGewogen();
+    }
+    showAuskunft();
+    zeigeVerlust();
+    return m_istFehler;
+}
+
+/// Sum, at%, deviation and mass percent of what was weighed. Throws with the sum already shown.
+void conWiegen::showWeighed()
+{
+    const std::vector<float> weighed = massen();
+    std::ranges::for_each(weighed, wiegezahl);
+    const float sum = gesamtmasse(weighed);
+    m_gesamt->setText(QStringLiteral("Gesamtmasse = %1").arg(toQt(FormatValue(sum, "mg"))));
+    m_gesamt->setToolTip(QStringLiteral("%1 mg").arg(toQt(textOfSingle(sum))));
+    const clsCalc& calc = m_programm.Calc();
+    const std::vector<float> prozente = gewogeneAtomprozente(calc, weighed);
+    const std::vector<float> shares = massenprozente(weighed);
+    const bool isComplete = isEverythingWeighed();
+    for (int row = 0; row < m_anzahl; ++row) {
+        const auto k = static_cast<std::size_t>(row);
+        const float deviation = prozente[k] - calc.Element_Prozente(row);
+        at(row).zeigeAtomprozent(prozente[k], isComplete ? std::optional(deviation) : std::nullopt);
+        at(row).zeigeMassenanteil(toQt(fixedText(shares[k], 2)));
+    }
+}
+
+/// The mass weighed in this row becomes the reference for the others' target masses.
+void conWiegen::Istmasse_KeyDown(int row)
+{
+    report();
+    const clsCalc& calc = m_programm.Calc();
+    if (calc.Element_Prozente(row) == 0) {
+        m_programm.boxes().show(Icon::Exclamation, "Zerna @ Marra",
+            "Atomprozente von " + calc.Element_Name(row) + " sind nicht angegeben!");
+        return;
+    }
+    if (!at(row).istGewogen()) {
+        m_programm.boxes().show(
+            Icon::Exclamation, Programmtitel, "Masse von " + calc.Element_Name(row) + " ist nicht angegeben!");
+        return;
+    }
+    reporting(m_programm.boxes(), "Istmasse_KeyDown", Steuerelement, [&] { beziehe(row); });
+}
+
+void conWiegen::beziehe(int row)
+{
+    const float masse = wiegezahl(at(row).istmasse());
+    m_sollmassen = sollmassenZu(m_programm.Calc(), m_anzahl, row, masse);
+    m_sollFehler.reset();
+    for (int other = 0; other < m_anzahl; ++other) {
+        if (other != row)
+            at(other).zeigeSollmasse(toQt(massentext(m_sollmassen[static_cast<std::size_t>(other)])));
+    }
+    setBezug(Wiegebezug{row, masse});
+    showAuskunft();
 }
 
 /// Out of the focus event, and not while a mouse button is down: its release would be lost to the box.
@@ -236,89 +319,61 @@ void conWiegen::report()
         reporting(m_programm.boxes(), "Istmasse_Change", Steuerelement, [&error] { throw *error; });
 }
 
-/// Says in the fields and below them what the masses lack for their at%.
-void conWiegen::showMangel()
+/// Says in the fields and below them what is missing.
+void conWiegen::showAuskunft()
 {
-    std::vector<float> massen;
-    for (int row = 0; row < m_anzahl; ++row)
-        massen.push_back(at(row).istmasse());
     const clsCalc& calc = m_programm.Calc();
-    const auto hindernis = isAnythingWeighed() ? atomprozentHindernis(calc, massen) : std::nullopt;
-    m_istGrund.clear();
-    if (hindernis)
-        m_istGrund = QStringLiteral("Atomprozente nicht berechenbar: %1 %2.")
-                         .arg(toQt(calc.Element_Name(hindernis->komponente)), toQt(hindernis->grund));
+    const auto hindernis = m_istFehler ? atomprozentHindernis(calc, massen()) : std::nullopt;
     for (int row = 0; row < m_anzahl; ++row)
-        at(row).zeigeMangel(m_istGrund, hindernis && hindernis->komponente == row);
-    showHinweis();
+        at(row).zeigeMangel(istGrund(), hindernis && hindernis->komponente == row);
+    QStringList lines{sollGrund(), istGrund()};
+    lines.removeAll(QString());
+    if (lines.isEmpty())
+        lines.append(toQt(wiegestandText()));
+    m_hinweis->setText(lines.join(QLatin1Char('\n')));
+    m_hinweis->setToolTip(m_hinweis->text());
+    m_ablage->zeige(m_anzahl);
 }
 
-/// Sum, at%, deviation and mass percent of what was weighed; with nothing weighed the shares of the target masses.
-/// Throws with the sum already shown.
-void conWiegen::showWeighed()
+/// Why there are no target masses, in terms of the alloy where that is to blame.
+QString conWiegen::sollGrund() const
 {
-    m_gesamt->clear();
-    if (!isAnythingWeighed()) {
-        clearWeighed();
-        sollMasseChanged();
-        return;
+    if (!m_sollFehler || istUnbekannt(m_txtSollMasse->masse())) // then the field is marked
+        return {};
+    const auto hindernis = sollmassenHindernis(m_programm.Calc(), m_anzahl);
+    return QStringLiteral("Sollmassen nicht berechenbar: %1.")
+        .arg(hindernis ? satz(m_programm.Calc(), *hindernis) : ursache(*m_sollFehler));
+}
+
+QString conWiegen::istGrund() const
+{
+    if (!m_istFehler)
+        return {};
+    const auto hindernis = atomprozentHindernis(m_programm.Calc(), massen());
+    return QStringLiteral("Atomprozente nicht berechenbar: %1.")
+        .arg(hindernis ? satz(m_programm.Calc(), *hindernis) : ursache(*m_istFehler));
+}
+
+std::string conWiegen::wiegestandText() const
+{
+    std::vector<Wiegung> wiegungen;
+    for (int row = 0; row < m_anzahl && !m_sollmassen.empty(); ++row) {
+        const std::optional<float> ist = at(row).istGewogen() ? std::optional(at(row).istmasse()) : std::nullopt;
+        wiegungen.push_back({m_sollmassen[static_cast<std::size_t>(row)], ist});
     }
-    const std::vector<float> massen = istmassen();
-    m_gesamt->setText(QStringLiteral("Gesamtmasse = %1").arg(toQt(FormatValue(gesamtmasse(massen), "mg"))));
-    const clsCalc& calc = m_programm.Calc();
-    const std::vector<float> atomprozente = gewogeneAtomprozente(calc, massen);
-    const std::vector<float> shares = massenprozente(massen);
+    return wiegestand(m_programm.Calc(), wiegungen, m_bezug);
+}
+
+void conWiegen::putBack()
+{
     for (int row = 0; row < m_anzahl; ++row) {
-        const auto k = static_cast<std::size_t>(row);
-        at(row).zeigeAtomprozent(atomprozente[k], calc.Element_Prozente(row));
-        at(row).zeigeMassenanteil(toQt(fixedText(shares[k], 2)), QStringLiteral("Anteil an der gewogenen Masse"));
+        if (const auto taken = m_ablage->nimm(row))
+            at(row).setIstmasse(taken->masse);
     }
+    weigh();
 }
 
-void conWiegen::clearWeighed()
-{
-    for (Wiegezeile* const zeile : m_zeilen) {
-        zeile->clearAtomprozent();
-        zeile->zeigeMassenanteil({}, {});
-    }
-}
-
-/// The mass weighed in this row becomes the reference for the others' target masses.
-void conWiegen::Istmasse_KeyDown(int row)
-{
-    report();
-    const clsCalc& calc = m_programm.Calc();
-    if (calc.Element_Prozente(row) == 0) {
-        m_programm.boxes().show(Icon::Exclamation, "Zerna @ Marra",
-            "Atomprozente von " + calc.Element_Name(row) + " sind nicht angegeben!");
-        return;
-    }
-    if (!at(row).istGewogen()) {
-        m_programm.boxes().show(
-            Icon::Exclamation, Programmtitel, "Masse von " + calc.Element_Name(row) + " ist nicht angegeben!");
-        return;
-    }
-    reporting(m_programm.boxes(), "Istmasse_KeyDown", Steuerelement, [&] {
-        const std::vector<float> massen = sollmassenZu(calc, m_anzahl, row, wiegezahl(at(row).istmasse()));
-        for (int other = 0; other < m_anzahl; ++other) {
-            if (other != row)
-                at(other).zeigeSollmasse(toQt(massentext(massen.at(static_cast<std::size_t>(other)))));
-        }
-    });
-}
-
-void conWiegen::verlustChanged()
-{
-    m_lstVerlust->clear();
-    if (m_txtVerlust->text().isEmpty() || istUnbekannt(m_txtVerlust->masse()))
-        return;
-    try {
-        for (const std::string& line : verlustliste(m_programm.Calc(), istmassen(), m_txtVerlust->masse()))
-            m_lstVerlust->addItem(toQt(line));
-    } catch (const Laufzeitfehler& error) {
-        m_lstVerlust->addItem(QStringLiteral("Nicht berechenbar: %1").arg(toQt(error.what())));
-    }
-}
+void conWiegen::zeigeVerlust() { m_verlust->zeige(m_programm.Calc(), massen()); }
 
 std::vector<Einwaagezeile> conWiegen::einwaagen() const
 {
@@ -333,8 +388,6 @@ std::string conWiegen::protokoll() const
 {
     return wiegeprotokoll(fromQt(QDate::currentDate().toString(QStringLiteral("d.M.yyyy"))), einwaagen());
 }
-
-void conWiegen::copy() { copyToClipboard(toQt(protokoll())); }
 
 void conWiegen::save()
 {

@@ -7,17 +7,20 @@
 #include <string>
 #include <vector>
 
+#include "model/Wiegeauskunft.h"
 #include "programm/ExportFileDialog.h"
 #include "programm/Programm.h"
 
+class QGridLayout;
 class QLabel;
-class QListWidget;
 
 namespace zerna {
 
 struct Einwaagezeile;
+class Massenablage;
 class Massenfeld;
 class StyledButton;
+class Verlustbereich;
 class Wiegezeile;
 
 /// The weighing calculator: target masses for a wanted total, what the masses weighed come to, and what a loss of mass
@@ -28,32 +31,41 @@ class conWiegen : public QWidget {
 public:
     conWiegen(Programm& programm, SaveFileDialog& saveDialog, QWidget* parent = nullptr);
 
-    /// Rebuilds the panel for an alloy that the calculator has just been given.
+    /// Rebuilds the panel for an alloy that the calculator has just been given. Masses weighed of a component that is
+    /// no longer there are taken out of the rows, with an offer to put them back.
     void Aktualisieren(const Eingabe& eingabe);
 
 private:
     void createControls();
     void createTarget();
-    void createLoss();
+    void createRows();
+    void createAuskunft();
+    void createButtons();
     void layOut();
+    QGridLayout* table();
 
-    void sollMasseChanged();
-    void Istmasse_Change();
+    void Istmasse_Change(int row);
+    void Istmasse_KeyDown(int row);
+    void zeigeVerlust();
     void reportLater();
     void report();
-    void Istmasse_KeyDown(int row);
-    void verlustChanged();
-    QString sollGrund(const Laufzeitfehler& error) const;
-    void showHinweis();
-    void showTargets();
+    void putBack();
+
+    void computeTargets();
+    std::optional<Laufzeitfehler> weigh();
     void showWeighed();
-    void clearWeighed();
-    void showMangel();
-    std::vector<float> istmassen() const;
+    void beziehe(int row);
+    void setBezug(const std::optional<Wiegebezug>& bezug);
+    void showTargets(float wanted);
+    void showAuskunft();
+    QString sollGrund() const;
+    QString istGrund() const;
+    std::string wiegestandText() const;
+    std::vector<float> massen() const;
     bool isAnythingWeighed() const;
+    bool isEverythingWeighed() const;
     std::vector<Einwaagezeile> einwaagen() const;
     std::string protokoll() const;
-    void copy();
     void save();
 
     Wiegezeile& at(int row) const { return *m_zeilen.at(static_cast<std::size_t>(row)); }
@@ -61,17 +73,18 @@ private:
     Programm& m_programm;
     SaveFileDialog& m_saveDialog;
     int m_anzahl = 0; // components of the alloy that is weighed
+    std::vector<float> m_sollmassen; // mg, one per component; none if they cannot be computed
+    std::optional<Laufzeitfehler> m_sollFehler; // why not
+    std::optional<Wiegebezug> m_bezug; // what the target masses were set to match, unless the wanted total
+    std::optional<Laufzeitfehler> m_istFehler; // why the masses give no at%
     std::optional<Laufzeitfehler> m_meldung; // of the last change of a mass, not shown yet
-    QString m_sollGrund; // why there are no target masses
-    QString m_istGrund; // why there are no at%
     QLabel* m_sollMasseCaption = nullptr;
     Massenfeld* m_txtSollMasse = nullptr;
     std::array<Wiegezeile*, MaxKomponenten> m_zeilen{};
     QLabel* m_gesamt = nullptr;
     QLabel* m_hinweis = nullptr;
-    QLabel* m_verlustCaption = nullptr;
-    Massenfeld* m_txtVerlust = nullptr;
-    QListWidget* m_lstVerlust = nullptr;
+    Massenablage* m_ablage = nullptr;
+    Verlustbereich* m_verlust = nullptr;
     StyledButton* m_kopieren = nullptr;
     StyledButton* m_speichern = nullptr;
 };
