@@ -16,6 +16,14 @@ std::string inQuotes(std::string_view text)
     return result + '"';
 }
 
+std::string htmlZelle(std::string_view tag, const Tabelle::Spalte& spalte, std::string_view text)
+{
+    std::string zelle = '<' + std::string(tag) + (spalte.istZahl ? " align=\"right\">" : ">");
+    for (const char c : text)
+        zelle += c == '&' ? "&amp;" : c == '<' ? "&lt;" : std::string(1, c);
+    return zelle + "</" + std::string(tag) + '>';
+}
+
 } // namespace
 
 std::string alsText(const Tabelle& tabelle)
@@ -27,6 +35,21 @@ std::string alsText(const Tabelle& tabelle)
         text += "\r\n";
     }
     return text;
+}
+
+std::string alsHtml(const Tabelle& tabelle)
+{
+    std::string html = "<meta charset=\"utf-8\"><table border=\"1\" cellspacing=\"0\" cellpadding=\"3\"><tr>";
+    for (const Tabelle::Spalte& spalte : tabelle.spalten)
+        html += htmlZelle("th", spalte, spalte.name);
+    html += "</tr>";
+    for (const std::vector<std::string>& zeile : tabelle.zeilen) {
+        html += "\r\n<tr>";
+        for (std::size_t i = 0; i < tabelle.spalten.size(); ++i)
+            html += htmlZelle("td", tabelle.spalten[i], i < zeile.size() ? zeile[i] : std::string());
+        html += "</tr>";
+    }
+    return html + "</table>";
 }
 
 std::string alsJson(const Tabelle& tabelle)

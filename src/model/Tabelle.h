@@ -20,6 +20,9 @@ struct Tabelle {
 /// Lines of tab-separated cells without a header, CR LF after each.
 std::string alsText(const Tabelle& tabelle);
 
+/// An HTML table with a heading; numbers end at the right. Lines with fewer cells than columns end in empty ones.
+std::string alsHtml(const Tabelle& tabelle);
+
 /// A JSON array with an object per line, keyed by the columns' names.
 std::string alsJson(const Tabelle& tabelle);
 

@@ -46,7 +46,7 @@ struct StundeTest : FakeDesk {
             auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
             ASSERT_NE(menu, nullptr);
             for (QAction* const action : menu->actions()) {
-                if (action->text().remove('&').toStdString() == entry)
+                if (action->text().section('\t', 0, 0).remove('&').toStdString() == entry)
                     menu->setActiveAction(action);
             }
             EXPECT_NE(menu->activeAction(), nullptr) << entry;

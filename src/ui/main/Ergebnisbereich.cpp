@@ -4,8 +4,11 @@
 #include <QToolTip>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 #include "core/CheckedArithmetic.h"
 #include "core/Zahlentext.h"
+#include "model/Ergebnistabelle.h"
 #include "model/Konstanten.h"
 #include "programm/Exportieren.h"
 #include "ui/button/StyledButton.h"
@@ -13,6 +16,7 @@
 #include "ui/controls/Wertanzeige.h"
 #include "ui/controls/Wertfeld.h"
 #include "ui/main/Ergebnisdetails.h"
+#include "ui/main/Tabellenknopf.h"
 #include "ui/platform/QtText.h"
 #include "ui/platform/Tabreihenfolge.h"
 #include "ui/platform/Zwischenablage.h"
@@ -43,6 +47,8 @@ void Ergebnisbereich::createButtons()
     m_cmdKopieren = new StyledButton(QStringLiteral("&Kopieren"), this);
     m_cmdKopieren->setObjectName(QStringLiteral("cmdMFE_Kopieren"));
     m_cmdKopieren->setToolTipText(QStringLiteral("Alle Ergebnisse als Text in die Zwischenablage"));
+    m_tabellenknopf = new Tabellenknopf(m_programm.settings(), this);
+    connect(m_tabellenknopf, &Tabellenknopf::copyRequested, this, &Ergebnisbereich::copyTable);
     m_cmdSpeichern = new StyledButton(QStringLiteral("&Speichern"), this);
     m_cmdSpeichern->setObjectName(QStringLiteral("cmdMFE_Speichern"));
     m_cmdSpeichern->setToolTipText(QStringLiteral("Ergebnisse oder Friedelminima als Datei speichern"));
@@ -58,16 +64,27 @@ void Ergebnisbereich::createMenu()
         m_menuLine = zeile;
         m_menu->popup(position);
     });
-    QAction* const copy = m_menu->addAction(QStringLiteral("Kopieren"));
-    copy->setObjectName(QStringLiteral("mnuCopy"));
-    connect(copy, &QAction::triggered, this,
-        [this] { copyToClipboard(toQt(kopierteZahl(m_menuLine, fromQt(m_gitter->anzeige(m_menuLine).text())))); });
-    connect(m_menu->addAction(QStringLiteral("Zahl kopieren")), &QAction::triggered, this, [this] {
-        copyToClipboard(toQt(ganzeZahl(
-            fromQt(m_gitter->wertUndEinheitIn(m_menuLine)), fromQt(m_gitter->anzeige(m_menuLine).einheit()))));
+    addCopy(QStringLiteral("Kopieren"), [this] {
+        return toQt(kopierteZahl(m_menuLine, fromQt(m_gitter->anzeige(m_menuLine).text())));
+    })->setObjectName(QStringLiteral("mnuCopy"));
+    addCopy(QStringLiteral("Zahl kopieren"), [this] {
+        return toQt(
+            ganzeZahl(fromQt(m_gitter->wertUndEinheitIn(m_menuLine)), fromQt(m_gitter->anzeige(m_menuLine).einheit())));
     });
-    connect(m_menu->addAction(QStringLiteral("Zahl und Einheit kopieren")), &QAction::triggered, this,
-        [this] { copyToClipboard(m_gitter->wertUndEinheitIn(m_menuLine)); });
+    addCopy(QStringLiteral("Zahl und Einheit kopieren"), [this] { return m_gitter->wertUndEinheitIn(m_menuLine); });
+}
+
+/// An entry of the menu that copies the text and shows it in a column of its own, where shortcuts stand otherwise.
+QAction* Ergebnisbereich::addCopy(const QString& caption, const std::function<QString()>& text)
+{
+    QAction* const action = m_menu->addAction(caption);
+    connect(action, &QAction::triggered, this, [text] { copyToClipboard(text()); });
+    connect(m_menu, &QMenu::aboutToShow, action, [action, caption, text] {
+        const QString copied = text();
+        action->setText(copied.isEmpty() ? caption : caption + QLatin1Char('\t') + copied);
+        action->setEnabled(!copied.isEmpty());
+    });
+    return action;
 }
 
 void Ergebnisbereich::layOut()
@@ -77,9 +94,14 @@ void Ergebnisbereich::layOut()
     column->setSpacing(8);
     column->addWidget(m_gitter);
     column->addStretch();
-    column->addLayout(knopfzeile({m_cmdKopieren, m_cmdSpeichern}));
+    QHBoxLayout* const buttons = knopfzeile({m_cmdKopieren, m_cmdSpeichern});
+    buttons->insertWidget(buttons->count() - 1, m_tabellenknopf);
+    column->addLayout(buttons);
     std::vector<QWidget*> order = m_gitter->tabOrder();
-    order.insert(order.end(), {m_cmdKopieren, m_cmdSpeichern});
+    order.push_back(m_cmdKopieren);
+    for (QWidget* const button : m_tabellenknopf->tabOrder())
+        order.push_back(button);
+    order.push_back(m_cmdSpeichern);
     setTabReihenfolge(order);
 }
 
@@ -103,6 +125,7 @@ void Ergebnisbereich::aktualisieren(Eingabemodus modus)
     if (showFields(modus))
         berechneErgebnisse(m_programm.Calc(), m_texte);
     m_gitter->zeige(m_texte);
+    m_tabellenknopf->setEnabled(std::ranges::any_of(m_texte, &Ergebnistext::known));
     m_friedelindex = 0;
     showFriedel();
 }
@@ -200,6 +223,15 @@ void Ergebnisbereich::copyText()
     } catch (const Laufzeitfehler&) {
         // Without a calculator there is nothing to copy.
     }
+}
+
+void Ergebnisbereich::copyTable(Dezimaltrenner trenner)
+{
+    const std::optional<Legierung> legierung = m_programm.gerechneteEingabe().legierung();
+    if (!legierung)
+        return;
+    const Ergebnistabelle tabelle = ergebnistabelle(m_programm.Calc(), legierung->komponenten(), trenner);
+    copyToClipboard(toQt(tabelle.text), toQt(tabelle.html));
 }
 
 void Ergebnisbereich::save()

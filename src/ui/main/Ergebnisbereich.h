@@ -2,20 +2,24 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <vector>
 
+#include "core/Zahlentext.h"
 #include "model/Einzelheiten.h"
 #include "model/Ergebnisse.h"
 #include "programm/ExportFileDialog.h"
 #include "programm/Programm.h"
 #include "ui/main/Ergebnisgitter.h"
 
+class QAction;
 class QMenu;
 
 namespace zerna {
 
 class Ergebnisdetails;
 class StyledButton;
+class Tabellenknopf;
 
 /// The results panel: all free-electron quantities of the alloy in the calculator, three of which can be typed to
 /// explore the model without a composition, the Friedel-minimum read-out, and the results text for clipboard and file.
@@ -38,6 +42,7 @@ private:
 
     void createButtons();
     void createMenu();
+    QAction* addCopy(const QString& caption, const std::function<QString()>& text);
     void layOut();
     void aktualisieren(Eingabemodus modus);
     bool showFields(Eingabemodus modus);
@@ -48,6 +53,7 @@ private:
     Einzelheiten einzelheitenVon(int zeile) const;
     void showHint(int zeile, const QPoint& globalPosition);
     void copyText();
+    void copyTable(Dezimaltrenner trenner);
     void save();
 
     Programm& m_programm;
@@ -57,6 +63,7 @@ private:
     float m_friedelindex = 0; // n, 0 to 20
     Ergebnisgitter* m_gitter = nullptr;
     StyledButton* m_cmdKopieren = nullptr;
+    Tabellenknopf* m_tabellenknopf = nullptr;
     StyledButton* m_cmdSpeichern = nullptr;
     Ergebnisdetails* m_details = nullptr;
     QMenu* m_menu = nullptr;

@@ -1,5 +1,10 @@
 #include "ui/main/Ergebnisbereich.h"
 
+#include <QMenu>
+#include <QMimeData>
+#include <QTextDocument>
+#include <QTextTable>
+
 #include "support/FakeDesk.h"
 #include "support/FullDisk.h"
 #include "ui/controls/Wertfeld.h"
@@ -32,6 +37,49 @@ TEST_F(ErgebnisbereichTest, TypedValuesExploreTheModelUntilTheNextEdit)
         EXPECT_EQ(texts(names), before);
         EXPECT_TRUE(find<Wertfeld>(field).fehler().isEmpty());
     }
+}
+
+TEST_F(ErgebnisbereichTest, TheMenuShowsWhatItCopies)
+{
+    struct Row {
+        const char* line;
+        std::array<const char*, 3> entries;
+    };
+    for (const auto& [line, entries] :
+        {Row{"lblMFE_4",
+             {"Kopieren\t-4.4269", "Zahl kopieren\t-4,4269E-11", "Zahl und Einheit kopieren\t-4,4269 E-11 m³/As"}},
+            {"lblMFE_0", {"Kopieren\te/a", "Zahl kopieren\t2", "Zahl und Einheit kopieren\t2 e/a"}},
+            {"lblMFE_14",
+                {"Kopieren", "Zahl kopieren\t0,30371", "Zahl und Einheit kopieren\t0,30371 states/eV atom"}}}) {
+        SCOPED_TRACE(line);
+        QTest::mouseClick(&find(line), Qt::RightButton);
+        const auto actions = find<QMenu>("mnuRight").actions();
+        ASSERT_EQ(actions.size(), 3);
+        for (std::size_t i = 0; i < entries.size(); ++i)
+            EXPECT_EQ(actions.at(static_cast<int>(i))->text().toStdString(), entries[i]);
+        EXPECT_EQ(actions.at(0)->isEnabled(), actions.at(0)->text() != "Kopieren");
+        find<QMenu>("mnuRight").close();
+    }
+}
+
+TEST_F(ErgebnisbereichTest, ATableForSpreadsheetsAndWordProcessors)
+{
+    click("cmdMFE_Tabelle");
+    EXPECT_TRUE(clipboard().starts_with("Größe\tWert\tEinheit\tLehrbuch\tEinheit\r\nmittlere Valenz\t2\te/a\r\n"));
+    EXPECT_NE(clipboard().find("\r\nKompressionsmodul\t1,487537E-16\tN/m²\t148,75371\tGPa\r\n"), std::string::npos)
+        << clipboard();
+    find<QAction>("mnuPunkt").trigger();
+    click("cmdMFE_Tabelle");
+    EXPECT_NE(clipboard().find("\t1.487537E-16\tN/m²\t148.75371\tGPa"), std::string::npos) << "remembered";
+    QTextDocument document;
+    document.setHtml(QApplication::clipboard()->mimeData()->html());
+    const auto* const table = qobject_cast<QTextTable*>(document.rootFrame()->childFrames().value(0));
+    ASSERT_NE(table, nullptr);
+    EXPECT_EQ(table->columns(), 5);
+    EXPECT_EQ(table->rows(), 19);
+    EXPECT_EQ(table->cellAt(18, 3).firstCursorPosition().block().text().toStdString(), "148.75371");
+    type("txtMFE_0", "");
+    EXPECT_FALSE(find("cmdMFE_Tabelle").isEnabled()) << "no results";
 }
 
 TEST_F(ErgebnisbereichTest, FullDiskIsReportedAndKeepsTheEarlierFile)

@@ -1,0 +1,78 @@
+#include "ui/main/Tabellenknopf.h"
+
+#include <QActionGroup>
+#include <QHBoxLayout>
+#include <QMenu>
+
+#include "ui/controls/Knopfzeile.h"
+
+namespace zerna {
+
+namespace {
+
+constexpr std::string_view Schluessel = "Tabelle_Dezimaltrenner";
+constexpr std::string_view Punkt = "Punkt";
+constexpr std::string_view Komma = "Komma";
+
+} // namespace
+
+Tabellenknopf::Tabellenknopf(Settings& settings, QWidget* parent)
+    : QWidget(parent)
+    , m_settings(settings)
+    , m_cmdTabelle(new StyledButton(QStringLiteral("&Tabelle kopieren"), this))
+    , m_cmdTrenner(new StyledButton(QStringLiteral("▾"), this))
+{
+    m_cmdTabelle->setObjectName(QStringLiteral("cmdMFE_Tabelle"));
+    m_cmdTabelle->setToolTipText(QStringLiteral(
+        "Alle Ergebnisse mit ganzen Zahlen und den Werten des Lehrbuchs für Tabellen- und Textprogramme"));
+    connect(m_cmdTabelle, &StyledButton::clicked, this, [this] { emit copyRequested(trenner()); });
+    m_cmdTrenner->setObjectName(QStringLiteral("cmdMFE_Trenner"));
+    m_cmdTrenner->setAccessibleName(QStringLiteral("Dezimaltrenner der Tabelle"));
+    m_cmdTrenner->setToolTipText(QStringLiteral("Dezimalkomma oder Dezimalpunkt wählen"));
+    createMenu();
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(2);
+    m_cmdTabelle->setMinimumWidth(Knopfbreite);
+    m_cmdTrenner->setFixedWidth(24);
+    for (StyledButton* const button : {m_cmdTabelle, m_cmdTrenner}) {
+        button->setFixedHeight(28);
+        row->addWidget(button);
+    }
+}
+
+std::vector<QWidget*> Tabellenknopf::tabOrder() const { return {m_cmdTabelle, m_cmdTrenner}; }
+
+void Tabellenknopf::createMenu()
+{
+    auto* const menu = new QMenu(this);
+    auto* const choices = new QActionGroup(menu);
+    for (QAction* const choice :
+        {addChoice(QStringLiteral("Mit Dezimalkomma kopieren (1,5)"), "mnuKomma", Dezimaltrenner::Komma),
+            addChoice(QStringLiteral("Mit Dezimalpunkt kopieren (1.5)"), "mnuPunkt", Dezimaltrenner::Punkt)}) {
+        choices->addAction(choice);
+        menu->addAction(choice);
+    }
+    connect(m_cmdTrenner, &StyledButton::clicked, menu,
+        [this, menu] { menu->popup(m_cmdTrenner->mapToGlobal(m_cmdTrenner->rect().bottomLeft())); });
+}
+
+QAction* Tabellenknopf::addChoice(const QString& caption, const char* name, Dezimaltrenner trenner)
+{
+    auto* const action = new QAction(caption, this);
+    action->setObjectName(QLatin1String(name));
+    action->setCheckable(true);
+    action->setChecked(trenner == this->trenner());
+    connect(action, &QAction::triggered, this, [this, trenner] {
+        m_settings.SaveSetting(Schluessel, trenner == Dezimaltrenner::Punkt ? Punkt : Komma);
+        emit copyRequested(trenner);
+    });
+    return action;
+}
+
+Dezimaltrenner Tabellenknopf::trenner() const
+{
+    return m_settings.LoadSetting(Schluessel, Komma) == Punkt ? Dezimaltrenner::Punkt : Dezimaltrenner::Komma;
+}
+
+} // namespace zerna

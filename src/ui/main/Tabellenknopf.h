@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QWidget>
+
+#include <vector>
+
+#include "core/Settings.h"
+#include "core/Zahlentext.h"
+
+class QAction;
+
+namespace zerna {
+
+class StyledButton;
+
+/// The button that copies a table, and beside it a menu that copies with decimal comma or point; the choice is
+/// remembered for the button.
+class Tabellenknopf : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit Tabellenknopf(Settings& settings, QWidget* parent = nullptr);
+
+    /// What takes the keyboard focus, in this order.
+    std::vector<QWidget*> tabOrder() const;
+
+signals:
+    void copyRequested(Dezimaltrenner trenner);
+
+private:
+    void createMenu();
+    QAction* addChoice(const QString& caption, const char* name, Dezimaltrenner trenner);
+    Dezimaltrenner trenner() const;
+
+    Settings& m_settings;
+    StyledButton* m_cmdTabelle = nullptr;
+    StyledButton* m_cmdTrenner = nullptr;
+};
+
+} // namespace zerna
