@@ -67,7 +67,7 @@ Einzelheiten einzelheiten(int zeile, const clsCalc* calc, std::span<const Legier
     const Lehrbucheintrag* const eintrag = findLehrbuch(zeile);
     if (groesse == ergebniszeilen().end() || eintrag == nullptr)
         throw Laufzeitfehler(Fehler::IndexAusserhalb);
-    const float value = calc == nullptr ? Unbekannt : orUnbekannt([&] { return groesse->wert(*calc); });
+    const float value = calc == nullptr ? Unbekannt : wert(*groesse, *calc);
     Einzelheiten alle{std::string(groesse->bezeichnung()), {}};
     alle.zeilen.push_back({"Wert", mitEinheit(istUnbekannt(value) ? "" : textOfSingle(value), groesse->einheit)});
     alle.zeilen.push_back({"Formel", std::string(eintrag->formel)});

@@ -29,8 +29,10 @@ bool isExported(const Groesse& zeile, const Ergebnistexte& texte)
     return zeile.zeile <= LetzteTextzeile && texte.at(static_cast<std::size_t>(zeile.zeile)).known;
 }
 
+float wavelengthOf(const clsCalc& calc) { return wert(ergebniszeile(Wellenlaengenzeile), calc); }
+
 /// (n + 5/4)·λ in nm.
-double friedelradius(const clsCalc& calc, int n) { return (n + 5.0 / 4.0) * calc.Friedelwellenlaenge(); }
+double friedelradius(float wavelength, int n) { return (n + 5.0 / 4.0) * wavelength; }
 
 /// The text without its first characters; UTF-8 characters are not cut.
 std::string_view withoutCharacters(std::string_view text, std::size_t count)
@@ -53,34 +55,24 @@ bool istEtwasBekannt(const Ergebnistexte& texte) { return std::ranges::any_of(te
 bool berechneErgebnisse(const clsCalc& calc, Ergebnistexte& texte)
 {
     texte.resize(positionen());
-    bool computable = !istUnbekannt(calc.Valenz()); // else the composition could not be computed, and nothing follows
+    bool complete = true;
     for (const Groesse& zeile : ergebniszeilen()) {
+        const float value = wert(zeile, calc);
         Ergebnistext& ergebnis = texte.at(static_cast<std::size_t>(zeile.zeile));
-        ergebnis.text.clear();
-        ergebnis.known = false;
-        if (zeile.tippbar) {
-            ergebnis.known = computable && !istUnbekannt(orUnbekannt([&] { return zeile.wert(calc); }));
+        ergebnis.known = !istUnbekannt(value);
+        complete = complete && ergebnis.known;
+        if (zeile.tippbar)
             ergebnis.text = zeile.einheit;
-            continue;
-        }
-        if (!computable)
-            continue;
-        try {
-            const float value = zeile.wert(calc);
-            ergebnis.known = !istUnbekannt(value);
+        else
             ergebnis.text = zeile.zeile == Friedelzeile ? friedelanzeige(calc, 0) : FormatValue(value, zeile.einheit);
-        } catch (const Laufzeitfehler&) {
-            computable = false;
-        }
     }
-    if (!computable)
-        texte.at(Friedelzeile) = {};
-    return computable;
+    return complete;
 }
 
 std::string friedelanzeige(const clsCalc& calc, float n)
 {
-    return std::string(Friedelvorspann) + FormatValue(calc.Friedelminima(static_cast<int>(n)), "nm");
+    const bool known = !istUnbekannt(wavelengthOf(calc));
+    return known ? std::string(Friedelvorspann) + FormatValue(calc.Friedelminima(static_cast<int>(n)), "nm") : "";
 }
 
 float friedelindex(float n)
@@ -102,7 +94,7 @@ std::string ergebnistext(const clsCalc& calc, std::span<const Komponentenzeile> 
             text.append(Zeilenende).append(texte.at(static_cast<std::size_t>(zeile.zeile)).text);
     }
     text.append(Zeilenende).append("Friedelminima:");
-    const float wavelength = calc.Friedelwellenlaenge();
+    const float wavelength = wavelengthOf(calc);
     for (int n = 0; n < Friedelzeilen && !istUnbekannt(wavelength); ++n)
         text.append(Zeilenende).append("n = " + std::to_string(n) + " r(n) = " + FormatValue(wavelength, "nm"));
     return text;
@@ -124,18 +116,18 @@ std::string ergebnisdatei(
     }
     line("");
     line("Friedelminima:");
-    const bool known = !istUnbekannt(calc.Friedelwellenlaenge());
-    for (int n = 0; n < Friedelzeilen && known; ++n)
-        line("n = " + std::to_string(n) + " r(n) = " + FormatValue(toSingle(friedelradius(calc, n)), "nm"));
+    const float wavelength = wavelengthOf(calc);
+    for (int n = 0; n < Friedelzeilen && !istUnbekannt(wavelength); ++n)
+        line("n = " + std::to_string(n) + " r(n) = " + FormatValue(toSingle(friedelradius(wavelength, n)), "nm"));
     return text;
 }
 
 std::string friedeldatei(const clsCalc& calc)
 {
     std::string text;
-    const bool known = !istUnbekannt(calc.Friedelwellenlaenge());
-    for (int n = 0; n < Friedelzeilen && known; ++n) {
-        const std::string x = CommaToPoint(textOfDouble(friedelradius(calc, n)));
+    const float wavelength = wavelengthOf(calc);
+    for (int n = 0; n < Friedelzeilen && !istUnbekannt(wavelength); ++n) {
+        const std::string x = CommaToPoint(textOfDouble(friedelradius(wavelength, n)));
         text.append(x + "\t50").append(Zeilenende);
         text.append(x + "\t55").append(Zeilenende);
         text.append(" \t ").append(Zeilenende);

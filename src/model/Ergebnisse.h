@@ -26,12 +26,11 @@ Ergebnistexte keineErgebnisse();
 /// Whether at least one line's value is known.
 bool istEtwasBekannt(const Ergebnistexte& texte);
 
-/// Formats all lines. From the first line that cannot be computed on all value lines are empty, the Friedel read-out
-/// too, and false is returned; an alloy that could not be computed has no lines at all. The three editable lines hold
-/// their unit, line 10 the first Friedel minimum.
+/// Formats all lines; those of unknown values are empty. The three editable lines hold their unit, line 10 the first
+/// Friedel minimum. Whether all are known.
 bool berechneErgebnisse(const clsCalc& calc, Ergebnistexte& texte);
 
-/// The Friedel-minimum read-out "r(n) = " and the radius; n counts from 0.
+/// The Friedel-minimum read-out "r(n) = " and the radius; n counts from 0. Empty if it is unknown.
 std::string friedelanzeige(const clsCalc& calc, float n);
 
 /// The running index of the read-out kept within 0 to 20.

@@ -10,10 +10,11 @@ namespace zerna {
 
 namespace {
 
-/// Particles per cm³; Unbekannt without a density.
+/// Particles per cm³; Unbekannt without a density or a mass.
 float teilchendichte(float dichte, const clsElement& element)
 {
-    return istUnbekannt(dichte) ? Unbekannt : toSingle(AvogadroProMol * quotient(dichte, element.Masse()));
+    const bool unknown = istUnbekannt(dichte) || istUnbekannt(element.Masse());
+    return unknown ? Unbekannt : toSingle(AvogadroProMol * quotient(dichte, element.Masse()));
 }
 
 /// (a - b) / b in percent; Unbekannt if one is.
@@ -33,7 +34,8 @@ constexpr std::array Groessentabelle{
         .einheit = "e/a",
         .reiheneinheit = "e/a",
         .elementtitel = "Valenz",
-        .wert = [](Rechner c) { return c.Valenz(); },
+        .formel = [](Rechner c) { return c.Valenz(); },
+        .grundlage = Grundlage::Valenz,
         .tippbar = true},
     Groesse{.kennzahl = 1,
         .zeile = 1,
@@ -41,7 +43,8 @@ constexpr std::array Groessentabelle{
         .beschriftung = "mittlere Teilchenzahldichte:",
         .einheit = "1/nm³",
         .reiheneinheit = "1/nm³",
-        .wert = [](Rechner c) { return c.Teilchenzahldichte(); },
+        .formel = [](Rechner c) { return c.Teilchenzahldichte(); },
+        .grundlage = Grundlage::Teilchen,
         .tippbar = true},
     Groesse{.kennzahl = GroesseDichte,
         .zeile = 2,
@@ -49,7 +52,7 @@ constexpr std::array Groessentabelle{
         .beschriftung = "mittlere Dichte:",
         .einheit = "g/cm³",
         .reiheneinheit = "g/cm³",
-        .wert = [](Rechner c) { return c.Dichte(); }},
+        .formel = [](Rechner c) { return c.Dichte(); }},
     // Intended: nm³ over compositions and elements, although the value itself is in m³ everywhere.
     Groesse{.kennzahl = 4,
         .zeile = 3,
@@ -58,7 +61,8 @@ constexpr std::array Groessentabelle{
         .einheit = "m³",
         .reiheneinheit = "nm³",
         .elementtitel = "Atomvolumen [nm³]",
-        .wert = [](Rechner c) { return c.Atomvolumen(); }},
+        .formel = [](Rechner c) { return c.Atomvolumen(); },
+        .grundlage = Grundlage::Teilchen},
     Groesse{.kennzahl = 5,
         .zeile = 4,
         .name = "Hall-Koeffizient",
@@ -66,7 +70,8 @@ constexpr std::array Groessentabelle{
         .einheit = "m³/As",
         .reiheneinheit = "m³/As",
         .elementtitel = "Hall-Koeffizient [m³/As]",
-        .wert = [](Rechner c) { return c.HallKoeffizient(); }},
+        .formel = [](Rechner c) { return c.HallKoeffizient(); },
+        .grundlage = Grundlage::Elektronen},
     Groesse{.kennzahl = 6,
         .zeile = 5,
         .name = "Thermokraft",
@@ -74,7 +79,8 @@ constexpr std::array Groessentabelle{
         .einheit = "V/K²",
         .reiheneinheit = "V/K²",
         .elementtitel = "Thermokraft [V/K²]",
-        .wert = [](Rechner c) { return c.Thermokraft(); }},
+        .formel = [](Rechner c) { return c.Thermokraft(); },
+        .grundlage = Grundlage::Elektronen},
     Groesse{.kennzahl = 7,
         .zeile = 6,
         .name = "Plasmonenenergie",
@@ -82,7 +88,8 @@ constexpr std::array Groessentabelle{
         .einheit = "eV",
         .reiheneinheit = "eV",
         .elementtitel = "Plasmonenenergie [eV]",
-        .wert = [](Rechner c) { return c.Plasmonenenergie(); }},
+        .formel = [](Rechner c) { return c.Plasmonenenergie(); },
+        .grundlage = Grundlage::Elektronen},
     Groesse{.kennzahl = 8,
         .zeile = 7,
         .name = "Fermienergie",
@@ -90,7 +97,8 @@ constexpr std::array Groessentabelle{
         .einheit = "eV",
         .reiheneinheit = "eV",
         .elementtitel = "Fermienergie [eV]",
-        .wert = [](Rechner c) { return c.Fermienergie(); }},
+        .formel = [](Rechner c) { return c.Fermienergie(); },
+        .grundlage = Grundlage::Elektronen},
     Groesse{.kennzahl = 9,
         .zeile = 8,
         .name = "2 Kf",
@@ -98,7 +106,8 @@ constexpr std::array Groessentabelle{
         .einheit = "1/nm",
         .reiheneinheit = "1/nm",
         .elementtitel = "2 Kf [1/nm]",
-        .wert = [](Rechner c) { return c.Kf_2(); },
+        .formel = [](Rechner c) { return c.Kf_2(); },
+        .grundlage = Grundlage::Kf2,
         .tippbar = true},
     Groesse{.kennzahl = 10,
         .zeile = 9,
@@ -107,11 +116,13 @@ constexpr std::array Groessentabelle{
         .einheit = "nm",
         .reiheneinheit = "nm",
         .elementtitel = "Friedel-Wellenlänge [nm]",
-        .wert = [](Rechner c) { return c.Friedelwellenlaenge(); }},
+        .formel = [](Rechner c) { return c.Friedelwellenlaenge(); },
+        .grundlage = Grundlage::Kf2},
     Groesse{.zeile = Friedelzeile,
         .beschriftung = "Friedelminima:",
         .einheit = "nm",
-        .wert = [](Rechner c) { return c.Friedelminima(0); }},
+        .formel = [](Rechner c) { return c.Friedelminima(0); },
+        .grundlage = Grundlage::Wellenlaenge},
     Groesse{.kennzahl = 2,
         .zeile = 11,
         .name = "Elektronendichte",
@@ -119,29 +130,38 @@ constexpr std::array Groessentabelle{
         .einheit = "e/nm³",
         .reiheneinheit = "e/nm³",
         .elementtitel = "Elektronendichte [e/nm³]",
-        .wert = [](Rechner c) { return c.Elektrondichte(); }},
+        .formel = [](Rechner c) { return c.Elektrondichte(); },
+        .grundlage = Grundlage::Elektronen},
     Groesse{.zeile = 13, // there is no line 12
         .beschriftung = "Raumausfüllung:",
         .einheit = "%",
-        .wert = [](Rechner c) { return toSingle(c.Raumausfuellung() * 100.0); }},
-    Groesse{
-        .zeile = 14, .beschriftung = "D(EF):", .einheit = "states/eV atom", .wert = [](Rechner c) { return c.D_EF(); }},
+        .formel = [](Rechner c) { return toSingle(c.Raumausfuellung() * 100.0); },
+        .grundlage = Grundlage::Wellenlaenge},
+    Groesse{.zeile = 14,
+        .beschriftung = "D(EF):",
+        .einheit = "states/eV atom",
+        .formel = [](Rechner c) { return c.D_EF(); },
+        .grundlage = Grundlage::Fermienergie},
     Groesse{.zeile = 15,
         .beschriftung = "Fermitemperatur:",
         .einheit = "K",
-        .wert = [](Rechner c) { return c.Fermitemperatur(); }},
+        .formel = [](Rechner c) { return c.Fermitemperatur(); },
+        .grundlage = Grundlage::Fermienergie},
     Groesse{.zeile = 16,
         .beschriftung = "m. Energie/Elektron:",
         .einheit = "eV",
-        .wert = [](Rechner c) { return c.Energie_Elektron(); }},
+        .formel = [](Rechner c) { return c.Energie_Elektron(); },
+        .grundlage = Grundlage::Fermienergie},
     Groesse{.zeile = 17,
         .beschriftung = "Energie El-System:",
         .einheit = "eV/nm³",
-        .wert = [](Rechner c) { return c.Energie_El_System(); }},
+        .formel = [](Rechner c) { return c.Energie_El_System(); },
+        .grundlage = Grundlage::Fermienergie},
     Groesse{.zeile = 18,
         .beschriftung = "Kompressionsmodul:",
         .einheit = "N/m²",
-        .wert = [](Rechner c) { return c.Kompressionsmodul(); }},
+        .formel = [](Rechner c) { return c.Kompressionsmodul(); },
+        .grundlage = Grundlage::Fermienergie},
     Groesse{.kennzahl = 11,
         .name = "Schmelztemperatur",
         .elementtitel = "Schmelztemperatur [K]",
@@ -196,6 +216,28 @@ constexpr std::array Groessentabelle{
         .elementwert = [](Element e) { return unterschied(e.Dichte_Kristallin(), e.Dichte_Fluessig()); }},
 };
 
+bool istBekannt(Grundlage grundlage, const clsCalc& calc)
+{
+    const bool hasElectrons = !istUnbekannt(calc.Valenz()) && calc.hatTeilchenzahldichte();
+    switch (grundlage) {
+    case Grundlage::Keine:
+        return true;
+    case Grundlage::Valenz:
+        return !istUnbekannt(calc.Valenz());
+    case Grundlage::Teilchen:
+        return calc.hatTeilchenzahldichte();
+    case Grundlage::Elektronen:
+        return hasElectrons;
+    case Grundlage::Fermienergie:
+        return hasElectrons && !istUnbekannt(calc.Fermienergie());
+    case Grundlage::Kf2:
+        return hasElectrons && !istUnbekannt(calc.Kf_2());
+    case Grundlage::Wellenlaenge:
+        return istBekannt(Grundlage::Kf2, calc) && !istUnbekannt(calc.Friedelwellenlaenge());
+    }
+    return false;
+}
+
 constexpr std::size_t Ergebniszeilenzahl =
     std::ranges::count_if(Groessentabelle, [](const Groesse& g) { return g.zeile >= 0; });
 static_assert(std::ranges::is_sorted(
@@ -203,9 +245,22 @@ static_assert(std::ranges::is_sorted(
 
 } // namespace
 
+float wert(const Groesse& groesse, const clsCalc& calc)
+{
+    return orUnbekannt([&] { return istBekannt(groesse.grundlage, calc) ? groesse.formel(calc) : Unbekannt; });
+}
+
 std::span<const Groesse> groessen() { return Groessentabelle; }
 
 std::span<const Groesse> ergebniszeilen() { return groessen().first<Ergebniszeilenzahl>(); }
+
+const Groesse& ergebniszeile(int zeile)
+{
+    const auto found = std::ranges::find(ergebniszeilen(), zeile, &Groesse::zeile);
+    if (found == ergebniszeilen().end())
+        throw Laufzeitfehler(Fehler::IndexAusserhalb);
+    return *found;
+}
 
 const Groesse* findGroesse(int kennzahl)
 {

@@ -7,6 +7,17 @@
 
 namespace zerna {
 
+/// What a quantity is made of. It is unknown while one of the values that its base stands for is.
+enum class Grundlage {
+    Keine,
+    Valenz, ///< z
+    Teilchen, ///< N
+    Elektronen, ///< z and N
+    Fermienergie, ///< with Elektronen
+    Kf2, ///< with Elektronen
+    Wellenlaenge, ///< of Friedel, with Kf2
+};
+
 /// A quantity of an alloy or an element: all that is said of it anywhere. Who shows quantities takes them from this one
 /// table and keeps only an order of its own.
 struct Groesse {
@@ -17,8 +28,9 @@ struct Groesse {
     std::string_view einheit = {}; ///< of the result
     std::string_view reiheneinheit = {}; ///< over compositions; empty if it is not shown there
     std::string_view elementtitel = {}; ///< over the elements, with unit; empty if it is not shown there
-    float (*wert)(const clsCalc&) = nullptr; ///< may throw; null for a property of the element itself
+    float (*formel)(const clsCalc&) = nullptr; ///< read through wert(); null for a property of the element itself
     float (*elementwert)(const clsElement&) = nullptr; ///< may throw; null for what is computed
+    Grundlage grundlage = Grundlage::Keine;
     bool tippbar = false; ///< its result can be typed; the line itself then holds the unit only
 
     bool ueberLegierungen() const { return !reiheneinheit.empty(); }
@@ -31,14 +43,27 @@ struct Groesse {
 /// Code of the density, whose series has a rule of its own.
 inline constexpr int GroesseDichte = 3;
 
+/// Result lines that something is made of.
+inline constexpr int Valenzzeile = 0;
+inline constexpr int Teilchenzeile = 1;
+inline constexpr int Kf2Zeile = 8;
+inline constexpr int Wellenlaengenzeile = 9;
+
 /// Result line of the Friedel-minimum read-out; its value is the first minimum.
 inline constexpr int Friedelzeile = 10;
+
+/// The quantity as it may be shown, printed and saved: Unbekannt while something that it is made of is unknown or it
+/// cannot be computed. The calculator's own members go on with the marker as if it were a number.
+float wert(const Groesse& groesse, const clsCalc& calc);
 
 /// All quantities: the result lines in their order, then the others.
 std::span<const Groesse> groessen();
 
 /// The result lines in their order.
 std::span<const Groesse> ergebniszeilen();
+
+/// The quantity of result line `zeile`; error 9 if there is none.
+const Groesse& ergebniszeile(int zeile);
 
 /// The quantity of a code; null if there is none.
 const Groesse* findGroesse(int kennzahl);

@@ -11,7 +11,7 @@ namespace {
 /// Name, number and unit of a line; nothing if the number is unknown.
 std::vector<std::string> groessenzeile(const Groesse& zeile, const clsCalc& calc, Dezimaltrenner trenner)
 {
-    const float value = orUnbekannt([&] { return zeile.wert(calc); });
+    const float value = wert(zeile, calc);
     if (istUnbekannt(value))
         return {};
     return {std::string(zeile.bezeichnung()), textOfSingle(value, trenner), std::string(zeile.einheit)};

@@ -1,5 +1,6 @@
 #include "model/Konzentrationsreihe.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "core/CheckedArithmetic.h"
@@ -24,18 +25,18 @@ std::string_view reiheneinheit(int groesse)
     return found != nullptr ? found->reiheneinheit : std::string_view();
 }
 
-float (*reihenwert(int groesse))(const clsCalc&)
+const Groesse& gerechneteReihengroesse(int groesse)
 {
     const Groesse* const found = findReihengroesse(groesse);
     if (found == nullptr || groesse == GroesseDichte)
         throw Laufzeitfehler(Fehler::UngueltigesArgument);
-    return found->wert;
+    return *found;
 }
 
 Reihe konzentrationsreihe(
     const clsCalc& calc, std::span<const Legierungskomponente> komponenten, int variable, int groesse)
 {
-    const auto wert = reihenwert(groesse);
+    const Groesse& gerechnet = gerechneteReihengroesse(groesse);
     const std::size_t index = checkedIndex(variable, komponenten.size());
     const auto teile = anteile(komponenten);
     const auto used = std::span(teile).first(komponenten.size());
@@ -46,7 +47,7 @@ Reihe konzentrationsreihe(
         for (std::size_t j = 0; j < used.size(); ++j)
             prozente.at(j) = j == index ? i : static_cast<double>(komponenten[j].prozent) * (100 - i) / 100;
         setComposition(scratch, used, prozente);
-        reihe.at(static_cast<std::size_t>(i)) = wert(scratch);
+        reihe.at(static_cast<std::size_t>(i)) = wert(gerechnet, scratch);
     }
     return reihe;
 }
@@ -54,6 +55,8 @@ Reihe konzentrationsreihe(
 Reihe dichtereihe(std::span<const float> dichten, int variable)
 {
     const std::size_t index = checkedIndex(variable, dichten.size());
+    if (std::ranges::any_of(dichten, istUnbekannt))
+        throw Laufzeitfehler(Fehler::UngueltigesArgument);
     double others = 0;
     for (std::size_t j = 0; j < dichten.size(); ++j)
         others += j == index ? 0 : dichten[j];

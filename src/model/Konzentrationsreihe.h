@@ -17,19 +17,20 @@ using Reihe = std::array<float, 101>;
 /// Unit text of quantity `groesse` over compositions; empty for any other code.
 std::string_view reiheneinheit(int groesse);
 
-/// How quantity `groesse` is read from the calculator at each composition. Error 5 for the density, which has a rule of
-/// its own, and for a code without a quantity over compositions.
-float (*reihenwert(int groesse))(const clsCalc&);
+/// The quantity that is read from the calculator at each composition. Error 5 for the density, which has a rule of its
+/// own, and for a code without a quantity over compositions.
+const Groesse& gerechneteReihengroesse(int groesse);
 
 /// The series of quantity `groesse` (any over compositions but the density) for component `variable`. The others keep
 /// their entered proportions and share what is left. The calculator is not changed; its constants and formulas are
-/// used. Run-time errors reach the caller, error 5 for another quantity.
+/// used. A point that cannot be computed is Unbekannt; errors of the components reach the caller, error 5 for another
+/// quantity.
 Reihe konzentrationsreihe(
     const clsCalc& calc, std::span<const Legierungskomponente> komponenten, int variable, int groesse);
 
 /// The density series (g/cm³) from the densities of all components.
 /// Intended: the other components share what is left in equal parts, not in their entered proportions. A single
-/// component is a division by zero.
+/// component is a division by zero, an unknown density error 5.
 Reihe dichtereihe(std::span<const float> dichten, int variable);
 
 /// The content of a series file: header with symbol and unit, then a line per `schritt` at%, CR LF. Values that are

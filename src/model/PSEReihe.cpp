@@ -26,7 +26,7 @@ float valueOf(const Groesse& groesse, clsCalc& calc, const clsElement& element)
     return orUnbekannt([&] {
         if (groesse.elementwert != nullptr)
             return groesse.elementwert(element);
-        return reinesElementSetzen(calc, element) ? groesse.wert(calc) : Unbekannt;
+        return reinesElementSetzen(calc, element) ? wert(groesse, calc) : Unbekannt;
     });
 }
 
@@ -39,7 +39,7 @@ bool istPSEGroesse(int groesse) { return findEigenschaft(groesse) != nullptr; }
 bool reinesElementSetzen(clsCalc& calc, const clsElement& element)
 {
     calc.setValenz(element.Valenz());
-    if (istUnbekannt(element.Dichte_Fluessig()))
+    if (istUnbekannt(element.Dichte_Fluessig()) || istUnbekannt(element.Masse()))
         return false;
     calc.setTeilchenzahldichte(
         toSingle(AvogadroProMol * KubikzentimeterProKubikmeter * quotient(element.Dichte_Fluessig(), element.Masse())));

@@ -24,7 +24,7 @@ std::span<const int> psegroessen();
 /// Whether a code is an element property.
 bool istPSEGroesse(int groesse);
 
-/// Sets the calculator to the pure element at its liquid density; false if that is missing.
+/// Sets the calculator to the pure element at its liquid density; false if that or the mass is missing.
 bool reinesElementSetzen(clsCalc& calc, const clsElement& element);
 
 /// The property of that code for every element. A code without a property leaves all values 0 and the title as

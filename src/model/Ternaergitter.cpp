@@ -49,12 +49,12 @@ Ternaergitter ternaergitter(
             [&](int, int, const auto& prozente) { gitter.werte.push_back(meanDensity(komponenten, prozente)); });
         return gitter;
     }
-    const auto wert = reihenwert(groesse);
+    const Groesse& gerechnet = gerechneteReihengroesse(groesse);
     clsCalc scratch = calc;
     forEachPoint(gitter.n, [&](int, int, const auto& prozente) {
         gitter.werte.push_back(orUnbekannt([&] {
             setComposition(scratch, used, prozente);
-            return wert(scratch);
+            return wert(gerechnet, scratch);
         }));
     });
     return gitter;

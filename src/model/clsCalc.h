@@ -74,6 +74,9 @@ public:
     /// Intended: written in 1/m³, unlike what is read. Refreshes Kf_2.
     void setTeilchenzahldichte(float perCubicMetre);
 
+    /// Whether N is known: what is read of it is no marker any more.
+    bool hatTeilchenzahldichte() const { return !istUnbekannt(m_teilchenzahldichte); }
+
     float Valenz() const { return m_valenz; } ///< z, electrons per atom
     void setValenz(float electronsPerAtom); ///< refreshes Kf_2
 

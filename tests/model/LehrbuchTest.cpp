@@ -94,7 +94,7 @@ TEST_F(LehrbuchTest, FiftyAlloysAgreeWithTheTextbookAndOnlyMarkedLinesDepart)
             if (marked || abweichungImDiagramm(zeile) != nullptr) {
                 EXPECT_NEAR(lehrbuch(zeile), expected, std::abs(expected) * 1e-5);
             }
-            const float shown = std::ranges::find(ergebniszeilen(), zeile, &Groesse::zeile)->wert(calc);
+            const float shown = wert(ergebniszeile(zeile), calc);
             const double inUnit = zeile == 3 ? expected * 1e-27 : zeile == 18 ? expected * 1e9 : expected;
             if (!marked) { // the plasmon energy has four safe digits
                 EXPECT_NEAR(shown, inUnit, std::abs(inUnit) * 1e-4);

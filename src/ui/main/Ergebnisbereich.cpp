@@ -133,9 +133,8 @@ void Ergebnisbereich::aktualisieren(Eingabemodus modus)
 /// Writes the fields that are not being typed into; false if one of those that are is empty.
 bool Ergebnisbereich::showFields(Eingabemodus modus)
 {
-    const clsCalc& calc = m_programm.Calc();
-    const bool failed = istUnbekannt(calc.Valenz()); // the calculator then still has the 2kF of another alloy
-    const auto show = [this](Ergebnisgitter::Feld feld, float value) {
+    const auto show = [this](Ergebnisgitter::Feld feld, int zeile) {
+        const float value = wert(ergebniszeile(zeile), m_programm.Calc());
         m_gitter->feld(feld).setWert(toQt(trimmed(FormatValue(value, ""))), false);
         m_gitter->feld(feld).setFehler({});
     };
@@ -146,11 +145,10 @@ bool Ergebnisbereich::showFields(Eingabemodus modus)
         && (isEmpty(Ergebnisgitter::Teilchenzahldichte) || isEmpty(Ergebnisgitter::Valenz)))
         return false;
     if (modus == Eingabemodus::Zusammensetzung) {
-        show(Ergebnisgitter::Teilchenzahldichte,
-            failed ? Unbekannt : orUnbekannt([&] { return calc.Teilchenzahldichte(); }));
-        show(Ergebnisgitter::Valenz, calc.Valenz());
+        show(Ergebnisgitter::Teilchenzahldichte, Teilchenzeile);
+        show(Ergebnisgitter::Valenz, Valenzzeile);
     }
-    show(Ergebnisgitter::Kf2, failed ? Unbekannt : calc.Kf_2());
+    show(Ergebnisgitter::Kf2, Kf2Zeile);
     return true;
 }
 
