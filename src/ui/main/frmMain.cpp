@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "ui/button/StyledButton.h"
+#include "ui/controls/Radsperre.h"
 #include "ui/main/Diagrammbereich.h"
 #include "ui/main/Ergebnisbereich.h"
 #include "ui/main/Kompositionsbereich.h"
@@ -70,6 +71,7 @@ frmMain::frmMain(Programm& programm, Dialoge dialoge)
     createControls();
     createCalculatorPanel(dialoge);
     connectPanels();
+    new Radsperre(*this);
     load();
     fitFont(*m_left, LeftColumn);
     resize(1280, 800);

@@ -1,8 +1,11 @@
 #include "ui/main/frmMain.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAccessible>
+#include <QScrollBar>
 #include <QTimer>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <functional>
@@ -117,6 +120,32 @@ TEST_F(frmMainTest, NothingIsCutOffInASmallWindow)
             window->grab();
         }
     });
+}
+
+TEST_F(frmMainTest, TheWheelScrollsOpenListsAndChoosesInNone)
+{
+    const auto turn = [](QWidget& widget) {
+        const QPointF at = widget.rect().center();
+        QWheelEvent wheel(
+            at, widget.mapToGlobal(at), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&widget, &wheel);
+    };
+    forEachView([&] {
+        for (QComboBox* const list : visible<QComboBox>()) {
+            const int chosen = list->currentIndex();
+            turn(*list);
+            list->setFocus();
+            turn(*list);
+            EXPECT_EQ(list->currentIndex(), chosen) << named(*list);
+        }
+    });
+    click("optButton_1_0");
+    auto& elements = find<QComboBox>("cmbElement_0");
+    elements.showPopup();
+    const int top = elements.view()->verticalScrollBar()->value();
+    turn(*elements.view()->viewport());
+    EXPECT_GT(elements.view()->verticalScrollBar()->value(), top);
+    elements.hidePopup();
 }
 
 TEST_F(frmMainTest, SwitchesShowOnePanelAndOneArea)
