@@ -2,6 +2,7 @@
 
 #include <charconv>
 
+#include "core/Kuerzung.h"
 #include "programm/Rechenkern.h"
 
 namespace zerna {
@@ -77,7 +78,7 @@ int Ganzzahl::wert() const
     const char* const end = text.data() + text.size();
     const auto read = std::from_chars(text.data(), end, value);
     if (read.ec != std::errc() || read.ptr != end)
-        throw Aufruffehler("Ungültiger Wert: " + name + " = " + text + " (Hilfe: zerna-cli --hilfe)");
+        throw Aufruffehler("Ungültiger Wert: " + name + " = " + gekuerzt(text) + " (Hilfe: zerna-cli --hilfe)");
     return value;
 }
 
@@ -90,7 +91,7 @@ std::string aufruffehler(const CLI::App& app, const CLI::ParseError& error, int 
     const bool lacksCommand = befehl.get_require_subcommand_min() > 0;
     if (const std::vector<std::string> unknown = app.remaining(true); !unknown.empty()) {
         const bool isCommand = lacksCommand && !unknown.front().starts_with('-');
-        return (isCommand ? "Unbekannter Befehl " : "Unbekanntes Argument ") + unknown.front();
+        return (isCommand ? "Unbekannter Befehl " : "Unbekanntes Argument ") + gekuerzt(unknown.front());
     }
     if (const std::string missing = missingArgument(befehl); !missing.empty())
         return "Es fehlt das Argument " + missing;

@@ -7,6 +7,7 @@
 #include "cli/Umgebung.h"
 #include "core/ElementCsv.h"
 #include "core/Elementdatei.h"
+#include "core/Kuerzung.h"
 #include "model/Einwaage.h"
 #include "model/Ergebnisse.h"
 #include "model/Groessentabelle.h"
@@ -41,7 +42,7 @@ struct Formel {
         put(parser.Parse(text) + "\r\n", {});
         if (const auto& error = parser.LastError())
             throw Datenfehler(
-                "Formel \"" + text + "\": " + error->Grund + " (Zeichen " + std::to_string(error->Stelle) + ")");
+                "Formel " + zitiert(text) + ": " + error->Grund + " (Zeichen " + std::to_string(error->Stelle) + ")");
     }
 
     std::string text;
@@ -98,8 +99,7 @@ int reihenkennzahl(const Ganzzahl& groesse)
 {
     const int kennzahl = groesse.wert();
     if (findReihengroesse(kennzahl) == nullptr)
-        throw Aufruffehler("--groesse " + std::to_string(kennzahl) + ": erwartet wird 0 bis "
-            + std::to_string(letzteReihenkennzahl()));
+        throw Aufruffehler("--groesse " + std::to_string(kennzahl) + ": erwartet wird " + reihenkennzahlen());
     return kennzahl;
 }
 
@@ -107,7 +107,7 @@ struct Konzentration {
     void define(CLI::App& befehl)
     {
         befehl.add_option("--variabel", variabel, "Komponente entlang der Achse")->required()->option_text("SYMBOL");
-        schritt.define(befehl, "--schritt", "Schrittweite in at%");
+        schritt.define(befehl, "--schritt", "Schrittweite in at%, 1 bis 100");
         groesse.define(befehl, "--groesse", "Kennzahl der Größe")->required();
         komponenten.define(befehl);
         ausgabe.define(befehl);
@@ -117,6 +117,8 @@ struct Konzentration {
     {
         const int kennzahl = reihenkennzahl(groesse);
         const int step = schritt.wert();
+        if (step < 1 || step > 100)
+            throw Aufruffehler("--schritt " + std::to_string(step) + ": erwartet wird 1 bis 100");
         umgebung.loadAlloy(komponenten.texte);
         const auto alloy = umgebung.kern().komponenten();
         const std::size_t variable = indexOfVariable(umgebung.kern().elements(), alloy);
@@ -132,7 +134,7 @@ struct Konzentration {
         const auto wanted = elements.find(variabel, true);
         const auto found = std::ranges::find(alloy, wanted, &Legierungskomponente::element);
         if (!wanted || found == alloy.end())
-            throw Aufruffehler("--variabel " + variabel + ": keine Komponente der Legierung");
+            throw Aufruffehler("--variabel " + gekuerzt(variabel) + ": keine Komponente der Legierung");
         return static_cast<std::size_t>(found - alloy.begin());
     }
 
@@ -213,13 +215,13 @@ struct Wiegen {
     {
         const Eingabefeld gesamt = zahlenfeld(masse);
         if (gesamt.fehler)
-            throw Aufruffehler("--masse " + masse + ": keine gültige Zahl");
+            throw Aufruffehler("--masse " + gekuerzt(masse) + ": keine gültige Zahl");
         umgebung.loadAlloy(komponenten.texte);
         const clsCalc& calc = umgebung.kern().calc();
         const int anzahl = umgebung.kern().eingabe().anzahl();
         if (const auto hindernis = sollmassenHindernis(calc, anzahl)) {
             const auto komponente = static_cast<std::size_t>(hindernis->komponente);
-            throw Datenfehler("Komponente \"" + komponenten.texte.at(komponente) + "\": " + hindernis->grund);
+            throw Datenfehler("Komponente " + zitiert(komponenten.texte.at(komponente)) + ": " + hindernis->grund);
         }
         const Tabelle tabelle = wiegetabelle(calc, anzahl, gesamt.wert);
         put(form.json ? alsJson(tabelle) : alsText(tabelle), ausgabe.datei);
@@ -275,9 +277,9 @@ struct Importieren {
         try {
             saveElements(pathFromUtf8(dat), readElementCsv(readFile(csv)));
         } catch (const Tabellenfehler& error) {
-            throw Datenfehler("Datei \"" + csv + "\": " + error.what());
+            throw Datenfehler("Datei " + zitiert(csv, Dateinamenlaenge) + ": " + error.what());
         } catch (const Laufzeitfehler& error) {
-            throw Datenfehler("Datei \"" + dat + "\": " + error.what());
+            throw Datenfehler("Datei " + zitiert(dat, Dateinamenlaenge) + ": " + error.what());
         }
     }
 

@@ -7,6 +7,7 @@
 #include "cli/Argumente.h"
 #include "cli/Befehle.h"
 #include "cli/Umgebung.h"
+#include "core/Kuerzung.h"
 #include "core/Plattform.h"
 
 namespace zerna {
@@ -35,7 +36,7 @@ void translate(CLI::App& app)
 
 int fail(int status, const std::string& reason)
 {
-    std::cerr << "zerna-cli: " << reason << '\n';
+    std::cerr << "zerna-cli: " << gekuerzt(reason, LaengsteMeldung) << '\n';
     return status;
 }
 

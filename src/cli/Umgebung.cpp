@@ -7,6 +7,7 @@
 
 #include "core/Elementdatei.h"
 #include "core/Exportdatei.h"
+#include "core/Kuerzung.h"
 #include "core/Plattform.h"
 #include "core/Zahlentext.h"
 #include "core/Zeichensatz.h"
@@ -22,7 +23,7 @@ auto withFile(const std::string& file, Action&& action)
     try {
         return action(pathFromUtf8(file));
     } catch (const Laufzeitfehler& error) {
-        throw Datenfehler("Datei \"" + file + "\": " + error.what());
+        throw Datenfehler("Datei " + zitiert(file, Dateinamenlaenge) + ": " + error.what());
     }
 }
 
@@ -30,7 +31,7 @@ auto withFile(const std::string& file, Action&& action)
 
 void StandardErrorBoxes::show(Icon, std::string_view, std::string_view text)
 {
-    std::cerr << ReplaceText(text, "\r\n", " ") << '\n';
+    std::cerr << gekuerzt(ReplaceText(text, "\r\n", " "), LaengsteMeldung) << '\n';
 }
 
 void Umgebung::load()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <span>
 #include <string>
 #include <string_view>
@@ -8,6 +9,9 @@
 #include "programm/Rechenkern.h"
 
 namespace zerna {
+
+/// Bytes of a line on standard error.
+inline constexpr std::size_t LaengsteMeldung = 1000;
 
 /// Messages of the library as lines on standard error.
 class StandardErrorBoxes : public MessageBoxes {

@@ -87,7 +87,7 @@ private:
 
     [[noreturn]] void failNumber(const Elementspalte& spalte, std::string_view text) const
     {
-        failAt(spalte, "\"" + gekuerzt(text) + "\" ist keine gültige Zahl");
+        failAt(spalte, zitiert(text) + " ist keine gültige Zahl");
     }
 
     template <std::integral Integer>
@@ -173,8 +173,8 @@ std::vector<ElementRecord> readElementCsv(std::string_view text)
         records.push_back(LineReader(lines.number()).record(cells));
         const std::string& symbol = records.back().symbol;
         if (symbol.empty() || !symbols.insert(symbol).second)
-            throw Tabellenfehler("Zeile " + std::to_string(lines.number()) + ": Symbol \"" + gekuerzt(symbol)
-                + "\" fehlt oder ist schon vergeben");
+            throw Tabellenfehler("Zeile " + std::to_string(lines.number()) + ": Symbol " + zitiert(symbol)
+                + " fehlt oder ist schon vergeben");
     }
     return records;
 }

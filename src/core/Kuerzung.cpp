@@ -24,4 +24,6 @@ std::string gekuerzt(std::string_view text, std::size_t length)
     return std::string(text.substr(0, head)) + "…" + std::string(text.substr(tail));
 }
 
+std::string zitiert(std::string_view text, std::size_t length) { return '"' + gekuerzt(text, length) + '"'; }
+
 } // namespace zerna

@@ -9,4 +9,10 @@ namespace zerna {
 /// characters are not cut.
 std::string gekuerzt(std::string_view text, std::size_t length = 60);
 
+/// The same in quotation marks.
+std::string zitiert(std::string_view text, std::size_t length = 60);
+
+/// How much of a file's name a message shows.
+inline constexpr std::size_t Dateinamenlaenge = 255;
+
 } // namespace zerna

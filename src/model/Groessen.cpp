@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
 
 #include "core/CheckedArithmetic.h"
 #include "model/Konstanten.h"
@@ -274,14 +275,25 @@ const Groesse* findReihengroesse(int kennzahl)
     return groesse != nullptr && groesse->ueberLegierungen() ? groesse : nullptr;
 }
 
-int letzteReihenkennzahl()
+std::string reihenkennzahlen()
 {
-    int last = -1;
+    std::set<int> codes;
     for (const Groesse& groesse : Groessentabelle) {
         if (groesse.ueberLegierungen())
-            last = std::max(last, groesse.kennzahl);
+            codes.insert(groesse.kennzahl);
     }
-    return last;
+    std::string text;
+    for (const int first : codes) {
+        if (codes.contains(first - 1))
+            continue;
+        int last = first;
+        while (codes.contains(last + 1))
+            ++last;
+        text += (text.empty() ? "" : ", ") + std::to_string(first);
+        if (last > first)
+            text += " bis " + std::to_string(last);
+    }
+    return text;
 }
 
 } // namespace zerna

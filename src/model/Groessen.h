@@ -1,6 +1,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "model/clsCalc.h"
@@ -71,7 +72,7 @@ const Groesse* findGroesse(int kennzahl);
 /// The quantity over compositions of a code; null if there is none.
 const Groesse* findReihengroesse(int kennzahl);
 
-/// The largest code of a quantity over compositions.
-int letzteReihenkennzahl();
+/// The codes of the quantities over compositions as a text: "0 bis 10", or "0 bis 3, 7" if there are gaps.
+std::string reihenkennzahlen();
 
 } // namespace zerna

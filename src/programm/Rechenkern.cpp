@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/Elementdatei.h"
+#include "core/Kuerzung.h"
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
 #include "parser/Formelwert.h"
@@ -11,8 +12,6 @@
 namespace zerna {
 
 namespace {
-
-std::string inQuotes(std::string_view text) { return "\"" + std::string(text) + "\""; }
 
 /// The density choice that an argument's word means: umlauts are hard to type on some command lines.
 std::string_view dichtewahl(std::string_view word) { return word == "fluessig" ? "flüssig" : word; }
@@ -34,7 +33,7 @@ Komponentenangabe komponentenangabe(std::string_view text)
     Komponentenangabe angabe;
     angabe.text = text;
     const auto fail = [&](const std::string& reason) {
-        throw Aufruffehler("Komponente " + inQuotes(text) + ": " + reason);
+        throw Aufruffehler("Komponente " + zitiert(text) + ": " + reason);
     };
     std::string_view rest = text;
     const auto nextPart = [&rest] {
@@ -58,13 +57,13 @@ Komponentenangabe komponentenangabe(std::string_view text)
         } else if (key == "valenz") {
             angabe.valenz = value;
         } else {
-            fail("unbekannte Angabe " + inQuotes(key));
+            fail("unbekannte Angabe " + zitiert(key));
         }
     }
     if (text.ends_with(':'))
         fail("hinter \":\" fehlt eine Angabe");
     if (!isNumber(angabe.prozent))
-        fail("at% " + inQuotes(angabe.prozent) + " ist keine gültige Zahl");
+        fail("at% " + zitiert(angabe.prozent) + " ist keine gültige Zahl");
     return angabe;
 }
 
@@ -83,7 +82,7 @@ void Rechenkern::loadFile(const std::filesystem::path& file)
         m_files.open(number, file, Zugriff::Eingabe);
         load(number, name);
     } catch (const Laufzeitfehler& error) {
-        throw Datenfehler("Datei " + inQuotes(name) + ": " + error.what());
+        throw Datenfehler("Datei " + zitiert(name, Dateinamenlaenge) + ": " + error.what());
     }
 }
 
@@ -100,12 +99,12 @@ void Rechenkern::load(int number, const std::string& name)
     m_satzfehler.gemeldet = false;
     loadElements(m_files, number, m_satzfehler, m_elements, [&](const auto&, int position) {
         if (m_satzfehler.gemeldet)
-            throw Datenfehler("Datei " + inQuotes(name) + ": Element " + std::to_string(position)
+            throw Datenfehler("Datei " + zitiert(name, Dateinamenlaenge) + ": Element " + std::to_string(position)
                 + " ist nicht lesbar, die Datei ist abgeschnitten oder beschädigt");
     });
     m_files.close(number);
     if (m_elements.Count() == 0)
-        throw Datenfehler("Datei " + inQuotes(name) + " enthält keine Elemente");
+        throw Datenfehler("Datei " + zitiert(name, Dateinamenlaenge) + " enthält keine Elemente");
 }
 
 void Rechenkern::setAlloy(std::span<const Komponentenangabe> angaben)
@@ -130,7 +129,7 @@ void Rechenkern::setAlloy(std::span<const Komponentenangabe> angaben)
     if (found == komponenten().end())
         throw Datenfehler("Die Legierung lässt sich mit diesen Dichten und Valenzen nicht berechnen");
     const auto zeile = static_cast<std::size_t>(found - komponenten().begin());
-    throw Datenfehler("Komponente " + inQuotes(angaben[zeile].text) + ": hat keine bekannte Atommasse");
+    throw Datenfehler("Komponente " + zitiert(angaben[zeile].text) + ": hat keine bekannte Atommasse");
 }
 
 void Rechenkern::enterElement(int zeile, const Komponentenangabe& angabe)
@@ -138,7 +137,7 @@ void Rechenkern::enterElement(int zeile, const Komponentenangabe& angabe)
     const auto element = m_elements.find(angabe.symbol, true);
     if (!element)
         throw Datenfehler(
-            "Komponente " + inQuotes(angabe.text) + ": Element " + inQuotes(angabe.symbol) + " ist nicht bekannt");
+            "Komponente " + zitiert(angabe.text) + ": Element " + zitiert(angabe.symbol) + " ist nicht bekannt");
     m_eingabe.waehleElement(zeile, element->symbol());
     enterDichte(zeile, angabe);
     enterValenz(zeile, angabe);
@@ -156,8 +155,8 @@ void Rechenkern::enterDichte(int zeile, const Komponentenangabe& angabe)
         m_eingabe.waehleDichte(zeile, choice);
     } else {
         const std::string reason = angabe.dichte.empty() ? "keine Dichte bekannt, dichte=ZAHL angeben"
-                                                         : "Dichte " + inQuotes(angabe.dichte) + " ist nicht bekannt";
-        throw Datenfehler("Komponente " + inQuotes(angabe.text) + ": " + reason);
+                                                         : "Dichte " + zitiert(angabe.dichte) + " ist nicht bekannt";
+        throw Datenfehler("Komponente " + zitiert(angabe.text) + ": " + reason);
     }
 }
 
@@ -172,7 +171,7 @@ void Rechenkern::enterValenz(int zeile, const Komponentenangabe& angabe)
         m_boxes.show(Icon::None, Formelmeldungstitel, meldung);
     if (valenz.fehler)
         throw Datenfehler(
-            "Komponente " + inQuotes(angabe.text) + ": Valenz " + inQuotes(valenz.text) + ": " + valenz.fehler->text());
+            "Komponente " + zitiert(angabe.text) + ": Valenz " + zitiert(valenz.text) + ": " + valenz.fehler->text());
 }
 
 } // namespace zerna
