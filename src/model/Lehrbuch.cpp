@@ -93,8 +93,8 @@ constexpr std::array Lehrbuchtabelle{
         .rechnung = dichteNachMasse,
         .grund = "Die angezeigte Dichte ist nach at% gemittelt. Die Dichte der Legierung ist Masse durch Volumen; zu "
                  "ihr passen Teilchenzahldichte und Atomvolumen. Die angezeigte geht in keine andere Größe ein.",
-        .diagrammgrund = "Die gezeichnete Dichte ist nach at% gemittelt, und die übrigen Komponenten teilen sich den "
-                         "Rest zu gleichen Teilen. Die Dichte der Legierung ist Masse durch Volumen."},
+        .diagrammgrund = "Die gezeichnete Dichte ist nach at% gemittelt; über den at% einer Komponente (2 D) haben "
+                         "zudem alle übrigen gleiche Teile am Rest. Die Dichte der Legierung ist Masse durch Volumen."},
     Lehrbucheintrag{.zeile = 3,
         .formel = "V_A = 1/N",
         .lehrbuchformel = "V_A = 1/N",

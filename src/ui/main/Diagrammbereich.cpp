@@ -14,6 +14,7 @@
 #include "ui/diagram/Diagrammflaeche.h"
 #include "ui/diagram/conDisplay.h"
 #include "ui/diagram/conLabel.h"
+#include "ui/main/Lehrbuchmarke.h"
 #include "ui/platform/QtText.h"
 #include "ui/platform/Tabreihenfolge.h"
 
@@ -55,6 +56,7 @@ void Diagrammbereich::createControls()
     };
     m_cmbDiagrammTyp = makeList("cmbDiagramm_Typ", QStringLiteral("Diagrammtyp"));
     m_cmbDiagramm = makeList("cmbDiagramm", QStringLiteral("Größe"));
+    m_lehrbuch = new Lehrbuchmarke(m_programm, this);
     m_cmbDiagrammElement = makeList("cmbDiagramm_Element", QStringLiteral("Komponente entlang der Achse"));
     m_cmbDiagrammTyp->addItems({QStringLiteral("2 D"), QStringLiteral("3 D - ternär"), QStringLiteral("PSE")});
     connect(m_cmbDiagrammTyp, &QComboBox::activated, this, &Diagrammbereich::chooseType);
@@ -120,6 +122,7 @@ void Diagrammbereich::layOut()
         lists->addWidget(list);
     }
     lists->setStretch(1, 1);
+    lists->insertWidget(2, m_lehrbuch);
     auto* values = new QHBoxLayout;
     values->setSpacing(4);
     for (conLabel* const label : m_conLabel)
@@ -154,7 +157,7 @@ void Diagrammbereich::layOut()
 
 void Diagrammbereich::orderTabs()
 {
-    std::vector<QWidget*> order{m_cmbDiagrammTyp, m_cmbDiagramm, m_cmbDiagrammElement};
+    std::vector<QWidget*> order{m_cmbDiagrammTyp, m_cmbDiagramm, m_lehrbuch, m_cmbDiagrammElement};
     for (conLabel* const label : m_conLabel) {
         const auto buttons = label->buttons();
         order.insert(order.end(), buttons.begin(), buttons.end());
@@ -244,6 +247,7 @@ void Diagrammbereich::aktualisieren(bool keepSelection)
     if (!m_programm.StartupDone())
         return;
     refreshLabels();
+    m_lehrbuch->zeige(groesse());
     switch (m_typ) {
     case Diagrammtyp::Konzentration:
         drawConcentration(keepSelection);

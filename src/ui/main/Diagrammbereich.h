@@ -15,6 +15,7 @@ class QLabel;
 namespace zerna {
 
 class Diagrammflaeche;
+class Lehrbuchmarke;
 class StyledButton;
 class conLabel;
 
@@ -69,6 +70,7 @@ private:
     int m_steps = 5; // resolution of the ternary diagram, 1 to 10
     QComboBox* m_cmbDiagrammTyp = nullptr;
     QComboBox* m_cmbDiagramm = nullptr;
+    Lehrbuchmarke* m_lehrbuch = nullptr;
     QComboBox* m_cmbDiagrammElement = nullptr;
     std::array<StyledButton*, 2> m_cmdSteps{};
     QLabel* m_lblSteps = nullptr;

@@ -10,12 +10,13 @@ struct ErgebnisdetailsTest : FakeDesk {
     ErgebnisdetailsTest() { openAluminiumCopper(); }
 
     Ergebnisdetails& details() const { return find<Ergebnisdetails>("Ergebnisdetails"); }
+    QLabel& text() const { return *details().findChild<QLabel*>("lblEinzelheiten"); }
 };
 
 TEST_F(ErgebnisdetailsTest, OpensByClickAndKeysAndEscapeGivesTheKeyboardBack)
 {
     auto& line = find("lblMFE_18");
-    auto& text = find<QLabel>("lblEinzelheiten");
+    auto& text = this->text();
     const std::initializer_list<std::function<void()>> ways{[&] { click("lblMFE_18"); },
         [&] { QTest::keyClick(&line, Qt::Key_Return); }, [&] { QTest::keyClick(&line, Qt::Key_Space); }};
     for (const auto& open : ways) {
@@ -53,7 +54,33 @@ TEST_F(ErgebnisdetailsTest, WithoutAResultThereIsNoValue)
 {
     type("txtMFE_0", "");
     click("lblMFE_17");
-    EXPECT_EQ(find<QLabel>("lblEinzelheiten").text().count("unbekannt"), 2) << "value and textbook";
+    EXPECT_EQ(text().text().count("unbekannt"), 2) << "value and textbook";
+}
+
+TEST_F(ErgebnisdetailsTest, DiagramsMarkWhatDepartsInThem)
+{
+    auto& mark = find("cmdDiagramm_Lehrbuch");
+    struct Row {
+        const char* quantity;
+        const char* textbook; // empty: no mark
+    };
+    for (const auto& [quantity, textbook] : {Row{"Fermienergie", ""}, {"Atomvolumen", "0,014185 nm³"},
+             {"Thermokraft", "−3,7098·10⁻⁹ V/K²"}, {"Dichte", "5,2985 g/cm³"}, {"2 Kf", ""}}) {
+        SCOPED_TRACE(quantity);
+        choose("cmbDiagramm", quantity);
+        ASSERT_EQ(mark.isVisible(), *textbook != '\0');
+        if (!mark.isVisible())
+            continue;
+        click("cmdDiagramm_Lehrbuch");
+        auto& shown = *mark.findChild<Ergebnisdetails*>();
+        EXPECT_TRUE(shown.findChild<QLabel*>()->accessibleDescription().contains(QString::fromUtf8(textbook)));
+        shown.close();
+    }
+    choose("cmbDiagramm_Typ", "PSE");
+    choose("cmbDiagramm", "Thermokraft");
+    EXPECT_TRUE(mark.isVisible());
+    choose("cmbDiagramm", "Masse");
+    EXPECT_FALSE(mark.isVisible());
 }
 
 TEST(ErgebnisdetailsPlaceTest, StaysOnTheScreen)
