@@ -53,7 +53,7 @@ Wertskala::Wertskala(std::span<const float> werte)
 bool Wertskala::isSpread() const
 {
     constexpr std::size_t Few = 8;
-    constexpr double FairShare = 0.12;
+    constexpr double FairShare = 0.16;
     if (m_sortiert.size() < Few || m_art == Skalenart::Rang || kleinster() == groesster())
         return true;
     const std::size_t quarter = m_sortiert.size() / 4;

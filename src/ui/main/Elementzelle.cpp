@@ -29,29 +29,37 @@ void paintHatching(QPainter& painter, const QRectF& area, const QColor& colour)
     painter.drawRoundedRect(area, Radius, Radius);
 }
 
-void paintEckzeichen(QPainter& painter, const QRectF& area, Gruppenzeichen zeichen, QColor colour)
+void paintEckzeichen(QPainter& painter, const QRectF& area, Gruppenzeichen zeichen, const QColor& colour)
 {
     constexpr double Margin = 4;
     const double size = std::clamp(area.width() * 0.12, 3.0, 8.0);
-    colour.setAlpha(150);
     paintZeichen(painter, {area.right() - size - Margin, area.top() + Margin, size, size}, zeichen, colour);
 }
 
+/// Text on a plate that keeps hatching away from it.
+void drawText(QPainter& painter, const QRectF& area, int flags, const QString& text, const QColor& plate)
+{
+    painter.fillRect(painter.boundingRect(area, flags, text).adjusted(-1, 0, 1, 0), plate);
+    painter.drawText(area, flags, text);
+}
+
 /// Atomic number and symbol; below them value, name or mass where there is room.
-void paintTexte(QPainter& painter, const QRectF& area, const Elementzelle& zelle, const Zellstil& stil)
+void paintTexte(
+    QPainter& painter, const QRectF& area, const Elementzelle& zelle, const Zellstil& stil, const QColor& plate)
 {
     const clsElement& element = zelle.element;
     const Schriftgroessen groessen = schriftgroessen(area.width(), area.height());
     const QFont smallFont = withPixelSize(stil.font, groessen.klein);
     painter.setFont(smallFont);
-    painter.drawText(area.adjusted(4, 2, -2, 0), Qt::AlignLeft | Qt::AlignTop, QString::number(element.OZ()));
+    drawText(painter, area.adjusted(4, 2, -2, 0), Qt::AlignLeft | Qt::AlignTop, QString::number(element.OZ()), plate);
     QFont symbolFont = withPixelSize(stil.font, groessen.symbol);
     symbolFont.setBold(true);
     painter.setFont(symbolFont);
     const QString symbol =
         QFontMetricsF(symbolFont).elidedText(toQt(element.symbol()), Qt::ElideRight, area.width() - 4);
     const double above = groessen.klein * 0.6;
-    painter.drawText(area.adjusted(2, above, -2, groessen.dritteZeile ? -groessen.klein : 0), Qt::AlignCenter, symbol);
+    drawText(painter, area.adjusted(2, above, -2, groessen.dritteZeile ? -groessen.klein : 0), Qt::AlignCenter, symbol,
+        plate);
     if (!groessen.dritteZeile)
         return;
     painter.setFont(smallFont);
@@ -61,7 +69,7 @@ void paintTexte(QPainter& painter, const QRectF& area, const Elementzelle& zelle
         zelle.wert ? zellwert(*zelle.wert, area.width(), breite) : dritteZeile(element, stil.namen);
     const QString below = toQt(text);
     if (passt(breite(text), area.width()))
-        painter.drawText(area.adjusted(2, 0, -2, -3), Qt::AlignHCenter | Qt::AlignBottom, below);
+        drawText(painter, area.adjusted(2, 0, -2, -3), Qt::AlignHCenter | Qt::AlignBottom, below, plate);
 }
 
 } // namespace
@@ -79,11 +87,16 @@ void paintZelle(QPainter& painter, const QRectF& area, const Elementzelle& zelle
     const QColor text = fehlt ? stil.palette.color(QPalette::ButtonText) : textOn(ground);
     paintGrund(painter, cell, ground, istDunkel(stil.palette));
     if (fehlt)
-        paintHatching(painter, cell, stil.palette.color(QPalette::Mid));
+        paintHatching(painter, cell, linienfarbe(ground, text));
+    double marked = 0; // of the upper edge
+    if (!zelle.komponenten.empty()) {
+        const QFont font = withPixelSize(stil.font, schriftgroessen(cell.width(), cell.height()).klein);
+        marked = paintKomponenten(painter, cell.topRight(), toQt(zelle.komponenten), text, font);
+    }
     if (zeichen)
-        paintEckzeichen(painter, cell, *zeichen, text);
+        paintEckzeichen(painter, cell.translated(-marked, 0), *zeichen, zeichenfarbe(ground, text));
     painter.setPen(text);
-    paintTexte(painter, cell, zelle, stil);
+    paintTexte(painter, cell, zelle, stil, fehlt ? ground : QColor(Qt::transparent));
     if (zelle.isSelected) {
         painter.setBrush(Qt::NoBrush);
         painter.setPen(QPen(stil.palette.color(stil.hasFocus ? QPalette::Highlight : QPalette::WindowText), 3));
@@ -120,6 +133,22 @@ void paintZeichen(QPainter& painter, const QRectF& area, Gruppenzeichen zeichen,
     painter.setPen(Qt::NoPen);
     painter.setBrush(colour);
     painter.drawPath(path);
+}
+
+double paintKomponenten(
+    QPainter& painter, const QPointF& corner, const QString& komponenten, const QColor& plate, const QFont& font)
+{
+    const QFontMetricsF metrics(font);
+    const double height = metrics.height() + 1;
+    const double width = std::max(height, metrics.horizontalAdvance(komponenten) + height / 2);
+    const QRectF area(corner.x() - width - 1, corner.y() + 1, width, height);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(plate);
+    painter.drawRoundedRect(area, height / 2, height / 2);
+    painter.setPen(textOn(plate));
+    painter.setFont(font);
+    painter.drawText(area, Qt::AlignCenter, komponenten);
+    return width + 1;
 }
 
 QColor textOn(const QColor& colour)

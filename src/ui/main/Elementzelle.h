@@ -5,6 +5,7 @@
 #include <QRectF>
 
 #include <optional>
+#include <string>
 
 #include "ui/main/Tafelfaerbung.h"
 
@@ -26,6 +27,7 @@ struct Elementzelle {
     const clsElement& element;
     Zellfuellung fuellung;
     std::optional<float> wert = std::nullopt; ///< shown in place of name or mass
+    std::string komponenten = {}; ///< numbers of the alloy's rows that hold the element
     bool isHovered = false; ///< lifted, with a shadow
     bool isSelected = false;
 };
@@ -38,6 +40,11 @@ void paintZelle(QPainter& painter, const QRectF& area, const Elementzelle& zelle
 void paintGrund(QPainter& painter, const QRectF& area, const QColor& colour, bool aufDunklem);
 
 void paintZeichen(QPainter& painter, const QRectF& area, Gruppenzeichen zeichen, const QColor& colour);
+
+/// The mark of an element that is in the alloy: the numbers of its rows on a plate whose upper right corner is given.
+/// Returns the plate's width.
+double paintKomponenten(
+    QPainter& painter, const QPointF& corner, const QString& komponenten, const QColor& plate, const QFont& font);
 
 /// Black or white, whichever is easier to read on the colour.
 QColor textOn(const QColor& colour);

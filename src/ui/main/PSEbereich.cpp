@@ -16,6 +16,7 @@ namespace zerna {
 namespace {
 
 constexpr int NachGruppe = -1; // item data of the colouring by group
+constexpr const char* Anleitung = "Doppelklick oder Eingabetaste: als Komponente übernehmen";
 
 } // namespace
 
@@ -38,6 +39,9 @@ PSEbereich::PSEbereich(Programm& programm, QWidget* parent)
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(caption);
     row->addWidget(m_cmbFarbe, 1);
+    m_lblUebernahme = new QLabel(QString::fromUtf8(Anleitung), this);
+    m_lblUebernahme->setObjectName(QStringLiteral("lblUebernahme"));
+    m_lblUebernahme->setAlignment(Qt::AlignCenter);
     m_picInfo = new Elementkarte(this);
     m_picInfo->setObjectName(QStringLiteral("PicInfo"));
     connect(m_picPSE, &Periodentafel::selected, this, &PSEbereich::select);
@@ -54,6 +58,8 @@ void PSEbereich::layOut()
     m_picInfo->setGeometry(tableWidth, 0, static_cast<int>(width() * InfoShare), height());
     const QRect free = m_picPSE->freeArea();
     m_farbwahl->setGeometry(free.left(), free.top(), free.width(), 28);
+    m_lblUebernahme->setGeometry(m_picPSE->gap());
+    showKomponenten();
     m_picPSE->setSelected(m_programm.SelectedElement());
     m_picInfo->setElement(m_programm.SelectedElement());
 }
@@ -64,6 +70,7 @@ void PSEbereich::select(const std::shared_ptr<clsElement>& element)
 {
     m_programm.setSelectedElement(element);
     m_picInfo->setElement(element);
+    m_lblUebernahme->setText(QString::fromUtf8(Anleitung));
 }
 
 void PSEbereich::colour()
@@ -84,10 +91,38 @@ void PSEbereich::offerComponents(const QPoint& position)
     if (!element)
         return;
     QMenu menu(this);
-    for (int row = 0; row < m_programm.Eingabe().anzahl(); ++row)
-        menu.addAction(QStringLiteral("Als Komponente &%1 übernehmen").arg(row + 1), this,
-            [this, row, element] { emit componentChosen(row, toQt(element->symbol())); });
+    for (int row = 0; row < m_programm.Eingabe().anzahl(); ++row) {
+        const auto& there = m_programm.Eingabe().zeile(row).element;
+        const QString now = there ? QStringLiteral(" (%1)").arg(toQt(there->symbol())) : QString();
+        menu.addAction(QStringLiteral("Als Komponente &%1%2 übernehmen").arg(row + 1).arg(now), this,
+            [this, row, element] { take(row, element); });
+    }
     menu.exec(position);
+}
+
+/// An element that stands in the row already is left as it is, with what was chosen for it.
+void PSEbereich::take(int row, const std::shared_ptr<clsElement>& element)
+{
+    const auto before = m_programm.Eingabe().zeile(row).element;
+    const QString symbol = toQt(element->symbol());
+    if (before == element) {
+        m_lblUebernahme->setText(QStringLiteral("Komponente %1 ist schon %2").arg(row + 1).arg(symbol));
+        return;
+    }
+    emit componentChosen(row, symbol);
+    showKomponenten();
+    const QString instead = before ? QStringLiteral(" statt %1").arg(toQt(before->symbol())) : QString();
+    m_lblUebernahme->setText(QStringLiteral("✓  Komponente %1 ist jetzt %2%3").arg(row + 1).arg(symbol, instead));
+}
+
+void PSEbereich::showKomponenten()
+{
+    std::vector<std::string> symbols;
+    for (int row = 0; row < m_programm.Eingabe().anzahl(); ++row) {
+        const auto& element = m_programm.Eingabe().zeile(row).element;
+        symbols.push_back(element ? element->symbol() : std::string());
+    }
+    m_picPSE->setKomponenten(std::move(symbols));
 }
 
 } // namespace zerna

@@ -5,6 +5,7 @@
 #include "programm/Programm.h"
 
 class QComboBox;
+class QLabel;
 
 namespace zerna {
 
@@ -32,11 +33,14 @@ private:
     void select(const std::shared_ptr<clsElement>& element);
     void colour();
     void offerComponents(const QPoint& position);
+    void take(int row, const std::shared_ptr<clsElement>& element);
+    void showKomponenten();
 
     Programm& m_programm;
     Periodentafel* m_picPSE = nullptr;
     QWidget* m_farbwahl = nullptr; // list and caption
     QComboBox* m_cmbFarbe = nullptr;
+    QLabel* m_lblUebernahme = nullptr; // how an element is taken, or that it has been
     Elementkarte* m_picInfo = nullptr;
 };
 

@@ -1,6 +1,7 @@
 #include "ui/main/Periodentafel.h"
 
 #include <QAccessible>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -44,6 +45,23 @@ void Periodentafel::setFaerbung(Tafelfaerbung faerbung)
     update();
 }
 
+void Periodentafel::setKomponenten(std::vector<std::string> symbols)
+{
+    m_komponenten = std::move(symbols);
+    update();
+}
+
+/// "1" or "1 3"; empty for an element that is not in the alloy.
+std::string Periodentafel::komponentenOf(const clsElement& element) const
+{
+    std::string numbers;
+    for (std::size_t row = 0; row < m_komponenten.size(); ++row) {
+        if (m_komponenten[row] == element.symbol())
+            numbers += (numbers.empty() ? "" : " ") + std::to_string(row + 1);
+    }
+    return numbers;
+}
+
 Tafelmassstab Periodentafel::scale() const { return {static_cast<double>(width()), static_cast<double>(height())}; }
 
 QRectF Periodentafel::cellOf(const clsElement& element) const
@@ -57,6 +75,13 @@ QRect Periodentafel::freeArea() const
     const Rechteck from = scale().cell(3.3, 1);
     const Rechteck to = scale().cell(12.8, 3.8);
     return QRectF(QPointF(from.left, from.top + 4), QPointF(to.left, to.top)).toRect();
+}
+
+QRect Periodentafel::gap() const
+{
+    const Rechteck from = scale().cell(4, 8);
+    const Rechteck to = scale().cell(18, 9);
+    return QRectF(QPointF(from.left, from.top), QPointF(to.left, to.top)).toRect();
 }
 
 std::shared_ptr<clsElement> Periodentafel::elementUnder(const QPointF& position) const
@@ -99,12 +124,16 @@ bool Periodentafel::event(QEvent* event)
     return QWidget::event(event);
 }
 
-/// Name and what the cell is coloured by.
+/// Name, what the cell is coloured by and the rows that the element stands in.
 QString Periodentafel::hinweis(const std::shared_ptr<clsElement>& element) const
 {
     const auto index = std::ranges::find(m_elements, element) - m_elements.begin();
     const std::string beschreibung = m_faerbung.beschreibung(*element, static_cast<std::size_t>(index));
-    return toQt(beschreibung.empty() ? element->Name() : element->Name() + '\n' + beschreibung);
+    QString text = toQt(beschreibung.empty() ? element->Name() : element->Name() + '\n' + beschreibung);
+    if (const std::string komponenten = komponentenOf(*element); !komponenten.empty())
+        text += QStringLiteral("\nKomponente %1 der Legierung")
+                    .arg(toQt(komponenten).replace(QLatin1Char(' '), QStringLiteral(", ")));
+    return text;
 }
 
 void Periodentafel::mousePressEvent(QMouseEvent* event)
@@ -117,6 +146,22 @@ void Periodentafel::mouseDoubleClickEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton && elementUnder(event->position()))
         emit activated(event->globalPosition().toPoint());
+}
+
+void Periodentafel::askForSelected()
+{
+    if (m_selected)
+        emit activated(mapToGlobal(cellOf(*m_selected).center().toPoint()));
+}
+
+void Periodentafel::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (event->reason() != QContextMenuEvent::Mouse)
+        return askForSelected();
+    const auto element = elementUnder(event->pos());
+    select(element);
+    if (element)
+        emit activated(event->globalPos());
 }
 
 void Periodentafel::mouseMoveEvent(QMouseEvent* event) { hover(elementUnder(event->position())); }
@@ -144,8 +189,7 @@ void Periodentafel::keyPressEvent(QKeyEvent* event)
         break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (m_selected)
-            emit activated(mapToGlobal(cellOf(*m_selected).center().toPoint()));
+        askForSelected();
         break;
     default:
         if (event->text().size() == 1 && event->text().at(0).isLetter())
@@ -200,7 +244,7 @@ void Periodentafel::paintCell(
     QPainter& painter, const clsElement& element, std::size_t index, const Zellstil& stil) const
 {
     const Elementzelle zelle{element, m_faerbung.fuellung(element, index, istDunkel(stil.palette)),
-        m_faerbung.wert(index), &element == m_hovered.get(), &element == m_selected.get()};
+        m_faerbung.wert(index), komponentenOf(element), &element == m_hovered.get(), &element == m_selected.get()};
     paintZelle(painter, cellOf(element), zelle, stil);
 }
 

@@ -4,6 +4,8 @@
 #include <QWidget>
 
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "core/ElementCollection.h"
 #include "ui/main/Tafelfaerbung.h"
@@ -13,8 +15,8 @@ namespace zerna {
 class Tafelmassstab;
 struct Zellstil;
 
-/// The drawn periodic table: a click, the arrow keys or typed letters select an element; Enter or a double click asks
-/// for what to do with it. Cells are coloured by group of elements or by a property.
+/// The drawn periodic table: a click, the arrow keys or typed letters select an element; Enter, a double click or the
+/// right button asks for what to do with it. Cells are coloured by group of elements or by a property.
 class Periodentafel : public QWidget {
     Q_OBJECT
 
@@ -26,14 +28,19 @@ public:
 
     void setFaerbung(Tafelfaerbung faerbung);
 
-    /// The free area at the top of the table, in pixels.
+    /// Marks the alloy's elements with the numbers of their rows; `symbols` has a symbol per row.
+    void setKomponenten(std::vector<std::string> symbols);
+
+    /// The free area at the top of the table and the one between its two parts, in pixels.
     QRect freeArea() const;
+    QRect gap() const;
 
 signals:
     void selected(const std::shared_ptr<clsElement>& element);
     void activated(const QPoint& globalPosition);
 
 protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void leaveEvent(QEvent* event) override;
@@ -49,6 +56,8 @@ private:
     std::shared_ptr<clsElement> elementUnder(const QPointF& position) const;
     void select(const std::shared_ptr<clsElement>& element);
     void hover(const std::shared_ptr<clsElement>& element);
+    std::string komponentenOf(const clsElement& element) const;
+    void askForSelected();
     QString hinweis(const std::shared_ptr<clsElement>& element) const;
     void updateCell(const std::shared_ptr<clsElement>& element);
     void moveSelection(int dx, int dy);
@@ -59,6 +68,7 @@ private:
     std::shared_ptr<clsElement> m_selected;
     std::shared_ptr<clsElement> m_hovered;
     Tafelfaerbung m_faerbung;
+    std::vector<std::string> m_komponenten; // symbols
     bool m_namenPassen = false; // into the cells; else these show masses
     QString m_typed;
     QElapsedTimer m_sinceLetter;

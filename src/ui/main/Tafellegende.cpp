@@ -14,6 +14,18 @@ namespace zerna {
 
 namespace {
 
+/// What the numbers in the corners of cells mean, at the bottom of the area.
+void paintMarkenhinweis(QPainter& painter, const QRectF& area, const Zellstil& stil)
+{
+    const QColor text = stil.palette.color(QPalette::WindowText);
+    const double height = painter.fontMetrics().height();
+    const QPointF corner(area.left() + 1.2 * height, area.bottom() - 1.4 * height);
+    paintKomponenten(painter, corner, QStringLiteral("1"), text, painter.font());
+    painter.setPen(text);
+    painter.drawText(QRectF(corner.x() + 8, corner.y() + 1, area.width(), height + 1), Qt::AlignLeft | Qt::AlignVCenter,
+        QStringLiteral("Komponente der Legierung"));
+}
+
 /// Two groups above the two others.
 void paintGruppen(QPainter& painter, const QRectF& area, const QPalette& palette)
 {
@@ -67,6 +79,8 @@ void paintLegende(QPainter& painter, const QRectF& area, const Tafelfaerbung& fa
         paintGruppen(painter, area, stil.palette);
     else
         paintSkala(painter, area, faerbung, stil.palette);
+    if (area.height() > 6 * painter.fontMetrics().height())
+        paintMarkenhinweis(painter, area, stil);
 }
 
 void paintReihenhinweise(QPainter& painter, const Tafelmassstab& scale, const Zellstil& stil)
@@ -75,7 +89,7 @@ void paintReihenhinweise(QPainter& painter, const Tafelmassstab& scale, const Ze
         int row;
         const char* text;
     };
-    constexpr std::array<Hinweis, 2> Hinweise{{{9, "zu La  ▸"}, {10, "zu Ac  ▸"}}};
+    constexpr std::array<Hinweis, 2> Hinweise{{{9, "zu La  ▴"}, {10, "zu Ac  ▴"}}};
     painter.setPen(stil.palette.color(QPalette::WindowText));
     for (const auto& [row, text] : Hinweise) {
         const Rechteck place = scale.cell(1, row);

@@ -27,6 +27,32 @@ inline QLinearGradient farbverlauf(const QPointF& from, const QPointF& to)
     return gradient;
 }
 
+/// The contrast of two colours as accessibility guidelines define it, 1 to 21: texts need 4.5, graphics 3.
+inline double kontrast(const QColor& a, const QColor& b)
+{
+    const double first = leuchtdichte(fromQt(a)) + 0.05;
+    const double second = leuchtdichte(fromQt(b)) + 0.05;
+    return first > second ? first / second : second / first;
+}
+
+/// The colour closest to a ground on the way to that of its texts that has a contrast to it.
+inline QColor abgesetzt(const QColor& ground, const QColor& text, double contrast)
+{
+    constexpr int Steps = 64;
+    const auto mixed = [](int from, int to, int step) { return from + (to - from) * step / Steps; };
+    for (int step = 1; step < Steps; ++step) {
+        const QColor colour(mixed(ground.red(), text.red(), step), mixed(ground.green(), text.green(), step),
+            mixed(ground.blue(), text.blue(), step));
+        if (kontrast(colour, ground) >= contrast)
+            return colour;
+    }
+    return text;
+}
+
+/// Lines that hatch a ground, and signs on it beside a text that matters more.
+inline QColor linienfarbe(const QColor& ground, const QColor& text) { return abgesetzt(ground, text, 3.1); }
+inline QColor zeichenfarbe(const QColor& ground, const QColor& text) { return abgesetzt(ground, text, 4.5); }
+
 /// Whether a palette shows light texts on a dark ground.
 inline bool istDunkel(const QPalette& palette, QPalette::ColorRole ground = QPalette::Window)
 {

@@ -1,6 +1,7 @@
 #include "ui/main/PSEbereich.h"
 
 #include <QListWidget>
+#include <QMenu>
 #include <QPaintEvent>
 #include <QTimer>
 
@@ -59,9 +60,28 @@ TEST_F(PSEbereichTest, ClicksSelectElements)
 TEST_F(PSEbereichTest, DoubleClickOpensTheMenuOfAnElement)
 {
     clickCell(2, 3);
-    QTimer::singleShot(0, [] { QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_1); });
-    QTest::mouseDClick(&table(), Qt::LeftButton, {}, cell(2, 3).center());
+    const QImage plain = image(2, 3);
+    const auto take = [this](int column, int row) {
+        QStringList offered;
+        QTimer::singleShot(0, [&offered] {
+            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            for (const QAction* const action : menu->actions())
+                offered += action->text();
+            QTest::keyClick(menu, Qt::Key_1);
+        });
+        QTest::mouseDClick(&table(), Qt::LeftButton, {}, cell(column, row).center());
+        return offered.join('|').toStdString();
+    };
+    EXPECT_EQ(take(2, 3), "Als Komponente &1 (Al) übernehmen|Als Komponente &2 (Cu) übernehmen");
     EXPECT_EQ(text("cmbElement_0"), "Mg");
+    EXPECT_EQ(text("lblUebernahme"), "✓  Komponente 1 ist jetzt Mg statt Al");
+    EXPECT_NE(image(2, 3), plain) << "marked as a member of the alloy";
+    choose("cmdDichte_0", "kristallin");
+    take(2, 3);
+    EXPECT_EQ(text("lblUebernahme"), "Komponente 1 ist schon Mg");
+    EXPECT_EQ(text("cmdDichte_0"), "kristallin") << "left alone";
+    clickCell(1, 1);
+    EXPECT_EQ(text("lblUebernahme"), "Doppelklick oder Eingabetaste: als Komponente übernehmen");
     QTest::mouseDClick(&table(), Qt::LeftButton, {}, cell(2, 8).center()); // no menu to wait for
 }
 

@@ -2,6 +2,8 @@
 
 #include "core/Unbekannt.h"
 #include "support/FilesTest.h"
+#include "ui/main/Elementzelle.h"
+#include "ui/platform/Farben.h"
 
 namespace zerna {
 
@@ -49,6 +51,27 @@ TEST_F(TafelfaerbungTest, ValuesSpreadOverTheWholeScale)
     element.setEGK("N");
     EXPECT_EQ(Tafelfaerbung().beschreibung(element, 0), "Nebengruppen");
     EXPECT_EQ(Tafelfaerbung().wert(0), std::nullopt);
+}
+
+TEST_F(TafelfaerbungTest, AllThatCellsShowCanBeRead)
+{
+    std::vector<QColor> grounds;
+    for (int i = 0; i <= 1000; ++i)
+        grounds.push_back(toQt(farbskala(i / 1000.0)));
+    for (const Elementgruppe& gruppe : elementgruppen()) {
+        grounds.push_back(toQt(gruppe.hell));
+        grounds.push_back(toQt(gruppe.dunkel));
+    }
+    for (const QColor& missing : {QColor(Qt::white), QColor(239, 239, 239), QColor(49, 54, 59), QColor(Qt::black)})
+        grounds.push_back(missing);
+    for (const QColor& ground : grounds) {
+        const QColor text = textOn(ground);
+        EXPECT_GE(kontrast(text, ground), 4.5) << ground.name().toStdString();
+        EXPECT_GE(kontrast(textOn(text), text), 4.5) << "numbers on their plate";
+        EXPECT_GE(kontrast(zeichenfarbe(ground, text), ground), 4.5) << ground.name().toStdString();
+        EXPECT_GE(kontrast(linienfarbe(ground, text), ground), 3) << ground.name().toStdString();
+    }
+    EXPECT_NEAR(kontrast(Qt::white, QColor(118, 118, 118)), 4.54, 0.01) << "the guidelines' own example";
 }
 
 } // namespace zerna
