@@ -16,12 +16,6 @@ namespace {
 constexpr const char* Marke = "Marke"; // property: the text form of the unknown-value marker, or "0"
 constexpr int EchoMargin = 6;
 
-/// A red that stands out on light and on dark fields.
-QColor fehlerfarbe(const QPalette& palette)
-{
-    return istDunkel(palette, QPalette::Base) ? QColor(255, 107, 107) : QColor(200, 30, 30);
-}
-
 } // namespace
 
 Wertfeld::Wertfeld(QWidget* parent)
@@ -29,6 +23,8 @@ Wertfeld::Wertfeld(QWidget* parent)
 {
     setWert({}, false);
     strengthenDisabledText();
+    connect(this, &QLineEdit::returnPressed, this, &Wertfeld::verlassen);
+    connect(this, &QLineEdit::textChanged, this, &Wertfeld::cutEcho);
 }
 
 /// A field that takes no input still shows a value that must be read with ease.
@@ -60,6 +56,7 @@ void Wertfeld::setWert(const QString& text, bool unbekannt)
     const QSignalBlocker blocker(this);
     setProperty(Marke, unbekannt ? toQt(textOfSingle(Unbekannt)) : QStringLiteral("0"));
     setText(text);
+    cutEcho();
     setCursorPosition(0); // a text that is too long shows its beginning
 }
 
@@ -74,15 +71,43 @@ void Wertfeld::setFehler(const QString& grund)
     update();
 }
 
+void Wertfeld::setBedenken(const QString& bedenken)
+{
+    if (bedenken == m_bedenken)
+        return;
+    m_bedenken = bedenken;
+    showHinweis();
+    update();
+}
+
 void Wertfeld::setEcho(const QString& echo)
 {
     if (echo == m_echo)
         return;
     m_echo = echo;
-    const int width = echo.isEmpty() ? 0 : fontMetrics().horizontalAdvance(echo) + EchoMargin;
-    setTextMargins(0, 0, width, 0);
+    cutEcho();
     showHinweis();
     update();
+}
+
+/// Leaves the echo the room that the text does not need.
+void Wertfeld::cutEcho()
+{
+    constexpr int Frame = 12; // with the cursor
+    constexpr int Shortest = 4; // characters that say something: "= 1…"
+    const int room = width() - fontMetrics().horizontalAdvance(text()) - Frame - EchoMargin;
+    m_shownEcho = fontMetrics().elidedText(m_echo, Qt::ElideRight, qMax(0, room));
+    if (m_shownEcho != m_echo && m_shownEcho.size() < Shortest)
+        m_shownEcho.clear();
+    const int margin = m_shownEcho.isEmpty() ? 0 : fontMetrics().horizontalAdvance(m_shownEcho) + EchoMargin;
+    if (textMargins().right() != margin)
+        setTextMargins(0, 0, margin, 0);
+}
+
+void Wertfeld::resizeEvent(QResizeEvent* event)
+{
+    QLineEdit::resizeEvent(event);
+    cutEcho();
 }
 
 void Wertfeld::setHinweis(const QString& hinweis)
@@ -94,7 +119,8 @@ void Wertfeld::setHinweis(const QString& hinweis)
 void Wertfeld::showHinweis()
 {
     const QString valid = m_echo.isEmpty() ? m_hinweis : QStringLiteral("%1 %2").arg(text(), m_echo);
-    setToolTip(m_fehler.isEmpty() ? valid : m_fehler);
+    const QString unmarked = m_bedenken.isEmpty() ? valid : m_bedenken;
+    setToolTip(m_fehler.isEmpty() ? unmarked : m_fehler);
     setAccessibleDescription(toolTip());
 }
 
@@ -108,18 +134,24 @@ void Wertfeld::focusOutEvent(QFocusEvent* event)
 {
     QLineEdit::focusOutEvent(event);
     emit focusLeft();
+    const Qt::FocusReason reason = event->reason();
+    const bool comesBack =
+        reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
+    if (!comesBack)
+        emit verlassen();
 }
 
 void Wertfeld::paintEvent(QPaintEvent* event)
 {
     QLineEdit::paintEvent(event);
     QPainter painter(this);
-    if (!m_echo.isEmpty()) {
+    if (!m_shownEcho.isEmpty()) {
         painter.setPen(palette().color(QPalette::PlaceholderText));
-        painter.drawText(rect().adjusted(0, 0, -EchoMargin, 0), Qt::AlignRight | Qt::AlignVCenter, m_echo);
+        painter.drawText(rect().adjusted(0, 0, -EchoMargin, 0), Qt::AlignRight | Qt::AlignVCenter, m_shownEcho);
     }
-    if (!m_fehler.isEmpty()) {
-        QColor fill = fehlerfarbe(palette());
+    if (!m_fehler.isEmpty() || !m_bedenken.isEmpty()) {
+        QColor fill =
+            m_fehler.isEmpty() ? bedenkenfarbe(palette(), QPalette::Base) : fehlerfarbe(palette(), QPalette::Base);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(fill, 2));
         fill.setAlpha(36);

@@ -20,7 +20,12 @@ public:
     void setFehler(const QString& grund);
     const QString& fehler() const { return m_fehler; }
 
-    /// What the formula in the field comes to, for example "= 1,5"; empty for none.
+    /// What is odd about a valid text; empty if nothing is.
+    void setBedenken(const QString& bedenken);
+    const QString& bedenken() const { return m_bedenken; }
+
+    /// What the formula in the field comes to, for example "= 1,5"; empty for none. The formula comes first: what the
+    /// field has no room for beside it is cut off, and the tool tip has it whole.
     void setEcho(const QString& echo);
     const QString& echo() const { return m_echo; }
 
@@ -30,19 +35,25 @@ public:
 signals:
     void focusEntered();
     void focusLeft();
+    /// The user is done with the text: Enter was pressed, or the focus has gone and does not come back by itself.
+    void verlassen();
 
 protected:
     void changeEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void showHinweis();
+    void cutEcho();
     void strengthenDisabledText();
 
     QString m_fehler;
+    QString m_bedenken;
     QString m_echo;
+    QString m_shownEcho; // as much of it as there is room for
     QString m_hinweis;
 };
 

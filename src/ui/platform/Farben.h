@@ -59,4 +59,16 @@ inline bool istDunkel(const QPalette& palette, QPalette::ColorRole ground = QPal
     return palette.color(ground).lightness() < 128;
 }
 
+/// A red for what is wrong, as text and as frame, that stands out on light and on dark grounds.
+inline QColor fehlerfarbe(const QPalette& palette, QPalette::ColorRole ground = QPalette::Window)
+{
+    return istDunkel(palette, ground) ? QColor(255, 107, 107) : QColor(190, 20, 20);
+}
+
+/// An amber for what is odd, likewise.
+inline QColor bedenkenfarbe(const QPalette& palette, QPalette::ColorRole ground = QPalette::Window)
+{
+    return istDunkel(palette, ground) ? QColor(255, 190, 92) : QColor(140, 78, 0);
+}
+
 } // namespace zerna

@@ -42,14 +42,40 @@ TEST(WertfeldTest, ToolTipGivesTheReasonBeforeTheEchoBeforeTheHint)
     }
 }
 
-TEST(WertfeldTest, FaultMarksTheField)
+TEST(WertfeldTest, TheFormulaIsReadableBeforeTheEcho)
+{
+    Wertfeld feld;
+    const auto widthOf = [&](const QString& text) { return feld.fontMetrics().horizontalAdvance(text); };
+    const QString echo("= 0,999999979374768");
+    for (const int width : {widthOf("sqrt(2)*0,7071067") + 20, widthOf("sqrt(2)*0,7071067" + echo), 40}) {
+        feld.resize(width, 26);
+        feld.setWert("3/2", false);
+        feld.setEcho(echo);
+        QTest::keyClick(&feld, Qt::Key_End);
+        feld.selectAll();
+        QTest::keyClicks(&feld, "sqrt(2)*0,7071067");
+        const int room = width - feld.textMargins().right();
+        EXPECT_TRUE(room >= widthOf(feld.text()) || feld.textMargins().right() == 0) << width;
+        feld.setEcho(echo + '1');
+        EXPECT_EQ(feld.toolTip(), "sqrt(2)*0,7071067 " + echo + '1');
+    }
+}
+
+TEST(WertfeldTest, FaultMarksTheFieldBeforeWhatIsOdd)
 {
     Wertfeld feld;
     feld.resize(80, 26);
     const QImage valid = feld.grab().toImage();
+    feld.setBedenken("Mehr als 100 at%");
+    const QImage odd = feld.grab().toImage();
+    EXPECT_EQ(feld.toolTip(), "Mehr als 100 at%");
     feld.setFehler("Typen unverträglich");
-    EXPECT_GT(feld.grab().toImage().pixelColor(1, 13).hsvSaturation(), 150) << "red frame";
+    EXPECT_EQ(feld.toolTip(), "Typen unverträglich");
+    for (const QImage& marked : {odd, feld.grab().toImage()})
+        EXPECT_GT(marked.pixelColor(1, 13).hsvSaturation(), 150) << "a frame";
+    EXPECT_NE(feld.grab().toImage(), odd);
     feld.setFehler({});
+    feld.setBedenken({});
     EXPECT_EQ(feld.grab().toImage(), valid);
 }
 
