@@ -4,6 +4,9 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
+#include <algorithm>
+#include <utility>
+
 #include "core/Zahlentext.h"
 #include "parser/Formelwert.h"
 #include "ui/button/StyledButton.h"
@@ -67,10 +70,11 @@ void Kompositionsbereich::connectRow(int row)
         [this, row](const QString& wahl) { taken(eingabe().waehleDichte(row, fromQt(wahl))); });
     connect(zeile, &Zeile::dichteEntered, this,
         [this, row](const QString& text) { taken(eingabe().setDichte(row, fromQt(text))); });
-    connect(zeile, &Zeile::valenzChosen, this,
-        [this, row](int wahl) { valenzEdited(row, eingabe().waehleValenz(row, wahl)); });
+    connect(
+        zeile, &Zeile::valenzChosen, this, [this, row](int wahl) { valenzEdited(eingabe().waehleValenz(row, wahl)); });
     connect(zeile, &Zeile::valenzEntered, this,
-        [this, row](const QString& text) { valenzEdited(row, eingabe().setValenz(row, fromQt(text))); });
+        [this, row](const QString& text) { valenzEdited(eingabe().setValenz(row, fromQt(text))); });
+    connect(zeile, &Zeile::valenzLeft, this, [this, row] { valenzLeft(row); });
     // What a person types must reach the element of the row they type in.
     connect(zeile, &Zeile::valueFocused, this, [this, row] { eingabe().nachschlagen(row); });
     connect(zeile, &Zeile::prozentLeft, this, [this, row] {
@@ -175,12 +179,22 @@ void Kompositionsbereich::dichteartChosen(std::string_view wahl)
     m_dichteschalter->zeigeOhneDichte(wahl, eingabe().ohneDichte(wahl));
 }
 
-void Kompositionsbereich::valenzEdited(int row, const Aenderung& aenderung)
+void Kompositionsbereich::valenzEdited(const Aenderung& aenderung)
 {
+    m_gemeldet.clear();
     taken(aenderung);
-    for (const std::string& meldung :
-        std::vector(eingabe().zeile(row).valenz.meldungen)) // may change while one is shown
-        m_programm.boxes().show(Icon::None, Formelmeldungstitel, meldung);
+}
+
+/// Speaks of unknown functions when the formula stands, not between keys, and once of each.
+void Kompositionsbereich::valenzLeft(int row)
+{
+    const Eingabefeld valenz = eingabe().zeile(row).valenz; // may change while a box is shown
+    if (valenz.meldungen.empty() || valenz.text == std::exchange(m_gemeldet, valenz.text))
+        return;
+    for (auto meldung = valenz.meldungen.begin(); meldung != valenz.meldungen.end(); ++meldung) {
+        if (std::find(valenz.meldungen.begin(), meldung, *meldung) == meldung)
+            m_programm.boxes().show(Icon::None, Formelmeldungstitel, *meldung);
+    }
 }
 
 /// Shows what an operation has made of the alloy and passes on what it has changed.

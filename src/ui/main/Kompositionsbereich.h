@@ -47,7 +47,8 @@ private:
     void connectRow(int row);
     void setAnzahl(int count);
     void elementChosen(int row, std::string_view key);
-    void valenzEdited(int row, const Aenderung& aenderung);
+    void valenzEdited(const Aenderung& aenderung);
+    void valenzLeft(int row);
     void dichteartChosen(std::string_view wahl);
     void taken(const Aenderung& aenderung);
     void zeige();
@@ -63,6 +64,7 @@ private:
     Dichteschalter* m_dichteschalter = nullptr;
     std::array<QLabel*, 4> m_heads{};
     std::array<Kompositionszeile*, MaxKomponenten> m_zeilen{};
+    std::string m_gemeldet; // the formula whose unknown functions have been spoken of
 };
 
 } // namespace zerna

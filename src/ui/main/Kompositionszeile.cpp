@@ -67,6 +67,7 @@ void Kompositionszeile::connectControls()
     connect(m_txtDichte, &Wertfeld::focusEntered, this, &Kompositionszeile::valueFocused);
     connect(m_txtValenz, &Wertfeld::focusEntered, this, &Kompositionszeile::valueFocused);
     connect(m_txtProzent, &Wertfeld::focusLeft, this, &Kompositionszeile::prozentLeft);
+    connect(m_txtValenz, &Wertfeld::verlassen, this, &Kompositionszeile::valenzLeft);
 }
 
 void Kompositionszeile::layOut(QGridLayout& grid, int gridRow)

@@ -46,6 +46,7 @@ signals:
     void valenzEntered(const QString& text);
     void valueFocused(); ///< the keyboard focus has entered the density or the valence
     void prozentLeft();
+    void valenzLeft(); ///< the user is done with the valence
 
 private:
     std::array<QWidget*, 7> widgets() const;

@@ -10,19 +10,20 @@ struct KompositionsbereichTest : FakeDesk {
     KompositionsbereichTest() { openAluminiumCopper(); }
 };
 
-TEST_F(KompositionsbereichTest, FormulasEchoTheirValueOrAreMarkedAndSpokenOfOnce)
+TEST_F(KompositionsbereichTest, FormulasEchoTheirValueOrAreMarkedAndSpokenOfOnLeaving)
 {
     choose("cmbValenz_0", "<andere>");
     struct Row {
         const char* typed;
         const char* echo;
         const char* reason;
-        std::size_t messages; // one however often it is evaluated, and one for each further letter
+        std::size_t messages; // of each function once, when the field is left
     };
     for (const auto& [typed, echo, reason, messages] : {
              Row{"3/2", "= 1,5", "", 0},
              {"2+1/0", "", "Division durch Null (Zeichen 4)", 0},
-             {"foo(1)+1", "", "Funktion \"foo\" ist nicht definiert (Zeichen 1)", 3},
+             {"foo(1)+1", "", "Funktion \"foo\" ist nicht definiert (Zeichen 1)", 1},
+             Row{"foo(1)+bar(foo(2))", "", "Funktion \"foo\" ist nicht definiert (Zeichen 1)", 2},
              {"", "", "", 0},
          }) {
         SCOPED_TRACE(typed);
@@ -30,6 +31,9 @@ TEST_F(KompositionsbereichTest, FormulasEchoTheirValueOrAreMarkedAndSpokenOfOnce
         type("txtValenz_0", typed);
         EXPECT_EQ(find<Wertfeld>("txtValenz_0").echo().toStdString(), echo);
         EXPECT_EQ(find<Wertfeld>("txtValenz_0").fehler().toStdString(), reason);
+        EXPECT_TRUE(boxes.shown.empty()) << "between keys";
+        QTest::keyClick(&find("txtValenz_0"), Qt::Key_Return);
+        QTest::keyClick(&find("txtValenz_0"), Qt::Key_Tab);
         EXPECT_EQ(boxes.shown.size(), messages);
     }
 }
