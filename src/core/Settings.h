@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <map>
 #include <string>
 #include <string_view>
 
@@ -27,16 +29,19 @@ public:
     {
     }
 
-    /// The stored value; `standard` when there is none or it is empty.
+    /// The stored value; `standard` when there is none or it is empty. What was saved in this session counts even if
+    /// the store could not take it.
     std::string LoadSetting(std::string_view key, std::string_view standard) const
     {
-        const std::string value = m_store.value(m_application, Section, key);
+        const auto saved = m_saved.find(key);
+        const std::string value = saved != m_saved.end() ? saved->second : m_store.value(m_application, Section, key);
         return value.empty() ? std::string(standard) : value;
     }
 
     /// Stores the value unless it is there already: a store that is a file would be written again.
     void SaveSetting(std::string_view key, std::string_view value)
     {
+        m_saved.insert_or_assign(std::string(key), std::string(value));
         if (m_store.value(m_application, Section, key) != value)
             m_store.setValue(m_application, Section, key, value);
     }
@@ -46,6 +51,7 @@ private:
 
     SettingsStore& m_store;
     std::string m_application;
+    std::map<std::string, std::string, std::less<>> m_saved; // in this session
 };
 
 } // namespace zerna

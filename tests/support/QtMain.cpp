@@ -11,6 +11,7 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const zerna::TemporaryFolder settings;
     qputenv("XDG_CONFIG_HOME", settings.path().c_str());
+    qputenv("XDG_CONFIG_DIRS", (settings.path() / "system").c_str());
     const QApplication application(argc, argv);
     testing::InitGoogleMock(&argc, argv);
     return RUN_ALL_TESTS();

@@ -8,10 +8,15 @@ namespace zerna {
 
 namespace {
 
-QSettings openStore(std::string_view application)
-{
-    return {QSettings::NativeFormat, QSettings::UserScope, toQt(application), toQt(application)};
-}
+/// The user's own store alone: what an organisation or the system has stored under the same names does not count.
+class Benutzerspeicher : public QSettings {
+public:
+    explicit Benutzerspeicher(std::string_view application)
+        : QSettings(NativeFormat, UserScope, toQt(application), toQt(application))
+    {
+        setFallbacksEnabled(false);
+    }
+};
 
 QString fullKey(std::string_view section, std::string_view key) { return toQt(section) + QLatin1Char('/') + toQt(key); }
 
@@ -19,13 +24,13 @@ QString fullKey(std::string_view section, std::string_view key) { return toQt(se
 
 std::string QtSettingsStore::value(std::string_view application, std::string_view section, std::string_view key) const
 {
-    return fromQt(openStore(application).value(fullKey(section, key)).toString());
+    return fromQt(Benutzerspeicher(application).value(fullKey(section, key)).toString());
 }
 
 void QtSettingsStore::setValue(
     std::string_view application, std::string_view section, std::string_view key, std::string_view value)
 {
-    openStore(application).setValue(fullKey(section, key), toQt(value));
+    Benutzerspeicher(application).setValue(fullKey(section, key), toQt(value));
 }
 
 } // namespace zerna

@@ -26,6 +26,25 @@ TEST(QtSettingsStoreTest, TextsComeBackAsTheyWereAndOnlyTheAskedForKeyAnswers)
     EXPECT_EQ(QtSettingsStore().value("Anderes", "Settings", "Element_0"), "") << "another program";
 }
 
+TEST(QtSettingsStoreTest, OnlyTheUsersOwnStoreCounts)
+{
+    const std::filesystem::path folder = std::getenv("XDG_CONFIG_HOME");
+    std::filesystem::create_directories(folder / "system" / "Fremdes");
+    for (const char* const other : {"Fremdes.conf", "system/Fremdes.conf", "system/Fremdes/Fremdes.conf"}) {
+        writeBytes(folder / other, "[Settings]\nElement_0=Fe\n"); // of the organisation and of the system
+        EXPECT_EQ(QtSettingsStore().value("Fremdes", "Settings", "Element_0"), "") << other;
+    }
+}
+
+TEST(QtSettingsStoreTest, WhatTheStoreCannotTakeCountsForTheSession)
+{
+    writeBytes(settingsFile("Sitzung").parent_path(), "a file where the folder would be");
+    QtSettingsStore store;
+    Settings settings(store, "Sitzung");
+    settings.SaveSetting("Element_0", "Al");
+    EXPECT_EQ(settings.LoadSetting("Element_0", "H"), "Al");
+}
+
 TEST(QtSettingsStoreTest, StoreThatCannotBeWrittenStaysEmpty)
 {
     writeBytes(settingsFile("Gesperrt").parent_path(), "a file where the folder would be");
