@@ -9,6 +9,7 @@
 
 #include "core/Laufzeitfehler.h"
 #include "core/Unbekannt.h"
+#include "core/Zeichensatz.h"
 
 namespace zerna {
 
@@ -62,6 +63,53 @@ Ziffern roundedDigits(double value, int digits)
     const auto end =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::scientific, digits - 1);
     return ziffern({buffer.data(), end.ptr});
+}
+
+/// The decimal value of a double: of its digits those that are not noise.
+Ziffern decimalDigits(double value)
+{
+    constexpr std::size_t Reliable = 15;
+    const Ziffern shortest = shortestDigits(value);
+    return shortest.count <= Reliable ? shortest : roundedDigits(value, Reliable);
+}
+
+/// The digits rounded to the first `count` of them, ties away from zero; count may be 0 or less.
+Ziffern rounded(Ziffern z, int count)
+{
+    if (count >= static_cast<int>(z.count))
+        return z;
+    const bool up = count >= 0 && z.digits.at(static_cast<std::size_t>(count)) >= '5';
+    z.count = static_cast<std::size_t>(std::max(count, 0));
+    while (z.count > 0 && z.digits.at(z.count - 1) == (up ? '9' : '0'))
+        --z.count;
+    if (z.count > 0) {
+        z.digits.at(z.count - 1) = static_cast<char>(z.digits.at(z.count - 1) + (up ? 1 : 0));
+        return z;
+    }
+    const bool isZero = !up; // else 1 in front of what was dropped
+    z.digits.front() = isZero ? '0' : '1';
+    z.exponent = isZero ? 0 : z.exponent + 1;
+    z.negative = z.negative && !isZero;
+    z.count = 1;
+    return z;
+}
+
+/// The pattern "0.00" with that many decimals.
+std::string layOutFixed(const Ziffern& exact, int decimals, Dezimaltrenner trenner)
+{
+    const Ziffern z = rounded(exact, exact.exponent + 1 + decimals);
+    const auto digit = [&z](int power) { // of ten
+        const int place = z.exponent - power;
+        return place >= 0 && place < static_cast<int>(z.count) ? z.digits.at(static_cast<std::size_t>(place)) : '0';
+    };
+    std::string text = z.negative ? "-" : "";
+    for (int power = std::max(z.exponent, 0); power >= 0; --power)
+        text += digit(power);
+    if (decimals > 0)
+        text += static_cast<char>(trenner);
+    for (int power = -1; power >= -decimals; --power)
+        text += digit(power);
+    return text;
 }
 
 /// Plain digits while -5 < exponent < 15, otherwise mantissa, "E", sign and exponent.
@@ -150,21 +198,22 @@ std::string textOfDouble(double value, Dezimaltrenner trenner)
 
 std::string textWithDigits(double value, int digits, Dezimaltrenner trenner)
 {
-    return std::isfinite(value) ? layOut(roundedDigits(value, digits), trenner) : std::string();
+    return std::isfinite(value) ? layOut(rounded(decimalDigits(value), digits), trenner) : std::string();
+}
+
+std::string textWithDigits(float value, int digits, Dezimaltrenner trenner)
+{
+    return std::isfinite(value) ? layOut(rounded(shortestDigits(value), digits), trenner) : std::string();
 }
 
 std::string fixedText(double value, int decimals, Dezimaltrenner trenner)
 {
-    if (!std::isfinite(value))
-        return {};
-    Puffer buffer; // written by to_chars
-    const auto end =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, decimals);
-    std::string text(buffer.data(), end.ptr);
-    if (text.front() == '-' && text.find_first_of("123456789") == std::string::npos)
-        text.erase(0, 1);
-    std::ranges::replace(text, '.', static_cast<char>(trenner));
-    return text;
+    return std::isfinite(value) ? layOutFixed(decimalDigits(value), decimals, trenner) : std::string();
+}
+
+std::string fixedText(float value, int decimals, Dezimaltrenner trenner)
+{
+    return std::isfinite(value) ? layOutFixed(shortestDigits(value), decimals, trenner) : std::string();
 }
 
 std::string scientificText(
@@ -172,7 +221,7 @@ std::string scientificText(
 {
     if (!std::isfinite(value))
         return {};
-    const Ziffern z = roundedDigits(value, decimals + 1);
+    const Ziffern z = rounded(decimalDigits(value), decimals + 1);
     std::string decimalsText(z.view().substr(1));
     if (!optionalDecimals)
         decimalsText.resize(static_cast<std::size_t>(decimals), '0');
@@ -244,7 +293,7 @@ std::string ReplaceText(
         return std::string(expression);
     const std::string text = compare != 0 ? lowerCase(expression) : std::string(expression);
     const std::string wanted = compare != 0 ? lowerCase(find) : std::string(find);
-    const std::size_t first = std::min(text.size(), static_cast<std::size_t>(std::max(start, 1)) - 1);
+    const std::size_t first = zeichenbeginn(text, static_cast<std::size_t>(std::max(start, 1)) - 1);
     std::string result = text.substr(0, first);
     std::size_t position = first;
     for (; count > 0; --count) {
@@ -260,22 +309,16 @@ std::string ReplaceText(
 
 int FindLast(std::string_view text, std::string_view find, std::optional<int> start)
 {
-    for (int position = start.value_or(static_cast<int>(text.size())); position > 0; --position) {
-        const auto offset = static_cast<std::size_t>(position) - 1;
-        if (offset < text.size() && text.substr(offset, find.size()) == find)
+    const auto last = static_cast<int>(zeichenzahl(text));
+    std::size_t offset = zeichenbeginn(text, static_cast<std::size_t>(std::clamp(start.value_or(last), 0, last)));
+    for (int position = std::min(start.value_or(last), last); position > 0; --position) {
+        do
+            --offset;
+        while (offset > 0 && !beginntZeichen(text[offset]));
+        if (text.substr(offset).starts_with(find))
             return position;
     }
     return 0;
-}
-
-std::string lowerCase(std::string_view text)
-{
-    std::string result(text);
-    for (char& c : result) {
-        if (c >= 'A' && c <= 'Z')
-            c = static_cast<char>(c - 'A' + 'a');
-    }
-    return result;
 }
 
 } // namespace zerna

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/Zeichensatz.h"
+
 /// Numbers to text and back: the only place that does so. Nothing depends on the environment's locale; the
 /// program's locale is German. Texts are UTF-8.
 namespace zerna {
@@ -19,11 +21,17 @@ std::string textOfSingle(float value, Dezimaltrenner trenner = Dezimaltrenner::K
 /// 15 significant digits without trailing zeros, laid out like the text of a single.
 std::string textOfDouble(double value, Dezimaltrenner trenner = Dezimaltrenner::Komma);
 
-/// At most `digits` significant digits (1 to 17), laid out like the text of a single: (63.300003F, 7) gives "63,3".
+/// The following round the number as it is written in decimal, a single in its shortest text, a double in 15 digits;
+/// ties go away from zero for both signs: 12.125 in "0.00" gives "12,13", 0.285F gives "0,29".
+
+/// At most `digits` significant digits (1 to 15), laid out like the text of a single: (63.300003F, 7) gives "63,3".
 std::string textWithDigits(double value, int digits, Dezimaltrenner trenner = Dezimaltrenner::Komma);
+std::string textWithDigits(float value, int digits, Dezimaltrenner trenner = Dezimaltrenner::Komma);
 
 /// The patterns "0", "0.00", "0.000": a fixed number of decimals, never "-0,00".
 std::string fixedText(double value, int decimals, Dezimaltrenner trenner = Dezimaltrenner::Komma);
+std::string fixedText(float value, int decimals, Dezimaltrenner trenner = Dezimaltrenner::Komma);
+inline std::string fixedText(int value, int decimals) { return fixedText(static_cast<double>(value), decimals); }
 
 /// Scientific patterns with a mantissa of one digit before the decimal separator and a signed exponent of at least
 /// two digits: `optionalDecimals` false is "0.00" + gap + "E+00", true is "#.####" + gap + "E+00" (trailing zeros and
@@ -54,7 +62,7 @@ std::string hexDigits(double value);
 
 /// Number and unit as the program shows them: four decimals of the mantissa, exponent from 10^4 and to 10^-4 on.
 /// FormatValue(123.456F, "K") gives "123,46 K", FormatValue(602.2e21F, "") "6,022 E+23 "; 0 and Unbekannt give "".
-/// Negative values always have the form "-5 E+00 V".
+/// Negative values always have the form "-5 E+00 V" and the mantissa that their amount has.
 std::string FormatValue(float value, std::string_view unit);
 
 /// What was typed into a number field: Unbekannt if it is no number, 0 for an empty text.
@@ -71,16 +79,14 @@ inline constexpr int LocaleMonetaryDecimal = 0x16;
 /// The German locale's text for an item: decimal and monetary decimal separator; empty for any other item.
 std::string LocaleText(int item);
 
-/// The expression with occurrences of `find` from the 1-based byte position `start` on replaced, at most `count` of
-/// them. With `compare` not 0 expression and `find` are lower-cased first, so the result is lower case.
+/// The expression with occurrences of `find` from the 1-based character position `start` on replaced, at most `count`
+/// of them. With `compare` not 0 expression and `find` are lower-cased first, so the result is lower case.
 std::string ReplaceText(std::string_view expression, std::string_view find, std::string_view replacement, int start = 1,
     int count = std::numeric_limits<int>::max(), int compare = 0);
 
-/// The last 1-based byte position at or before `start` (default: the text's length) where `find` begins; 0 if none.
+/// The last 1-based character position at or before `start` (default: the text's length) where `find` begins; 0 if
+/// none.
 int FindLast(std::string_view text, std::string_view find, std::optional<int> start = std::nullopt);
-
-/// The text with the letters A to Z in lower case.
-std::string lowerCase(std::string_view text);
 
 /// The text without blanks at its ends.
 constexpr std::string_view trimmed(std::string_view text)

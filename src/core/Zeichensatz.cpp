@@ -124,4 +124,39 @@ void readWindows1252(std::string_view bytes, std::string& text)
     }
 }
 
+std::size_t zeichenzahl(std::string_view utf8)
+{
+    return static_cast<std::size_t>(std::ranges::count_if(utf8, beginntZeichen));
+}
+
+std::size_t zeichenbeginn(std::string_view utf8, std::size_t index)
+{
+    std::size_t byte = 0;
+    while (byte < utf8.size() && (index > 0 || !beginntZeichen(utf8[byte]))) {
+        if (beginntZeichen(utf8[byte++]))
+            --index;
+    }
+    return byte;
+}
+
+std::string lowerCase(std::string_view utf8)
+{
+    std::string result(utf8);
+    for (std::size_t i = 0; i < result.size(); ++i) {
+        const char lead = i == 0 ? '\0' : result[i - 1];
+        char& c = result[i];
+        const auto byte = static_cast<unsigned char>(c);
+        if (c >= 'A' && c <= 'Z') {
+            c = static_cast<char>(c - 'A' + 'a');
+        } else if (lead == '\xC3' && byte >= 0x80 && byte <= 0x9E && byte != 0x97) { // À to Þ without ×
+            c = static_cast<char>(byte + 0x20);
+        } else if (lead == '\xC5' && (byte == 0xA0 || byte == 0x92 || byte == 0xBD)) { // Š, Œ, Ž
+            c = static_cast<char>(byte + 1);
+        } else if (lead == '\xC5' && byte == 0xB8) { // Ÿ
+            result.replace(i - 1, 2, "ÿ");
+        }
+    }
+    return result;
+}
+
 } // namespace zerna

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -25,5 +26,17 @@ std::string fromWindows1252(std::string_view bytes);
 
 /// The same into an existing text.
 void readWindows1252(std::string_view bytes, std::string& text);
+
+/// Whether a byte of a UTF-8 text begins a character.
+constexpr bool beginntZeichen(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80; }
+
+/// Number of characters.
+std::size_t zeichenzahl(std::string_view utf8);
+
+/// The byte at which character `index` (from 0) begins, the end of the text if it has no more than that.
+std::size_t zeichenbeginn(std::string_view utf8, std::size_t index);
+
+/// The text with all letters that Windows-1252 knows in lower case: "ÄŠ" gives "äš".
+std::string lowerCase(std::string_view utf8);
 
 } // namespace zerna

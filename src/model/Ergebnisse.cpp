@@ -34,18 +34,6 @@ float wavelengthOf(const clsCalc& calc) { return wert(ergebniszeile(Wellenlaenge
 /// (n + 5/4)·λ in nm.
 double friedelradius(float wavelength, int n) { return (n + 5.0 / 4.0) * wavelength; }
 
-/// The text without its first characters; UTF-8 characters are not cut.
-std::string_view withoutCharacters(std::string_view text, std::size_t count)
-{
-    std::size_t i = 0;
-    for (; i < text.size() && count > 0; --count) {
-        ++i;
-        while (i < text.size() && (static_cast<unsigned char>(text[i]) & 0xC0U) == 0x80)
-            ++i;
-    }
-    return text.substr(i);
-}
-
 } // namespace
 
 Ergebnistexte keineErgebnisse() { return Ergebnistexte(positionen()); }
@@ -138,7 +126,7 @@ std::string friedeldatei(const clsCalc& calc)
 std::string kopierteZahl(int index, std::string_view text)
 {
     if (index >= Friedelzeile)
-        text = withoutCharacters(text, Friedelvorspann.size());
+        text = text.substr(zeichenbeginn(text, Friedelvorspann.size()));
     return CommaToPoint(text.substr(0, text.find(' ')));
 }
 

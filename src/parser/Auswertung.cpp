@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/CheckedArithmetic.h"
+#include "core/Kuerzung.h"
 #include "core/Zahlentext.h"
 #include "parser/Formelfunktionen.h"
 
@@ -37,16 +38,11 @@ auto located(std::size_t position, Arithmetic&& arithmetic)
 
 bool isOperator(char c) { return c == '+' || c == '-' || c == '*' || c == '/' || c == '^'; }
 
-/// A part of the formula as it may appear in a message.
+/// A part of the formula as it may appear in a message: names whole, nothing absurd.
 std::string quoted(std::string_view text)
 {
-    constexpr std::size_t Longest = 40;
-    if (text.size() <= Longest)
-        return std::string(text);
-    std::size_t end = Longest;
-    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80) // not inside a character
-        --end;
-    return std::string(text.substr(0, end)) + "…";
+    constexpr std::size_t Longest = 200;
+    return gekuerzt(text, Longest);
 }
 
 /// Digits with at most one decimal separator: what can stand before the "e" of an exponent.

@@ -1,7 +1,5 @@
 #include "parser/Formelwert.h"
 
-#include <algorithm>
-
 #include "core/Zahlentext.h"
 #include "parser/Auswertung.h"
 
@@ -35,8 +33,7 @@ std::size_t characterOf(std::string_view formula, std::size_t compact)
         if (written++ == compact)
             place = from;
     });
-    const auto startsCharacter = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80; };
-    return static_cast<std::size_t>(std::ranges::count_if(formula.substr(0, place), startsCharacter)) + 1;
+    return zeichenzahl(formula.substr(0, place)) + 1;
 }
 
 Formelfehler formelfehler(const Abbruch& abbruch, std::string_view formula)

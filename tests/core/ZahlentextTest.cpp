@@ -21,7 +21,30 @@ TEST(Zahlentext, WritesTheShortestTextThatReadsBack)
     for (const auto& [value, text] : doubles)
         EXPECT_EQ(textOfDouble(value), text);
     EXPECT_EQ(textWithDigits(63.300003, 7), "63,3");
-    EXPECT_EQ(fixedText(-0.0004, 3), "0,000");
+}
+
+TEST(Zahlentext, RoundsTiesAwayFromZeroInEveryPattern)
+{
+    const std::tuple<double, int, const char*> fixed[] = {{12.125, 2, "12,13"}, {12.125 - 2e-15, 2, "12,13"},
+        {0.5, 0, "1"}, {2.5, 0, "3"}, {0.0625, 3, "0,063"}, {0.0005, 3, "0,001"}, {0.00049, 3, "0,000"},
+        {9.9995, 3, "10,000"}, {0.95, 1, "1,0"}, {1e20, 1, "100000000000000000000,0"}, {0.285, 2, "0,29"},
+        {1234.5, 2, "1234,50"}, {0, 2, "0,00"}, {1e-300, 2, "0,00"}};
+    for (const auto& [value, decimals, text] : fixed) {
+        const bool isZero = std::string_view(text).find_first_of("123456789") == std::string_view::npos;
+        EXPECT_EQ(fixedText(value, decimals), text);
+        EXPECT_EQ(fixedText(-value, decimals), (isZero ? "" : "-") + std::string(text));
+    }
+    EXPECT_EQ(fixedText(0.285F, 2) + fixedText(-1.005F, 2), "0,29-1,01") << "a single is its shortest text";
+    EXPECT_EQ(textWithDigits(-0.62495, 4) + textWithDigits(999.95F, 4),
+        "-0,625"
+        "1000");
+    EXPECT_EQ(scientificText(-1.125e-5, 2, " ", false) + scientificText(9.995, 2, "", true), "-1,13 E-051E+01");
+    const std::pair<float, const char*> both[] = {
+        {1.03125F, "1,0313"}, {1.00005F, "1"}, {1.00015F, "1,0001"}, {2.71825F, "2,7183"}, {1.5F, "1,5"}};
+    for (const auto& [value, mantissa] : both) {
+        EXPECT_EQ(FormatValue(value, ""), std::string(mantissa) + " ");
+        EXPECT_EQ(FormatValue(-value, ""), "-" + std::string(mantissa) + " E+00 ");
+    }
 }
 
 TEST(Zahlentext, ReadsWhatPeopleType)
@@ -53,7 +76,12 @@ TEST(Zahlentext, ShowsAndReadsFields)
         EXPECT_EQ(ParseValue(text), value) << text;
     EXPECT_EQ(CommaToPoint("1,2,3"), "1.2,3");
     EXPECT_EQ(ReplaceText("aXbx", "x", "xx", 1, 2147483647, 1), "axxbxx");
-    EXPECT_EQ(FindLast("a.b.c", ".", 3) + FindLast("abc", "."), 2);
+    EXPECT_EQ(ReplaceText("ÄÖ ÄÖ", "äö", "é", 2, 1, 1), "äö é");
+    const std::tuple<const char*, const char*, std::optional<int>, int> finds[] = {{"a.b.c", ".", 3, 2},
+        {"abc", ".", {}, 0}, {"Größe², Größe²", "ß", {}, 12}, {"Größe²", "²", 5, 0}, {"Größe²", "²", 99, 6},
+        {"ö", "ö", 0, 0}, {"", "", {}, 0}};
+    for (const auto& [text, find, start, position] : finds)
+        EXPECT_EQ(FindLast(text, find, start), position) << text;
 }
 
 } // namespace zerna

@@ -16,4 +16,10 @@ TEST(Zeichensatz, EveryByteSurvivesAndWhatHasNoPlaceBecomesAQuestionMark)
         EXPECT_EQ(toWindows1252(utf8), bytes) << utf8;
 }
 
+TEST(Zeichensatz, LettersAreFoldedAndCharactersCounted)
+{
+    EXPECT_EQ(lowerCase("AZ[ÀÖ×ÞßÿŠŒŽŸ€Å"), "az[àö×þßÿšœžÿ€å");
+    EXPECT_EQ(zeichenbeginn("äb", 1), 2U);
+}
+
 } // namespace zerna

@@ -169,6 +169,10 @@ TEST_F(clsParserTest, AValueCarriesItsErrorAndAtMostTenMessages)
     EXPECT_EQ(value.wert, 0);
     EXPECT_FALSE(value.hexadezimal);
     EXPECT_EQ(value.fehler->Stelle, 10U); // the first foo, though only the division ends the evaluation
+    const std::string longName = repeated(20, "größe");
+    const auto messageFor = [&](const std::string& name) { return formelwert(name + "(1)", elements).meldungen.at(0); };
+    EXPECT_NE(messageFor(longName).find("'" + longName + "'"), std::string::npos) << "whole";
+    EXPECT_LT(messageFor(repeated(20000, "größe")).size(), 500U) << "not a formula again";
     EXPECT_EQ(value.meldungen, std::vector<std::string>(10, "Fehler in Formel. (Funktion 'foo' nicht definiert?)"));
 
     for (int time = 0; time < 2; ++time) {
