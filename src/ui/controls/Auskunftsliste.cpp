@@ -8,6 +8,7 @@
 
 #include <algorithm>
 
+#include "core/Zahlentext.h"
 #include "ui/platform/QtText.h"
 #include "ui/platform/Zwischenablage.h"
 
@@ -24,6 +25,13 @@ const QString& separator()
 QString captionOf(const QString& line) { return line.section(separator(), 0, 0); }
 
 QString valueOf(const QString& line) { return line.section(separator(), 1).trimmed(); }
+
+/// The number that a value begins with; empty if it does not.
+QString numberOf(const QString& value)
+{
+    const QString first = value.section(QLatin1Char(' '), 0, 0);
+    return zerna::numberIn(fromQt(first)) ? first : QString();
+}
 
 /// Draws caption and value in columns; the captions' column is as wide as the widest of them.
 class SpaltenDelegate : public QStyledItemDelegate {
@@ -97,7 +105,15 @@ void Auskunftsliste::copyValue() const
 void Auskunftsliste::contextMenuEvent(QContextMenuEvent* event)
 {
     QMenu menu(this);
-    menu.addAction(QStringLiteral("Kopieren"), this, &Auskunftsliste::copyValue);
+    const auto offer = [&menu](const QString& caption, const QString& copied) {
+        QAction* const action =
+            menu.addAction(caption + QLatin1Char('\t') + copied, &menu, [copied] { copyToClipboard(copied); });
+        action->setEnabled(!copied.isEmpty());
+    };
+    const QString value = currentItem() != nullptr ? valueOf(currentItem()->text()) : QString();
+    offer(QStringLiteral("&Kopieren"), value);
+    if (const QString number = numberOf(value); !number.isEmpty() && number != value)
+        offer(QStringLiteral("&Zahl kopieren"), number);
     menu.exec(event->globalPos());
 }
 

@@ -7,7 +7,8 @@
 
 namespace zerna {
 
-/// Lines of the form "caption: value" with the values in a column of their own. Ctrl+C and the menu copy the value.
+/// Lines of the form "caption: value" with the values in a column of their own. Ctrl+C copies the value; the
+/// menu does, too, and offers the number alone where there is one with a unit.
 class Auskunftsliste : public QListWidget {
     Q_OBJECT
 
