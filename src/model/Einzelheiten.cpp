@@ -1,9 +1,8 @@
 #include "model/Einzelheiten.h"
 
-#include <algorithm>
 #include <array>
 
-#include "core/CheckedArithmetic.h"
+#include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
 #include "model/Groessen.h"
 
@@ -63,30 +62,27 @@ std::string lehrbuchtext(
 
 Einzelheiten einzelheiten(int zeile, const clsCalc* calc, std::span<const Legierungskomponente> komponenten)
 {
-    const auto groesse = std::ranges::find(ergebniszeilen(), zeile, &Groesse::zeile);
-    const Lehrbucheintrag* const eintrag = findLehrbuch(zeile);
-    if (groesse == ergebniszeilen().end() || eintrag == nullptr)
-        throw Laufzeitfehler(Fehler::IndexAusserhalb);
-    const float value = calc == nullptr ? Unbekannt : wert(*groesse, *calc);
-    Einzelheiten alle{std::string(groesse->bezeichnung()), {}};
-    alle.zeilen.push_back({"Wert", mitEinheit(istUnbekannt(value) ? "" : textOfSingle(value), groesse->einheit)});
-    alle.zeilen.push_back({"Formel", std::string(eintrag->formel)});
-    if (!eintrag->grund.empty()) {
-        alle.zeilen.push_back({"Lehrbuch", lehrbuchtext(*eintrag, calc, komponenten)});
-        alle.zeilen.push_back({"Formel dazu", std::string(eintrag->lehrbuchformel)});
-        alle.zeilen.push_back({"Unterschied", std::string(eintrag->grund)});
+    const Groesse& groesse = ergebniszeile(zeile);
+    const Lehrbucheintrag& eintrag = *findLehrbuch(zeile);
+    const float value = calc == nullptr ? Unbekannt : wert(groesse, *calc);
+    Einzelheiten alle{std::string(groesse.bezeichnung()), {}};
+    alle.zeilen.push_back({"Wert", mitEinheit(istUnbekannt(value) ? "" : textOfSingle(value), groesse.einheit)});
+    alle.zeilen.push_back({"Formel", std::string(eintrag.formel)});
+    if (!eintrag.grund.empty()) {
+        alle.zeilen.push_back({"Lehrbuch", lehrbuchtext(eintrag, calc, komponenten)});
+        alle.zeilen.push_back({"Formel dazu", std::string(eintrag.lehrbuchformel)});
+        alle.zeilen.push_back({"Unterschied", std::string(eintrag.grund)});
     }
-    addKonstanten(alle, *eintrag);
+    addKonstanten(alle, eintrag);
     return alle;
 }
 
 Einzelheiten diagrammeinzelheiten(int zeile, const clsCalc* calc, std::span<const Legierungskomponente> komponenten)
 {
     const Lehrbucheintrag* const eintrag = abweichungImDiagramm(zeile);
-    const auto groesse = std::ranges::find(ergebniszeilen(), zeile, &Groesse::zeile);
-    if (eintrag == nullptr || groesse == ergebniszeilen().end())
+    if (eintrag == nullptr)
         return {};
-    Einzelheiten alle{std::string(groesse->name) + " im Diagramm", {}};
+    Einzelheiten alle{std::string(ergebniszeile(zeile).name) + " im Diagramm", {}};
     alle.zeilen.push_back({"Unterschied", std::string(eintrag->diagrammgrund)});
     alle.zeilen.push_back({"Lehrbuch", lehrbuchtext(*eintrag, calc, komponenten) + " (eingetragene Legierung)"});
     alle.zeilen.push_back({"Formel dazu", std::string(eintrag->lehrbuchformel)});

@@ -4,6 +4,7 @@
 #include <numbers>
 
 #include "core/CheckedArithmetic.h"
+#include "model/Groessen.h"
 #include "model/Konstanten.h"
 
 namespace zerna {
@@ -24,6 +25,12 @@ constexpr Naturkonstante Elektronvolt{"1 eV", ElektronvoltInJoule, "J"};
 /// eV per nm³ is as much pressure.
 constexpr double GigapascalProEvProNm3 = ElektronvoltInJoule / KubiknanometerInKubikmeter * 1e-9;
 
+/// Result lines that the textbook's values are made of.
+constexpr int Dichtezeile = 2;
+constexpr int Volumenzeile = 3;
+constexpr int Fermizeile = 7;
+constexpr int Elektronenzeile = 11;
+
 /// The value itself; error 5 if it is unknown.
 double known(float value)
 {
@@ -32,17 +39,13 @@ double known(float value)
     return value;
 }
 
-/// Fermi energy in eV. Of two unknown bases the calculator makes a number.
-double fermienergie(Rechner calc)
-{
-    known(calc.Elektrondichte());
-    return known(calc.Fermienergie());
-}
+/// A result in its line's unit; error 5 if it is unknown.
+double ergebnis(int zeile, Rechner calc) { return known(wert(ergebniszeile(zeile), calc)); }
 
 /// The mass of the alloy over its volume, both of as many particles.
 float dichteNachMasse(Rechner calc, Komponenten komponenten)
 {
-    known(calc.Dichte());
+    ergebnis(Dichtezeile, calc);
     double masse = 0;
     double volumen = 0;
     for (const Legierungskomponente& k : komponenten) {
@@ -57,7 +60,7 @@ float dichteNachMasse(Rechner calc, Komponenten komponenten)
 
 float atomvolumen(Rechner calc, Komponenten)
 {
-    return toSingle(known(calc.Atomvolumen()) / KubiknanometerInKubikmeter);
+    return toSingle(ergebnis(Volumenzeile, calc) / KubiknanometerInKubikmeter);
 }
 
 /// Thermopower over temperature of free electrons with a relaxation time that does not depend on energy: Ashcroft and
@@ -66,19 +69,19 @@ float thermokraft(Rechner calc, Komponenten)
 {
     constexpr double BoltzmannInElektronvolt = Boltzmann / ElektronvoltInJoule; // per K; over e it is V/K
     return toSingle(-std::numbers::pi * std::numbers::pi / 2 * BoltzmannInElektronvolt * BoltzmannInElektronvolt
-        * quotient(1, fermienergie(calc)));
+        * quotient(1, ergebnis(Fermizeile, calc)));
 }
 
 /// Energy per volume in the ground state: Ashcroft and Mermin, equations 2.28 to 2.31.
 float energiedichte(Rechner calc, Komponenten)
 {
-    return toSingle(3.0 / 5.0 * calc.Elektrondichte() * fermienergie(calc));
+    return toSingle(3.0 / 5.0 * ergebnis(Elektronenzeile, calc) * ergebnis(Fermizeile, calc));
 }
 
 /// Bulk modulus: Ashcroft and Mermin, equation 2.36.
 float kompressionsmodul(Rechner calc, Komponenten)
 {
-    return toSingle(2.0 / 3.0 * calc.Elektrondichte() * fermienergie(calc) * GigapascalProEvProNm3);
+    return toSingle(2.0 / 3.0 * ergebnis(Elektronenzeile, calc) * ergebnis(Fermizeile, calc) * GigapascalProEvProNm3);
 }
 
 /// In the order of the result lines. Formulas: Ashcroft and Mermin, chapters 1 (Hall coefficient, plasma frequency)

@@ -39,7 +39,7 @@ std::string alsText(const Tabelle& tabelle)
 
 std::string alsHtml(const Tabelle& tabelle)
 {
-    std::string html = "<meta charset=\"utf-8\"><table border=\"1\" cellspacing=\"0\" cellpadding=\"3\"><tr>";
+    std::string html = R"(<meta charset="utf-8"><table border="1" cellspacing="0" cellpadding="3"><tr>)";
     for (const Tabelle::Spalte& spalte : tabelle.spalten)
         html += htmlZelle("th", spalte, spalte.name);
     html += "</tr>";

@@ -38,6 +38,22 @@ struct LehrbuchTest : FilesTest {
 
     float lehrbuch(int zeile) const { return lehrbuchwert(*findLehrbuch(zeile), calc, alloy); }
 
+    /// `expected` is in the unit of the textbook's value if the line has one.
+    void expectLine(int zeile, double expected) const
+    {
+        const bool marked = abweichungImErgebnis(zeile) != nullptr;
+        if (marked || abweichungImDiagramm(zeile) != nullptr) {
+            EXPECT_NEAR(lehrbuch(zeile), expected, std::abs(expected) * 1e-5);
+        }
+        const float shown = wert(ergebniszeile(zeile), calc);
+        const double inUnit = zeile == 3 ? expected * 1e-27 : zeile == 18 ? expected * 1e9 : expected;
+        if (!marked) { // the plasmon energy has four safe digits
+            EXPECT_NEAR(shown, inUnit, std::abs(inUnit) * 1e-4);
+        } else if (zeile != 2) { // a pure metal's density is the same by at% and by mass
+            EXPECT_GT(std::abs(shown / inUnit - 1), 0.1);
+        }
+    }
+
     std::vector<std::shared_ptr<clsElement>> metals;
     std::vector<Legierungskomponente> alloy;
     ElementCollection elements;
@@ -83,24 +99,14 @@ std::map<int, double> independently(const std::vector<Legierungskomponente>& all
 TEST_F(LehrbuchTest, FiftyAlloysAgreeWithTheTextbookAndOnlyMarkedLinesDepart)
 {
     std::mt19937 random(1976); // NOLINT: the same alloys each time
-    for (int round = 0; round < 50; ++round) {
+    for (std::size_t round = 0; round < 50; ++round) {
         std::map<std::string, float> shares;
-        while (shares.size() < 1 + static_cast<std::size_t>(round) % MaxKomponenten)
+        while (shares.size() < 1 + round % MaxKomponenten)
             shares[metals.at(random() % metals.size())->symbol()] = static_cast<float>(random() % 1000 + 1) / 10;
         setAlloy(shares);
         for (const auto& [zeile, expected] : independently(alloy)) {
             SCOPED_TRACE(std::to_string(round) + ", line " + std::to_string(zeile));
-            const bool marked = abweichungImErgebnis(zeile) != nullptr;
-            if (marked || abweichungImDiagramm(zeile) != nullptr) {
-                EXPECT_NEAR(lehrbuch(zeile), expected, std::abs(expected) * 1e-5);
-            }
-            const float shown = wert(ergebniszeile(zeile), calc);
-            const double inUnit = zeile == 3 ? expected * 1e-27 : zeile == 18 ? expected * 1e9 : expected;
-            if (!marked) { // the plasmon energy has four safe digits
-                EXPECT_NEAR(shown, inUnit, std::abs(inUnit) * 1e-4);
-            } else if (zeile != 2) { // a pure metal's density is the same by at% and by mass
-                EXPECT_GT(std::abs(shown / inUnit - 1), 0.1);
-            }
+            expectLine(zeile, expected);
         }
     }
 }
@@ -126,6 +132,8 @@ TEST_F(LehrbuchTest, DetailsOfAluminiumCopper)
         EXPECT_EQ(row(alle, "Lehrbuch"), lehrbuch);
         EXPECT_EQ(row(alle, "Unterschied").empty(), *lehrbuch == '\0');
     }
+    for (const Groesse& groesse : ergebniszeilen())
+        EXPECT_FALSE(row(einzelheiten(groesse.zeile, &calc, alloy), "Formel").empty()) << groesse.zeile;
     EXPECT_EQ(row(einzelheiten(5, &calc, alloy), "Konstanten"),
         "k_B = 1,38065·10⁻²³ J/K, e = 1,6021765·10⁻¹⁹ C, ħ = 1,0545716·10⁻³⁴ Js, m = 9,109382·10⁻³¹ kg");
     EXPECT_EQ(row(diagrammeinzelheiten(3, &calc, alloy), "Lehrbuch"), "0,016587 nm³ (eingetragene Legierung)");
@@ -139,6 +147,10 @@ TEST_F(LehrbuchTest, WhatIsMadeOfUnknownsIsUnknown)
     calc.Legierung_Setzen(alloy);
     for (const int zeile : {2, 3, 5, 17, 18})
         EXPECT_EQ(lehrbuch(zeile), Unbekannt) << zeile;
+    setAlloy({{"Al", 60}, {"Cu", 40}});
+    calc.setValenz(Unbekannt);
+    for (const int zeile : {5, 17, 18})
+        EXPECT_EQ(einzelheiten(zeile, &calc, alloy).zeilen.at(2).text, "unbekannt") << zeile;
 }
 
 } // namespace zerna
