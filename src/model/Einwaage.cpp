@@ -10,8 +10,6 @@ namespace zerna {
 
 namespace {
 
-constexpr std::string_view Zeilenende = "\r\n";
-
 bool hasAtommasse(const clsCalc& calc, int i)
 {
     const float masse = calc.Element_Masse(i);
@@ -151,7 +149,7 @@ std::vector<std::string> verlustliste(const clsCalc& calc, std::span<const float
         if (!istUnbekannt(left[k]))
             left[k] = toSingle(static_cast<double>(left[k]) - verlust);
         lines.push_back(prozentzeile(calc, left));
-        if (left[k] < 0 && !istUnbekannt(left[k]))
+        if (left[k] < 0 && !atomprozentHindernis(calc, left))
             lines.push_back("(mehr, als von " + calc.Element_Symbol(static_cast<int>(k)) + " gewogen wurde)");
     }
     return lines;
@@ -171,25 +169,6 @@ std::string massentext(float masse)
     if (masse == 0 || std::abs(masse) >= SmallestForDecimals)
         return fixedText(masse, 3);
     return textWithDigits(masse, Digits);
-}
-
-bool istEineMasseBekannt(std::span<const Einwaagezeile> zeilen)
-{
-    return std::ranges::any_of(zeilen, [](const auto& z) { return !z.sollmasse.empty() || !z.istmasse.empty(); });
-}
-
-std::string wiegeprotokoll(std::string_view datum, std::span<const Einwaagezeile> zeilen)
-{
-    std::string text = "Einwaage vom " + std::string(datum);
-    text.append(Zeilenende);
-    text.append("Element\tSoll [at%]\tSollmasse [mg]\tIstmasse [mg]\tIst [at%]\tMassenprozent [%]").append(Zeilenende);
-    for (const Einwaagezeile& z : zeilen) {
-        text += z.symbol;
-        for (const std::string& cell : {z.prozent, z.sollmasse, z.istmasse, z.istprozent, z.massprozent})
-            text += "\t" + CommaToPoint(cell);
-        text.append(Zeilenende);
-    }
-    return text;
 }
 
 Tabelle wiegetabelle(const clsCalc& calc, int komponentenzahl, float gesamtmasse)

@@ -3,7 +3,6 @@
 #include <optional>
 #include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "model/Tabelle.h"
@@ -56,22 +55,6 @@ float wiegezahl(float masse);
 
 /// A computed mass as text: three decimals, or four significant digits where those would not tell it.
 std::string massentext(float masse);
-
-/// One row of the weighing protocol, all texts as shown.
-struct Einwaagezeile {
-    std::string symbol;
-    std::string prozent; ///< wanted at%
-    std::string sollmasse; ///< mg
-    std::string istmasse; ///< mg
-    std::string istprozent; ///< at%
-    std::string massprozent;
-};
-
-/// Whether there is a mass in the rows, wanted or weighed.
-bool istEineMasseBekannt(std::span<const Einwaagezeile> zeilen);
-
-/// The weighing protocol: tab-separated lines with decimal points, CR LF, units in the header.
-std::string wiegeprotokoll(std::string_view datum, std::span<const Einwaagezeile> zeilen);
 
 /// Per component symbol, at%, target mass in mg and mass percent, for other programs.
 Tabelle wiegetabelle(const clsCalc& calc, int komponentenzahl, float gesamtmasse);

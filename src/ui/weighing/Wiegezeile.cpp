@@ -8,6 +8,7 @@
 
 #include "core/Zahlentext.h"
 #include "model/Einwaage.h"
+#include "model/Wiegeprotokoll.h"
 #include "ui/platform/Farben.h"
 #include "ui/platform/QtText.h"
 #include "ui/weighing/Festlabel.h"
@@ -207,9 +208,9 @@ void Wiegezeile::clearGewogen()
 
 Einwaagezeile Wiegezeile::einwaage(std::string symbol, std::string prozent) const
 {
-    const QLabel* const share = m_massProzent->text().isEmpty() ? m_sollMassProzent : m_massProzent;
-    return {std::move(symbol), std::move(prozent), fromQt(m_sollmasse->text()), fromQt(m_istmasse->text()),
-        fromQt(m_istProzent->text()), fromQt(share->text())};
+    return {std::move(symbol), std::move(prozent), fromQt(m_sollmasse->text()), fromQt(m_sollMassProzent->text()),
+        fromQt(m_istmasse->text()), fromQt(m_istProzent->text()), fromQt(m_abweichung->text()),
+        fromQt(m_massProzent->text())};
 }
 
 } // namespace zerna

@@ -13,15 +13,13 @@
 #include "core/Fehlermeldung.h"
 #include "core/Zahlentext.h"
 #include "model/Einwaage.h"
-#include "programm/Exportieren.h"
-#include "ui/button/StyledButton.h"
-#include "ui/controls/Knopfzeile.h"
+#include "model/Wiegeprotokoll.h"
 #include "ui/platform/QtText.h"
-#include "ui/platform/Zwischenablage.h"
 #include "ui/weighing/Festlabel.h"
 #include "ui/weighing/Massenablage.h"
 #include "ui/weighing/Massenfeld.h"
 #include "ui/weighing/Verlustbereich.h"
+#include "ui/weighing/Wiegeausgabe.h"
 #include "ui/weighing/Wiegezeile.h"
 
 namespace zerna {
@@ -49,18 +47,18 @@ QString satz(const clsCalc& calc, const Wiegehindernis& hindernis)
 conWiegen::conWiegen(Programm& programm, SaveFileDialog& saveDialog, QWidget* parent)
     : QWidget(parent)
     , m_programm(programm)
-    , m_saveDialog(saveDialog)
 {
-    createControls();
+    createControls(saveDialog);
     layOut();
 }
 
-void conWiegen::createControls()
+void conWiegen::createControls(SaveFileDialog& saveDialog)
 {
     createTarget();
     createRows();
     createAuskunft();
-    createButtons();
+    m_ausgabe = new Wiegeausgabe(
+        m_programm.boxes(), saveDialog, [this] { return protokoll(); }, this);
 }
 
 void conWiegen::createTarget()
@@ -101,18 +99,6 @@ void conWiegen::createAuskunft()
     connect(m_verlust, &Verlustbereich::verlustEntered, this, &conWiegen::zeigeVerlust);
 }
 
-void conWiegen::createButtons()
-{
-    m_kopieren = new StyledButton(QStringLiteral("&Kopieren"), this);
-    m_kopieren->setObjectName(QStringLiteral("cmdWiegen_Kopieren"));
-    m_kopieren->setToolTipText(QStringLiteral("Wiegeprotokoll in die Zwischenablage"));
-    m_speichern = new StyledButton(QStringLiteral("&Speichern"), this);
-    m_speichern->setObjectName(QStringLiteral("cmdWiegen_Speichern"));
-    m_speichern->setToolTipText(QStringLiteral("Wiegeprotokoll als Textdatei speichern"));
-    connect(m_kopieren, &StyledButton::clicked, this, [this] { copyToClipboard(toQt(protokoll())); });
-    connect(m_speichern, &StyledButton::clicked, this, &conWiegen::save);
-}
-
 void conWiegen::layOut()
 {
     auto* total = new QHBoxLayout;
@@ -127,7 +113,7 @@ void conWiegen::layOut()
     column->addWidget(m_hinweis);
     column->addWidget(m_ablage);
     column->addWidget(m_verlust, 1);
-    column->addLayout(knopfzeile({m_kopieren, m_speichern}));
+    column->addWidget(m_ausgabe);
 }
 
 QGridLayout* conWiegen::table()
@@ -375,26 +361,23 @@ void conWiegen::putBack()
 
 void conWiegen::zeigeVerlust() { m_verlust->zeige(m_programm.Calc(), massen()); }
 
-std::vector<Einwaagezeile> conWiegen::einwaagen() const
+Wiegeprotokoll conWiegen::protokoll() const
 {
+    Wiegeprotokoll protokoll;
+    protokoll.datum = fromQt(QDate::currentDate().toString(QStringLiteral("d.M.yyyy")));
     const clsCalc& calc = m_programm.Calc();
-    std::vector<Einwaagezeile> zeilen;
     for (int row = 0; row < m_anzahl; ++row)
-        zeilen.push_back(at(row).einwaage(calc.Element_Symbol(row), textOfSingle(calc.Element_Prozente(row))));
-    return zeilen;
-}
-
-std::string conWiegen::protokoll() const
-{
-    return wiegeprotokoll(fromQt(QDate::currentDate().toString(QStringLiteral("d.M.yyyy"))), einwaagen());
-}
-
-void conWiegen::save()
-{
-    if (!istEineMasseBekannt(einwaagen()))
-        return zeigeNichtsZuSpeichern(m_programm.boxes(), "Es gibt weder Sollmassen noch gewogene Massen.");
-    const Exportart art = textdatei("Wiegeprotokoll (*.dat)", "*.dat", ".dat", [this] { return protokoll(); });
-    exportieren(m_programm.boxes(), m_saveDialog, Exporttitel, std::span(&art, 1));
+        protokoll.zeilen.push_back(
+            at(row).einwaage(calc.Element_Symbol(row), textOfSingle(calc.Element_Prozente(row))));
+    if (isAnythingWeighed() && !m_gesamt->text().isEmpty())
+        protokoll.gewogen = textWithDigits(gesamtmasse(massen()), 7); // all that a single holds
+    if (!m_bezug)
+        protokoll.gewuenscht = fromQt(m_txtSollMasse->text());
+    else
+        protokoll.bezug = "Sollmassen bezogen auf " + textOfSingle(m_bezug->masse) + " mg "
+            + calc.Element_Symbol(m_bezug->komponente);
+    protokoll.verlust = m_verlust->zeilen();
+    return protokoll;
 }
 
 } // namespace zerna

@@ -16,12 +16,12 @@ class QLabel;
 
 namespace zerna {
 
-struct Einwaagezeile;
 class Massenablage;
 class Massenfeld;
-class StyledButton;
 class Verlustbereich;
+class Wiegeausgabe;
 class Wiegezeile;
+struct Wiegeprotokoll;
 
 /// The weighing calculator: target masses for a wanted total, what the masses weighed come to, and what a loss of mass
 /// would change. Follows the calculator's composition; all masses in milligrams.
@@ -36,11 +36,10 @@ public:
     void Aktualisieren(const Eingabe& eingabe);
 
 private:
-    void createControls();
+    void createControls(SaveFileDialog& saveDialog);
     void createTarget();
     void createRows();
     void createAuskunft();
-    void createButtons();
     void layOut();
     QGridLayout* table();
 
@@ -64,14 +63,11 @@ private:
     std::vector<float> massen() const;
     bool isAnythingWeighed() const;
     bool isEverythingWeighed() const;
-    std::vector<Einwaagezeile> einwaagen() const;
-    std::string protokoll() const;
-    void save();
+    Wiegeprotokoll protokoll() const;
 
     Wiegezeile& at(int row) const { return *m_zeilen.at(static_cast<std::size_t>(row)); }
 
     Programm& m_programm;
-    SaveFileDialog& m_saveDialog;
     int m_anzahl = 0; // components of the alloy that is weighed
     std::vector<float> m_sollmassen; // mg, one per component; none if they cannot be computed
     std::optional<Laufzeitfehler> m_sollFehler; // why not
@@ -85,8 +81,7 @@ private:
     QLabel* m_hinweis = nullptr;
     Massenablage* m_ablage = nullptr;
     Verlustbereich* m_verlust = nullptr;
-    StyledButton* m_kopieren = nullptr;
-    StyledButton* m_speichern = nullptr;
+    Wiegeausgabe* m_ausgabe = nullptr;
 };
 
 } // namespace zerna

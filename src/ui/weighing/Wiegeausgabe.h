@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QWidget>
+
+#include <functional>
+
+#include "model/Wiegeprotokoll.h"
+#include "programm/ExportFileDialog.h"
+
+namespace zerna {
+
+class StyledButton;
+
+/// The buttons that print, copy and save the weighing protocol.
+class Wiegeausgabe : public QWidget {
+    Q_OBJECT
+
+public:
+    /// `protokoll` is asked for the protocol when a button is pressed.
+    Wiegeausgabe(MessageBoxes& boxes, SaveFileDialog& saveDialog, std::function<Wiegeprotokoll()> protokoll,
+        QWidget* parent = nullptr);
+
+private:
+    StyledButton* makeButton(const QString& caption, const char* name, const QString& hint);
+    void print();
+    void copy();
+    void save();
+
+    MessageBoxes& m_boxes;
+    SaveFileDialog& m_saveDialog;
+    std::function<Wiegeprotokoll()> m_protokoll;
+};
+
+} // namespace zerna
