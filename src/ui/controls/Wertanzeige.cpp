@@ -15,10 +15,11 @@ Wertanzeige::Wertanzeige(QWidget* parent)
     setTextFormat(Qt::PlainText);
 }
 
-void Wertanzeige::setEinheit(const QString& einheit, int numberWidth)
+void Wertanzeige::setEinheit(const QString& einheit, int numberWidth, int margin)
 {
     m_einheit = einheit;
     m_numberWidth = numberWidth;
+    m_margin = margin;
     updateGeometry();
     update();
 }
@@ -35,8 +36,8 @@ QSize Wertanzeige::sizeHint() const
 {
     if (m_numberWidth == 0)
         return QLabel::sizeHint();
-    return {m_numberWidth + fontMetrics().horizontalAdvance(QLatin1Char(' ') + m_einheit + m_marke) + 1,
-        fontMetrics().height()};
+    const int unit = fontMetrics().horizontalAdvance(m_einheit + m_marke) + 1;
+    return {m_numberWidth + 2 * m_margin + Einheitenabstand + unit, fontMetrics().height()};
 }
 
 bool Wertanzeige::event(QEvent* event)
@@ -88,11 +89,11 @@ void Wertanzeige::paintEvent(QPaintEvent*)
     const QRect area = contentsRect();
     if (columns) {
         const QString number = text().chopped(m_einheit.size()).trimmed();
-        const int gap = fontMetrics().horizontalAdvance(QLatin1Char(' '));
         const int width = qMax(m_numberWidth, fontMetrics().horizontalAdvance(number));
-        const QRect numberArea(area.left(), area.top(), width, area.height());
+        const QRect numberArea(area.left() + m_margin, area.top(), width, area.height());
         painter.drawText(numberArea, Qt::AlignRight | Qt::AlignVCenter, number);
-        painter.drawText(area.adjusted(width + gap, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, m_einheit + m_marke);
+        painter.drawText(area.adjusted(width + 2 * m_margin + Einheitenabstand, 0, 0, 0),
+            Qt::AlignLeft | Qt::AlignVCenter, m_einheit + m_marke);
     } else {
         painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, text());
     }

@@ -4,6 +4,8 @@
 
 namespace zerna {
 
+inline constexpr int Einheitenabstand = 4; ///< between a number's column, or a field, and its unit
+
 /// One result value: number and unit stand in columns, so that the units of all lines are aligned. Takes the keyboard
 /// focus; Ctrl+C copies what it shows, the right mouse button or the menu key asks for its menu, a click, Enter or the
 /// space bar for the details of its value.
@@ -13,8 +15,9 @@ class Wertanzeige : public QLabel {
 public:
     explicit Wertanzeige(QWidget* parent = nullptr);
 
-    /// The unit that texts end in, and the width of the number column in front of it (0: text as one piece).
-    void setEinheit(const QString& einheit, int numberWidth);
+    /// The unit that texts end in, and the width of the number column in front of it (0: text as one piece), which has
+    /// a margin on both sides so that numbers and units stand below those of fields.
+    void setEinheit(const QString& einheit, int numberWidth, int margin = 0);
     const QString& einheit() const { return m_einheit; }
 
     /// A mark behind the value says that more is to be said of it; `bedeutung` is for screen readers, empty: no mark.
@@ -41,6 +44,7 @@ private:
     QString m_einheit;
     int m_numberWidth = 0; // logical pixels
     QString m_marke; // behind the unit; empty if there is none
+    int m_margin = 0;
 };
 
 } // namespace zerna

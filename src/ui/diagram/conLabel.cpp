@@ -1,5 +1,6 @@
 #include "ui/diagram/conLabel.h"
 
+#include <QEvent>
 #include <QPainter>
 
 #include "core/Zahlentext.h"
@@ -7,6 +8,13 @@
 #include "ui/platform/QtText.h"
 
 namespace zerna {
+
+namespace {
+
+constexpr int CaptionColumn = 5;
+constexpr int ValueRow = 12;
+
+} // namespace
 
 int steppedValue(int value, int button)
 {
@@ -18,6 +26,7 @@ int steppedValue(int value, int button)
 conLabel::conLabel(QWidget* parent)
     : QWidget(parent)
 {
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     const std::array<QString, 2> captions{QStringLiteral("▼"), QStringLiteral("▲")};
     for (int i = 0; i < 2; ++i) {
         const auto k = static_cast<std::size_t>(i);
@@ -64,16 +73,35 @@ void conLabel::step(int button)
 
 void conLabel::resizeEvent(QResizeEvent*)
 {
-    constexpr int ButtonWidth = 22;
     const int half = height() / 2;
-    m_buttons[1]->setGeometry(width() - ButtonWidth, 0, ButtonWidth, half - 1);
-    m_buttons[0]->setGeometry(width() - ButtonWidth, half, ButtonWidth, half - 1);
+    m_buttons[1]->setGeometry(width() - buttonWidth(), 0, buttonWidth(), half - 1);
+    m_buttons[0]->setGeometry(width() - buttonWidth(), half, buttonWidth(), half - 1);
+}
+
+void conLabel::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        updateGeometry();
+}
+
+int conLabel::buttonWidth() const { return fontMetrics().height() + 7; }
+
+QSize conLabel::minimumSizeHint() const
+{
+    constexpr int Gap = 3;
+    const int texts = fontMetrics().horizontalAdvance(QStringLiteral("Am100"));
+    return {CaptionColumn + texts + Gap + buttonWidth(), qMax(34, ValueRow + fontMetrics().height() + 4)};
+}
+
+QSize conLabel::sizeHint() const
+{
+    const QSize least = minimumSizeHint();
+    return {least.width() * 5 / 4, least.height()};
 }
 
 void conLabel::paintEvent(QPaintEvent*)
 {
-    constexpr int CaptionColumn = 5;
-    constexpr int ValueRow = 12;
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::WindowText));
     const int ascent = fontMetrics().ascent();

@@ -29,18 +29,21 @@ public:
     /// The buttons from above.
     std::array<QWidget*, 2> buttons() const;
 
-    QSize sizeHint() const override { return {96, 34}; }
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 signals:
     /// A button has stepped the value.
     void Change();
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     void step(int button);
+    int buttonWidth() const;
 
     int m_value = 50;
     QString m_label;

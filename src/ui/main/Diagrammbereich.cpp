@@ -16,6 +16,7 @@
 #include "ui/diagram/conLabel.h"
 #include "ui/main/Lehrbuchmarke.h"
 #include "ui/platform/QtText.h"
+#include "ui/platform/Schriftfolge.h"
 #include "ui/platform/Tabreihenfolge.h"
 
 namespace zerna {
@@ -87,7 +88,7 @@ void Diagrammbereich::createSteps()
         m_cmdSteps.at(k)->setObjectName(numberedName("cmdSteps", i));
         m_cmdSteps.at(k)->setAccessibleName(hints.at(k));
         m_cmdSteps.at(k)->setToolTipText(hints.at(k));
-        m_cmdSteps.at(k)->setFixedSize(28, 26);
+        setZeichenknopf(m_cmdSteps.at(k));
         m_cmdSteps.at(k)->hide();
         connect(m_cmdSteps.at(k), &StyledButton::clicked, this, [this, i] { stepResolution(i == 0 ? -1 : 1); });
     }
@@ -101,16 +102,14 @@ void Diagrammbereich::createLabels()
     for (int row = 0; row < MaxKomponenten; ++row) {
         auto* label = new conLabel(this);
         label->setObjectName(numberedName("conLabel", row));
-        label->setFixedHeight(34);
-        label->setMinimumWidth(70);
-        label->setMaximumWidth(96);
         label->hide();
         connect(label, &conLabel::Change, this, [this, row, label] { emit prozentStepped(row, label->Value()); });
         m_conLabel.at(static_cast<std::size_t>(row)) = label;
     }
 }
 
-/// The rows above and below the area take 150 pixels together, so that the area keeps its fixed offset from the window.
+/// At the usual font the rows above and below the area take 150 pixels together, so that the area keeps its fixed
+/// offset from the window; a larger one makes them higher.
 void Diagrammbereich::layOut()
 {
     constexpr int Top = 78;
@@ -118,7 +117,7 @@ void Diagrammbereich::layOut()
     auto* lists = new QHBoxLayout;
     lists->setSpacing(6);
     for (QComboBox* const list : {m_cmbDiagrammTyp, m_cmbDiagramm, m_cmbDiagrammElement}) {
-        list->setFixedHeight(26);
+        folgeSchrift(list, [list] { list->setFixedHeight(feldhoehe(*list)); });
         lists->addWidget(list);
     }
     lists->setStretch(1, 1);
@@ -136,9 +135,12 @@ void Diagrammbereich::layOut()
 
     const auto boxed = [this](int height, QLayout* upper, QLayout* lower, int bottomMargin) {
         auto* box = new QWidget(this);
-        box->setFixedHeight(height);
-        auto* column = new QVBoxLayout(box);
-        column->setContentsMargins(0, 4, 0, bottomMargin);
+        box->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+        auto* frame = new QHBoxLayout(box);
+        frame->setContentsMargins(0, 4, 0, bottomMargin);
+        frame->addStrut(height - 4 - bottomMargin);
+        auto* column = new QVBoxLayout;
+        frame->addLayout(column);
         column->setSpacing(6);
         column->addLayout(upper);
         column->addStretch(); // rows stay where they are when one is empty

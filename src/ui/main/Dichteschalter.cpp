@@ -4,7 +4,9 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
+#include "ui/controls/Masse.h"
 #include "ui/platform/QtText.h"
+#include "ui/platform/Schriftfolge.h"
 
 namespace zerna {
 
@@ -20,6 +22,7 @@ Dichteschalter::Dichteschalter(QWidget* parent)
     for (const std::string_view wahl : dichtearten())
         m_cmbDichteart->addItem(toQt(wahl));
     m_cmbDichteart->setCurrentIndex(-1);
+    folgeSchrift(m_cmbDichteart, [this] { m_cmbDichteart->setFixedHeight(feldhoehe(*m_cmbDichteart)); });
     caption->setBuddy(m_cmbDichteart);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);

@@ -92,8 +92,8 @@ void Ergebnisbereich::layOut()
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(8);
-    column->addWidget(m_gitter);
-    column->addStretch();
+    column->addWidget(m_gitter, 1);
+    column->addStretch(0);
     QHBoxLayout* const buttons = knopfzeile({m_cmdKopieren, m_cmdSpeichern});
     buttons->insertWidget(buttons->count() - 1, m_tabellenknopf);
     column->addLayout(buttons);
@@ -103,13 +103,6 @@ void Ergebnisbereich::layOut()
         order.push_back(button);
     order.push_back(m_cmdSpeichern);
     setTabReihenfolge(order);
-}
-
-void Ergebnisbereich::resizeEvent(QResizeEvent* event)
-{
-    constexpr int Buttons = 40;
-    QWidget::resizeEvent(event);
-    m_gitter->teileHoehe(height() - Buttons);
 }
 
 void Ergebnisbereich::zeige(const Eingabe& eingabe)

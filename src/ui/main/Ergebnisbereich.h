@@ -33,9 +33,6 @@ public:
     /// the alloy's rows. Lines without a value are empty.
     void zeige(const Eingabe& eingabe);
 
-protected:
-    void resizeEvent(QResizeEvent* event) override;
-
 private:
     /// Where the values come from.
     enum class Eingabemodus { Zusammensetzung = 0, ValenzOderDichte = 1, Kf2 = 2 };

@@ -1,6 +1,5 @@
 #include "ui/main/Ergebnisgitter.h"
 
-#include <QEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -9,9 +8,12 @@
 
 #include "model/Lehrbuch.h"
 #include "ui/button/StyledButton.h"
+#include "ui/controls/Knopfzeile.h"
+#include "ui/controls/Masse.h"
 #include "ui/controls/Wertanzeige.h"
 #include "ui/controls/Wertfeld.h"
 #include "ui/platform/QtText.h"
+#include "ui/platform/Schriftfolge.h"
 
 namespace zerna {
 
@@ -78,7 +80,6 @@ void Ergebnisgitter::createField(const Groesse& zeile)
     edit->setAccessibleName(toQt(zeile.bezeichnung()));
     edit->setHinweis(QStringLiteral("Wert eintippen, um das Modell ohne Zusammensetzung zu erkunden"));
     edit->setAlignment(Qt::AlignRight);
-    edit->setFixedHeight(24);
     connect(edit, &Wertfeld::textChanged, this, [this, feld] { emit fieldEdited(feld); });
     m_felder.at(feld) = edit;
     m_feldOfZeile.at(static_cast<std::size_t>(zeile.zeile)) = edit;
@@ -105,7 +106,7 @@ void Ergebnisgitter::layOut()
 {
     m_grid = new QGridLayout(this);
     m_grid->setContentsMargins(0, 0, 0, 0);
-    m_grid->setHorizontalSpacing(6);
+    m_grid->setHorizontalSpacing(4);
     m_grid->setVerticalSpacing(2);
     std::array<int, 2> rows{0, 0};
     for (const Groesse& zeile : ergebniszeilen()) {
@@ -115,9 +116,8 @@ void Ergebnisgitter::layOut()
         layOutLine(zeile, rows.at(right ? 1 : 0)++, right ? RightColumn : 0);
     }
     layOutFriedel(rows[1] + 1, RightColumn);
-    measure();
     m_grid->setColumnStretch(1, 1);
-    m_grid->setColumnMinimumWidth(2, 4);
+    folgeSchrift(this, [this] { measure(); });
 }
 
 void Ergebnisgitter::layOutLine(const Groesse& zeile, int row, int column)
@@ -130,7 +130,7 @@ void Ergebnisgitter::layOutLine(const Groesse& zeile, int row, int column)
         return;
     }
     auto* pair = new QHBoxLayout;
-    pair->setSpacing(4);
+    pair->setSpacing(Einheitenabstand);
     m_beschriftungen.at(k)->setBuddy(edit);
     pair->addWidget(edit);
     pair->addWidget(m_anzeigen.at(k), 1);
@@ -142,7 +142,7 @@ void Ergebnisgitter::layOutFriedel(int row, int column)
     auto* box = new QHBoxLayout;
     box->setSpacing(4);
     for (StyledButton* const button : {m_cmdKnopf2[1], m_cmdKnopf2[0]}) {
-        button->setFixedSize(28, 24);
+        setZeichenknopf(button);
         box->addWidget(button);
     }
     box->addWidget(m_label7);
@@ -166,33 +166,28 @@ std::vector<QWidget*> Ergebnisgitter::tabOrder()
     return order;
 }
 
-/// Widths that follow from the font: all numbers end, and all units begin, in the same columns.
+/// Sizes that follow from the font. In a column all numbers end at one place, typed ones too, and all units begin at
+/// one; the lines share the height evenly, within reason.
 void Ergebnisgitter::measure()
 {
-    constexpr int FieldFrame = 10;
+    constexpr int MostBetweenLines = 17;
     const int numberWidth = fontMetrics().horizontalAdvance(QStringLiteral("-3,4561 E-11"));
+    const int rand = feldrand(*m_felder.front());
     for (const Groesse& zeile : ergebniszeilen()) {
         const bool aligned = !zeile.tippbar && zeile.zeile != Friedelzeile;
-        anzeige(zeile.zeile).setEinheit(toQt(zeile.einheit), aligned ? numberWidth : 0);
+        const bool besideFields = !isOnTheRight(zeile);
+        anzeige(zeile.zeile)
+            .setEinheit(toQt(zeile.einheit), aligned ? numberWidth : 0, aligned && besideFields ? rand : 0);
     }
     for (Wertfeld* const edit : m_felder)
-        edit->setFixedWidth(numberWidth + FieldFrame);
+        edit->setFixedSize(numberWidth + 2 * rand, feldhoehe(*edit) - 2);
+    for (int row = 0; row < m_grid->rowCount(); ++row) {
+        m_grid->setRowMinimumHeight(row, feldhoehe(*this) - 2);
+        m_grid->setRowStretch(row, 1);
+    }
+    m_grid->setColumnMinimumWidth(RightColumn - 1, fontMetrics().height() / 3);
+    setMaximumHeight(m_grid->rowCount() * (fontMetrics().height() + MostBetweenLines));
     m_label7->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral(" n = 21 ")));
-}
-
-void Ergebnisgitter::changeEvent(QEvent* event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::FontChange && m_grid != nullptr)
-        measure();
-}
-
-void Ergebnisgitter::teileHoehe(int height)
-{
-    const int rows = m_grid->rowCount();
-    const int share = std::clamp(height / rows, 25, 32) - m_grid->verticalSpacing();
-    for (int row = 0; row < rows; ++row)
-        m_grid->setRowMinimumHeight(row, share);
 }
 
 void Ergebnisgitter::zeige(const Ergebnistexte& texte)

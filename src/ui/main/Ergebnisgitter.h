@@ -38,9 +38,6 @@ public:
     /// Value and unit of a line as one text; of a line with a field the field's text and the unit.
     QString wertUndEinheitIn(int zeile);
 
-    /// The lines share a height in pixels, within reason.
-    void teileHoehe(int height);
-
     /// All that takes the keyboard focus: down the left column, down the right one; a field comes before its unit.
     std::vector<QWidget*> tabOrder();
 
@@ -52,9 +49,6 @@ signals:
     /// The details of a line are wanted; the line's value stands in `area`, in screen coordinates.
     void detailsRequested(int zeile, const QRect& area);
     void hintRequested(int zeile, const QPoint& globalPosition);
-
-protected:
-    void changeEvent(QEvent* event) override;
 
 private:
     void createLine(const Groesse& zeile);

@@ -10,6 +10,7 @@
 #include "core/Zahlentext.h"
 #include "parser/Formelwert.h"
 #include "ui/button/StyledButton.h"
+#include "ui/controls/Knopfzeile.h"
 #include "ui/main/Dichteschalter.h"
 #include "ui/main/Kompositionszeile.h"
 #include "ui/platform/QtText.h"
@@ -89,12 +90,11 @@ void Kompositionsbereich::layOut()
 {
     auto* top = new QHBoxLayout;
     top->setSpacing(6);
-    m_lblAnzahl->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("00")));
     m_lblAnzahl->setAlignment(Qt::AlignCenter);
     top->addWidget(m_label1);
     top->addWidget(m_lblAnzahl);
     for (StyledButton* const button : m_cmdKom) {
-        button->setFixedSize(30, 26);
+        setZeichenknopf(button);
         top->addWidget(button);
     }
     top->addStretch();
@@ -102,7 +102,7 @@ void Kompositionsbereich::layOut()
 
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(6);
-    grid->setVerticalSpacing(0); // the toolkit drops the spacing of hidden rows
+    grid->setVerticalSpacing(4); // the toolkit drops the spacing of hidden rows, so what is below moves up
     grid->addWidget(m_heads[0], 0, 0, 1, 2);
     grid->addWidget(m_heads[1], 0, 2);
     grid->addWidget(m_heads[2], 0, 3, 1, 2);

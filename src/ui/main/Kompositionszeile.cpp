@@ -5,15 +5,14 @@
 #include <QLabel>
 
 #include "model/Herkunft.h"
+#include "ui/controls/Masse.h"
 #include "ui/controls/Wertfeld.h"
 #include "ui/platform/QtText.h"
+#include "ui/platform/Schriftfolge.h"
 
 namespace zerna {
 
 namespace {
-
-constexpr int Zeilenhoehe = 26;
-constexpr int Zeilenabstand = 4;
 
 template <class Widget>
 Widget* make(QWidget* panel, const char* name, int row, const QString& accessibleName)
@@ -72,17 +71,27 @@ void Kompositionszeile::connectControls()
 
 void Kompositionszeile::layOut(QGridLayout& grid, int gridRow)
 {
-    constexpr std::array<int, 7> Breiten{62, 0, 66, 98, 76, 106, 90};
     const auto controls = widgets();
-    for (std::size_t column = 0; column < controls.size(); ++column) {
-        if (Breiten.at(column) > 0)
-            controls.at(column)->setFixedWidth(Breiten.at(column));
-        controls.at(column)->setFixedHeight(Zeilenhoehe);
+    for (std::size_t column = 0; column < controls.size(); ++column)
         grid.addWidget(controls.at(column), gridRow, static_cast<int>(column));
-    }
     // A long name must not push the columns; it is cut and the tool tip has it whole.
     m_lblElement->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    grid.setRowMinimumHeight(gridRow, Zeilenhoehe + Zeilenabstand);
+    for (QWidget* const widget : widgets())
+        folgeSchrift(widget, [this] { measure(); });
+}
+
+/// Widths that leave room for the longest entries and for usual numbers; a longer text scrolls in its field.
+void Kompositionszeile::measure()
+{
+    for (QWidget* const widget : widgets())
+        widget->setFixedHeight(feldhoehe(*widget));
+    m_cmbElement->setFixedWidth(listenbreite(*m_cmbElement, QStringLiteral("Mm")));
+    m_lblElement->setMinimumWidth(m_lblElement->fontMetrics().horizontalAdvance(QStringLiteral("Rutherfordium")));
+    m_txtProzent->setFixedWidth(feldbreite(*m_txtProzent, QStringLiteral("33,33333")));
+    m_cmdDichte->setFixedWidth(listenbreite(*m_cmdDichte, QStringLiteral("<andere>")));
+    m_txtDichte->setFixedWidth(feldbreite(*m_txtDichte, QStringLiteral("22,587000")));
+    m_cmbValenz->setFixedWidth(listenbreite(*m_cmbValenz, QStringLiteral("d-Elektronen")));
+    m_txtValenz->setFixedWidth(feldbreite(*m_txtValenz, QStringLiteral("<unbekannt>")));
 }
 
 void Kompositionszeile::addElement(std::string_view symbol, int itemData)

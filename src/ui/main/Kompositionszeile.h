@@ -51,6 +51,7 @@ signals:
 private:
     std::array<QWidget*, 7> widgets() const;
     void connectControls();
+    void measure();
     void fillChoices(const std::shared_ptr<clsElement>& element);
     void showHerkunft(const Eingabe::Zeile& zeile);
 

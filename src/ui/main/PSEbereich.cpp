@@ -64,6 +64,9 @@ void PSEbereich::layOut()
     m_picInfo->setElement(m_programm.SelectedElement());
 }
 
+/// The size from which on cells and lines can be read.
+QSize PSEbereich::minimumSizeHint() const { return {fontMetrics().height() * 56, fontMetrics().height() * 34}; }
+
 void PSEbereich::resizeEvent(QResizeEvent*) { layOut(); }
 
 void PSEbereich::select(const std::shared_ptr<clsElement>& element)

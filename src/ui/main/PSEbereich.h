@@ -22,6 +22,8 @@ public:
     /// Places table and information side by side and shows the selected element.
     void layOut();
 
+    QSize minimumSizeHint() const override;
+
 signals:
     /// The element is to become component `row` of the alloy.
     void componentChosen(int row, const QString& symbol);

@@ -4,9 +4,11 @@
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
+#include <QScrollArea>
+#include <QStackedWidget>
 #include <QVBoxLayout>
 
-#include "ui/button/StyledButton.h"
+#include "ui/controls/Knopfzeile.h"
 #include "ui/controls/Radsperre.h"
 #include "ui/main/Diagrammbereich.h"
 #include "ui/main/Ergebnisbereich.h"
@@ -22,8 +24,10 @@ namespace {
 
 constexpr int PanelLeft = 4;
 constexpr int PanelTop = 40; // height of the strip with the panel switches
-constexpr int LeftColumn = 628; // the diagram area begins behind it and takes the width less 640
-constexpr int DiagramMargin = 640;
+
+/// The diagram area begins behind the left column and takes the width less 640. Both, and the height of the strip, are
+/// the sizes at the usual font: where a larger one needs more, strip and column grow and the diagram area gives way.
+constexpr int LeftColumn = 628;
 
 StyledButton* makeSwitch(QWidget* parent, const QString& caption, const QString& name)
 {
@@ -34,23 +38,15 @@ StyledButton* makeSwitch(QWidget* parent, const QString& caption, const QString&
     return button;
 }
 
-/// Gives a panel the largest font, not above its own, at which its contents fit into a width.
-void fitFont(QWidget& panel, int width)
+/// A panel fills its place as long as that is large enough, else it scrolls.
+QScrollArea* scrolling(QWidget* panel)
 {
-    constexpr double Smallest = 7; // points
-    const auto neededWidth = [&panel] {
-        for (const QWidget* const child : panel.findChildren<QWidget*>()) {
-            if (child->layout() != nullptr)
-                child->layout()->activate(); // sizes are wanted now, not after the next events
-        }
-        panel.layout()->activate();
-        return panel.layout()->minimumSize().width();
-    };
-    QFont font = panel.font();
-    while (font.pointSizeF() > Smallest && neededWidth() > width) {
-        font.setPointSizeF(font.pointSizeF() - 0.5);
-        panel.setFont(font);
-    }
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidgetResizable(true);
+    area->setWidget(panel);
+    return area;
 }
 
 /// Shows which of two switches is on.
@@ -70,10 +66,10 @@ frmMain::frmMain(Programm& programm, Dialoge dialoge)
     setWindowIcon(QIcon(QStringLiteral(":/zerna.svg")));
     createControls();
     createCalculatorPanel(dialoge);
+    layOut();
     connectPanels();
     new Radsperre(*this);
     load();
-    fitFont(*m_left, LeftColumn);
     resize(1280, 800);
 }
 
@@ -94,9 +90,12 @@ void frmMain::createControls()
     m_cmdAbout = new StyledButton(QStringLiteral("&Info"), this);
     m_cmdAbout->setObjectName(QStringLiteral("cmdAbout"));
     m_cmdAbout->setToolTipText(QStringLiteral("Über dieses Programm"));
-    m_pic1 = new QWidget(this);
+    setKnopfgroesse(m_optButton1[0], 120);
+    setKnopfgroesse(m_optButton1[1], 150);
+    setKnopfgroesse(m_cmdAbout, 90);
+    m_pic1 = new QWidget;
     m_pic1->setObjectName(QStringLiteral("Pic_1_0"));
-    m_pse = new PSEbereich(m_programm, this);
+    m_pse = new PSEbereich(m_programm);
     m_pse->setObjectName(QStringLiteral("Pic_1_1"));
 }
 
@@ -106,27 +105,63 @@ void frmMain::createCalculatorPanel(Dialoge dialoge)
     m_komposition = new Kompositionsbereich(m_programm, m_left);
     m_cmdKnopf1[0] = makeSwitch(m_left, QStringLiteral("&Ergebnisse"), QStringLiteral("cmdKnopf1_0"));
     m_cmdKnopf1[1] = makeSwitch(m_left, QStringLiteral("Ein&waage"), QStringLiteral("cmdKnopf1_1"));
-    m_ergebnisse = new Ergebnisbereich(m_programm, dialoge.save, m_left);
-    m_conWiegen1 = new conWiegen(m_programm, dialoge.save, m_left);
+    m_ergebnisse = new Ergebnisbereich(m_programm, dialoge.save);
+    m_conWiegen1 = new conWiegen(m_programm, dialoge.save);
     m_conWiegen1->setObjectName(QStringLiteral("conWiegen1"));
+    m_lowerArea = new QStackedWidget(m_left); // as wide as the wider area, so that nothing moves with a switch
+    m_lowerArea->addWidget(m_ergebnisse);
+    m_lowerArea->addWidget(m_conWiegen1);
     m_diagramm = new Diagrammbereich(m_programm, dialoge, m_pic1);
+    layOutCalculator();
+}
 
+void frmMain::layOutCalculator()
+{
     auto* switches = new QHBoxLayout;
     switches->setSpacing(4);
     for (StyledButton* const button : m_cmdKnopf1) {
-        button->setMinimumWidth(120);
-        button->setFixedHeight(28);
+        setKnopfgroesse(button, 120);
         switches->addWidget(button);
     }
     switches->addStretch();
     auto* column = new QVBoxLayout(m_left);
     column->setContentsMargins(4, 4, 4, 8);
     column->setSpacing(8);
+    column->addStrut(LeftColumn - 8);
     column->addWidget(m_komposition);
     column->addSpacing(4);
     column->addLayout(switches);
-    column->addWidget(m_ergebnisse, 1);
-    column->addWidget(m_conWiegen1, 1);
+    column->addWidget(m_lowerArea, 1);
+
+    m_left->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    auto* columns = new QHBoxLayout(m_pic1);
+    columns->setContentsMargins(0, 0, 4, 0);
+    columns->setSpacing(4);
+    columns->addWidget(m_left);
+    columns->addWidget(m_diagramm, 1);
+}
+
+/// The strip above, the panels below it at (4, 40), as large as the window less these margins.
+void frmMain::layOut()
+{
+    auto* strip = new QWidget(this);
+    auto* row = new QHBoxLayout(strip);
+    row->setContentsMargins(8, 6, 8, 6);
+    row->setSpacing(4);
+    row->addWidget(m_optButton1[0]);
+    row->addWidget(m_optButton1[1]);
+    row->addStretch();
+    row->addWidget(m_cmdAbout);
+    row->addStrut(PanelTop - 12);
+    m_panels = new QStackedWidget(this);
+    m_panels->addWidget(scrolling(m_pic1));
+    m_panels->addWidget(scrolling(m_pse));
+    m_panels->setContentsMargins(PanelLeft, 0, 0, 0);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(strip);
+    column->addWidget(m_panels, 1);
 }
 
 void frmMain::connectPanels()
@@ -192,7 +227,7 @@ void frmMain::sperren(std::string_view grund)
     reason->setWordWrap(true);
     reason->setAlignment(Qt::AlignCenter);
     reason->setContentsMargins(40, 0, 40, 0);
-    (new QVBoxLayout(m_pic1))->addWidget(reason);
+    m_pic1->layout()->addWidget(reason);
 }
 
 void frmMain::show() { QWidget::show(); }
@@ -203,36 +238,10 @@ void frmMain::closeEvent(QCloseEvent* event)
     QWidget::closeEvent(event);
 }
 
-void frmMain::resizeEvent(QResizeEvent* event)
-{
-    QWidget::resizeEvent(event);
-    layOutPanels();
-}
-
-/// Places the strip and both panels; a control that would get no area keeps its old place.
-void frmMain::layOutPanels()
-{
-    const auto place = [](QWidget* widget, const QRect& area) {
-        if (area.width() > 0 && area.height() > 0)
-            widget->setGeometry(area);
-    };
-    constexpr int ButtonTop = 6;
-    constexpr int ButtonHeight = 28;
-    place(m_optButton1[0], {8, ButtonTop, 120, ButtonHeight});
-    place(m_optButton1[1], {132, ButtonTop, 150, ButtonHeight});
-    place(m_cmdAbout, {width() - 98, ButtonTop, 90, ButtonHeight});
-    const QRect panel(PanelLeft, PanelTop, width() - PanelLeft, height() - PanelTop);
-    place(m_pic1, panel);
-    place(m_pse, panel);
-    place(m_left, {0, 0, LeftColumn, panel.height()});
-    place(m_diagramm, {LeftColumn + 4, 0, width() - DiagramMargin, panel.height()});
-}
-
 void frmMain::showPanel(int panel)
 {
     checkOnly(m_optButton1, panel);
-    m_pic1->setVisible(panel == 0);
-    m_pse->setVisible(panel == 1);
+    m_panels->setCurrentIndex(panel);
     if (panel == 1)
         m_pse->layOut();
 }
@@ -240,8 +249,7 @@ void frmMain::showPanel(int panel)
 void frmMain::showLowerArea(int area)
 {
     checkOnly(m_cmdKnopf1, area);
-    m_ergebnisse->setVisible(area == 0);
-    m_conWiegen1->setVisible(area == 1);
+    m_lowerArea->setCurrentIndex(area);
 }
 
 } // namespace zerna

@@ -7,6 +7,8 @@
 #include "programm/Programm.h"
 #include "ui/platform/Dialoge.h"
 
+class QStackedWidget;
+
 namespace zerna {
 
 class Diagrammbereich;
@@ -39,14 +41,14 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void load();
     void createControls();
     void createCalculatorPanel(Dialoge dialoge);
     void connectPanels();
-    void layOutPanels();
+    void layOut();
+    void layOutCalculator();
     void uebernehmen(const Aenderung& aenderung);
     void showPanel(int panel);
     void showLowerArea(int area);
@@ -56,6 +58,8 @@ private:
     StyledButton* m_cmdAbout = nullptr;
     QWidget* m_pic1 = nullptr; // the calculator panel
     QWidget* m_left = nullptr; // its left column
+    QStackedWidget* m_lowerArea = nullptr; // of the left column: results or weighing
+    QStackedWidget* m_panels = nullptr;
     PSEbereich* m_pse = nullptr; // the second panel
     Kompositionsbereich* m_komposition = nullptr;
     std::array<StyledButton*, 2> m_cmdKnopf1{};

@@ -98,30 +98,6 @@ TEST_F(frmMainTest, NoMnemonicComesTwice)
     });
 }
 
-TEST_F(frmMainTest, NothingIsCutOffInASmallWindow)
-{
-    forEachView([this] {
-        window->resize(1024, 700);
-        QCoreApplication::processEvents();
-        for (const QWidget* const widget : visible<QWidget>()) {
-            const auto* const label = qobject_cast<const QLabel*>(widget);
-            const auto* const button = qobject_cast<const QAbstractButton*>(widget);
-            // Long names of elements are cut on purpose.
-            if ((label == nullptr && button == nullptr) || widget->objectName().startsWith("lblElement"))
-                continue;
-            const int needed = label != nullptr
-                ? label->minimumSizeHint().width()
-                : button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width();
-            EXPECT_GE(widget->width(), needed) << named(*widget);
-            EXPECT_TRUE(window->rect().contains(area(*widget))) << named(*widget);
-        }
-        for (const QSize size : {QSize(200, 100), QSize(1, 1), QSize(1280, 800)}) {
-            window->resize(size);
-            window->grab();
-        }
-    });
-}
-
 TEST_F(frmMainTest, TheWheelScrollsOpenListsAndChoosesInNone)
 {
     const auto turn = [](QWidget& widget) {

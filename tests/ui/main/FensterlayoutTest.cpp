@@ -1,0 +1,92 @@
+#include <QAbstractButton>
+
+#include "support/FakeDesk.h"
+#include "ui/controls/Masse.h"
+
+namespace zerna {
+
+/// The window at the sizes of texts and screens that people use.
+struct FensterlayoutTest : FakeDesk {
+    FensterlayoutTest() { settings["Komponenten"] = "4"; }
+    ~FensterlayoutTest() override { QApplication::setFont(usual); }
+
+    static int neededWidth(const QWidget& widget)
+    {
+        if (const auto* const list = qobject_cast<const QComboBox*>(&widget))
+            return listenbreite(*list, list->currentText());
+        if (const auto* const field = qobject_cast<const QLineEdit*>(&widget))
+            return feldbreite(*field, field->text());
+        if (const auto* const button = qobject_cast<const QAbstractButton*>(&widget))
+            return button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width();
+        const auto* const label = qobject_cast<const QLabel*>(&widget);
+        return label != nullptr && !label->wordWrap() ? label->minimumSizeHint().width() : 0;
+    }
+
+    void checkWidget(const QWidget& widget) const
+    {
+        SCOPED_TRACE((widget.parentWidget()->objectName() + '/' + widget.objectName()).toStdString());
+        EXPECT_GE(widget.width(), neededWidth(widget));
+        if (qobject_cast<const QLabel*>(&widget) != nullptr || qobject_cast<const QLineEdit*>(&widget) != nullptr) {
+            EXPECT_GE(widget.height(), widget.fontMetrics().height());
+            EXPECT_EQ(widget.font().pointSizeF(), QApplication::font().pointSizeF());
+        }
+        EXPECT_TRUE(widget.parentWidget()->rect().contains(widget.geometry()));
+        for (const QObject* const other : widget.parentWidget()->children()) {
+            const auto* const sibling = qobject_cast<const QWidget*>(other);
+            if (sibling == nullptr || sibling == &widget || !sibling->isVisible() || sibling->isWindow())
+                continue;
+            // The choice of colours stands in the corner that the periodic table leaves free.
+            const bool isTable =
+                widget.objectName() == QLatin1String("picPSE") || sibling->objectName() == QLatin1String("picPSE");
+            EXPECT_FALSE(!isTable && sibling->geometry().intersects(widget.geometry()))
+                << "overlaps " << other->objectName().toStdString();
+        }
+    }
+
+    void checkAll() const
+    {
+        for (const QWidget* const widget : window->findChildren<QWidget*>()) {
+            const bool scrolls = widget->parentWidget()->objectName() == QLatin1String("qt_scrollarea_viewport");
+            if (widget->isVisible() && !widget->isWindow() && !scrolls)
+                checkWidget(*widget);
+        }
+    }
+
+    const QFont usual = QApplication::font();
+};
+
+TEST_F(FensterlayoutTest, NothingIsCutOffOrOverlaps)
+{
+    for (const int points : {9, 12, 16}) {
+        QFont font = usual;
+        font.setPointSize(points);
+        QApplication::setFont(font);
+        open();
+        for (const QSize size : {QSize(1, 1), QSize(700, 500), QSize(1024, 700), QSize(1280, 800), QSize(2560, 1600)}) {
+            window->resize(size);
+            for (const char* const view : {"cmdKnopf1_0", "cmdKnopf1_1", "optButton_1_1", "optButton_1_0"}) {
+                SCOPED_TRACE(testing::Message() << points << " pt, " << size.width() << " px, " << view);
+                click(view);
+                QCoreApplication::processEvents();
+                checkAll();
+            }
+        }
+    }
+}
+
+TEST_F(FensterlayoutTest, DiagramKeepsItsOffsetsAndFewComponentsLeaveNoGap)
+{
+    open();
+    for (const QSize size : {QSize(1024, 700), QSize(1280, 800)}) {
+        window->resize(size);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(find("Pic_1_0").mapTo(window.get(), QPoint()), QPoint(4, 40));
+        EXPECT_EQ(find("Pic_1_0").size(), size - QSize(4, 40));
+        EXPECT_EQ(find("picDiagramm").size(), size - QSize(640, 190));
+    }
+    const int below = find("cmdKnopf1_0").y();
+    click("cmdKom_1");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return find("cmdKnopf1_0").y() < below - find("txtProzent_0").height(); }));
+}
+
+} // namespace zerna
