@@ -53,7 +53,7 @@ void Komponenten::define(CLI::App& befehl)
 {
     befehl
         .add_option("komponenten", texte,
-            "SYMBOL=ATPROZENT[:dichte=ZAHL|amorph|fluessig|kristallin][:valenz=TEXT], eine bis fünf")
+            "SYMBOL=ATPROZENT[:dichte=ZAHL|amorph|fluessig|kristallin][:valenz=s|p|d|f|TEXT], eine bis fünf")
         ->required()
         ->option_text("KOMPONENTE ...");
 }

@@ -13,6 +13,13 @@ constexpr std::array<std::string_view, MaxKomponenten> AnfangsProzente{"50", "50
 /// The field of a value that was chosen, not typed.
 Eingabefeld wertfeld(float wert) { return {feldtext(wert), wert}; }
 
+/// A number as the program writes it, however it was typed; a formula and an unreadable text as they are.
+std::string einheitlich(const Eingabefeld& feld)
+{
+    const bool isNumber = !feld.fehler && feld.echo.empty() && !feld.text.empty();
+    return isNumber ? feldtext(feld.wert) : feld.text;
+}
+
 std::string dichtehindernis(const std::string& name, const Eingabefeld& dichte)
 {
     if (dichte.text.empty() || dichte.istUnbekannterWert())
@@ -241,8 +248,8 @@ std::vector<Komponentenzeile> Eingabe::komponentenzeilen() const
     for (int i = 0; i < m_anzahl; ++i) {
         const Zeile& row = zeile(i);
         if (row.element)
-            zeilen.push_back({row.element->symbol(), row.prozent.text, row.dichtewahl, row.dichte.text,
-                std::string(valenzwahltext(row)), row.valenz.text});
+            zeilen.push_back({row.element->symbol(), einheitlich(row.prozent), row.dichtewahl, einheitlich(row.dichte),
+                std::string(valenzwahltext(row)), einheitlich(row.valenz)});
     }
     return zeilen;
 }

@@ -116,7 +116,8 @@ public:
     /// What keeps a diagram over compositions from being computed; no value if nothing does.
     std::optional<Hindernis> hindernis() const;
 
-    /// The rows in use as the results text names them; those without an element are left out.
+    /// The rows in use as the results text names them, numbers with a comma and no needless digits however they were
+    /// typed; those without an element are left out.
     std::vector<Komponentenzeile> komponentenzeilen() const;
 
     /// Gives the elements of all rows the density and the valence text that are in force for them.

@@ -4,7 +4,7 @@
 
 namespace zerna {
 
-/// A component as the results text names it, all texts as shown.
+/// A component as the results text names it, all texts as written.
 struct Komponentenzeile {
     std::string symbol;
     std::string prozent;

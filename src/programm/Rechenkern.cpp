@@ -1,6 +1,7 @@
 #include "programm/Rechenkern.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "core/Elementdatei.h"
 #include "core/Kuerzung.h"
@@ -15,6 +16,13 @@ namespace {
 
 /// The density choice that an argument's word means: umlauts are hard to type on some command lines.
 std::string_view dichtewahl(std::string_view word) { return word == "fluessig" ? "flüssig" : word; }
+
+/// The valence choice that one of the letters s, p, d, f means.
+std::optional<int> orbitalcode(std::string_view text)
+{
+    const std::size_t code = text.size() == 1 ? std::string_view("spdf").find(text) : std::string_view::npos;
+    return code == std::string_view::npos ? std::nullopt : std::optional(static_cast<int>(code));
+}
 
 bool isNumber(std::string_view text)
 {
@@ -46,7 +54,7 @@ Komponentenangabe komponentenangabe(std::string_view text)
         const std::string_view part = nextPart();
         const std::size_t equals = part.find('=');
         if (equals == std::string_view::npos || equals == 0)
-            fail("erwartet wird SYMBOL=ATPROZENT[:dichte=ZAHL|amorph|fluessig|kristallin][:valenz=TEXT]");
+            fail("erwartet wird SYMBOL=ATPROZENT[:dichte=ZAHL|amorph|fluessig|kristallin][:valenz=s|p|d|f|TEXT]");
         const std::string_view key = part.substr(0, equals);
         const std::string value(part.substr(equals + 1));
         if (first) {
@@ -162,7 +170,13 @@ void Rechenkern::enterDichte(int zeile, const Komponentenangabe& angabe)
 
 void Rechenkern::enterValenz(int zeile, const Komponentenangabe& angabe)
 {
-    if (!angabe.valenz.empty()) {
+    if (const std::optional<int> orbital = orbitalcode(angabe.valenz)) {
+        const auto choices = valenzauswahl(*m_eingabe.zeile(zeile).element);
+        if (std::ranges::find(choices, *orbital, &Valenzeintrag::code) == choices.end())
+            throw Datenfehler("Komponente " + zitiert(angabe.text) + ": keine " + std::string(OrbitalLabel(*orbital))
+                + " außerhalb des Edelgasrumpfs");
+        m_eingabe.waehleValenz(zeile, *orbital);
+    } else if (!angabe.valenz.empty()) {
         m_eingabe.waehleValenz(zeile, ValenzAndere);
         m_eingabe.setValenz(zeile, angabe.valenz);
     }

@@ -19,7 +19,7 @@ struct Komponentenangabe {
     std::string symbol;
     std::string prozent; ///< a number, as written
     std::string dichte; ///< a number, "amorph", "fluessig" or "kristallin"; empty: the first known of these
-    std::string valenz; ///< a formula; empty: the element's valence
+    std::string valenz; ///< "s", "p", "d", "f" or a formula; empty: the element's valence
 };
 
 /// An argument that is not written as it must be; what() says in German what is wrong and names it.

@@ -197,6 +197,30 @@ TEST_F(EingabeTest, RowsOfOneElementShareItsValues)
     EXPECT_EQ(zahlen(), "50 2,5 2,5|50 7,997 1|") << "each has its own again";
 }
 
+TEST_F(EingabeTest, TheTextNamesNumbersAlikeHoweverTheyWereTyped)
+{
+    struct Row {
+        const char* prozent;
+        const char* dichte;
+        const char* valenz;
+        Komponentenzeile zeile;
+    };
+    const Row rows[] = {
+        {"60.50", "2.70", "2.5", {"Al", "60,5", "<andere>", "2,7", "<andere>", "2,5"}},
+        {"6,05e1", "&HA", "3.0", {"Al", "60,5", "<andere>", "10", "<andere>", "3"}},
+        {"60,5", "x", "1.5*2", {"Al", "60,5", "<andere>", "x", "<andere>", "1.5*2"}},
+        {"60,5", "2,7", "", {"Al", "60,5", "<andere>", "2,7", "<andere>", ""}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.prozent);
+        eingabe.setProzent(0, row.prozent);
+        dichte(0, row.dichte)(eingabe);
+        valenz(0, row.valenz)(eingabe);
+        EXPECT_EQ(eingabe.komponentenzeilen().at(0), row.zeile);
+    }
+    EXPECT_EQ(eingabe.komponentenzeilen().at(1).prozent, "39,5");
+}
+
 TEST_F(EingabeTest, OneDensityKindForAllRowsThatHaveIt)
 {
     eingabe.setAnzahl(4);
