@@ -49,12 +49,15 @@ Wertskala::Wertskala(std::span<const float> werte)
     }
 }
 
-/// Whether the middle half of the values takes a fair share of the scale. Few values tell nothing, ranks always do.
+/// Whether the middle half of the values takes a fair share of the scale. A few different values, such as valences, can
+/// be told apart on any scale.
 bool Wertskala::isSpread() const
 {
-    constexpr std::size_t Few = 8;
+    constexpr std::size_t Few = 8; // different values
     constexpr double FairShare = 0.16;
-    if (m_sortiert.size() < Few || m_art == Skalenart::Rang || kleinster() == groesster())
+    std::vector<float> different;
+    std::ranges::unique_copy(m_sortiert, std::back_inserter(different));
+    if (different.size() <= Few || m_art == Skalenart::Rang)
         return true;
     const std::size_t quarter = m_sortiert.size() / 4;
     return position(m_sortiert[3 * quarter]) - position(m_sortiert[quarter]) >= FairShare;

@@ -1,5 +1,6 @@
 #include "model/PSEReihe.h"
 
+#include <algorithm>
 #include <array>
 
 #include "core/CheckedArithmetic.h"
@@ -61,6 +62,15 @@ PSEReihe pseReihe(const ElementCollection& elements, const clsCalc& calc, int gr
         reihe.y[i] = valueOf(*eigenschaft, scratch, *element);
         ++i;
     }
+    return reihe;
+}
+
+PSEReihe tafelreihe(const ElementCollection& elements, const clsCalc& calc, int groesse)
+{
+    constexpr int Valenz = 0;
+    PSEReihe reihe = pseReihe(elements, calc, groesse);
+    if (groesse == Valenz)
+        std::ranges::transform(elements, reihe.y.begin(), [](const auto& element) { return element->Valenz(); });
     return reihe;
 }
 

@@ -32,6 +32,10 @@ bool reinesElementSetzen(clsCalc& calc, const clsElement& element);
 PSEReihe pseReihe(
     const ElementCollection& elements, const clsCalc& calc, int groesse, std::string_view bisherigerTitel = {});
 
+/// The same, to be looked up beside the elements' data: the valence is always the tabulated one, which the series has
+/// only for elements whose liquid density is known.
+PSEReihe tafelreihe(const ElementCollection& elements, const clsCalc& calc, int groesse);
+
 /// The content of a property file: header, then a line per element that has the value, CR LF.
 std::string psedatei(const PSEReihe& reihe);
 

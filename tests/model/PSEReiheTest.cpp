@@ -79,4 +79,11 @@ TEST_F(PSEReiheTest, FileLeavesElementsWithoutAValueOut)
     EXPECT_FLOAT_EQ(calc.Teilchenzahldichte(), 50) << "the calculator keeps the alloy";
 }
 
+TEST_F(PSEReiheTest, TheTableShowsEachValence)
+{
+    EXPECT_TRUE(istUnbekannt(pseReihe(elements, calc, 0).y.at(1))) << "B has no liquid density";
+    EXPECT_EQ(tafelreihe(elements, calc, 0).y, std::vector({2.F, 2.F}));
+    EXPECT_EQ(tafelreihe(elements, calc, 8).y, pseReihe(elements, calc, 8).y);
+}
+
 } // namespace zerna

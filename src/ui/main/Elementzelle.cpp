@@ -91,7 +91,7 @@ void paintZelle(QPainter& painter, const QRectF& area, const Elementzelle& zelle
     double marked = 0; // of the upper edge
     if (!zelle.komponenten.empty()) {
         const QFont font = withPixelSize(stil.font, schriftgroessen(cell.width(), cell.height()).klein);
-        marked = paintKomponenten(painter, cell.topRight(), toQt(zelle.komponenten), text, font);
+        marked = 2 + paintKomponenten(painter, cell.topRight() + QPointF(-2, 2), toQt(zelle.komponenten), text, font);
     }
     if (zeichen)
         paintEckzeichen(painter, cell.translated(-marked, 0), *zeichen, zeichenfarbe(ground, text));

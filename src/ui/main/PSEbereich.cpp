@@ -82,7 +82,7 @@ void PSEbereich::colour()
     try {
         m_picPSE->setFaerbung(groesse == NachGruppe
                 ? Tafelfaerbung()
-                : Tafelfaerbung(pseReihe(m_programm.ElementCollection(), m_programm.Calc(), groesse)));
+                : Tafelfaerbung(tafelreihe(m_programm.ElementCollection(), m_programm.Calc(), groesse)));
     } catch (const Laufzeitfehler&) {
         m_picPSE->setFaerbung({}); // without a calculator by group
     }

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "core/Unbekannt.h"
-#include "model/Werttext.h"
+#include "ui/main/Zelltexte.h"
 
 namespace zerna {
 
@@ -55,7 +55,7 @@ std::optional<float> Tafelfaerbung::wert(std::size_t index) const
 std::string Tafelfaerbung::beschreibung(const clsElement& element, std::size_t index) const
 {
     if (!nachGruppe())
-        return m_titel + ": " + (istUnbekannt(m_werte.at(index)) ? "unbekannt" : werttext(m_werte.at(index)));
+        return m_titel + ": " + (istUnbekannt(m_werte.at(index)) ? "unbekannt" : tafelzahl(m_werte.at(index)));
     const auto* const gruppe = findGruppe(element);
     return gruppe == nullptr ? std::string() : std::string(gruppe->name);
 }

@@ -1,11 +1,19 @@
 #include "ui/main/Zelltexte.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
+#include "model/Werttext.h"
 
 namespace zerna {
+
+namespace {
+
+constexpr int MostDigits = 5;
+
+} // namespace
 
 Schriftgroessen schriftgroessen(double width, double height)
 {
@@ -29,19 +37,26 @@ bool namenPassen(const ElementCollection& elements, double cellWidth, const Text
 
 std::string dritteZeile(const clsElement& element, bool name)
 {
-    constexpr int MassDigits = 5;
     if (name)
         return element.Name();
-    return istUnbekannt(element.Masse()) ? std::string() : textWithDigits(element.Masse(), MassDigits);
+    return istUnbekannt(element.Masse()) ? std::string() : textWithDigits(element.Masse(), MostDigits);
+}
+
+std::string tafelzahl(float wert)
+{
+    constexpr float Smallest = 1e-3F;
+    constexpr float Largest = 1e6F;
+    const float size = std::abs(wert);
+    const bool isPlain = size >= Smallest && size < Largest;
+    return isPlain ? textWithDigits(wert, MostDigits) : werttext(wert);
 }
 
 std::string zellwert(float wert, double cellWidth, const Textbreite& breite)
 {
-    constexpr int Most = 5;
     constexpr int Least = 2;
     if (istUnbekannt(wert))
         return "?";
-    for (int digits = Most; digits >= Least; --digits) {
+    for (int digits = MostDigits; digits >= Least; --digits) {
         if (std::string text = textWithDigits(wert, digits); passt(breite(text), cellWidth))
             return text;
     }

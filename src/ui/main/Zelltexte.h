@@ -25,6 +25,9 @@ bool namenPassen(const ElementCollection& elements, double cellWidth, const Text
 /// What stands below the symbol: the name or the mass; empty for an unknown mass.
 std::string dritteZeile(const clsElement& element, bool name);
 
+/// A value beside the table: five digits, as in the cells; powers of ten as in the results.
+std::string tafelzahl(float wert);
+
 /// A value with as many digits, five at most and two at least, as fit into a cell; "?" for an unknown one and nothing
 /// where not even two fit.
 std::string zellwert(float wert, double cellWidth, const Textbreite& breite);

@@ -26,6 +26,8 @@ TEST_F(ZelltexteTest, BelowTheSymbolStandAllNamesOrMasses)
     EXPECT_EQ(zellwert(118.714F, 30, fiveEach), "118,7");
     EXPECT_EQ(zellwert(-8.3514e21F, 44, fiveEach), "-8,4E+21");
     EXPECT_EQ(zellwert(-8.3514e21F, 43, fiveEach), "");
+    EXPECT_EQ(tafelzahl(-8.62747F), "-8,6275") << "the same digits as in the cell";
+    EXPECT_EQ(tafelzahl(8.3509e21F), "8,3509 E+21");
     EXPECT_EQ(zellwert(Unbekannt, 43, fiveEach), "?");
 }
 
