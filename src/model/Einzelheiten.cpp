@@ -63,17 +63,19 @@ std::string lehrbuchtext(
 Einzelheiten einzelheiten(int zeile, const clsCalc* calc, std::span<const Legierungskomponente> komponenten)
 {
     const Groesse& groesse = ergebniszeile(zeile);
-    const Lehrbucheintrag& eintrag = *findLehrbuch(zeile);
     const float value = calc == nullptr ? Unbekannt : wert(groesse, *calc);
     Einzelheiten alle{std::string(groesse.bezeichnung()), {}};
     alle.zeilen.push_back({"Wert", mitEinheit(istUnbekannt(value) ? "" : textOfSingle(value), groesse.einheit)});
-    alle.zeilen.push_back({"Formel", std::string(eintrag.formel)});
-    if (!eintrag.grund.empty()) {
-        alle.zeilen.push_back({"Lehrbuch", lehrbuchtext(eintrag, calc, komponenten)});
-        alle.zeilen.push_back({"Formel dazu", std::string(eintrag.lehrbuchformel)});
-        alle.zeilen.push_back({"Unterschied", std::string(eintrag.grund)});
+    const Lehrbucheintrag* const eintrag = findLehrbuch(zeile);
+    if (eintrag == nullptr)
+        return alle;
+    alle.zeilen.push_back({"Formel", std::string(eintrag->formel)});
+    if (!eintrag->grund.empty()) {
+        alle.zeilen.push_back({"Lehrbuch", lehrbuchtext(*eintrag, calc, komponenten)});
+        alle.zeilen.push_back({"Formel dazu", std::string(eintrag->lehrbuchformel)});
+        alle.zeilen.push_back({"Unterschied", std::string(eintrag->grund)});
     }
-    addKonstanten(alle, eintrag);
+    addKonstanten(alle, *eintrag);
     return alle;
 }
 
@@ -84,7 +86,7 @@ Einzelheiten diagrammeinzelheiten(int zeile, const clsCalc* calc, std::span<cons
         return {};
     Einzelheiten alle{std::string(ergebniszeile(zeile).name) + " im Diagramm", {}};
     alle.zeilen.push_back({"Unterschied", std::string(eintrag->diagrammgrund)});
-    alle.zeilen.push_back({"Lehrbuch", lehrbuchtext(*eintrag, calc, komponenten) + " (eingetragene Legierung)"});
+    alle.zeilen.push_back({"Lehrbuch", lehrbuchtext(*eintrag, calc, komponenten) + " (Legierung der Ergebnisse)"});
     alle.zeilen.push_back({"Formel dazu", std::string(eintrag->lehrbuchformel)});
     addKonstanten(alle, *eintrag);
     return alle;

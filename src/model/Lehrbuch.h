@@ -32,7 +32,7 @@ struct Lehrbucheintrag {
     std::string_view diagrammgrund = {}; ///< the same of the numbers in diagrams
 };
 
-/// The entry of a result line; null for a line that does not exist.
+/// The entry of a result line; null for a line that has none.
 const Lehrbucheintrag* findLehrbuch(int zeile);
 
 /// The entry of a result line whose result departs from the textbook; null if it does not.

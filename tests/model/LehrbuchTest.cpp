@@ -128,11 +128,11 @@ TEST_F(LehrbuchTest, DetailsOfAluminiumCopper)
         EXPECT_EQ(row(alle, "Wert") + '|' + row(alle, "Lehrbuch"), texts);
         EXPECT_EQ(row(alle, "Unterschied").empty(), row(alle, "Lehrbuch").empty()) << zeile;
     }
-    for (const Groesse& groesse : ergebniszeilen())
-        EXPECT_FALSE(row(einzelheiten(groesse.zeile, &calc, alloy), "Formel").empty()) << groesse.zeile;
+    for (const auto& [zeile, value] : independently(alloy))
+        EXPECT_FALSE(row(einzelheiten(zeile, &calc, alloy), "Formel").empty()) << zeile;
     EXPECT_EQ(row(einzelheiten(5, &calc, alloy), "Konstanten"),
         "k_B = 1,38065·10⁻²³ J/K, e = 1,6021765·10⁻¹⁹ C, ħ = 1,0545716·10⁻³⁴ Js, m = 9,109382·10⁻³¹ kg");
-    EXPECT_EQ(row(diagrammeinzelheiten(3, &calc, alloy), "Lehrbuch"), "0,016587 nm³ (eingetragene Legierung)");
+    EXPECT_EQ(row(diagrammeinzelheiten(3, &calc, alloy), "Lehrbuch"), "0,016587 nm³ (Legierung der Ergebnisse)");
     EXPECT_TRUE(diagrammeinzelheiten(7, &calc, alloy).zeilen.empty());
 }
 
