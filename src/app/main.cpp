@@ -1,12 +1,13 @@
-#include <QApplication>
 #include <QLocale>
 #include <QTranslator>
 
+#include <exception>
 #include <memory>
 
 #include "core/Plattform.h"
 #include "programm/Programm.h"
 #include "ui/main/frmMain.h"
+#include "ui/platform/Anwendung.h"
 #include "ui/platform/QtInputBox.h"
 #include "ui/platform/QtMessageBoxes.h"
 #include "ui/platform/QtSaveFileDialog.h"
@@ -15,15 +16,15 @@
 int main(int argc, char** argv)
 {
     zerna::surviveFileSizeLimit();
+    zerna::QtMessageBoxes boxes;
     // The platform's own dialogs would speak the platform's language; the toolkit's speak German like the program.
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    const QApplication application(argc, argv);
+    const zerna::Anwendung application(argc, argv, boxes);
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     QTranslator german;
     if (german.load(QStringLiteral(":/qtbase_de.qm")))
         QCoreApplication::installTranslator(&german);
 
-    zerna::QtMessageBoxes boxes;
     zerna::QtSettingsStore settings;
     zerna::QtSaveFileDialog saveDialog;
     zerna::QtInputBox inputBox;
@@ -33,5 +34,10 @@ int main(int argc, char** argv)
         window = std::make_unique<zerna::frmMain>(programm, zerna::Dialoge{saveDialog, inputBox});
         return *window;
     };
-    return programm.start(createWindow) ? QApplication::exec() : 1;
+    try {
+        return programm.start(createWindow) ? QApplication::exec() : 1;
+    } catch (const std::exception& error) { // of the start: later ones the application shows
+        zerna::showUnexpected(boxes, error, "Das Programm wird beendet.");
+        return 1;
+    }
 }
