@@ -139,6 +139,8 @@ void Kompositionszeile::showHerkunft(const Eingabe::Zeile& zeile)
     m_valenzwahl = zeile.valenzwahl;
     m_txtDichte->setHinweis(toQt(dichteherkunft(*zeile.element, m_dichtewahl)));
     m_txtValenz->setHinweis(toQt(valenzherkunft(*zeile.element, m_valenzwahl)));
+    m_cmdDichte->setToolTip(toQt(dichteherkunft(*zeile.element, m_dichtewahl)));
+    m_cmbValenz->setToolTip(toQt(valenzherkunft(*zeile.element, m_valenzwahl)));
 }
 
 void Kompositionszeile::fillChoices(const std::shared_ptr<clsElement>& element)

@@ -32,9 +32,10 @@ void Periodentafel::setSelected(const std::shared_ptr<clsElement>& element)
     updateCell(m_selected);
     if (!element)
         return;
-    setAccessibleDescription(QStringLiteral("%1, %2, Ordnungszahl %3")
-                                 .arg(toQt(element->Name()), toQt(element->symbol()))
-                                 .arg(element->OZ()));
+    setAccessibleDescription(QStringLiteral("%1, Ordnungszahl %2, %3")
+                                 .arg(toQt(element->symbol()))
+                                 .arg(element->OZ())
+                                 .arg(hinweis(element).replace(QLatin1Char('\n'), QStringLiteral(", "))));
     QAccessibleEvent announcement(this, QAccessible::DescriptionChanged);
     QAccessible::updateAccessibility(&announcement);
 }
@@ -127,8 +128,11 @@ bool Periodentafel::event(QEvent* event)
 /// Name, what the cell is coloured by and the rows that the element stands in.
 QString Periodentafel::hinweis(const std::shared_ptr<clsElement>& element) const
 {
-    const auto index = std::ranges::find(m_elements, element) - m_elements.begin();
-    const std::string beschreibung = m_faerbung.beschreibung(*element, static_cast<std::size_t>(index));
+    const auto place = std::ranges::find(m_elements, element);
+    if (place == m_elements.end())
+        return toQt(element->Name());
+    const auto index = static_cast<std::size_t>(place - m_elements.begin());
+    const std::string beschreibung = m_faerbung.beschreibung(*element, index);
     QString text = toQt(beschreibung.empty() ? element->Name() : element->Name() + '\n' + beschreibung);
     if (const std::string komponenten = komponentenOf(*element); !komponenten.empty())
         text += QStringLiteral("\nKomponente %1 der Legierung")

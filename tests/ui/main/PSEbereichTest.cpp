@@ -54,7 +54,10 @@ TEST_F(PSEbereichTest, ClicksSelectElements)
         clickCell(click.column, click.row);
         EXPECT_EQ(chosen(), click.symbol) << click.name;
     }
-    EXPECT_NE(table().accessibleDescription().indexOf("Helium"), -1);
+    EXPECT_EQ(table().accessibleDescription().toStdString(), "He, Ordnungszahl 2, Helium, Hauptgruppen");
+    clickCell(11, 4);
+    EXPECT_EQ(table().accessibleDescription().toStdString(),
+        "Cu, Ordnungszahl 29, Kupfer, Nebengruppen, Komponente 2 der Legierung");
 }
 
 TEST_F(PSEbereichTest, DoubleClickOpensTheMenuOfAnElement)
