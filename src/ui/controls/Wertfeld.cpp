@@ -3,6 +3,7 @@
 #include <QFocusEvent>
 #include <QPainter>
 #include <QSignalBlocker>
+#include <QStyle>
 
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
@@ -100,14 +101,34 @@ void Wertfeld::cutEcho()
     if (m_shownEcho != m_echo && m_shownEcho.size() < Shortest)
         m_shownEcho.clear();
     const int margin = m_shownEcho.isEmpty() ? 0 : fontMetrics().horizontalAdvance(m_shownEcho) + EchoMargin;
-    if (textMargins().right() != margin)
-        setTextMargins(0, 0, margin, 0);
+    const int left = looksLikeLabel() ? style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, this) : 0;
+    if (textMargins() != QMargins(left, 0, margin, 0))
+        setTextMargins(left, 0, margin, 0);
 }
 
 void Wertfeld::resizeEvent(QResizeEvent* event)
 {
     QLineEdit::resizeEvent(event);
     cutEcho();
+}
+
+void Wertfeld::setBerechnet(bool berechnet)
+{
+    if (berechnet == m_berechnet)
+        return;
+    m_berechnet = berechnet;
+    showArt();
+}
+
+void Wertfeld::showArt()
+{
+    setFrame(!looksLikeLabel());
+    QPalette own;
+    if (looksLikeLabel())
+        own.setColor(QPalette::Base, Qt::transparent);
+    setPalette(own);
+    strengthenDisabledText();
+    cutEcho(); // without a frame the text keeps its place by a margin
 }
 
 void Wertfeld::setHinweis(const QString& hinweis)
@@ -127,12 +148,16 @@ void Wertfeld::showHinweis()
 void Wertfeld::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
+    if (m_berechnet)
+        showArt();
     emit focusEntered();
 }
 
 void Wertfeld::focusOutEvent(QFocusEvent* event)
 {
     QLineEdit::focusOutEvent(event);
+    if (m_berechnet)
+        showArt();
     emit focusLeft();
     const Qt::FocusReason reason = event->reason();
     const bool comesBack =

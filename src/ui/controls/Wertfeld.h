@@ -29,6 +29,9 @@ public:
     void setEcho(const QString& echo);
     const QString& echo() const { return m_echo; }
 
+    /// Whether the program works the value out: then the field looks like a label until it has the focus.
+    void setBerechnet(bool berechnet);
+
     /// The tool tip while the text is valid.
     void setHinweis(const QString& hinweis);
 
@@ -49,12 +52,15 @@ private:
     void showHinweis();
     void cutEcho();
     void strengthenDisabledText();
+    bool looksLikeLabel() const { return m_berechnet && !hasFocus(); }
+    void showArt();
 
     QString m_fehler;
     QString m_bedenken;
     QString m_echo;
     QString m_shownEcho; // as much of it as there is room for
     QString m_hinweis;
+    bool m_berechnet = false;
 };
 
 } // namespace zerna

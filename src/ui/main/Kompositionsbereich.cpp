@@ -128,7 +128,8 @@ void Kompositionsbereich::restoreCount()
 
 void Kompositionsbereich::addElement(int list, std::string_view symbol, int itemData)
 {
-    at(list).addElement(symbol, itemData);
+    const auto element = m_programm.ElementCollection().find(symbol);
+    at(list).addElement(symbol, element ? element->Name() : std::string(), itemData);
 }
 
 std::string Kompositionsbereich::elementEntry(int list, int position) const
@@ -146,6 +147,8 @@ void Kompositionsbereich::chooseElement(int row, int position)
     if (const std::string key = elementEntry(row, position); !key.empty())
         elementChosen(row, key);
 }
+
+void Kompositionsbereich::focusFirstField() { at(0).focusProzent(); }
 
 void Kompositionsbereich::enterProzent(int row, int prozent)
 {

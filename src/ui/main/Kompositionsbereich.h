@@ -34,6 +34,9 @@ public:
     /// Chooses an entry of a row's element list; nothing for a position outside.
     void chooseElement(int row, int position);
 
+    /// Puts the focus where a composition begins: into the at% of the first row.
+    void focusFirstField();
+
     /// Enters an at% as if it had been typed.
     void enterProzent(int row, int prozent);
 

@@ -5,6 +5,7 @@
 #include <QLabel>
 
 #include "model/Herkunft.h"
+#include "ui/controls/Elementliste.h"
 #include "ui/controls/Masse.h"
 #include "ui/controls/Wertfeld.h"
 #include "ui/platform/QtText.h"
@@ -38,7 +39,7 @@ void write(Wertfeld& feld, const Eingabefeld& eingabe)
 Kompositionszeile::Kompositionszeile(int row, QWidget* panel)
     : QObject(panel)
     , m_row(row)
-    , m_cmbElement(make<QComboBox>(panel, "cmbElement", row, QStringLiteral("Element")))
+    , m_cmbElement(make<Elementliste>(panel, "cmbElement", row, QStringLiteral("Element")))
     , m_lblElement(make<QLabel>(panel, "lblElement", row, QStringLiteral("Elementname")))
     , m_txtProzent(make<Wertfeld>(panel, "txtProzent", row, QStringLiteral("Atomprozent")))
     , m_cmdDichte(make<QComboBox>(panel, "cmdDichte", row, QStringLiteral("Auswahl der Dichte")))
@@ -56,7 +57,7 @@ std::array<QWidget*, 7> Kompositionszeile::widgets() const
 
 void Kompositionszeile::connectControls()
 {
-    connect(m_cmbElement, &QComboBox::textActivated, this, &Kompositionszeile::elementChosen);
+    connect(m_cmbElement, &Elementliste::textActivated, this, &Kompositionszeile::elementChosen);
     connect(m_cmdDichte, &QComboBox::textActivated, this, &Kompositionszeile::dichteChosen);
     connect(m_cmbValenz, &QComboBox::activated, this,
         [this](int position) { emit valenzChosen(m_cmbValenz->itemData(position).toInt()); });
@@ -94,9 +95,9 @@ void Kompositionszeile::measure()
     m_txtValenz->setFixedWidth(feldbreite(*m_txtValenz, QStringLiteral("<unbekannt>")));
 }
 
-void Kompositionszeile::addElement(std::string_view symbol, int itemData)
+void Kompositionszeile::addElement(std::string_view symbol, std::string_view name, int itemData)
 {
-    m_cmbElement->addItem(toQt(symbol), itemData);
+    m_cmbElement->addElement(toQt(symbol), toQt(name), itemData);
     if (m_cmbElement->count() == 1)
         m_cmbElement->setCurrentIndex(-1); // the toolkit selects the first entry, start-up chooses
 }
@@ -107,6 +108,8 @@ int Kompositionszeile::findElementEntry(std::string_view text) const
 {
     return m_cmbElement->findText(toQt(text), Qt::MatchFixedString | Qt::MatchCaseSensitive);
 }
+
+void Kompositionszeile::focusProzent() { m_txtProzent->setFocus(Qt::TabFocusReason); }
 
 void Kompositionszeile::zeige(const Eingabe& eingabe)
 {
@@ -119,6 +122,7 @@ void Kompositionszeile::zeige(const Eingabe& eingabe)
     m_cmdDichte->setCurrentIndex(m_cmdDichte->findText(toQt(zeile.dichtewahl)));
     m_cmbValenz->setCurrentIndex(m_cmbValenz->findData(zeile.valenzwahl));
     m_txtProzent->setHinweis(eingabe.istAusgleich(m_row) ? QStringLiteral("Rest auf 100 at%") : QString());
+    m_txtProzent->setBerechnet(eingabe.istAusgleich(m_row));
     write(*m_txtProzent, zeile.prozent);
     if (zeile.prozent.text.empty()) // is still being typed
         m_txtProzent->setFehler({});

@@ -15,6 +15,7 @@ class QLabel;
 
 namespace zerna {
 
+class Elementliste;
 class Wertfeld;
 
 /// The seven controls of one row of the composition grid: shows the row of an entered alloy and tells what the user
@@ -29,9 +30,11 @@ public:
     void layOut(QGridLayout& grid, int gridRow);
 
     // The element list, as start-up fills it.
-    void addElement(std::string_view symbol, int itemData);
+    void addElement(std::string_view symbol, std::string_view name, int itemData);
     QString elementEntry(int position) const;
     int findElementEntry(std::string_view text) const;
+
+    void focusProzent();
 
     /// Writes what the row holds; what is shown already is left alone, so that the cursor of a field stays in its
     /// place.
@@ -56,7 +59,7 @@ private:
     void showHerkunft(const Eingabe::Zeile& zeile);
 
     int m_row;
-    QComboBox* m_cmbElement = nullptr;
+    Elementliste* m_cmbElement = nullptr;
     QLabel* m_lblElement = nullptr;
     Wertfeld* m_txtProzent = nullptr;
     QComboBox* m_cmdDichte = nullptr;

@@ -89,4 +89,27 @@ TEST(WertfeldTest, DisabledTextIsLegibleInEveryPalette)
     }
 }
 
+TEST(WertfeldTest, ComputedValueLooksLikeALabelUntilItHasTheFocus)
+{
+    QWidget desk;
+    Wertfeld feld(&desk);
+    Wertfeld other(&desk);
+    feld.resize(80, 26);
+    other.setGeometry(0, 30, 80, 26);
+    desk.show();
+    desk.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&desk));
+    other.setFocus();
+    const auto ground = [&] { return desk.grab().toImage().pixelColor(70, 13); };
+    const QColor field = ground();
+    feld.setBerechnet(true);
+    EXPECT_EQ(ground(), desk.palette().color(QPalette::Window));
+    feld.setFocus();
+    EXPECT_EQ(ground(), field);
+    other.setFocus();
+    EXPECT_EQ(ground(), desk.palette().color(QPalette::Window));
+    feld.setBerechnet(false);
+    EXPECT_EQ(ground(), field);
+}
+
 } // namespace zerna

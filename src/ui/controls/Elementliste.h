@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QComboBox>
+
+namespace zerna {
+
+/// A list of elements. An entry's text is the symbol; the open list shows the name beside it, and letters typed jump to
+/// the symbol that they spell, or else to a symbol or a name that begins so.
+class Elementliste : public QComboBox {
+    Q_OBJECT
+
+public:
+    explicit Elementliste(QWidget* parent = nullptr);
+
+    void addElement(const QString& symbol, const QString& name, int itemData);
+
+    void showPopup() override;
+};
+
+} // namespace zerna
