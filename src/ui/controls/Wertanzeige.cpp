@@ -4,7 +4,8 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
+
+#include "ui/platform/Farben.h"
 
 namespace zerna {
 
@@ -81,9 +82,24 @@ void Wertanzeige::mouseReleaseEvent(QMouseEvent* event)
         QLabel::mouseReleaseEvent(event);
 }
 
+/// A frame that no theme can hide, with a breath of its colour inside.
+void Wertanzeige::paintFocus(QPainter& painter) const
+{
+    QColor colour = fokusfarbe(palette(), palette().color(QPalette::Window));
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colour, 2));
+    colour.setAlpha(24);
+    painter.setBrush(colour);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 3, 3);
+    painter.restore();
+}
+
 void Wertanzeige::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
+    if (hasFocus())
+        paintFocus(painter);
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
     const bool columns = m_numberWidth > 0 && text().endsWith(m_einheit) && text().size() > m_einheit.size();
     const QRect area = contentsRect();
@@ -96,12 +112,6 @@ void Wertanzeige::paintEvent(QPaintEvent*)
             Qt::AlignLeft | Qt::AlignVCenter, m_einheit + m_marke);
     } else {
         painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, text());
-    }
-    if (hasFocus()) {
-        QStyleOptionFocusRect option;
-        option.initFrom(this);
-        option.backgroundColor = palette().color(QPalette::Window);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
     }
 }
 

@@ -41,6 +41,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void paintFocus(QPainter& painter) const;
+
     QString m_einheit;
     int m_numberWidth = 0; // logical pixels
     QString m_marke; // behind the unit; empty if there is none

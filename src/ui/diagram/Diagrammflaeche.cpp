@@ -8,6 +8,7 @@
 #include "programm/Exportieren.h"
 #include "ui/diagram/Bildausgabe.h"
 #include "ui/diagram/conDisplay.h"
+#include "ui/platform/Farben.h"
 #include "ui/platform/Zwischenablage.h"
 
 namespace zerna {
@@ -123,8 +124,8 @@ void Diagrammflaeche::paintEvent(QPaintEvent*)
     m_diagramm->paint(painter, leinwand());
     m_diagramm->paintCursor(painter, leinwand());
     if (hasFocus()) {
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 1));
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        painter.setPen(QPen(fokusfarbe(palette(), Qt::white), 2)); // diagrams are white in every theme
+        painter.drawRect(rect().adjusted(1, 1, -1, -1));
     }
 }
 

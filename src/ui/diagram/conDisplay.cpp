@@ -9,6 +9,7 @@
 #include "core/Zahlentext.h"
 #include "programm/Exportieren.h"
 #include "ui/diagram/Plotflaeche.h"
+#include "ui/platform/Farben.h"
 
 namespace zerna {
 
@@ -161,8 +162,8 @@ void conDisplay::paintEvent(QPaintEvent*)
     QPainter painter(this);
     m_diagramm.paintSurface(painter, leinwand());
     if (hasFocus()) {
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 1));
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        painter.setPen(QPen(fokusfarbe(palette(), Qt::white), 2)); // diagrams are white in every theme
+        painter.drawRect(rect().adjusted(1, 1, -1, -1));
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include "model/Lehrbuch.h"
 #include "ui/button/StyledButton.h"
+#include "ui/controls/Fokusgruppe.h"
 #include "ui/controls/Knopfzeile.h"
 #include "ui/controls/Masse.h"
 #include "ui/controls/Wertanzeige.h"
@@ -49,6 +50,7 @@ Ergebnisgitter::Ergebnisgitter(QWidget* parent)
     }
     createFriedel();
     layOut();
+    groupFocus();
 }
 
 void Ergebnisgitter::createLine(const Groesse& zeile)
@@ -150,6 +152,18 @@ void Ergebnisgitter::layOutFriedel(int row, int column)
     m_grid->addWidget(m_beschriftungen.at(Friedelzeile), row, column);
     m_grid->addLayout(box, row, column + 1);
     m_grid->addWidget(&anzeige(Friedelzeile), row + 1, column + 1);
+}
+
+/// The values are one stop of the tab key; the fields and the buttons are stops of their own.
+void Ergebnisgitter::groupFocus()
+{
+    Fokusgruppe::Spalten spalten(2);
+    for (const Groesse& zeile : ergebniszeilen()) {
+        if (zeile.zeile != Friedelzeile)
+            spalten.at(isOnTheRight(zeile) ? 1 : 0).push_back(&anzeige(zeile.zeile));
+    }
+    spalten.back().push_back(&anzeige(Friedelzeile)); // below the energies
+    new Fokusgruppe(this, std::move(spalten));
 }
 
 std::vector<QWidget*> Ergebnisgitter::tabOrder()

@@ -57,6 +57,7 @@ private:
     void layOut();
     void layOutLine(const Groesse& zeile, int row, int column);
     void layOutFriedel(int row, int column);
+    void groupFocus();
     void measure();
 
     QGridLayout* m_grid = nullptr;

@@ -53,6 +53,24 @@ inline QColor abgesetzt(const QColor& ground, const QColor& text, double contras
 inline QColor linienfarbe(const QColor& ground, const QColor& text) { return abgesetzt(ground, text, 3.1); }
 inline QColor zeichenfarbe(const QColor& ground, const QColor& text) { return abgesetzt(ground, text, 4.5); }
 
+/// The colour of the frame around what has the focus, on a ground of that palette or on any other.
+inline QColor fokusfarbe(const QPalette& palette, const QColor& ground)
+{
+    constexpr double Graphics = 3.1;
+    const QColor colour = palette.color(QPalette::Active, QPalette::Highlight);
+    if (kontrast(colour, ground) >= Graphics)
+        return colour;
+    const QColor pole = leuchtdichte(fromQt(ground)) > 0.18 ? Qt::black : Qt::white;
+    for (int share = 1; share < 16; ++share) {
+        const auto mixed = [share](int from, int to) { return from + (to - from) * share / 16; };
+        const QColor moved(
+            mixed(colour.red(), pole.red()), mixed(colour.green(), pole.green()), mixed(colour.blue(), pole.blue()));
+        if (kontrast(moved, ground) >= Graphics)
+            return moved;
+    }
+    return pole;
+}
+
 /// Whether a palette shows light texts on a dark ground.
 inline bool istDunkel(const QPalette& palette, QPalette::ColorRole ground = QPalette::Window)
 {

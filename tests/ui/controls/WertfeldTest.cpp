@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "ui/button/ButtonTheme.h"
+#include "ui/platform/Farben.h"
 
 namespace zerna {
 
@@ -110,6 +111,18 @@ TEST(WertfeldTest, ComputedValueLooksLikeALabelUntilItHasTheFocus)
     EXPECT_EQ(ground(), desk.palette().color(QPalette::Window));
     feld.setBerechnet(false);
     EXPECT_EQ(ground(), field);
+}
+
+TEST(WertfeldTest, FocusStandsOutOnEveryGround)
+{
+    for (const QColor& highlight :
+        {QColor(61, 174, 233), QColor(0, 120, 215), QColor(255, 255, 0), QColor(40, 40, 40)}) {
+        QPalette palette;
+        palette.setColor(QPalette::Highlight, highlight);
+        for (const QColor& ground :
+            {QColor(Qt::white), QColor(239, 239, 239), QColor(49, 54, 59), QColor(118, 118, 118)})
+            EXPECT_GE(kontrast(fokusfarbe(palette, ground), ground), 3.0) << highlight.name().toStdString();
+    }
 }
 
 } // namespace zerna

@@ -73,6 +73,34 @@ TEST_F(frmMainTest, TabFollowsTheReadingOrder)
     });
 }
 
+TEST_F(frmMainTest, ResultsAreOneStopWithArrowsInside)
+{
+    open();
+    const auto values = [this] {
+        std::vector<QWidget*> all;
+        for (auto* const label : visible<QLabel>()) {
+            if (label->objectName().startsWith("lblMFE"))
+                all.push_back(label);
+        }
+        return all;
+    };
+    const auto stops = [&] {
+        return std::ranges::count_if(values(), [](auto* value) { return (value->focusPolicy() & Qt::TabFocus) != 0; });
+    };
+    EXPECT_EQ(stops(), 1);
+    find("lblMFE_2").setFocus();
+    for (const auto& [key, reached] : {std::pair(Qt::Key_Down, "lblMFE_3"), {Qt::Key_Right, "lblMFE_16"},
+             {Qt::Key_Up, "lblMFE_15"}, {Qt::Key_End, "lblMFE_10"}, {Qt::Key_Down, "lblMFE_10"},
+             {Qt::Key_Home, "lblMFE_0"}, {Qt::Key_Left, "lblMFE_0"}, {Qt::Key_End, "lblMFE_10"}}) {
+        QTest::keyClick(QApplication::focusWidget(), key);
+        EXPECT_EQ(QApplication::focusWidget()->objectName().toStdString(), reached);
+    }
+    EXPECT_EQ(stops(), 1);
+    const QImage focused = find("lblMFE_10").grab().toImage();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    EXPECT_NE(find("lblMFE_10").grab().toImage(), focused);
+}
+
 TEST_F(frmMainTest, EveryControlHasANameForScreenReaders)
 {
     forEachView([this] {
