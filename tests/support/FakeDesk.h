@@ -32,8 +32,15 @@ struct FakeDesk : testing::Test {
         std::filesystem::copy_file(ZERNA_BIN_DIR "/elemente.dat", folder / "elemente.dat");
     }
 
-    /// Starts the program, for the second time if it runs, and makes its window the active one.
+    /// Starts the program, and gives the window the size that it has on a large screen.
     void open()
+    {
+        start();
+        window->resize(1280, 800);
+    }
+
+    /// Starts the program, for the second time if it runs, and makes its window the active one.
+    void start()
     {
         window.reset();
         programm.emplace(boxes, settings, folder.path());

@@ -117,6 +117,8 @@ struct StundeTest : FakeDesk {
         logQuestions(log);
         if (verb != "settings" && verb != "watch") {
             for (const auto& [key, value] : settings.stored) {
+                if (key.ends_with("/Fensterplatz"))
+                    continue; // comes some time after the change
                 if (!settingsBefore.contains(key) || settingsBefore.at(key) != value)
                     log.add("setting", key + " = " + value);
             }

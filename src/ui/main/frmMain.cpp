@@ -1,5 +1,6 @@
 #include "ui/main/frmMain.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QIcon>
@@ -12,6 +13,7 @@
 #include "ui/controls/Radsperre.h"
 #include "ui/main/Diagrammbereich.h"
 #include "ui/main/Ergebnisbereich.h"
+#include "ui/main/Fensterplatz.h"
 #include "ui/main/Kompositionsbereich.h"
 #include "ui/main/PSEbereich.h"
 #include "ui/main/frmAbout.h"
@@ -38,7 +40,7 @@ StyledButton* makeSwitch(QWidget* parent, const QString& caption, const QString&
     return button;
 }
 
-/// A panel fills its place as long as that is large enough, else it scrolls.
+/// A panel fills its place as long as that is large enough; else it scrolls, and what has the focus is seen.
 QScrollArea* scrolling(QWidget* panel)
 {
     auto* area = new QScrollArea;
@@ -46,6 +48,10 @@ QScrollArea* scrolling(QWidget* panel)
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidgetResizable(true);
     area->setWidget(panel);
+    QObject::connect(qApp, &QApplication::focusChanged, area, [area, panel](const QWidget*, QWidget* now) {
+        if (now != nullptr && panel->isAncestorOf(now))
+            area->ensureWidgetVisible(now);
+    });
     return area;
 }
 
@@ -70,7 +76,8 @@ frmMain::frmMain(Programm& programm, Dialoge dialoge)
     connectPanels();
     new Radsperre(*this);
     load();
-    resize(1280, 800);
+    (new Fensterplatz(*this, programm.settings()))
+        ->einnehmen(QSize(1280, 800).expandedTo(m_pic1->minimumSizeHint() + QSize(PanelLeft, PanelTop)));
 }
 
 frmMain::~frmMain() = default;
@@ -230,7 +237,11 @@ void frmMain::sperren(std::string_view grund)
     m_pic1->layout()->addWidget(reason);
 }
 
-void frmMain::show() { QWidget::show(); }
+void frmMain::show()
+{
+    QWidget::show();
+    m_komposition->focusFirstField();
+}
 
 void frmMain::closeEvent(QCloseEvent* event)
 {

@@ -76,6 +76,7 @@ TEST_F(frmMainTest, TabFollowsTheReadingOrder)
 TEST_F(frmMainTest, ResultsAreOneStopWithArrowsInside)
 {
     open();
+    EXPECT_EQ(QApplication::focusWidget(), &find("txtProzent_0")) << "work begins here";
     const auto values = [this] {
         std::vector<QWidget*> all;
         for (auto* const label : visible<QLabel>()) {

@@ -1,0 +1,65 @@
+#include "ui/main/Fensterplatz.h"
+
+#include <QEvent>
+#include <QMargins>
+#include <QScreen>
+#include <QWidget>
+
+namespace zerna {
+
+namespace {
+
+constexpr const char* Schluessel = "Fensterplatz";
+constexpr int Ruhe = 250; // milliseconds
+
+/// The place moved, and made smaller where it must, so that the room has it all.
+QRect moved(QRect place, const QRect& room)
+{
+    place.setSize(place.size().boundedTo(room.size()));
+    place.moveBottomRight({qMin(place.right(), room.right()), qMin(place.bottom(), room.bottom())});
+    place.moveTopLeft({qMax(place.left(), room.left()), qMax(place.top(), room.top())});
+    return place;
+}
+
+} // namespace
+
+Fensterplatz::Fensterplatz(QWidget& window, Settings& settings)
+    : QObject(&window)
+    , m_window(window)
+    , m_settings(settings)
+{
+    m_afterTheLastChange.setSingleShot(true);
+    m_afterTheLastChange.setInterval(Ruhe);
+    connect(&m_afterTheLastChange, &QTimer::timeout, this, &Fensterplatz::save);
+    window.installEventFilter(this);
+}
+
+void Fensterplatz::einnehmen(const QSize& usual)
+{
+    constexpr QMargins Frame(8, 40, 8, 8); // of a window, with room to spare
+    const QByteArray last = QByteArray::fromStdString(m_settings.LoadSetting(Schluessel, ""));
+    const bool isKnown = m_window.restoreGeometry(QByteArray::fromBase64(last));
+    const QRect room = m_window.screen()->availableGeometry().marginsRemoved(Frame);
+    if (!isKnown)
+        m_window.resize(usual.boundedTo(room.size())); // where, the desktop knows best
+    else if (!m_window.isMaximized() && !room.contains(m_window.geometry()))
+        m_window.setGeometry(moved(m_window.geometry(), room));
+}
+
+/// Intended: nothing is written when the window closes; settings are written when they change.
+void Fensterplatz::save()
+{
+    if (m_window.isVisible())
+        m_settings.SaveSetting(Schluessel, m_window.saveGeometry().toBase64().toStdString());
+}
+
+bool Fensterplatz::eventFilter(QObject* watched, QEvent* event)
+{
+    const QEvent::Type type = event->type();
+    const bool changes = type == QEvent::Move || type == QEvent::Resize || type == QEvent::WindowStateChange;
+    if (changes && m_window.isVisible())
+        m_afterTheLastChange.start();
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace zerna
