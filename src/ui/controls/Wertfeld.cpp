@@ -28,7 +28,7 @@ Wertfeld::Wertfeld(QWidget* parent)
     connect(this, &QLineEdit::textChanged, this, &Wertfeld::cutEcho);
 }
 
-/// A field that takes no input still shows a value that must be read with ease.
+/// A field that takes no input still shows a value that must be read with ease, and so are echoes and hints in it.
 void Wertfeld::strengthenDisabledText()
 {
     const auto mixed = [](const QColor& a, const QColor& b, double share) {
@@ -42,6 +42,8 @@ void Wertfeld::strengthenDisabledText()
     if (own.color(QPalette::Disabled, QPalette::Text) == text)
         return;
     own.setColor(QPalette::Disabled, QPalette::Text, text);
+    own.setColor(QPalette::PlaceholderText,
+        mixed(own.color(QPalette::Active, QPalette::Text), own.color(QPalette::Active, QPalette::Base), 0.7));
     setPalette(own);
 }
 

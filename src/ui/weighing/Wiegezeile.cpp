@@ -61,11 +61,6 @@ QLabel* makeLabel(const char* name, int row, std::size_t column, QWidget* panel)
     return label;
 }
 
-QColor abweichungsfarbe(const QPalette& ground)
-{
-    return istDunkel(ground) ? QColor(255, 138, 101) : QColor(191, 54, 12);
-}
-
 /// A caption over a group of columns, with a line below it.
 void layOutGroup(QGridLayout& grid, QWidget* panel, const QString& caption, int first, int count)
 {
@@ -80,6 +75,11 @@ void layOutGroup(QGridLayout& grid, QWidget* panel, const QString& caption, int 
 }
 
 } // namespace
+
+QColor abweichungsfarbe(const QPalette& ground)
+{
+    return istDunkel(ground) ? QColor(255, 138, 101) : QColor(160, 40, 0);
+}
 
 Wiegezeile::Wiegezeile(int row, QWidget* panel)
     : QObject(panel)
@@ -176,6 +176,7 @@ void Wiegezeile::zeigeBezug(const QString& hinweis)
 {
     m_bezug->setText(hinweis.isEmpty() ? QString() : QStringLiteral("Bezug"));
     m_bezug->setToolTip(hinweis);
+    m_sollmasse->setToolTip(hinweis.isEmpty() ? QString() : QStringLiteral("Für die gewünschte Gesamtmasse"));
     QFont font; // the rest is the panel's
     font.setBold(!hinweis.isEmpty());
     m_label->setFont(font);

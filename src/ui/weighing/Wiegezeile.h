@@ -8,13 +8,18 @@
 
 #include "ui/weighing/Massenablage.h"
 
+class QColor;
 class QGridLayout;
 class QLabel;
+class QPalette;
 
 namespace zerna {
 
 class Massenfeld;
 struct Einwaagezeile;
+
+/// Of a deviation that is too large.
+QColor abweichungsfarbe(const QPalette& ground);
 
 /// One row of the weighing table: what is wanted of a component, and what was weighed of it.
 class Wiegezeile : public QObject {

@@ -80,13 +80,15 @@ TEST(WertfeldTest, FaultMarksTheFieldBeforeWhatIsOdd)
     EXPECT_EQ(feld.grab().toImage(), valid);
 }
 
-TEST(WertfeldTest, DisabledTextIsLegibleInEveryPalette)
+TEST(WertfeldTest, QuietTextsAreLegibleInEveryPalette)
 {
     Wertfeld feld;
     for (const char* const ground : {"#ffffff", "#efefef", "#2b2b2b"}) {
         feld.setPalette(QPalette(QColor(ground), QColor(ground)));
         const QColor text = feld.palette().color(QPalette::Disabled, QPalette::Text);
         EXPECT_GE(contrastRatio(text, QColor(ground)), 4.5) << ground;
+        const QColor hint = feld.palette().color(QPalette::Active, QPalette::PlaceholderText);
+        EXPECT_GE(contrastRatio(hint, feld.palette().color(QPalette::Active, QPalette::Base)), 4.5) << ground;
     }
 }
 

@@ -2,7 +2,9 @@
 
 #include "core/Zahlentext.h"
 #include "support/FakeDesk.h"
+#include "ui/button/ButtonTheme.h"
 #include "ui/controls/Wertfeld.h"
+#include "ui/weighing/Wiegezeile.h"
 
 namespace zerna {
 
@@ -171,6 +173,13 @@ TEST_F(conWiegenTest, SpeaksOfDeviationsOnlyWhenAllIsWeighedAndStaysInPlace)
     QCoreApplication::processEvents();
     EXPECT_EQ(places(), before) << "nothing moves";
     EXPECT_EQ(text("Bezug_0"), "") << "a new composition sets all target masses";
+}
+
+TEST_F(conWiegenTest, DeviationsAreLegibleInEveryPalette)
+{
+    for (const char* const ground : {"#ffffff", "#d6d2d0", "#31363b", "#000000"})
+        EXPECT_GE(contrastRatio(abweichungsfarbe(QPalette(QColor(ground), QColor(ground))), QColor(ground)), 4.5)
+            << ground;
 }
 
 } // namespace zerna
