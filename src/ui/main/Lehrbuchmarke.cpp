@@ -4,6 +4,7 @@
 #include <QToolTip>
 
 #include "model/Groessen.h"
+#include "ui/controls/Knopfzeile.h"
 #include "ui/main/Ergebnisdetails.h"
 
 namespace zerna {
@@ -16,7 +17,7 @@ Lehrbuchmarke::Lehrbuchmarke(Programm& programm, QWidget* parent)
     setObjectName(QStringLiteral("cmdDiagramm_Lehrbuch"));
     setAccessibleName(QStringLiteral("Abweichung vom Lehrbuch"));
     m_details->setObjectName(QStringLiteral("Diagrammdetails"));
-    setFixedSize(28, 26);
+    setZeichenknopf(this);
     hide();
     connect(this, &StyledButton::clicked, this, [this] {
         m_details->zeige(einzelheiten(), {mapToGlobal(QPoint()), size()});

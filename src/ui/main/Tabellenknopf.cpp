@@ -33,12 +33,11 @@ Tabellenknopf::Tabellenknopf(Settings& settings, QWidget* parent)
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(2);
-    m_cmdTabelle->setMinimumWidth(Knopfbreite);
-    m_cmdTrenner->setFixedWidth(24);
-    for (StyledButton* const button : {m_cmdTabelle, m_cmdTrenner}) {
-        button->setFixedHeight(28);
+    setKnopfgroesse(m_cmdTabelle);
+    folgeSchrift(
+        m_cmdTrenner, [this] { m_cmdTrenner->setFixedSize(feldhoehe(*m_cmdTrenner), knopfhoehe(*m_cmdTrenner)); });
+    for (StyledButton* const button : {m_cmdTabelle, m_cmdTrenner})
         row->addWidget(button);
-    }
 }
 
 std::vector<QWidget*> Tabellenknopf::tabOrder() const { return {m_cmdTabelle, m_cmdTrenner}; }
