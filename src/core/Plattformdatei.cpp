@@ -1,6 +1,7 @@
 #include "core/Plattformdatei.h"
 
 #include <cerrno>
+#include <cstdint>
 #include <string_view>
 #include <system_error>
 
@@ -51,7 +52,7 @@ std::FILE* createFile(const std::filesystem::path& path, bool)
         const bool missing = error == ERROR_PATH_NOT_FOUND || error == ERROR_FILE_NOT_FOUND;
         return failedWith(error == ERROR_FILE_EXISTS ? EEXIST : missing ? ENOENT : EACCES);
     }
-    return _fdopen(_open_osfhandle(reinterpret_cast<intptr_t>(handle), _O_BINARY), "w+b");
+    return _fdopen(_open_osfhandle(reinterpret_cast<std::intptr_t>(handle), _O_BINARY), "w+b");
 }
 
 void removeLeftover(const std::filesystem::path& path) noexcept { DeleteFileW(path.c_str()); }

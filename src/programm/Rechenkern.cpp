@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <set>
 
 #include "core/Elementdatei.h"
 #include "core/Kuerzung.h"
@@ -50,6 +51,7 @@ Komponentenangabe komponentenangabe(std::string_view text)
         rest.remove_prefix(std::min(colon + 1, rest.size()));
         return part;
     };
+    std::set<std::string_view> given;
     for (bool first = true; first || !rest.empty(); first = false) {
         const std::string_view part = nextPart();
         const std::size_t equals = part.find('=');
@@ -60,10 +62,10 @@ Komponentenangabe komponentenangabe(std::string_view text)
         if (first) {
             angabe.symbol = key;
             angabe.prozent = value;
-        } else if (key == "dichte") {
-            angabe.dichte = value;
-        } else if (key == "valenz") {
-            angabe.valenz = value;
+        } else if (key == "dichte" || key == "valenz") {
+            if (!given.insert(key).second)
+                fail(zitiert(key) + " ist mehrmals angegeben");
+            (key == "dichte" ? angabe.dichte : angabe.valenz) = value;
         } else {
             fail("unbekannte Angabe " + zitiert(key));
         }
