@@ -79,8 +79,8 @@ double Wertskala::position(float wert) const
 /// The middle of the places that equal values take.
 double Wertskala::rank(float wert) const
 {
-    const auto equal = std::ranges::equal_range(m_sortiert, wert);
-    return static_cast<double>((equal.begin() - m_sortiert.begin()) + (equal.end() - m_sortiert.begin())) / 2;
+    const auto [first, last] = std::equal_range(m_sortiert.begin(), m_sortiert.end(), wert);
+    return static_cast<double>((first - m_sortiert.begin()) + (last - m_sortiert.begin())) / 2;
 }
 
 float Wertskala::mitte() const

@@ -65,7 +65,7 @@ void paintSkala(QPainter& painter, const QRectF& area, const Tafelfaerbung& faer
         painter.drawText(labels, Qt::AlignHCenter | Qt::AlignTop, toQt(tafelzahl(skala.mitte())));
         titel += QStringLiteral(", Farbe %1").arg(toQt(skalenhinweis(skala.art())));
     }
-    painter.drawText(labels.adjusted(0, line, 0, 0), Qt::AlignHCenter | Qt::AlignTop, titel);
+    painter.drawText(labels.adjusted(0, line, 0, 0), Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, titel);
 }
 
 } // namespace
