@@ -168,7 +168,11 @@ void Konzentrationsdiagramm::paintPlot(QPainter& painter, const Leinwand& leinwa
         large.setPointSizeF(Punkte);
         painter.setFont(large);
         painter.setPen(Qt::black);
-        painter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, QStringLiteral("Fehler bei Diagrammberechnung"));
+        const QString text = QStringLiteral("Fehler bei Diagrammberechnung");
+        const QFontMetricsF metrics(large);
+        painter.drawText(QPointF((area.width() - metrics.horizontalAdvance(text)) / 2,
+                             area.height() / 2.0 + metrics.ascent()), // its top at half the height
+            text);
         return;
     }
     if (!m_y)

@@ -111,8 +111,8 @@ TEST_F(conDisplayTest, FaultsKeepThePictureAndTheErrorDisplayReplacesIt)
     draw(7, 8);
     EXPECT_EQ(picture(), before);
     display->Zeichne_Fehler();
-    EXPECT_EQ(colour(picture().copy(0, 0, 460, 100)), QColor(Qt::white));
-    EXPECT_NE(colour(picture().copy(160, 120, 200, 60)), QColor(Qt::white));
+    EXPECT_EQ(colour(picture().copy(61, 0, 399, 150)), QColor(Qt::white)) << "the text begins at half the height";
+    EXPECT_NE(colour(picture().copy(160, 150, 200, 40)), QColor(Qt::white));
 }
 
 TEST_F(conDisplayTest, MouseReadsValuesOut)
