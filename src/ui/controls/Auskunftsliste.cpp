@@ -9,7 +9,7 @@
 #include <algorithm>
 
 #include "core/Zahlentext.h"
-#include "ui/platform/QtText.h"
+#include "ui/platform/Anzeige.h"
 #include "ui/platform/Zwischenablage.h"
 
 namespace zerna {
@@ -54,7 +54,7 @@ public:
         painter->drawText(area, Qt::AlignLeft | Qt::AlignVCenter, captionOf(line));
         const QRect valueArea = area.adjusted(column + 2 * Margin, 0, 0, 0);
         painter->drawText(valueArea, Qt::AlignLeft | Qt::AlignVCenter,
-            option.fontMetrics.elidedText(valueOf(line), Qt::ElideRight, valueArea.width()));
+            option.fontMetrics.elidedText(gezeigt(valueOf(line)), Qt::ElideRight, valueArea.width()));
     }
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override

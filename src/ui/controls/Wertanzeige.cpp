@@ -7,7 +7,22 @@
 
 #include "ui/platform/Farben.h"
 
+#include "ui/platform/Anzeige.h"
+
 namespace zerna {
+
+namespace {
+
+/// The font, as much narrower as a text needs it.
+QFont fitting(QFont font, const QString& text, int width)
+{
+    constexpr int Narrowest = 75; // percent
+    for (int stretch = 99; stretch >= Narrowest && QFontMetrics(font).horizontalAdvance(text) > width; --stretch)
+        font.setStretch(stretch);
+    return font;
+}
+
+} // namespace
 
 Wertanzeige::Wertanzeige(QWidget* parent)
     : QLabel(parent)
@@ -104,14 +119,16 @@ void Wertanzeige::paintEvent(QPaintEvent*)
     const bool columns = m_numberWidth > 0 && text().endsWith(m_einheit) && text().size() > m_einheit.size();
     const QRect area = contentsRect();
     if (columns) {
-        const QString number = text().chopped(m_einheit.size()).trimmed();
-        const int width = qMax(m_numberWidth, fontMetrics().horizontalAdvance(number));
-        const QRect numberArea(area.left() + m_margin, area.top(), width, area.height());
-        painter.drawText(numberArea, Qt::AlignRight | Qt::AlignVCenter, number);
-        painter.drawText(area.adjusted(width + 2 * m_margin + Einheitenabstand, 0, 0, 0),
-            Qt::AlignLeft | Qt::AlignVCenter, m_einheit + m_marke);
+        const QString number = gezeigt(text().chopped(m_einheit.size()).trimmed());
+        const int width = m_margin + m_numberWidth;
+        painter.setFont(fitting(font(), number, width));
+        painter.drawText(
+            QRect(area.left(), area.top(), width, area.height()), Qt::AlignRight | Qt::AlignVCenter, number);
+        painter.setFont(font());
+        painter.drawText(area.adjusted(width + m_margin + Einheitenabstand, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+            m_einheit + m_marke);
     } else {
-        painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, text());
+        painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, gezeigt(text()));
     }
 }
 

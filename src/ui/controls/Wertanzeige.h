@@ -6,7 +6,8 @@ namespace zerna {
 
 inline constexpr int Einheitenabstand = 4; ///< between a number's column, or a field, and its unit
 
-/// One result value: number and unit stand in columns, so that the units of all lines are aligned. Takes the keyboard
+/// One result value: number and unit stand in columns, so that the units of all lines are aligned. It paints the number
+/// with a true minus sign and a power of ten; its text stays the given one. Takes the keyboard
 /// focus; Ctrl+C copies what it shows, the right mouse button or the menu key asks for its menu, a click, Enter or the
 /// space bar for the details of its value.
 class Wertanzeige : public QLabel {

@@ -5,7 +5,7 @@
 
 #include "core/Zahlentext.h"
 #include "ui/button/StyledButton.h"
-#include "ui/platform/QtText.h"
+#include "ui/platform/Anzeige.h"
 
 namespace zerna {
 
@@ -106,7 +106,7 @@ void conLabel::paintEvent(QPaintEvent*)
     painter.setPen(palette().color(QPalette::WindowText));
     const int ascent = fontMetrics().ascent();
     painter.drawText(CaptionColumn, ascent, m_label);
-    const QString value = QString::fromStdString((m_value >= 0 && m_value < 10 ? "0" : "") + fixedText(m_value, 0));
+    const QString value = toQt(anzeigetext((m_value >= 0 && m_value < 10 ? "0" : "") + fixedText(m_value, 0)));
     painter.drawText(CaptionColumn + fontMetrics().horizontalAdvance(m_label), ValueRow + ascent, value);
 }
 

@@ -15,6 +15,7 @@
 #include "ui/diagram/conDisplay.h"
 #include "ui/diagram/conLabel.h"
 #include "ui/main/Lehrbuchmarke.h"
+#include "ui/platform/Anzeige.h"
 #include "ui/platform/QtText.h"
 #include "ui/platform/Schriftfolge.h"
 #include "ui/platform/Tabreihenfolge.h"
@@ -67,7 +68,8 @@ void Diagrammbereich::createControls()
     m_labelPos = new QLabel(this);
     m_labelPos->setObjectName(QStringLiteral("LabelPos"));
     m_labelPos->setTextFormat(Qt::PlainText);
-    connect(m_picDiagramm, &Diagrammflaeche::positionChanged, m_labelPos, &QLabel::setText);
+    connect(m_picDiagramm, &Diagrammflaeche::positionChanged, this,
+        [this](const QString& text) { m_labelPos->setText(gezeigt(text)); });
     m_cmdKopieren = new StyledButton(QStringLiteral("K&opieren"), this);
     m_cmdKopieren->setObjectName(QStringLiteral("cmdDiagramm_Kopieren"));
     m_cmdKopieren->setToolTipText(QStringLiteral("Diagramm als Bild in die Zwischenablage"));

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "core/Anzeigetext.h"
 #include "ui/main/Zelltexte.h"
 #include "ui/platform/Farben.h"
 #include "ui/platform/QtText.h"
@@ -67,7 +68,7 @@ void paintTexte(
                                   std::string_view text) { return metrics.horizontalAdvance(toQt(text)); };
     const std::string text =
         zelle.wert ? zellwert(*zelle.wert, area.width(), breite) : dritteZeile(element, stil.namen);
-    const QString below = toQt(text);
+    const QString below = toQt(anzeigetext(text));
     if (passt(breite(text), area.width()))
         drawText(painter, area.adjusted(2, 0, -2, -3), Qt::AlignHCenter | Qt::AlignBottom, below, plate);
 }

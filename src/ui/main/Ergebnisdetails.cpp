@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "core/Anzeigetext.h"
 #include "ui/platform/QtText.h"
 
 namespace zerna {
@@ -40,7 +41,7 @@ QString einzelheitenHtml(const Einzelheiten& einzelheiten)
                        .arg(formelHtml(einzelheiten.groesse));
     for (const Einzelheiten::Zeile& zeile : einzelheiten.zeilen)
         html += QStringLiteral("<tr><td style='white-space: nowrap; padding-right: 10px'>%1:</td><td>%2</td></tr>")
-                    .arg(toQt(zeile.titel), formelHtml(zeile.text));
+                    .arg(toQt(zeile.titel), formelHtml(anzeigetext(zeile.text)));
     return html + QStringLiteral("</table>");
 }
 

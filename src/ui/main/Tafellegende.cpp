@@ -6,6 +6,7 @@
 #include <array>
 
 #include "bild/PSETafel.h"
+#include "core/Anzeigetext.h"
 #include "ui/main/Zelltexte.h"
 #include "ui/platform/Farben.h"
 #include "ui/platform/QtText.h"
@@ -57,12 +58,12 @@ void paintSkala(QPainter& painter, const QRectF& area, const Tafelfaerbung& faer
     painter.setPen(palette.color(QPalette::WindowText));
     const QRectF labels(bar.left(), bar.bottom() + 2, bar.width(), area.bottom() - bar.bottom() - 2);
     const Wertskala& skala = faerbung.skala();
-    painter.drawText(labels, Qt::AlignLeft | Qt::AlignTop, toQt(tafelzahl(skala.kleinster())));
-    painter.drawText(labels, Qt::AlignRight | Qt::AlignTop, toQt(tafelzahl(skala.groesster())));
+    painter.drawText(labels, Qt::AlignLeft | Qt::AlignTop, toQt(anzeigetext(tafelzahl(skala.kleinster()))));
+    painter.drawText(labels, Qt::AlignRight | Qt::AlignTop, toQt(anzeigetext(tafelzahl(skala.groesster()))));
     const double line = painter.fontMetrics().height();
     QString titel = toQt(faerbung.titel());
     if (skala.art() != Skalenart::Linear) {
-        painter.drawText(labels, Qt::AlignHCenter | Qt::AlignTop, toQt(tafelzahl(skala.mitte())));
+        painter.drawText(labels, Qt::AlignHCenter | Qt::AlignTop, toQt(anzeigetext(tafelzahl(skala.mitte()))));
         titel += QStringLiteral(", Farbe %1").arg(toQt(skalenhinweis(skala.art())));
     }
     painter.drawText(labels.adjusted(0, line, 0, 0), Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, titel);

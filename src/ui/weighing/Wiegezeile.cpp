@@ -6,6 +6,7 @@
 #include <cmath>
 #include <utility>
 
+#include "core/Anzeigetext.h"
 #include "core/Zahlentext.h"
 #include "model/Einwaage.h"
 #include "model/Wiegeprotokoll.h"
@@ -197,7 +198,7 @@ void Wiegezeile::zeigeAtomprozent(float ist, std::optional<float> abweichung)
     QPalette colours;
     if (std::abs(abweichung.value_or(0)) > Abweichungstoleranz)
         colours.setColor(QPalette::WindowText, abweichungsfarbe(m_abweichung->parentWidget()->palette()));
-    m_abweichung->setText(toQt((isMore ? "+" : "") + text));
+    m_abweichung->setText(toQt((isMore ? "+" : "") + anzeigetext(text)));
     m_abweichung->setPalette(colours);
 }
 

@@ -23,6 +23,20 @@ TEST(WertanzeigeTest, UnitsStandInAColumn)
     EXPECT_GE(anzeige.sizeHint().width(), NumberWidth + anzeige.fontMetrics().horizontalAdvance(" eV"));
 }
 
+TEST(WertanzeigeTest, PaintsMinusAndPowerAndKeepsTheGivenText)
+{
+    Wertanzeige anzeige;
+    anzeige.resize(160, 24);
+    anzeige.setEinheit("eV", 80);
+    const auto painted = [&anzeige](const char* text) {
+        anzeige.setText(text);
+        EXPECT_EQ(anzeige.text(), text);
+        return anzeige.grab().toImage();
+    };
+    EXPECT_EQ(painted("-1,5 E+05 eV"), painted("−1,5·10⁵ eV"));
+    EXPECT_EQ(painted("r(n) = -2 nm"), painted("r(n) = −2 nm"));
+}
+
 TEST(WertanzeigeTest, ClickAndKeysAskForTheDetails)
 {
     Wertanzeige anzeige;

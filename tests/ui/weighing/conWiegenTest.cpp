@@ -42,7 +42,7 @@ TEST_F(conWiegenTest, AMassIsReportedWhenItsFieldIsLeftAndOnlyOnce)
     for (const auto& [name, field, typed, shown, missing, messages] : {
              Row{"the second first", "Istmasse_1", "70", "|||Gesamtmasse = 70 mg",
                  "Atomprozente nicht berechenbar: Aluminium hat 0 mg und ist der Bezug der Rechnung.", division},
-             {"below one", "Istmasse_0", "0,85", "2,7803|97,22|-47,22|Gesamtmasse = 70,85 mg",
+             {"below one", "Istmasse_0", "0,85", "2,7803|97,22|−47,22|Gesamtmasse = 70,85 mg",
                  "Noch 297,198 mg Al, 631,952 mg Cu", ""},
              {"too much", "Istmasse_0", "298,048", "90,932|9,0679|+40,93|Gesamtmasse = 368,05 mg", "Noch 631,952 mg Cu",
                  ""},
@@ -168,7 +168,7 @@ TEST_F(conWiegenTest, SpeaksOfDeviationsOnlyWhenAllIsWeighedAndStaysInPlace)
     EXPECT_EQ(texts({"Bezug_0", "Bezug_1", "Sollmasse_1", "lblHinweis"}), "Bezug||707,021|Noch 707,021 mg Cu");
     EXPECT_EQ(find("Bezug_0").toolTip(), "Die übrigen Sollmassen beziehen sich auf 300,2 mg");
     type("Istmasse_1", "705,9");
-    EXPECT_EQ(texts({"Abweichung_0", "Abweichung_1"}), "+0,04|-0,04");
+    EXPECT_EQ(texts({"Abweichung_0", "Abweichung_1"}), "+0,04|−0,04");
     choose("cmbElement_1", "Pb");
     QCoreApplication::processEvents();
     EXPECT_EQ(places(), before) << "nothing moves";
