@@ -8,6 +8,7 @@
 #include "programm/Programm.h"
 #include "ui/main/frmMain.h"
 #include "ui/platform/Anwendung.h"
+#include "ui/platform/Lesbarkeit.h"
 #include "ui/platform/QtInputBox.h"
 #include "ui/platform/QtMessageBoxes.h"
 #include "ui/platform/QtSaveFileDialog.h"
@@ -20,6 +21,7 @@ int main(int argc, char** argv)
     // The platform's own dialogs would speak the platform's language; the toolkit's speak German like the program.
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     const zerna::Anwendung application(argc, argv, boxes);
+    QApplication::setStyle(new zerna::LesbarerStil);
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     QTranslator german;
     if (german.load(QStringLiteral(":/qtbase_de.qm")))

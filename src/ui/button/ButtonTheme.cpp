@@ -11,7 +11,6 @@ namespace zerna {
 namespace {
 
 constexpr double TextContrast = 4.5;
-constexpr double DisabledContrast = 3.0;
 constexpr double LineContrast = 3.0;
 constexpr double BaseContrast = 10.0; // leaves room for the tints of hover, pressed and checked
 
@@ -81,7 +80,7 @@ ButtonLook disabledChecked(const ButtonTheme& theme)
     ButtonLook look = tinted(theme.disabled, theme.checked, 0.6);
     look.frame = mixed(theme.disabled.frame, theme.checked.frame, 0.3);
     look.frameWidth = theme.checked.frameWidth;
-    return legible(look, DisabledContrast);
+    return legible(look, TextContrast);
 }
 
 } // namespace
@@ -149,7 +148,7 @@ ButtonTheme themeFromPalette(const QPalette& palette)
     const QColor tint = towardsAccent(end, shades.checked);
     theme.checked = legible({tint, tint, accent, mixed(accent, text, 0.6)}, TextContrast);
     theme.checked.frameWidth = 2;
-    theme.disabled = legible({flat, flat, mixed(base, text, 0.15), mixed(text, base, 0.55)}, DisabledContrast);
+    theme.disabled = legible({flat, flat, mixed(base, text, 0.15), mixed(text, base, 0.55)}, TextContrast);
     theme.focus = standingOut(accent,
         {start, end, theme.hover.backgroundStart, theme.hover.backgroundEnd, theme.pressed.backgroundStart,
             theme.pressed.backgroundEnd, theme.checked.backgroundStart, theme.checked.backgroundEnd},

@@ -48,7 +48,7 @@ ButtonState stateOf(const ButtonCondition& condition);
 ButtonLook lookOf(const ButtonTheme& theme, const ButtonCondition& condition);
 
 /// Light or dark theme derived from the active colours Button, ButtonText, Window and Highlight. Text stands out
-/// from both ends of the background by 4.5:1 or more (disabled: 3:1), the focus colour by 3:1 or more.
+/// from both ends of the background by 4.5:1 or more in every state, the focus colour by 3:1 or more.
 ButtonTheme themeFromPalette(const QPalette& palette);
 
 /// Contrast of two opaque colours by relative luminance, 1 (equal) to 21 (black and white).

@@ -9,6 +9,7 @@
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
 #include "ui/diagram/Bildausgabe.h"
+#include "ui/platform/Farben.h"
 
 namespace zerna {
 
@@ -188,7 +189,7 @@ void Konzentrationsdiagramm::paintCursor(QPainter& painter, const Leinwand& lein
     if (m_cursor < 0 || !m_y || area.isEmpty())
         return;
     const double column = area.left() + layout(leinwand).abbildung.column(m_cursor) + 0.5;
-    painter.setPen(QPen(QColor(200, 60, 0), 1, Qt::DashLine));
+    painter.setPen(QPen(Cursorfarbe, 1, Qt::DashLine));
     painter.drawLine(QPointF(column, area.top()), QPointF(column, area.top() + area.height()));
 }
 

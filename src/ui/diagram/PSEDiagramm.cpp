@@ -11,6 +11,7 @@
 #include "model/Werttext.h"
 #include "ui/diagram/Bildausgabe.h"
 #include "ui/diagram/Striche.h"
+#include "ui/platform/Farben.h"
 
 namespace zerna {
 
@@ -98,7 +99,7 @@ void PSEDiagramm::paintCursor(QPainter& painter, const Leinwand& leinwand) const
     if (!point)
         return;
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor(200, 60, 0), 2));
+    painter.setPen(QPen(Cursorfarbe, 2));
     painter.drawEllipse(toPoint(*point), Radius, Radius);
     painter.setRenderHint(QPainter::Antialiasing, false);
 }

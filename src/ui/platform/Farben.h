@@ -77,16 +77,45 @@ inline bool istDunkel(const QPalette& palette, QPalette::ColorRole ground = QPal
     return palette.color(ground).lightness() < 128;
 }
 
+/// What texts and marks need against their ground.
+inline constexpr double Textkontrast = 4.5;
+
+/// The colour, moved no further towards black or white than it takes to have that contrast to a ground.
+inline QColor abgehoben(const QColor& colour, const QColor& ground, double contrast)
+{
+    constexpr int Steps = 64;
+    const int pole = kontrast(Qt::white, ground) > kontrast(Qt::black, ground) ? 255 : 0;
+    const auto mixed = [pole](int from, int step) { return from + (pole - from) * step / Steps; };
+    for (int step = 0; step < Steps; ++step) {
+        const QColor moved(mixed(colour.red(), step), mixed(colour.green(), step), mixed(colour.blue(), step));
+        if (kontrast(moved, ground) >= contrast)
+            return moved;
+    }
+    return {pole, pole, pole};
+}
+
+/// Of two colours the one for that ground, legible on it.
+inline QColor markenfarbe(
+    const QPalette& palette, QPalette::ColorRole ground, const QColor& onLight, const QColor& onDark)
+{
+    return abgehoben(istDunkel(palette, ground) ? onDark : onLight, palette.color(ground), Textkontrast);
+}
+
 /// A red for what is wrong, as text and as frame, that stands out on light and on dark grounds.
 inline QColor fehlerfarbe(const QPalette& palette, QPalette::ColorRole ground = QPalette::Window)
 {
-    return istDunkel(palette, ground) ? QColor(255, 107, 107) : QColor(190, 20, 20);
+    return markenfarbe(palette, ground, QColor(190, 20, 20), QColor(255, 107, 107));
 }
 
 /// An amber for what is odd, likewise.
 inline QColor bedenkenfarbe(const QPalette& palette, QPalette::ColorRole ground = QPalette::Window)
 {
-    return istDunkel(palette, ground) ? QColor(255, 190, 92) : QColor(140, 78, 0);
+    return markenfarbe(palette, ground, QColor(140, 78, 0), QColor(255, 190, 92));
 }
+
+/// Colours of diagrams, which are on white: the cursor, the alloy's own composition, the at% along an edge.
+inline constexpr QColor Cursorfarbe(200, 60, 0);
+inline constexpr QColor Legierungsfarbe(200, 30, 30);
+inline constexpr QColor Teilungsfarbe(70, 70, 70);
 
 } // namespace zerna

@@ -147,7 +147,7 @@ void Ternaerbild::paintEdges(QPainter& painter) const
 {
     constexpr double Distance = 14;
     constexpr double ShortestEdge = 110; // pixels; below that the labels would overlap
-    painter.setPen(QColor(70, 70, 70));
+    painter.setPen(Teilungsfarbe);
     for (std::size_t k = 0; k < 3; ++k) {
         const std::size_t to = (k + 1) % 3;
         const QPointF edge = at(along(to, to, 1), 0) - at(along(k, k, 1), 0);
@@ -210,10 +210,10 @@ void Ternaerbild::paintCurrent(QPainter& painter) const
     if (!value)
         return;
     const double z = m_ansicht.flach ? 0 : heightShare(*value, m_inhalt->range) * SurfaceHeight;
-    painter.setPen(QPen(QColor(200, 30, 30), 1.2, Qt::DashLine));
+    painter.setPen(QPen(Legierungsfarbe, 1.2, Qt::DashLine));
     painter.drawLine(at(*current, 0), at(*current, z));
     painter.setPen(QPen(Qt::white, 1.5));
-    painter.setBrush(QColor(200, 30, 30));
+    painter.setBrush(Legierungsfarbe);
     painter.drawEllipse(at(*current, z), Radius, Radius);
     painter.setBrush(Qt::NoBrush);
 }

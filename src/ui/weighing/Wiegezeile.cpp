@@ -79,7 +79,7 @@ void layOutGroup(QGridLayout& grid, QWidget* panel, const QString& caption, int 
 
 QColor abweichungsfarbe(const QPalette& ground)
 {
-    return istDunkel(ground) ? QColor(255, 138, 101) : QColor(160, 40, 0);
+    return markenfarbe(ground, QPalette::Window, QColor(160, 40, 0), QColor(255, 138, 101));
 }
 
 Wiegezeile::Wiegezeile(int row, QWidget* panel)
