@@ -3,6 +3,7 @@
 #include <QLabel>
 
 #include <algorithm>
+#include <utility>
 
 namespace zerna {
 
@@ -10,9 +11,9 @@ namespace zerna {
 /// text and exactly as high as a number of lines, in whatever font.
 class Festlabel : public QLabel {
 public:
-    Festlabel(const QString& sample, int lines, QWidget* parent)
+    Festlabel(QString sample, int lines, QWidget* parent)
         : QLabel(parent)
-        , m_sample(sample)
+        , m_sample(std::move(sample))
         , m_lines(lines)
     {
         setWordWrap(lines > 1);

@@ -135,7 +135,7 @@ void Wiegezeile::layOut(QGridLayout& grid, int gridRow)
 
 std::optional<AbgelegteMasse> Wiegezeile::zeige(const std::string& symbol, const QString& name)
 {
-    const auto taken = symbol == m_symbol ? std::nullopt : takeMasse();
+    auto taken = symbol == m_symbol ? std::nullopt : takeMasse();
     m_symbol = symbol;
     for (QWidget* const widget : widgets())
         widget->show();

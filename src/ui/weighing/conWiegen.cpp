@@ -302,7 +302,7 @@ void conWiegen::report()
 {
     const std::optional<Laufzeitfehler> error = std::exchange(m_meldung, std::nullopt);
     if (error)
-        reporting(m_programm.boxes(), "Istmasse_Change", Steuerelement, [&error] { throw *error; });
+        reporting(m_programm.boxes(), "Istmasse_Change", Steuerelement, [&error] { throw Laufzeitfehler(*error); });
 }
 
 /// Says in the fields and below them what is missing.
