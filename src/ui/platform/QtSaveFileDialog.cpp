@@ -5,10 +5,12 @@
 #include <QDir>
 #include <QEvent>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStringList>
+#include <QTreeView>
 
 #include "core/Datei.h"
 #include "programm/Exportziel.h"
@@ -29,6 +31,7 @@ public:
         setAcceptMode(AcceptSave);
         setFileMode(AnyFile);
         setNameFilters(filters);
+        showWholeColumns();
         saveButton().installEventFilter(this);
         saveButton().setEnabled(true);
     }
@@ -57,7 +60,7 @@ protected:
         if (target.isDir() && QDir(target.filePath()) != directory())
             QFileDialog::accept(); // goes there
         else
-            QDialog::accept();
+            done(Accepted);
     }
 
     bool eventFilter(QObject* object, QEvent* event) override
@@ -68,6 +71,17 @@ protected:
     }
 
 private:
+    /// The toolkit cuts size, type and date off.
+    void showWholeColumns()
+    {
+        constexpr QSize Roomy(760, 480);
+        resize(size().expandedTo(Roomy));
+        QHeaderView& header = *findChild<QTreeView*>(QStringLiteral("treeView"))->header();
+        header.setSectionResizeMode(QHeaderView::ResizeToContents);
+        header.setSectionResizeMode(0, QHeaderView::Stretch);
+        header.setStretchLastSection(false);
+    }
+
     QLineEdit& name() const { return *findChild<QLineEdit*>(QStringLiteral("fileNameEdit")); }
     QPushButton& saveButton() const
     {
