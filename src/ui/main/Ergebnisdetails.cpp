@@ -20,6 +20,7 @@ QString formelHtml(const std::string& text)
     static const QRegularExpression power(QStringLiteral("\\^\\(([^)]*)\\)"));
     return toQt(text)
         .toHtmlEscaped()
+        .replace(QStringLiteral(" = "), QStringLiteral("&nbsp;=&nbsp;")) // no line begins or ends with it
         .replace(index, QStringLiteral("<sub>\\1</sub>"))
         .replace(power, QStringLiteral("<sup>\\1</sup>"));
 }
