@@ -10,6 +10,7 @@
 
 #include "core/Zahlentext.h"
 #include "ui/platform/Anzeige.h"
+#include "ui/platform/Farben.h"
 #include "ui/platform/Zwischenablage.h"
 
 namespace zerna {
@@ -48,7 +49,10 @@ public:
         const QWidget* const widget = option.widget;
         widget->style()->drawControl(QStyle::CE_ItemViewItem, &background, painter, widget);
         const bool isSelected = (option.state & QStyle::State_Selected) != 0;
-        painter->setPen(option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text));
+        const QPalette& colours = option.palette;
+        painter->setPen(isSelected
+                ? lesbar(colours.color(QPalette::HighlightedText), colours.color(QPalette::Highlight))
+                : colours.color(QPalette::Text));
         const int column = captionWidth(*index.model(), option.fontMetrics);
         const QRect area = option.rect.adjusted(Margin, 0, -Margin, 0);
         painter->drawText(area, Qt::AlignLeft | Qt::AlignVCenter, captionOf(line));

@@ -152,12 +152,6 @@ double paintKomponenten(
     return width + 1;
 }
 
-QColor textOn(const QColor& colour)
-{
-    constexpr double EqualContrast = 0.179;
-    return leuchtdichte(fromQt(colour)) > EqualContrast ? Qt::black : Qt::white;
-}
-
 QFont withPixelSize(QFont font, double pixels)
 {
     font.setPixelSize(std::max(1, static_cast<int>(pixels)));

@@ -46,9 +46,6 @@ void paintZeichen(QPainter& painter, const QRectF& area, Gruppenzeichen zeichen,
 double paintKomponenten(
     QPainter& painter, const QPointF& corner, const QString& komponenten, const QColor& plate, const QFont& font);
 
-/// Black or white, whichever is easier to read on the colour.
-QColor textOn(const QColor& colour);
-
 QFont withPixelSize(QFont font, double pixels);
 
 } // namespace zerna

@@ -35,6 +35,20 @@ inline double kontrast(const QColor& a, const QColor& b)
     return first > second ? first / second : second / first;
 }
 
+/// Black or white, whichever is easier to read on the colour.
+inline QColor textOn(const QColor& colour)
+{
+    constexpr double EqualContrast = 0.179;
+    return leuchtdichte(fromQt(colour)) > EqualContrast ? Qt::black : Qt::white;
+}
+
+/// The text colour where it can be read on the ground, else black or white.
+inline QColor lesbar(const QColor& text, const QColor& ground)
+{
+    constexpr double Texts = 4.5;
+    return kontrast(text, ground) >= Texts ? text : textOn(ground);
+}
+
 /// The colour closest to a ground on the way to that of its texts that has a contrast to it.
 inline QColor abgesetzt(const QColor& ground, const QColor& text, double contrast)
 {

@@ -71,6 +71,8 @@ TEST_F(TafelfaerbungTest, AllThatCellsShowCanBeRead)
         EXPECT_GE(kontrast(zeichenfarbe(ground, text), ground), 4.5) << ground.name().toStdString();
         EXPECT_GE(kontrast(linienfarbe(ground, text), ground), 3) << ground.name().toStdString();
     }
+    EXPECT_EQ(lesbar(Qt::white, QColor(48, 140, 198)), QColor(Qt::black)) << "a chosen line of the usual style";
+    EXPECT_EQ(lesbar(Qt::white, QColor(0, 90, 160)), QColor(Qt::white));
     EXPECT_NEAR(kontrast(Qt::white, QColor(118, 118, 118)), 4.54, 0.01) << "the guidelines' own example";
 }
 
