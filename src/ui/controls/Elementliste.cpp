@@ -97,11 +97,10 @@ Elementliste::Elementliste(QWidget* parent)
     setItemDelegate(new Namensspalte(this));
 }
 
-void Elementliste::addElement(const QString& symbol, const QString& name, int itemData)
+void Elementliste::setName(int position, const QString& name)
 {
-    addItem(symbol, itemData);
-    setItemData(count() - 1, name, NameRole);
-    setItemData(count() - 1, symbol + QLatin1Char(' ') + name, Qt::AccessibleTextRole);
+    setItemData(position, name, NameRole);
+    setItemData(position, itemText(position) + QLatin1Char(' ') + name, Qt::AccessibleTextRole);
 }
 
 void Elementliste::showPopup()

@@ -12,7 +12,7 @@ class Elementliste : public QComboBox {
 public:
     explicit Elementliste(QWidget* parent = nullptr);
 
-    void addElement(const QString& symbol, const QString& name, int itemData);
+    void setName(int position, const QString& name);
 
     void showPopup() override;
 };

@@ -128,8 +128,7 @@ void Kompositionsbereich::restoreCount()
 
 void Kompositionsbereich::addElement(int list, std::string_view symbol, int itemData)
 {
-    const auto element = m_programm.ElementCollection().find(symbol);
-    at(list).addElement(symbol, element ? element->Name() : std::string(), itemData);
+    at(list).addElement(symbol, itemData);
 }
 
 std::string Kompositionsbereich::elementEntry(int list, int position) const
@@ -146,6 +145,12 @@ void Kompositionsbereich::chooseElement(int row, int position)
 {
     if (const std::string key = elementEntry(row, position); !key.empty())
         elementChosen(row, key);
+}
+
+void Kompositionsbereich::nenneElemente()
+{
+    for (Kompositionszeile* const zeile : m_zeilen)
+        zeile->nenneElemente(m_programm.ElementCollection());
 }
 
 void Kompositionsbereich::focusFirstField() { at(0).focusProzent(); }

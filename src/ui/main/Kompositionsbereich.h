@@ -30,6 +30,7 @@ public:
     void addElement(int list, std::string_view symbol, int itemData);
     std::string elementEntry(int list, int position) const;
     int findElementEntry(int list, std::string_view text) const;
+    void nenneElemente(); ///< once the elements are loaded
 
     /// Chooses an entry of a row's element list; nothing for a position outside.
     void chooseElement(int row, int position);

@@ -95,9 +95,9 @@ void Kompositionszeile::measure()
     m_txtValenz->setFixedWidth(feldbreite(*m_txtValenz, QStringLiteral("<unbekannt>")));
 }
 
-void Kompositionszeile::addElement(std::string_view symbol, std::string_view name, int itemData)
+void Kompositionszeile::addElement(std::string_view symbol, int itemData)
 {
-    m_cmbElement->addElement(toQt(symbol), toQt(name), itemData);
+    m_cmbElement->addItem(toQt(symbol), itemData);
     if (m_cmbElement->count() == 1)
         m_cmbElement->setCurrentIndex(-1); // the toolkit selects the first entry, start-up chooses
 }
@@ -109,7 +109,19 @@ int Kompositionszeile::findElementEntry(std::string_view text) const
     return m_cmbElement->findText(toQt(text), Qt::MatchFixedString | Qt::MatchCaseSensitive);
 }
 
-void Kompositionszeile::focusProzent() { m_txtProzent->setFocus(Qt::TabFocusReason); }
+void Kompositionszeile::nenneElemente(const ElementCollection& elements)
+{
+    for (int position = 0; position < m_cmbElement->count(); ++position) {
+        if (const auto element = elements.find(fromQt(m_cmbElement->itemText(position))))
+            m_cmbElement->setName(position, toQt(element->Name()));
+    }
+}
+
+void Kompositionszeile::focusProzent()
+{
+    m_txtProzent->setFocus(Qt::TabFocusReason);
+    m_txtProzent->selectAll(); // also while the window is not active yet
+}
 
 void Kompositionszeile::zeige(const Eingabe& eingabe)
 {

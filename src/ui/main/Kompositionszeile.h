@@ -30,9 +30,12 @@ public:
     void layOut(QGridLayout& grid, int gridRow);
 
     // The element list, as start-up fills it.
-    void addElement(std::string_view symbol, std::string_view name, int itemData);
+    void addElement(std::string_view symbol, int itemData);
     QString elementEntry(int position) const;
     int findElementEntry(std::string_view text) const;
+
+    /// Shows the elements' names in the list.
+    void nenneElemente(const ElementCollection& elements);
 
     void focusProzent();
 

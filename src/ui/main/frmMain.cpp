@@ -239,6 +239,7 @@ void frmMain::sperren(std::string_view grund)
 
 void frmMain::show()
 {
+    m_komposition->nenneElemente();
     QWidget::show();
     m_komposition->focusFirstField();
 }

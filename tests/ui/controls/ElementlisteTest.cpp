@@ -14,8 +14,10 @@ TEST(ElementlisteTest, LettersJumpToTheSymbolAndTheNamesStandBesideIt)
     const std::pair<const char*, const char*> elements[] = {{"H", "Wasserstoff"}, {"C", "Kohlenstoff"},
         {"Na", "Natrium"}, {"S", "Schwefel"}, {"K", "Kalium"}, {"Sc", "Scandium"}, {"Cu", "Kupfer"},
         {"N", "Stickstoff"}};
-    for (const auto& [symbol, name] : elements)
-        list.addElement(QLatin1String(symbol), QLatin1String(name), 0);
+    for (const auto& [symbol, name] : elements) {
+        list.addItem(QLatin1String(symbol));
+        list.setName(list.count() - 1, QLatin1String(name));
+    }
     QSignalSpy chosen(&list, &QComboBox::textActivated);
     for (const auto& [typed, symbol] :
         {std::pair("cu", "Cu"), {"N", "N"}, {"sc", "Sc"}, {"s", "S"}, {"Kup", "Cu"}, {"w", "H"}, {"x", "H"}}) {
