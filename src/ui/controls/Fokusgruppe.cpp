@@ -8,7 +8,7 @@
 
 namespace zerna {
 
-Fokusgruppe::Fokusgruppe(QObject* parent, Spalten spalten)
+Fokusgruppe::Fokusgruppe(QObject* parent, Spalten spalten, QWidget* halt)
     : QObject(parent)
     , m_spalten(std::move(spalten))
 {
@@ -16,7 +16,7 @@ Fokusgruppe::Fokusgruppe(QObject* parent, Spalten spalten)
         for (QWidget* const widget : spalte)
             widget->installEventFilter(this);
     }
-    setHalt(m_spalten.front().front());
+    setHalt(halt);
 }
 
 /// All can be clicked and moved to; the tab key stops at one.

@@ -16,8 +16,8 @@ class Fokusgruppe : public QObject {
 public:
     using Spalten = std::vector<std::vector<QWidget*>>;
 
-    /// No column may be empty.
-    Fokusgruppe(QObject* parent, Spalten spalten);
+    /// The stop is `halt` at first.
+    Fokusgruppe(QObject* parent, Spalten spalten, QWidget* halt);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

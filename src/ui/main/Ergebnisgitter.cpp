@@ -132,7 +132,7 @@ void Ergebnisgitter::layOutLine(const Groesse& zeile, int row, int column)
         return;
     }
     auto* pair = new QHBoxLayout;
-    pair->setSpacing(Einheitenabstand);
+    folgeSchrift(edit, [pair, edit] { pair->setSpacing(Wertanzeige::einheitenabstand(edit->fontMetrics())); });
     m_beschriftungen.at(k)->setBuddy(edit);
     pair->addWidget(edit);
     pair->addWidget(m_anzeigen.at(k), 1);
@@ -163,7 +163,8 @@ void Ergebnisgitter::groupFocus()
             spalten.at(isOnTheRight(zeile) ? 1 : 0).push_back(&anzeige(zeile.zeile));
     }
     spalten.back().push_back(&anzeige(Friedelzeile)); // below the energies
-    new Fokusgruppe(this, std::move(spalten));
+    const auto plain = std::ranges::find_if(ergebniszeilen(), [](const Groesse& zeile) { return !zeile.tippbar; });
+    new Fokusgruppe(this, std::move(spalten), &anzeige(plain->zeile)); // the first value without a field of its own
 }
 
 std::vector<QWidget*> Ergebnisgitter::tabOrder()

@@ -77,6 +77,8 @@ TEST_F(frmMainTest, ResultsAreOneStopWithArrowsInside)
 {
     open();
     EXPECT_EQ(QApplication::focusWidget(), &find("txtProzent_0")) << "work begins here";
+    EXPECT_TRUE(find<QLineEdit>("txtProzent_0").hasSelectedText());
+    EXPECT_EQ(find<QComboBox>("cmbElement_1").itemData(28, Qt::AccessibleTextRole), QStringLiteral("Cu Kupfer"));
     const auto values = [this] {
         std::vector<QWidget*> all;
         for (auto* const label : visible<QLabel>()) {
@@ -89,6 +91,11 @@ TEST_F(frmMainTest, ResultsAreOneStopWithArrowsInside)
         return std::ranges::count_if(values(), [](auto* value) { return (value->focusPolicy() & Qt::TabFocus) != 0; });
     };
     EXPECT_EQ(stops(), 1);
+    find("txtMFE_1").setFocus();
+    for (const char* const next : {"lblMFE_2", "txtMFE_2"}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget(), &find(next));
+    }
     find("lblMFE_2").setFocus();
     for (const auto& [key, reached] : {std::pair(Qt::Key_Down, "lblMFE_3"), {Qt::Key_Right, "lblMFE_16"},
              {Qt::Key_Up, "lblMFE_15"}, {Qt::Key_End, "lblMFE_10"}, {Qt::Key_Down, "lblMFE_10"},
