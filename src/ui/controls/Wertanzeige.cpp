@@ -53,7 +53,7 @@ QSize Wertanzeige::sizeHint() const
     if (m_numberWidth == 0)
         return QLabel::sizeHint();
     const int unit = fontMetrics().horizontalAdvance(m_einheit + m_marke) + 1;
-    return {m_numberWidth + 2 * m_margin + Einheitenabstand + unit, fontMetrics().height()};
+    return {m_numberWidth + 2 * m_margin + einheitenabstand(fontMetrics()) + unit, fontMetrics().height()};
 }
 
 bool Wertanzeige::event(QEvent* event)
@@ -125,8 +125,8 @@ void Wertanzeige::paintEvent(QPaintEvent*)
         painter.drawText(
             QRect(area.left(), area.top(), width, area.height()), Qt::AlignRight | Qt::AlignVCenter, number);
         painter.setFont(font());
-        painter.drawText(area.adjusted(width + m_margin + Einheitenabstand, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
-            m_einheit + m_marke);
+        painter.drawText(area.adjusted(width + m_margin + einheitenabstand(fontMetrics()), 0, 0, 0),
+            Qt::AlignLeft | Qt::AlignVCenter, m_einheit + m_marke);
     } else {
         painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, gezeigt(text()));
     }

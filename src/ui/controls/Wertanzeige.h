@@ -4,8 +4,6 @@
 
 namespace zerna {
 
-inline constexpr int Einheitenabstand = 4; ///< between a number's column, or a field, and its unit
-
 /// One result value: number and unit stand in columns, so that the units of all lines are aligned. It paints the number
 /// with a true minus sign and a power of ten; its text stays the given one. Takes the keyboard
 /// focus; Ctrl+C copies what it shows, the right mouse button or the menu key asks for its menu, a click, Enter or the
@@ -20,6 +18,9 @@ public:
     /// a margin on both sides so that numbers and units stand below those of fields.
     void setEinheit(const QString& einheit, int numberWidth, int margin = 0);
     const QString& einheit() const { return m_einheit; }
+
+    /// Between a number's column, or a field, and its unit.
+    static int einheitenabstand(const QFontMetrics& metrics) { return qMax(4, metrics.height() / 4); }
 
     /// A mark behind the value says that more is to be said of it; `bedeutung` is for screen readers, empty: no mark.
     void setMarke(const QString& bedeutung);

@@ -172,6 +172,12 @@ void Wertfeld::paintEvent(QPaintEvent* event)
 {
     QLineEdit::paintEvent(event);
     QPainter painter(this);
+    if (hasFocus() && m_fehler.isEmpty() && m_bedenken.isEmpty()) { // the style's own frame may be too faint
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(fokusfarbe(palette(), palette().color(QPalette::Window)), 2));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 2, 2);
+        painter.setRenderHint(QPainter::Antialiasing, false);
+    }
     if (!m_shownEcho.isEmpty()) {
         painter.setPen(palette().color(QPalette::PlaceholderText));
         painter.drawText(rect().adjusted(0, 0, -EchoMargin, 0), Qt::AlignRight | Qt::AlignVCenter, m_shownEcho);

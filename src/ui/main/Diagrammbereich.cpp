@@ -132,6 +132,9 @@ void Diagrammbereich::layOut()
     for (StyledButton* const button : m_cmdSteps)
         values->addWidget(button);
     values->addStretch();
+    auto* strut = new QWidget(this); // the row keeps its height when all else in it is hidden
+    folgeSchrift(strut, [this, strut] { strut->setFixedSize(0, m_conLabel[0]->minimumSizeHint().height()); });
+    values->addWidget(strut);
     auto* buttons = knopfzeile({m_cmdKopieren, m_cmdSpeichern});
     buttons->setSpacing(8);
 

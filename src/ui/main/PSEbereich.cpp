@@ -7,6 +7,7 @@
 
 #include "core/Laufzeitfehler.h"
 #include "model/PSEReihe.h"
+#include "ui/controls/Masse.h"
 #include "ui/main/Elementkarte.h"
 #include "ui/main/Periodentafel.h"
 #include "ui/platform/QtText.h"
@@ -57,7 +58,7 @@ void PSEbereich::layOut()
     m_picPSE->setGeometry(0, 0, tableWidth, height());
     m_picInfo->setGeometry(tableWidth, 0, static_cast<int>(width() * InfoShare), height());
     const QRect free = m_picPSE->freeArea();
-    m_farbwahl->setGeometry(free.left(), free.top(), free.width(), 28);
+    m_farbwahl->setGeometry(free.left(), free.top(), free.width(), feldhoehe(*m_cmbFarbe));
     m_lblUebernahme->setGeometry(m_picPSE->gap());
     showKomponenten();
     m_picPSE->setSelected(m_programm.SelectedElement());

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "bild/PSETafel.h"
+#include "ui/controls/Masse.h"
 #include "ui/main/Tafellegende.h"
 #include "ui/main/Zelltexte.h"
 #include "ui/platform/Farben.h"
@@ -225,11 +226,11 @@ void Periodentafel::typeLetter(const QString& letter)
 
 void Periodentafel::paintEvent(QPaintEvent* event)
 {
-    constexpr int ListHeight = 34; // of the list that lies at the top of the free area
+    const int listHeight = feldhoehe(*this) + 9; // of the list that lies at the top of the free area
     const Zellstil stil{palette(), font(), m_namenPassen, hasFocus()};
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    paintLegende(painter, QRectF(freeArea()).adjusted(0, ListHeight, 0, 0), m_faerbung, stil);
+    paintLegende(painter, QRectF(freeArea()).adjusted(0, listHeight, 0, 0), m_faerbung, stil);
     paintReihenhinweise(painter, scale(), stil);
     std::size_t index = 0;
     std::size_t hovered = 0;

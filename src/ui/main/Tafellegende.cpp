@@ -30,7 +30,7 @@ void paintMarkenhinweis(QPainter& painter, const QRectF& area, const Zellstil& s
 /// Two groups above the two others.
 void paintGruppen(QPainter& painter, const QRectF& area, const QPalette& palette)
 {
-    const double height = std::min(26.0, area.height() / 2);
+    const double height = std::min(painter.fontMetrics().height() + 12.0, area.height() / 2);
     const double width = area.width() / 2;
     std::size_t i = 0;
     for (const Elementgruppe& gruppe : elementgruppen()) {
@@ -43,7 +43,7 @@ void paintGruppen(QPainter& painter, const QRectF& area, const QPalette& palette
         paintZeichen(painter, middle, gruppe.zeichen, textOn(colour));
         painter.setPen(palette.color(QPalette::WindowText));
         painter.drawText(QRectF(sample.right() + 8, sample.top(), width - sample.width() - 8, sample.height()),
-            Qt::AlignLeft | Qt::AlignVCenter, toQt(gruppe.name));
+            Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, toQt(gruppe.name));
         ++i;
     }
 }

@@ -89,4 +89,22 @@ TEST_F(FensterlayoutTest, DiagramKeepsItsOffsetsAndFewComponentsLeaveNoGap)
     EXPECT_TRUE(QTest::qWaitFor([&] { return find("cmdKnopf1_0").y() < below - find("txtProzent_0").height(); }));
 }
 
+TEST_F(FensterlayoutTest, DiagramStaysInPlaceWithEveryType)
+{
+    QFont large = usual;
+    large.setPointSize(16);
+    QApplication::setFont(large);
+    settings["Komponenten"] = "2";
+    open();
+    auto& types = find<QComboBox>("cmbDiagramm_Typ");
+    types.setFocus();
+    QTest::qWait(20);
+    const int top = find("picDiagramm").y();
+    for (int type = 0; type < 3; ++type) {
+        EXPECT_EQ(types.currentIndex(), type);
+        EXPECT_FALSE(QTest::qWaitFor([&] { return find("picDiagramm").y() != top; }, 50)) << type;
+        QTest::keyClick(&types, Qt::Key_Down);
+    }
+}
+
 } // namespace zerna
