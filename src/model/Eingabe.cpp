@@ -57,6 +57,7 @@ Eingabe::Eingabe(const ElementCollection& elements)
 {
     for (std::size_t i = 0; i < m_zeilen.size(); ++i)
         m_zeilen.at(i).prozent = zahlenfeld(AnfangsProzente.at(i));
+    m_rest = ausgleich({});
 }
 
 Aenderung Eingabe::setAnzahl(int anzahl)
@@ -85,6 +86,13 @@ Aenderung Eingabe::setProzent(int zeile, std::string_view text)
     return {.anteil = !istAusgleich(zeile) && balance()};
 }
 
+void Eingabe::setProzentOhneAusgleich(int zeile, std::string_view text)
+{
+    readZahl(at(zeile).prozent, text);
+    if (istAusgleich(zeile))
+        m_rest = at(zeile).prozent;
+}
+
 void Eingabe::gleicheAus() { balance(); }
 
 /// False, and nothing written, if a row above the last one is empty or no number.
@@ -98,7 +106,8 @@ bool Eingabe::balance()
         above[i] = m_zeilen.at(i).prozent.wert;
     }
     try {
-        at(m_anzahl - 1).prozent = ausgleich(above);
+        m_rest = ausgleich(above);
+        at(m_anzahl - 1).prozent = m_rest;
         return true;
     } catch (const Laufzeitfehler&) {
         return false;
@@ -207,18 +216,23 @@ void Eingabe::mirror(int zeile)
 
 bool Eingabe::istVollstaendig() const
 {
-    return std::ranges::all_of(zeilen(), [](const Zeile& zeile) { return zeile.element && !zeile.prozent.fehler; });
+    for (int i = 0; i < m_anzahl; ++i) {
+        if (!zeile(i).element || prozentInKraft(i).fehler)
+            return false;
+    }
+    return true;
 }
 
 std::optional<Legierung> Eingabe::legierung() const
 {
     std::optional<Legierung> legierung(std::in_place);
-    for (const Zeile& row : zeilen()) {
+    for (int i = 0; i < m_anzahl; ++i) {
+        const Zeile& row = zeile(i);
         if (!row.element) {
             legierung.reset();
             break;
         }
-        legierung->add({row.element, row.prozent.wert, row.inKraft.dichte, row.inKraft.valenz});
+        legierung->add({row.element, prozentInKraft(i).wert, row.inKraft.dichte, row.inKraft.valenz});
     }
     return legierung;
 }
@@ -232,7 +246,7 @@ std::optional<Hindernis> Eingabe::hindernis() const
     return std::nullopt;
 }
 
-void Eingabe::elementeSetzen() const
+void Eingabe::elementeSetzen()
 {
     for (const Zeile& row : m_zeilen) {
         if (!row.element)
@@ -248,7 +262,8 @@ std::vector<Komponentenzeile> Eingabe::komponentenzeilen() const
     for (int i = 0; i < m_anzahl; ++i) {
         const Zeile& row = zeile(i);
         if (row.element)
-            zeilen.push_back({row.element->symbol(), einheitlich(row.prozent), row.dichtewahl, einheitlich(row.dichte),
+            zeilen.push_back({row.element->symbol(), einheitlich(prozentInKraft(i)), row.dichtewahl,
+                row.dichte.fehler ? feldtext(row.inKraft.dichte) : einheitlich(row.dichte),
                 std::string(valenzwahltext(row)), einheitlich(row.valenz)});
     }
     return zeilen;

@@ -73,6 +73,9 @@ public:
     /// Enters an at%. Nothing changes while one of the rows above the balance row is empty or no number.
     Aenderung setProzent(int zeile, std::string_view text);
 
+    /// Takes an at% as it is given, the balance row's too.
+    void setProzentOhneAusgleich(int zeile, std::string_view text);
+
     /// Writes the balance row's at% again, over what was entered there.
     void gleicheAus();
 
@@ -107,6 +110,13 @@ public:
     const Zeile& zeile(int zeile) const { return m_zeilen.at(static_cast<std::size_t>(zeile)); }
     bool istAusgleich(int zeile) const { return zeile == m_anzahl - 1; }
 
+    /// The at% that is computed with: what stands in the row, but the rest for the balance row, whatever is entered
+    /// there.
+    const Eingabefeld& prozentInKraft(int zeile) const
+    {
+        return istAusgleich(zeile) ? m_rest : this->zeile(zeile).prozent;
+    }
+
     /// Whether all rows in use have an element and a readable at%.
     bool istVollstaendig() const;
 
@@ -116,12 +126,12 @@ public:
     /// What keeps a diagram over compositions from being computed; no value if nothing does.
     std::optional<Hindernis> hindernis() const;
 
-    /// The rows in use as the results text names them, numbers with a comma and no needless digits however they were
-    /// typed; those without an element are left out.
+    /// The rows in use as the results text names them, with what is computed with, numbers with a comma and no needless
+    /// digits however they were typed; those without an element are left out.
     std::vector<Komponentenzeile> komponentenzeilen() const;
 
     /// Gives the elements of all rows the density and the valence text that are in force for them.
-    void elementeSetzen() const;
+    void elementeSetzen();
 
     bool operator==(const Eingabe&) const = default;
 
@@ -136,6 +146,7 @@ private:
     const ElementCollection* m_elements;
     int m_anzahl = 1;
     std::array<Zeile, MaxKomponenten> m_zeilen;
+    Eingabefeld m_rest; // the balance row's at%, which what is entered there does not change
     std::shared_ptr<clsElement> m_current; // maybe null
 };
 

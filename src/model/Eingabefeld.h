@@ -16,8 +16,9 @@ inline constexpr std::string_view UnbekannterWert = "<unbekannt>";
 struct Eingabefehler {
     std::string grund = {}; ///< in German
     std::size_t stelle = 0; ///< character of the text, from 1; 0 for the whole text
+    std::string abhilfe = {}; ///< what to do, as sentences; empty where the reason tells
 
-    /// Reason and place, as they are shown.
+    /// Reason, place and remedy, as they are shown.
     std::string text() const;
     bool operator==(const Eingabefehler&) const = default;
 };
@@ -27,7 +28,7 @@ struct Eingabefeld {
     std::string text = {};
     float wert = 0; ///< Unbekannt while the text gives none
     std::optional<Eingabefehler> fehler = {};
-    std::string echo = {}; ///< what a formula comes to, as text; empty for a plain number
+    std::string echo = {}; ///< what a formula or an empty text comes to; empty for a plain number
     std::vector<std::string> meldungen = {}; ///< what is to be said about unknown functions
 
     bool istUnbekannterWert() const { return text == UnbekannterWert; }

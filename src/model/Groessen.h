@@ -47,6 +47,7 @@ inline constexpr int GroesseDichte = 3;
 /// Result lines that something is made of.
 inline constexpr int Valenzzeile = 0;
 inline constexpr int Teilchenzeile = 1;
+inline constexpr int Dichtezeile = 2;
 inline constexpr int Kf2Zeile = 8;
 inline constexpr int Wellenlaengenzeile = 9;
 

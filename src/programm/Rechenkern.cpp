@@ -126,8 +126,8 @@ void Rechenkern::setAlloy(std::span<const Komponentenangabe> angaben)
     m_eingabe.setAnzahl(static_cast<int>(angaben.size()));
     for (int zeile = 0; const Komponentenangabe& angabe : angaben)
         enterElement(zeile++, angabe);
-    for (int zeile = 0; const Komponentenangabe& angabe : angaben) // the last one over the balance of those before
-        m_eingabe.setProzent(zeile++, textOfSingle(singleFromText(angabe.prozent)));
+    for (int zeile = 0; const Komponentenangabe& angabe : angaben)
+        m_eingabe.setProzentOhneAusgleich(zeile++, textOfSingle(singleFromText(angabe.prozent)));
     m_legierung = m_eingabe.legierung().value();
     m_eingabe.elementeSetzen();
     m_komponentenzahl = m_eingabe.anzahl();

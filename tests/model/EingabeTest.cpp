@@ -105,6 +105,23 @@ TEST_F(EingabeTest, BalanceRowTakesTheRestOnceAllOthersCanBeRead)
     EXPECT_EQ(errorNumber([this] { eingabe.setAnzahl(6); }) + errorNumber([this] { eingabe.setAnzahl(0); }), 18);
 }
 
+TEST_F(EingabeTest, WhatIsTypedIntoTheBalanceRowOrUnreadableIsNotComputedWith)
+{
+    eingabe.setProzent(0, "60");
+    dichte(1, "8,9")(eingabe);
+    eingabe.setDichte(1, "8,9x");
+    for (const char* const typed : {"7", "x", ""}) {
+        eingabe.setProzent(1, typed);
+        EXPECT_EQ(eingabe.zeile(1).prozent.text, typed);
+        EXPECT_TRUE(eingabe.istVollstaendig());
+        EXPECT_EQ(zahlen(), "60 2,377 3|40 8,9 1|");
+        const Komponentenzeile named = eingabe.komponentenzeilen().at(1);
+        EXPECT_EQ(named.prozent + ' ' + named.dichte, "40 8,9");
+    }
+    eingabe.setProzentOhneAusgleich(1, "7");
+    EXPECT_EQ(zahlen(), "60 2,377 3|7 8,9 1|");
+}
+
 TEST_F(EingabeTest, ChoicesAndTextsBecomeNumbers)
 {
     struct Row {
@@ -145,15 +162,27 @@ TEST_F(EingabeTest, EachTextKnowsItsFaultItsEchoAndItsMessages)
     };
     for (const auto& [text, fehler, echo, meldungen] : {
              Row{"3", "", "", 0},
+             {"()", "", "0", 0},
+             {"2*-3",
+                 "Operand fehlt (Zeichen 3). Zu jedem Rechenzeichen gehören zwei Zahlen; für -3 in einer Formel (0-3) "
+                 "schreiben.",
+                 "", 0},
+             {"ln(0)",
+                 "Ungültiger Prozeduraufruf oder ungültiges Argument (Zeichen 1). Wurzel, Logarithmus und Potenz sind "
+                 "nicht für jede Zahl festgelegt.",
+                 "", 0},
              {"-1", "", "", 0},
              {"&HFF", "", "", 0},
              {"3/2", "", "1,5", 0},
              {"e", "", "2,7718281828459", 0},
-             {"", "", "", 0},
-             {"2+1/0", "Division durch Null (Zeichen 4)", "", 0},
+             {"", "", "0", 0},
+             {"2+1/0", "Division durch Null (Zeichen 4). Der Nenner darf nicht 0 sein.", "", 0},
              {"<unbekannt>", "\"<unbekannt>\" ist keine Zahl (Zeichen 1)", "", 0},
-             {"foo(1)+bar(2)", "Funktion \"foo\" ist nicht definiert (Zeichen 1)", "", 2},
-             {"hex(3)", "Hexadezimalzahl als Valenz (0x3)", "", 0},
+             {"foo(1)+bar(2)",
+                 "Funktion \"foo\" ist nicht definiert (Zeichen 1). Gibt es zum Beispiel: sqrt, ln, lg, exp, pow, sin, "
+                 "cos, abs.",
+                 "", 2},
+             {"hex(3)", "Hexadezimalzahl als Valenz (0x3). Ohne die Funktion hex schreiben.", "", 0},
              {"1e999", "Der Wert ist zu groß", "", 0},
              {"10^39", "Der Wert ist zu groß", "", 0},
          }) {
@@ -163,7 +192,11 @@ TEST_F(EingabeTest, EachTextKnowsItsFaultItsEchoAndItsMessages)
         EXPECT_EQ(feld.echo, echo);
         EXPECT_EQ(feld.meldungen.size(), meldungen);
     }
-    EXPECT_EQ(zahlenfeld("9x").fehler->text(), "Keine gültige Zahl (Typen unverträglich)");
+    EXPECT_EQ(zahlenfeld("9x").fehler->text(),
+        "Keine gültige Zahl (Typen unverträglich). Ziffern mit höchstens einem Komma oder Punkt eintragen, zum "
+        "Beispiel "
+        "2,7.");
+    EXPECT_EQ(zahlenfeld("1e39").fehler->text(), "Keine gültige Zahl (Überlauf). Der Wert ist zu groß.");
     EXPECT_TRUE(boxes.shown.empty());
 }
 
@@ -208,7 +241,7 @@ TEST_F(EingabeTest, TheTextNamesNumbersAlikeHoweverTheyWereTyped)
     const Row rows[] = {
         {"60.50", "2.70", "2.5", {"Al", "60,5", "<andere>", "2,7", "<andere>", "2,5"}},
         {"6,05e1", "&HA", "3.0", {"Al", "60,5", "<andere>", "10", "<andere>", "3"}},
-        {"60,5", "x", "1.5*2", {"Al", "60,5", "<andere>", "x", "<andere>", "1.5*2"}},
+        {"60,5", "x", "1.5*2", {"Al", "60,5", "<andere>", "0", "<andere>", "1.5*2"}}, // the density in force
         {"60,5", "2,7", "", {"Al", "60,5", "<andere>", "2,7", "<andere>", ""}},
     };
     for (const Row& row : rows) {

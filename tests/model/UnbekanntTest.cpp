@@ -121,8 +121,8 @@ struct UnbekanntTest : FilesTest {
                 eingabe.setValenz(i, one({"", "0", "0-3", "2", "5/2", "1/0", "1e39", "z_Cu", "-1"}));
             }
         }
-        for (int i = 0; i < eingabe.anzahl(); ++i) // over the balance
-            eingabe.setProzent(i, one({"50", "25", "0", "120", "-20", "12,5"}));
+        for (int i = 0; i < eingabe.anzahl(); ++i)
+            eingabe.setProzentOhneAusgleich(i, one({"50", "25", "0", "120", "-20", "12,5"}));
     }
 
     using Komponenten = std::span<const Legierungskomponente>;

@@ -22,7 +22,15 @@ public:
         shown.push_back({icon, std::string(caption), std::string(text)});
     }
 
+    bool ask(std::string_view caption, std::string_view text, std::string_view go) override
+    {
+        asked.push_back(std::string(caption) + ": " + std::string(text) + " [" + std::string(go) + ']');
+        return answer;
+    }
+
     std::vector<Box> shown;
+    std::vector<std::string> asked;
+    bool answer = true; ///< to all questions
 };
 
 } // namespace zerna

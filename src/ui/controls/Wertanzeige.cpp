@@ -48,6 +48,14 @@ void Wertanzeige::setMarke(const QString& bedeutung)
     update();
 }
 
+void Wertanzeige::setBlass(bool blass)
+{
+    if (blass == m_blass)
+        return;
+    m_blass = blass;
+    update();
+}
+
 QSize Wertanzeige::sizeHint() const
 {
     if (m_numberWidth == 0)
@@ -115,7 +123,8 @@ void Wertanzeige::paintEvent(QPaintEvent*)
     QPainter painter(this);
     if (hasFocus())
         paintFocus(painter);
-    painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+    const QColor colour = palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText);
+    painter.setPen(m_blass ? abgeschwaecht(palette()) : colour);
     const bool columns = m_numberWidth > 0 && text().endsWith(m_einheit) && text().size() > m_einheit.size();
     const QRect area = contentsRect();
     if (columns) {

@@ -25,6 +25,10 @@ public:
     /// A mark behind the value says that more is to be said of it; `bedeutung` is for screen readers, empty: no mark.
     void setMarke(const QString& bedeutung);
 
+    /// Whether the value does not count at the moment; it is shown paler then.
+    void setBlass(bool blass);
+    bool istBlass() const { return m_blass; }
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -46,6 +50,7 @@ private:
     void paintFocus(QPainter& painter) const;
 
     QString m_einheit;
+    bool m_blass = false;
     int m_numberWidth = 0; // logical pixels
     QString m_marke; // behind the unit; empty if there is none
     int m_margin = 0;

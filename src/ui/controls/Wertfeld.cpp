@@ -141,7 +141,7 @@ void Wertfeld::setHinweis(const QString& hinweis)
 
 void Wertfeld::showHinweis()
 {
-    const QString valid = m_echo.isEmpty() ? m_hinweis : QStringLiteral("%1 %2").arg(text(), m_echo);
+    const QString valid = m_echo.isEmpty() ? m_hinweis : QStringLiteral("%1 %2").arg(text(), m_echo).trimmed();
     const QString unmarked = m_bedenken.isEmpty() ? valid : m_bedenken;
     setToolTip(m_fehler.isEmpty() ? unmarked : m_fehler);
     setAccessibleDescription(toolTip());

@@ -359,7 +359,7 @@ void Diagrammbereich::refreshLabels()
         label.setVisible(row < m_eingabe.anzahl() && m_typ == Diagrammtyp::Konzentration);
         if (row >= m_eingabe.anzahl())
             continue;
-        const Eingabefeld& prozent = m_eingabe.zeile(row).prozent;
+        const Eingabefeld& prozent = m_eingabe.prozentInKraft(row);
         label.setLabel(symbolOf(m_eingabe.zeile(row)) + QLatin1Char(' '));
         label.setEnabled(!m_eingabe.istAusgleich(row));
         if (!prozent.fehler && std::abs(prozent.wert) < Shown)

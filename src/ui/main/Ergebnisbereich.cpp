@@ -12,6 +12,7 @@
 #include "model/Konstanten.h"
 #include "programm/Exportieren.h"
 #include "ui/button/StyledButton.h"
+#include "ui/controls/Befundzeile.h"
 #include "ui/controls/Knopfzeile.h"
 #include "ui/controls/Wertanzeige.h"
 #include "ui/controls/Wertfeld.h"
@@ -23,14 +24,45 @@
 
 namespace zerna {
 
+namespace {
+
+/// What the field says of itself.
+std::string_view feldname(std::size_t feld)
+{
+    constexpr std::array Zeilen{Valenzzeile, Teilchenzeile, Kf2Zeile};
+    return ergebniszeile(Zeilen.at(feld)).bezeichnung();
+}
+
+/// What is wrong with a typed value, as sentences; empty if nothing is.
+std::string tippfehler(std::size_t feld, const Eingabefeld& typed)
+{
+    const std::string name(feldname(feld));
+    if (typed.text.empty())
+        return name + " fehlt. Eine Zahl eintragen.";
+    if (typed.fehler)
+        return name + ": " + typed.fehler->text();
+    return typed.wert > 0 ? "" : name + " ist nicht positiv. Eine Zahl größer als 0 eintragen.";
+}
+
+} // namespace
+
 Ergebnisbereich::Ergebnisbereich(Programm& programm, SaveFileDialog& saveDialog, QWidget* parent)
     : QWidget(parent)
     , m_programm(programm)
     , m_saveDialog(saveDialog)
+    , m_befundzeile(new Befundzeile(this))
     , m_gitter(new Ergebnisgitter(this))
     , m_details(new Ergebnisdetails(this))
 {
     connect(m_gitter, &Ergebnisgitter::fieldEdited, this, &Ergebnisbereich::fieldEdited);
+    connect(m_gitter, &Ergebnisgitter::zurueckRequested, this, &Ergebnisbereich::zurueck);
+    m_befundzeile->setObjectName(QStringLiteral("lblBefund"));
+    connect(m_befundzeile, &Befundzeile::clicked, this, [this] {
+        if (!m_lage.getippt.empty())
+            zurueck();
+        else if (m_lage.befund)
+            emit befundGewaehlt(m_lage.befund->zeile, m_lage.befund->ort);
+    });
     connect(m_gitter, &Ergebnisgitter::friedelStepped, this, &Ergebnisbereich::stepFriedel);
     connect(m_gitter, &Ergebnisgitter::copyRequested, this,
         [this](int zeile) { copyToClipboard(m_gitter->wertUndEinheitIn(zeile)); });
@@ -91,13 +123,15 @@ void Ergebnisbereich::layOut()
 {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(8);
+    column->setSpacing(4);
+    column->addWidget(m_befundzeile);
     column->addWidget(m_gitter, 1);
     column->addStretch(0);
     QHBoxLayout* const buttons = knopfzeile({m_cmdKopieren, m_cmdSpeichern});
     buttons->insertWidget(buttons->count() - 1, m_tabellenknopf);
     column->addLayout(buttons);
     std::vector<QWidget*> order = m_gitter->tabOrder();
+    order.insert(order.begin(), m_befundzeile);
     order.push_back(m_cmdKopieren);
     for (QWidget* const button : m_tabellenknopf->tabOrder())
         order.push_back(button);
@@ -108,7 +142,58 @@ void Ergebnisbereich::layOut()
 void Ergebnisbereich::zeige(const Eingabe& eingabe)
 {
     m_zeilen = eingabe.komponentenzeilen();
+    m_getippt.fill(false);
     aktualisieren(Eingabemodus::Zusammensetzung);
+}
+
+void Ergebnisbereich::zeigeLage(const Eingabe& eingabe)
+{
+    if (!m_programm.StartupDone())
+        return;
+    const Ergebnislage before = std::exchange(m_lage, {});
+    try {
+        m_lage = ergebnislage(eingabe, m_programm.gerechneteEingabe(), m_programm.Calc());
+    } catch (const Laufzeitfehler&) {
+        return; // without a calculator there are no results
+    }
+    if (std::ranges::find(m_getippt, true) != m_getippt.end()) { // an edit that has changed nothing
+        m_lage.getippt = before.getippt;
+        m_lage.tippfehler = before.tippfehler;
+        m_lage.kf2Getippt = before.kf2Getippt;
+    } else {
+        for (const auto& [feld, zeile] :
+            {std::pair(Ergebnisgitter::Valenz, Valenzzeile), {Ergebnisgitter::Teilchenzahldichte, Teilchenzeile}})
+            m_gitter->feld(feld).setFehler(m_lage.mittelzeile == zeile ? toQt(m_lage.befund->text) : QString());
+    }
+    showLage();
+}
+
+void Ergebnisbereich::showLage()
+{
+    const auto ton = m_lage.istFehler() ? Befundzeile::Ton::Fehler
+        : m_lage.getippt.empty()        ? Befundzeile::Ton::Bedenken
+                                        : Befundzeile::Ton::Hinweis;
+    m_befundzeile->zeige(toQt(m_lage.text()), ton);
+    m_gitter->zeigeBlass([this](const Groesse& groesse) { return !m_lage.zaehlt(groesse); });
+    for (const auto feld : {Ergebnisgitter::Valenz, Ergebnisgitter::Teilchenzahldichte, Ergebnisgitter::Kf2})
+        m_gitter->zeigeGetippt(feld, m_getippt.at(feld));
+}
+
+/// From typed values back to those of the composition.
+void Ergebnisbereich::zurueck()
+{
+    const Eingabe& gerechnet = m_programm.gerechneteEingabe();
+    if (const auto legierung = gerechnet.legierung())
+        m_programm.Calc().Legierung_Setzen(legierung->komponenten());
+    m_lage = {};
+    zeige(gerechnet);
+    zeigeLage(m_programm.Eingabe());
+}
+
+/// Whether results may leave the panel as things stand.
+bool Ergebnisbereich::darf(const std::string& frage, std::string_view caption, std::string_view go)
+{
+    return frage.empty() || m_programm.boxes().ask(caption, frage, go);
 }
 
 /// Fills the panel; the mode lasts for this one update.
@@ -150,14 +235,32 @@ void Ergebnisbereich::fieldEdited(Ergebnisgitter::Feld feld)
     if (!m_programm.StartupDone())
         return;
     Wertfeld& edit = m_gitter->feld(feld);
+    const Eingabefeld typed = zahlenfeld(fromQt(edit.text()));
     try {
-        if (!edit.text().isEmpty())
-            setTyped(feld, singleFromText(fromQt(edit.text())));
-        edit.setFehler({});
-        aktualisieren(feld == Ergebnisgitter::Kf2 ? Eingabemodus::Kf2 : Eingabemodus::ValenzOderDichte);
+        if (!typed.fehler)
+            setTyped(feld, typed.wert);
+        m_lage.tippfehler = tippfehler(feld, typed);
     } catch (const Laufzeitfehler& error) {
-        edit.setFehler(QStringLiteral("Keine gültige Zahl (%1)").arg(toQt(error.what())));
+        m_lage.tippfehler = std::string(error.what()) + ". Der Wert ist zu groß.";
     }
+    edit.setFehler(toQt(m_lage.tippfehler));
+    if (!typed.fehler || typed.text.empty())
+        aktualisieren(feld == Ergebnisgitter::Kf2 ? Eingabemodus::Kf2 : Eingabemodus::ValenzOderDichte);
+    markTyped(feld);
+}
+
+void Ergebnisbereich::markTyped(Ergebnisgitter::Feld feld)
+{
+    m_getippt.at(feld) = true;
+    if (feld != Ergebnisgitter::Kf2)
+        m_getippt.at(Ergebnisgitter::Kf2) = false; // follows from the others again
+    m_lage.kf2Getippt = m_getippt.at(Ergebnisgitter::Kf2);
+    m_lage.getippt.clear();
+    for (std::size_t i = 0; i < m_getippt.size(); ++i) {
+        if (m_getippt.at(i))
+            m_lage.getippt.append(m_lage.getippt.empty() ? "" : ", ").append(feldname(i));
+    }
+    showLage();
 }
 
 void Ergebnisbereich::setTyped(Ergebnisgitter::Feld feld, float value)
@@ -208,6 +311,8 @@ void Ergebnisbereich::showHint(int zeile, const QPoint& globalPosition)
 
 void Ergebnisbereich::copyText()
 {
+    if (!darf(m_lage.kopierfrage(), "Ergebnisse kopieren", "&Trotzdem kopieren"))
+        return;
     try {
         copyToClipboard(toQt(ergebnistext(m_programm.Calc(), m_zeilen, m_texte)));
         showFriedel();
@@ -229,6 +334,8 @@ void Ergebnisbereich::save()
 {
     if (!istEtwasBekannt(m_texte))
         return zeigeNichtsZuSpeichern(m_programm.boxes(), "Die Legierung lässt sich nicht berechnen.");
+    if (!darf(m_lage.speicherfrage(), "Ergebnisse speichern", "&Trotzdem speichern"))
+        return;
     const Exportart arten[] = {
         datDatei([this] { return ergebnisdatei(m_programm.Calc(), m_zeilen, m_texte); }),
         friedelminima([this] { return friedeldatei(m_programm.Calc()); }),

@@ -7,6 +7,7 @@
 
 #include "core/Zahlentext.h"
 #include "model/Einzelheiten.h"
+#include "model/Ergebnislage.h"
 #include "model/Ergebnisse.h"
 #include "programm/ExportFileDialog.h"
 #include "programm/Programm.h"
@@ -18,6 +19,7 @@ class QMenu;
 namespace zerna {
 
 class Ergebnisdetails;
+class Befundzeile;
 class StyledButton;
 class Tabellenknopf;
 
@@ -33,6 +35,13 @@ public:
     /// the alloy's rows. Lines without a value are empty.
     void zeige(const Eingabe& eingabe);
 
+    /// Says above the results what is wrong with what is entered, and whether they still belong to it.
+    void zeigeLage(const Eingabe& eingabe);
+
+signals:
+    /// What is wrong is to be mended there.
+    void befundGewaehlt(int zeile, Eingabeort ort);
+
 private:
     /// Where the values come from.
     enum class Eingabemodus { Zusammensetzung = 0, ValenzOderDichte = 1, Kf2 = 2 };
@@ -44,6 +53,10 @@ private:
     void aktualisieren(Eingabemodus modus);
     bool showFields(Eingabemodus modus);
     void fieldEdited(Ergebnisgitter::Feld feld);
+    void markTyped(Ergebnisgitter::Feld feld);
+    void showLage();
+    void zurueck();
+    bool darf(const std::string& frage, std::string_view caption, std::string_view go);
     void setTyped(Ergebnisgitter::Feld feld, float value);
     void stepFriedel(int step);
     void showFriedel();
@@ -57,7 +70,10 @@ private:
     SaveFileDialog& m_saveDialog;
     std::vector<Komponentenzeile> m_zeilen; // of the alloy that the results belong to
     Ergebnistexte m_texte = keineErgebnisse();
+    Ergebnislage m_lage;
+    std::array<bool, Ergebnisgitter::Felderzahl> m_getippt{};
     float m_friedelindex = 0; // n, 0 to 20
+    Befundzeile* m_befundzeile = nullptr;
     Ergebnisgitter* m_gitter = nullptr;
     StyledButton* m_cmdKopieren = nullptr;
     Tabellenknopf* m_tabellenknopf = nullptr;

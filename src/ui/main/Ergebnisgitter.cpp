@@ -1,8 +1,10 @@
 #include "ui/main/Ergebnisgitter.h"
 
+#include <QAction>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 
 #include <algorithm>
 
@@ -31,6 +33,20 @@ constexpr int captionIndex(int line)
 
 constexpr int RightColumn = 3; // of the grid
 constexpr int FirstRightLine = 13; // the averages and what follows from them on the left, the energies on the right
+
+/// A quiet arrow in the colour of texts.
+QIcon backIcon(const QWidget& widget)
+{
+    constexpr int Size = 16;
+    QPixmap pixmap(QSize(Size, Size) * widget.devicePixelRatioF());
+    pixmap.setDevicePixelRatio(widget.devicePixelRatioF());
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setPen(widget.palette().color(QPalette::Text));
+    painter.setFont(widget.font());
+    painter.drawText(QRect(0, 0, Size, Size), Qt::AlignCenter, QStringLiteral("↶"));
+    return QIcon(pixmap);
+}
 
 bool isOnTheRight(const Groesse& zeile) { return zeile.zeile >= FirstRightLine; }
 
@@ -83,6 +99,15 @@ void Ergebnisgitter::createField(const Groesse& zeile)
     edit->setHinweis(QStringLiteral("Wert eintippen, um das Modell ohne Zusammensetzung zu erkunden"));
     edit->setAlignment(Qt::AlignRight);
     connect(edit, &Wertfeld::textChanged, this, [this, feld] { emit fieldEdited(feld); });
+    QAction* const back = edit->addAction(backIcon(*edit), QLineEdit::TrailingPosition);
+    back->setObjectName(numberedName("cmdZurueck", feld));
+    back->setToolTip(QStringLiteral(
+        "Eingetippt, gilt bis zur nächsten Änderung. Klick oder Esc: zurück zum Wert der Zusammensetzung"));
+    back->setShortcut(Qt::Key_Escape);
+    back->setShortcutContext(Qt::WidgetShortcut);
+    back->setVisible(false);
+    connect(back, &QAction::triggered, this, &Ergebnisgitter::zurueckRequested);
+    m_zurueck.at(feld) = back;
     m_felder.at(feld) = edit;
     m_feldOfZeile.at(static_cast<std::size_t>(zeile.zeile)) = edit;
 }
@@ -215,6 +240,14 @@ void Ergebnisgitter::zeigeFriedel(const QString& index, const QString& text)
 {
     m_label7->setText(index);
     anzeige(Friedelzeile).setText(text);
+}
+
+void Ergebnisgitter::zeigeGetippt(Feld feld, bool getippt) { m_zurueck.at(feld)->setVisible(getippt); }
+
+void Ergebnisgitter::zeigeBlass(const std::function<bool(const Groesse&)>& istBlass)
+{
+    for (const Groesse& zeile : ergebniszeilen())
+        anzeige(zeile.zeile).setBlass(istBlass(zeile));
 }
 
 QString Ergebnisgitter::wertUndEinheitIn(int zeile)

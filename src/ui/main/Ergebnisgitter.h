@@ -3,10 +3,12 @@
 #include <QWidget>
 
 #include <array>
+#include <functional>
 #include <vector>
 
 #include "model/Ergebnisse.h"
 
+class QAction;
 class QGridLayout;
 class QLabel;
 
@@ -35,6 +37,12 @@ public:
     /// The Friedel-minimum read-out: "n = 1" and its line.
     void zeigeFriedel(const QString& index, const QString& text);
 
+    /// Shows whether the value in a field was typed; then there is a way back in it.
+    void zeigeGetippt(Feld feld, bool getippt);
+
+    /// Which lines do not count at the moment.
+    void zeigeBlass(const std::function<bool(const Groesse&)>& istBlass);
+
     /// Value and unit of a line as one text; of a line with a field the field's text and the unit.
     QString wertUndEinheitIn(int zeile);
 
@@ -43,6 +51,7 @@ public:
 
 signals:
     void fieldEdited(Ergebnisgitter::Feld feld);
+    void zurueckRequested();
     void friedelStepped(int step);
     void menuRequested(int zeile, const QPoint& globalPosition);
     void copyRequested(int zeile);
@@ -65,6 +74,7 @@ private:
     std::vector<Wertanzeige*> m_anzeigen;
     std::vector<Wertfeld*> m_feldOfZeile; // null where nothing can be typed
     std::array<Wertfeld*, Felderzahl> m_felder{};
+    std::array<QAction*, Felderzahl> m_zurueck{}; // in the fields
     std::array<StyledButton*, 2> m_cmdKnopf2{};
     QLabel* m_label7 = nullptr;
 };

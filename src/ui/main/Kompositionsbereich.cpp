@@ -82,7 +82,7 @@ void Kompositionsbereich::connectRow(int row)
         if (!eingabe().istAusgleich(row))
             return;
         eingabe().gleicheAus(); // what was typed there must not pass for the at% in force
-        zeige();
+        taken({});
     });
 }
 
@@ -155,6 +155,8 @@ void Kompositionsbereich::nenneElemente()
 
 void Kompositionsbereich::focusFirstField() { at(0).focusProzent(); }
 
+void Kompositionsbereich::gehZu(int row, Eingabeort ort) { at(row).gehZu(ort); }
+
 void Kompositionsbereich::enterProzent(int row, int prozent)
 {
     taken(eingabe().setProzent(row, textOfSingle(static_cast<float>(prozent))));
@@ -209,14 +211,17 @@ void Kompositionsbereich::valenzLeft(int row)
 void Kompositionsbereich::taken(const Aenderung& aenderung)
 {
     zeige();
-    if (aenderung != Aenderung())
+    if (aenderung == Aenderung())
+        emit befundGeaendert();
+    else
         emit geaendert(aenderung);
 }
 
 void Kompositionsbereich::zeige()
 {
+    const std::vector<Befund> alle = befunde(eingabe());
     for (Kompositionszeile* const zeile : m_zeilen)
-        zeile->zeige(eingabe());
+        zeile->zeige(eingabe(), alle);
     m_dichteschalter->zeige(eingabe());
     m_lblAnzahl->setText(QString::number(eingabe().anzahl()));
 }

@@ -5,6 +5,7 @@
 #include <array>
 #include <string>
 
+#include "model/Befund.h"
 #include "programm/Programm.h"
 
 class QLabel;
@@ -38,12 +39,17 @@ public:
     /// Puts the focus where a composition begins: into the at% of the first row.
     void focusFirstField();
 
+    /// Puts the keyboard focus into a row.
+    void gehZu(int row, Eingabeort ort);
+
     /// Enters an at% as if it had been typed.
     void enterProzent(int row, int prozent);
 
 signals:
     /// The entered alloy is another one now.
     void geaendert(const Aenderung& aenderung);
+    /// What is wrong with the entered alloy may be something else now.
+    void befundGeaendert();
 
 private:
     void createControls();

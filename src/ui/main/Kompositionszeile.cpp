@@ -4,6 +4,8 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include <algorithm>
+
 #include "model/Herkunft.h"
 #include "ui/controls/Elementliste.h"
 #include "ui/controls/Masse.h"
@@ -25,13 +27,12 @@ Widget* make(QWidget* panel, const char* name, int row, const QString& accessibl
     return widget;
 }
 
-/// Shows an entered text with its fault.
+/// Shows an entered text.
 void write(Wertfeld& feld, const Eingabefeld& eingabe)
 {
     if (feld.text() != toQt(eingabe.text))
         feld.setWert(toQt(eingabe.text), eingabe.istUnbekannterWert());
     feld.setEcho(eingabe.echo.empty() ? QString() : QStringLiteral("= %1").arg(toQt(eingabe.echo)));
-    feld.setFehler(eingabe.fehler ? toQt(eingabe.fehler->text()) : QString());
 }
 
 } // namespace
@@ -123,7 +124,7 @@ void Kompositionszeile::focusProzent()
     m_txtProzent->selectAll(); // also while the window is not active yet
 }
 
-void Kompositionszeile::zeige(const Eingabe& eingabe)
+void Kompositionszeile::zeige(const Eingabe& eingabe, std::span<const Befund> befunde)
 {
     const Eingabe::Zeile& zeile = eingabe.zeile(m_row);
     for (QWidget* const widget : widgets())
@@ -136,12 +137,41 @@ void Kompositionszeile::zeige(const Eingabe& eingabe)
     m_txtProzent->setHinweis(eingabe.istAusgleich(m_row) ? QStringLiteral("Rest auf 100 at%") : QString());
     m_txtProzent->setBerechnet(eingabe.istAusgleich(m_row));
     write(*m_txtProzent, zeile.prozent);
-    if (zeile.prozent.text.empty()) // is still being typed
-        m_txtProzent->setFehler({});
     write(*m_txtDichte, zeile.dichte);
     m_txtDichte->setEnabled(zeile.dichtewahl == AndereWahl);
     write(*m_txtValenz, zeile.valenz);
     m_txtValenz->setEnabled(zeile.element && zeile.valenzwahl == ValenzAndere);
+    mark(eingabe, befunde);
+}
+
+void Kompositionszeile::mark(const Eingabe& eingabe, std::span<const Befund> befunde)
+{
+    const auto textOf = [&](Eingabeort ort, Schwere schwere) {
+        const auto found = std::ranges::find_if(befunde, [&](const Befund& befund) {
+            return befund.zeile == m_row && befund.ort == ort && befund.schwere == schwere;
+        });
+        return m_row < eingabe.anzahl() && found != befunde.end() ? toQt(found->text) : QString();
+    };
+    for (const auto& [feld, ort] : {std::pair(m_txtProzent, Eingabeort::Prozent), {m_txtDichte, Eingabeort::Dichte},
+             {m_txtValenz, Eingabeort::Valenz}}) {
+        feld->setFehler(textOf(ort, Schwere::Fehler));
+        feld->setBedenken(textOf(ort, Schwere::Bedenken));
+    }
+}
+
+void Kompositionszeile::gehZu(Eingabeort ort)
+{
+    const auto firstEnabled = [](QWidget* feld, QWidget* liste) { return feld->isEnabled() ? feld : liste; };
+    QWidget* target = m_cmbElement;
+    if (ort == Eingabeort::Prozent)
+        target = m_txtProzent;
+    else if (ort == Eingabeort::Dichte)
+        target = firstEnabled(m_txtDichte, m_cmdDichte);
+    else if (ort == Eingabeort::Valenz)
+        target = firstEnabled(m_txtValenz, m_cmbValenz);
+    target->setFocus(Qt::OtherFocusReason);
+    if (auto* const feld = qobject_cast<Wertfeld*>(target))
+        feld->selectAll();
 }
 
 /// Looked up only when another value has been chosen.

@@ -4,9 +4,11 @@
 
 #include <array>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 
+#include "model/Befund.h"
 #include "model/Eingabe.h"
 
 class QComboBox;
@@ -39,9 +41,12 @@ public:
 
     void focusProzent();
 
-    /// Writes what the row holds; what is shown already is left alone, so that the cursor of a field stays in its
-    /// place.
-    void zeige(const Eingabe& eingabe);
+    /// Writes what the row holds and marks what is wrong with it; what is shown already is left alone, so that the
+    /// cursor of a field stays in its place.
+    void zeige(const Eingabe& eingabe, std::span<const Befund> befunde);
+
+    /// Puts the keyboard focus there; a field that cannot be typed into gives it to the list of its choices.
+    void gehZu(Eingabeort ort);
 
 signals:
     void elementChosen(const QString& key);
@@ -58,6 +63,7 @@ private:
     std::array<QWidget*, 7> widgets() const;
     void connectControls();
     void measure();
+    void mark(const Eingabe& eingabe, std::span<const Befund> befunde);
     void fillChoices(const std::shared_ptr<clsElement>& element);
     void showHerkunft(const Eingabe::Zeile& zeile);
 

@@ -180,6 +180,9 @@ void frmMain::connectPanels()
     }
     connect(m_cmdAbout, &StyledButton::clicked, this, [this] { frmAbout(m_programm.Loader(), this).exec(); });
     connect(m_komposition, &Kompositionsbereich::geaendert, this, &frmMain::uebernehmen);
+    connect(m_komposition, &Kompositionsbereich::befundGeaendert, this,
+        [this] { m_ergebnisse->zeigeLage(m_programm.Eingabe()); });
+    connect(m_ergebnisse, &Ergebnisbereich::befundGewaehlt, m_komposition, &Kompositionsbereich::gehZu);
     connect(m_pse, &PSEbereich::componentChosen, this,
         [this](int row, const QString& symbol) { ComboElementListIndex(row, findElementEntry(row, fromQt(symbol))); });
     connect(m_diagramm, &Diagrammbereich::prozentStepped, m_komposition, &Kompositionsbereich::enterProzent);
@@ -218,6 +221,7 @@ void frmMain::uebernehmen(const Aenderung& aenderung)
         if (aenderung.anzahl || aenderung.element || aenderung.anteil) // nothing else is weighed
             m_conWiegen1->Aktualisieren(m_programm.gerechneteEingabe());
     }
+    m_ergebnisse->zeigeLage(m_programm.Eingabe());
     m_diagramm->zeige(m_programm.Eingabe(), aenderung);
 }
 

@@ -115,6 +115,17 @@ inline QColor markenfarbe(
     return abgehoben(istDunkel(palette, ground) ? onDark : onLight, palette.color(ground), Textkontrast);
 }
 
+/// A text colour for what does not count at the moment, legible all the same.
+inline QColor abgeschwaecht(const QPalette& palette)
+{
+    constexpr float Share = 0.6F;
+    const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
+    const QColor ground = palette.color(QPalette::Active, QPalette::Window);
+    const auto mixed = [](float a, float b) { return a * Share + b * (1 - Share); };
+    return QColor::fromRgbF(
+        mixed(text.redF(), ground.redF()), mixed(text.greenF(), ground.greenF()), mixed(text.blueF(), ground.blueF()));
+}
+
 /// A red for what is wrong, as text and as frame, that stands out on light and on dark grounds.
 inline QColor fehlerfarbe(const QPalette& palette, QPalette::ColorRole ground = QPalette::Window)
 {

@@ -8,6 +8,7 @@ namespace zerna {
 class QtMessageBoxes : public MessageBoxes {
 public:
     void show(Icon icon, std::string_view caption, std::string_view text) override;
+    bool ask(std::string_view caption, std::string_view text, std::string_view go) override;
 };
 
 } // namespace zerna

@@ -5,8 +5,12 @@
 #include <QTextDocument>
 #include <QTextTable>
 
+#include <QAction>
+
 #include "support/FakeDesk.h"
 #include "support/FullDisk.h"
+#include "ui/controls/Befundzeile.h"
+#include "ui/controls/Wertanzeige.h"
 #include "ui/controls/Wertfeld.h"
 
 namespace zerna {
@@ -80,6 +84,57 @@ TEST_F(ErgebnisbereichTest, ATableForSpreadsheetsAndWordProcessors)
     EXPECT_EQ(table->cellAt(18, 3).firstCursorPosition().block().text().toStdString(), "148.75371");
     type("txtMFE_0", "");
     EXPECT_FALSE(find("cmdMFE_Tabelle").isEnabled()) << "no results";
+}
+
+TEST_F(ErgebnisbereichTest, TheLineAboveLeadsToTheFaultAndFaultyResultsAreAskedAbout)
+{
+    const auto line = [this] { return find<Befundzeile>("lblBefund").befund().toStdString(); };
+    EXPECT_EQ(line(), "");
+    click("cmdMFE_Kopieren");
+    const std::string before = clipboard();
+    type("txtProzent_0", "");
+    EXPECT_EQ(line(), "Komponente 1 (Al): at% fehlt. Die Ergebnisse gehören zu Al 50, Cu 50 at%.");
+    EXPECT_TRUE(find<Wertanzeige>("lblMFE_7").istBlass());
+    find("cmbElement_1").setFocus();
+    QTest::keyClick(&find("lblBefund"), Qt::Key_Return);
+    EXPECT_EQ(QApplication::focusWidget(), &find("txtProzent_0"));
+    boxes.answer = false;
+    QApplication::clipboard()->clear();
+    click("cmdMFE_Kopieren");
+    click("cmdMFE_Speichern");
+    EXPECT_EQ(boxes.asked.size(), 2U);
+    EXPECT_EQ(clipboard() + saveDialog.offered, "");
+    boxes.answer = true;
+    click("cmdMFE_Kopieren");
+    EXPECT_EQ(clipboard(), before);
+    type("txtProzent_0", "50");
+    EXPECT_EQ(line(), "");
+    EXPECT_FALSE(find<Wertanzeige>("lblMFE_7").istBlass());
+    choose("cmbValenz_0", "<andere>");
+    type("txtValenz_0", "0-3");
+    EXPECT_FALSE(find<Wertfeld>("txtMFE_0").fehler().isEmpty()) << "a mean valence that is not positive";
+}
+
+TEST_F(ErgebnisbereichTest, TypedValuesHaveAWayBack)
+{
+    const std::vector<const char*> names{"txtMFE_0", "txtMFE_1", "txtMFE_2", "lblMFE_7"};
+    const std::string before = texts(names);
+    for (const auto& [field, back, pale] :
+        {std::tuple("txtMFE_0", "cmdZurueck_0", false), {"txtMFE_2", "cmdZurueck_2", true}}) {
+        EXPECT_FALSE(window->findChild<QAction*>(back)->isVisible());
+        type(field, "30");
+        EXPECT_EQ(find<Wertanzeige>("lblMFE_7").istBlass(), pale);
+        EXPECT_FALSE(find<Wertanzeige>("lblMFE_9").istBlass());
+        boxes.asked.clear();
+        boxes.answer = false;
+        click("cmdMFE_Speichern");
+        EXPECT_EQ(boxes.asked.size(), 1U);
+        find(field).setFocus();
+        QTest::keyClick(&find(field), Qt::Key_Escape);
+        EXPECT_EQ(texts(names), before);
+        EXPECT_FALSE(window->findChild<QAction*>(back)->isVisible());
+        EXPECT_FALSE(find<Wertanzeige>("lblMFE_7").istBlass());
+    }
 }
 
 TEST_F(ErgebnisbereichTest, FullDiskIsReportedAndKeepsTheEarlierFile)
