@@ -10,6 +10,7 @@
 
 #include "core/CheckedArithmetic.h"
 #include "ui/button/StyledButton.h"
+#include "ui/controls/Befundzeile.h"
 #include "ui/controls/Knopfzeile.h"
 #include "ui/diagram/Diagrammflaeche.h"
 #include "ui/diagram/conDisplay.h"
@@ -28,6 +29,16 @@ namespace {
 constexpr std::array AnfangsGroessen{0, 1, 3, 4, 5, 6, 7, 8, 9, 10, 2};
 
 constexpr std::array Legierungsgroessen{0, 1, 3, 4, 2, 5, 6, 7, 8, 9, 10};
+
+/// Why there is no ternary diagram of so many components, and what can be done.
+QString dreitext(int anzahl)
+{
+    constexpr std::array Zahlwoerter{"eine", "zwei", "drei", "vier", "fünf"};
+    return QStringLiteral("„3 D - ternär“ braucht genau drei Komponenten, jetzt %1. Auf drei ändern")
+        .arg(anzahl == 1 ? QStringLiteral("ist es eine")
+                         : QStringLiteral("sind es %1")
+                               .arg(QString::fromUtf8(Zahlwoerter.at(static_cast<std::size_t>(anzahl) - 1))));
+}
 
 QString symbolOf(const Eingabe::Zeile& zeile) { return zeile.element ? toQt(zeile.element->symbol()) : QString(); }
 
@@ -70,6 +81,9 @@ void Diagrammbereich::createControls()
     m_labelPos->setTextFormat(Qt::PlainText);
     connect(m_picDiagramm, &Diagrammflaeche::positionChanged, this,
         [this](const QString& text) { m_labelPos->setText(gezeigt(text)); });
+    m_lblDrei = new Befundzeile(this);
+    m_lblDrei->setObjectName(QStringLiteral("lblDrei"));
+    connect(m_lblDrei, &Befundzeile::clicked, this, &Diagrammbereich::dreiKomponentenRequested);
     m_cmdKopieren = new StyledButton(QStringLiteral("K&opieren"), this);
     m_cmdKopieren->setObjectName(QStringLiteral("cmdDiagramm_Kopieren"));
     m_cmdKopieren->setToolTipText(QStringLiteral("Diagramm als Bild in die Zwischenablage"));
@@ -154,6 +168,7 @@ void Diagrammbereich::layOut()
     };
     auto* position = new QHBoxLayout;
     position->addWidget(m_labelPos);
+    position->addWidget(m_lblDrei, 1);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
@@ -170,7 +185,7 @@ void Diagrammbereich::orderTabs()
         order.insert(order.end(), buttons.begin(), buttons.end());
     }
     order.insert(order.end(), m_cmdSteps.begin(), m_cmdSteps.end());
-    order.insert(order.end(), {&m_picDiagramm->display(), m_picDiagramm, m_cmdKopieren, m_cmdSpeichern});
+    order.insert(order.end(), {&m_picDiagramm->display(), m_picDiagramm, m_lblDrei, m_cmdKopieren, m_cmdSpeichern});
     setTabReihenfolge(order);
 }
 
@@ -199,10 +214,12 @@ void Diagrammbereich::zeige(const Eingabe& eingabe, const Aenderung& aenderung)
     m_eingabe = eingabe;
     if (aenderung.anzahl || aenderung.element)
         listComponents();
-    if (aenderung.anzahl)
+    if (aenderung.anzahl) {
+        m_lblDrei->zeige({}, Befundzeile::Ton::Hinweis);
         selectFirstType();
-    else
+    } else {
         aktualisieren(aenderung.element || !aenderung.dichte);
+    }
 }
 
 /// Lists the elements of the rows; the first one is then chosen.
@@ -227,7 +244,9 @@ void Diagrammbereich::chooseType(int position)
 {
     auto type = static_cast<Diagrammtyp>(position);
     if (type == Diagrammtyp::Ternaer && m_eingabe.anzahl() != 3)
-        type = Diagrammtyp::Konzentration; // silently
+        type = Diagrammtyp::Konzentration; // without a box
+    m_lblDrei->zeige(
+        static_cast<int>(type) == position ? QString() : dreitext(m_eingabe.anzahl()), Befundzeile::Ton::Hinweis);
     m_cmbDiagrammTyp->setCurrentIndex(static_cast<int>(type));
     m_typ = type;
     fillQuantities(type == Diagrammtyp::PSE ? psegroessen() : std::span<const int>(Legierungsgroessen));

@@ -14,6 +14,7 @@ class QLabel;
 
 namespace zerna {
 
+class Befundzeile;
 class Diagrammflaeche;
 class Lehrbuchmarke;
 class StyledButton;
@@ -38,9 +39,14 @@ public:
     void selectFirstType();
     void selectFirstComponent();
 
+    /// Chooses the ternary diagram, if there are three rows.
+    void selectTernary() { chooseType(static_cast<int>(Diagrammtyp::Ternaer)); }
+
 signals:
     /// A value label has stepped the at% of a row.
     void prozentStepped(int row, int prozent);
+    /// The ternary diagram is wanted, which needs three rows.
+    void dreiKomponentenRequested();
 
 private:
     enum class Diagrammtyp { Konzentration = 0, Ternaer = 1, PSE = 2 };
@@ -77,6 +83,7 @@ private:
     std::array<conLabel*, MaxKomponenten> m_conLabel{};
     Diagrammflaeche* m_picDiagramm = nullptr;
     QLabel* m_labelPos = nullptr;
+    Befundzeile* m_lblDrei = nullptr; // why there is no ternary diagram
     StyledButton* m_cmdKopieren = nullptr;
     StyledButton* m_cmdSpeichern = nullptr;
 };

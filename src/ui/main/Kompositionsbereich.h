@@ -42,6 +42,9 @@ public:
     /// Puts the keyboard focus into a row.
     void gehZu(int row, Eingabeort ort);
 
+    /// Shows so many rows, 1 to 5.
+    void setAnzahl(int count);
+
     /// Enters an at% as if it had been typed.
     void enterProzent(int row, int prozent);
 
@@ -55,7 +58,6 @@ private:
     void createControls();
     void layOut();
     void connectRow(int row);
-    void setAnzahl(int count);
     void elementChosen(int row, std::string_view key);
     void valenzEdited(const Aenderung& aenderung);
     void valenzLeft(int row);

@@ -185,6 +185,10 @@ void frmMain::connectPanels()
     connect(m_ergebnisse, &Ergebnisbereich::befundGewaehlt, m_komposition, &Kompositionsbereich::gehZu);
     connect(m_pse, &PSEbereich::componentChosen, this,
         [this](int row, const QString& symbol) { ComboElementListIndex(row, findElementEntry(row, fromQt(symbol))); });
+    connect(m_diagramm, &Diagrammbereich::dreiKomponentenRequested, this, [this] {
+        m_komposition->setAnzahl(3);
+        m_diagramm->selectTernary();
+    });
     connect(m_diagramm, &Diagrammbereich::prozentStepped, m_komposition, &Kompositionsbereich::enterProzent);
 }
 
