@@ -5,7 +5,6 @@
 
 #include <algorithm>
 
-#include "core/Anzeigetext.h"
 #include "ui/main/Zelltexte.h"
 #include "ui/platform/Farben.h"
 #include "ui/platform/QtText.h"
@@ -37,6 +36,9 @@ void paintEckzeichen(QPainter& painter, const QRectF& area, Gruppenzeichen zeich
     paintZeichen(painter, {area.right() - size - Margin, area.top() + Margin, size, size}, zeichen, colour);
 }
 
+/// A number with true minus signs; a power of ten stays "8,2E−11", for which alone a cell has room.
+QString zellform(std::string_view text) { return toQt(text).replace(QLatin1Char('-'), QChar(0x2212)); }
+
 /// Text on a plate that keeps hatching away from it.
 void drawText(QPainter& painter, const QRectF& area, int flags, const QString& text, const QColor& plate)
 {
@@ -65,10 +67,10 @@ void paintTexte(
         return;
     painter.setFont(smallFont);
     const Textbreite breite = [metrics = QFontMetricsF(smallFont)](
-                                  std::string_view text) { return metrics.horizontalAdvance(toQt(text)); };
+                                  std::string_view text) { return metrics.horizontalAdvance(zellform(text)); };
     const std::string text =
         zelle.wert ? zellwert(*zelle.wert, area.width(), breite) : dritteZeile(element, stil.namen);
-    const QString below = toQt(anzeigetext(text));
+    const QString below = zellform(text);
     if (passt(breite(text), area.width()))
         drawText(painter, area.adjusted(2, 0, -2, -3), Qt::AlignHCenter | Qt::AlignBottom, below, plate);
 }

@@ -12,6 +12,7 @@
 #include "ui/controls/Masse.h"
 #include "ui/main/Tafellegende.h"
 #include "ui/main/Zelltexte.h"
+#include "ui/platform/Anzeige.h"
 #include "ui/platform/Farben.h"
 #include "ui/platform/QtText.h"
 
@@ -120,7 +121,7 @@ bool Periodentafel::event(QEvent* event)
     if (event->type() == QEvent::ToolTip) {
         const auto* help = static_cast<QHelpEvent*>(event);
         const auto element = elementUnder(help->pos());
-        QToolTip::showText(help->globalPos(), element ? hinweis(element) : QString(), this);
+        QToolTip::showText(help->globalPos(), element ? gezeigt(hinweis(element)) : QString(), this);
         return true;
     }
     return QWidget::event(event);
