@@ -133,7 +133,6 @@ void Ergebnisgitter::layOut()
 {
     m_grid = new QGridLayout(this);
     m_grid->setContentsMargins(0, 0, 0, 0);
-    m_grid->setHorizontalSpacing(4);
     m_grid->setVerticalSpacing(2);
     std::array<int, 2> rows{0, 0};
     for (const Groesse& zeile : ergebniszeilen()) {
@@ -225,6 +224,7 @@ void Ergebnisgitter::measure()
         m_grid->setRowMinimumHeight(row, feldhoehe(*this) - 2);
         m_grid->setRowStretch(row, 1);
     }
+    m_grid->setHorizontalSpacing(Wertanzeige::einheitenabstand(fontMetrics()));
     m_grid->setColumnMinimumWidth(RightColumn - 1, fontMetrics().height() / 3);
     setMaximumHeight(m_grid->rowCount() * (fontMetrics().height() + MostBetweenLines));
     m_label7->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral(" n = 21 ")));
