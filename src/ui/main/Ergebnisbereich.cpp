@@ -324,7 +324,7 @@ void Ergebnisbereich::copyText()
 void Ergebnisbereich::copyTable(Dezimaltrenner trenner)
 {
     const std::optional<Legierung> legierung = m_programm.gerechneteEingabe().legierung();
-    if (!legierung)
+    if (!legierung || !darf(m_lage.kopierfrage(), "Tabelle kopieren", "&Trotzdem kopieren"))
         return;
     const Ergebnistabelle tabelle = ergebnistabelle(m_programm.Calc(), legierung->komponenten(), trenner);
     copyToClipboard(toQt(tabelle.text), toQt(tabelle.html));

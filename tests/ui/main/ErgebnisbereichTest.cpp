@@ -100,9 +100,9 @@ TEST_F(ErgebnisbereichTest, TheLineAboveLeadsToTheFaultAndFaultyResultsAreAskedA
     EXPECT_EQ(QApplication::focusWidget(), &find("txtProzent_0"));
     boxes.answer = false;
     QApplication::clipboard()->clear();
-    click("cmdMFE_Kopieren");
-    click("cmdMFE_Speichern");
-    EXPECT_EQ(boxes.asked.size(), 2U);
+    for (const char* const button : {"cmdMFE_Kopieren", "cmdMFE_Tabelle", "cmdMFE_Speichern"})
+        click(button);
+    EXPECT_EQ(boxes.asked.size(), 3U);
     EXPECT_EQ(clipboard() + saveDialog.offered, "");
     boxes.answer = true;
     click("cmdMFE_Kopieren");
