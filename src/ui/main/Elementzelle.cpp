@@ -36,8 +36,12 @@ void paintEckzeichen(QPainter& painter, const QRectF& area, Gruppenzeichen zeich
     paintZeichen(painter, {area.right() - size - Margin, area.top() + Margin, size, size}, zeichen, colour);
 }
 
-/// A number with true minus signs; a power of ten stays "8,2E−11", for which alone a cell has room.
-QString zellform(std::string_view text) { return toQt(text).replace(QLatin1Char('-'), QChar(0x2212)); }
+/// A number with a true minus sign; a power of ten stays "-8,2E-11", for which alone a cell has room.
+QString zellform(std::string_view text)
+{
+    const QString shown = toQt(text);
+    return shown.contains(QLatin1Char('E')) ? shown : QString(shown).replace(QLatin1Char('-'), QChar(0x2212));
+}
 
 /// Text on a plate that keeps hatching away from it.
 void drawText(QPainter& painter, const QRectF& area, int flags, const QString& text, const QColor& plate)
