@@ -36,10 +36,11 @@ Tabelle lehrbuchtabelle(const clsCalc& calc, std::span<const Legierungskomponent
         auto zellen = groessenzeile(zeile, calc, trenner);
         if (zellen.empty())
             continue;
-        const Lehrbucheintrag* const eintrag = abweichungImErgebnis(zeile.zeile);
-        const float value = eintrag != nullptr ? lehrbuchwert(*eintrag, calc, komponenten) : Unbekannt;
-        if (!istUnbekannt(value))
-            zellen.insert(zellen.end(), {textOfSingle(value, trenner), std::string(eintrag->einheit)});
+        if (const Lehrbucheintrag* const eintrag = abweichungImErgebnis(zeile.zeile)) {
+            const float value = lehrbuchwert(*eintrag, calc, komponenten);
+            if (!istUnbekannt(value))
+                zellen.insert(zellen.end(), {textOfSingle(value, trenner), std::string(eintrag->einheit)});
+        }
         tabelle.zeilen.push_back(std::move(zellen));
     }
     return tabelle;

@@ -12,13 +12,16 @@ namespace {
 
 constexpr int Bar = 4; // width of the coloured bar in front
 constexpr int Gap = 6;
+constexpr int Wrapped = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
 
 } // namespace
 
 Befundzeile::Befundzeile(QWidget* parent)
     : QAbstractButton(parent)
 {
-    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
     zeige({}, Ton::Hinweis);
 }
 
@@ -31,7 +34,7 @@ void Befundzeile::zeige(const QString& befund, Ton ton)
     setFocusPolicy(befund.isEmpty() ? Qt::NoFocus : Qt::StrongFocus);
     setCursor(befund.isEmpty() ? Qt::ArrowCursor : Qt::PointingHandCursor);
     setEnabled(!befund.isEmpty());
-    cut();
+    updateGeometry();
     update();
 }
 
@@ -40,21 +43,10 @@ QSize Befundzeile::sizeHint() const
     return {fontMetrics().horizontalAdvance(m_befund) + Bar + 2 * Gap, fontMetrics().height() + 4};
 }
 
-QSize Befundzeile::minimumSizeHint() const { return {0, sizeHint().height()}; }
-
-void Befundzeile::cut() { setText(fontMetrics().elidedText(m_befund, Qt::ElideRight, width() - Bar - 2 * Gap)); }
-
-void Befundzeile::changeEvent(QEvent* event)
+int Befundzeile::heightForWidth(int width) const
 {
-    QAbstractButton::changeEvent(event);
-    if (event->type() == QEvent::FontChange)
-        cut();
-}
-
-void Befundzeile::resizeEvent(QResizeEvent* event)
-{
-    QAbstractButton::resizeEvent(event);
-    cut();
+    const QRect area(0, 0, qMax(1, width - Bar - Gap), QWIDGETSIZE_MAX);
+    return qMax(fontMetrics().height(), fontMetrics().boundingRect(area, Wrapped, m_befund).height()) + 4;
 }
 
 void Befundzeile::keyPressEvent(QKeyEvent* event)
@@ -82,8 +74,7 @@ void Befundzeile::paintEvent(QPaintEvent*)
     shown.setUnderline(underMouse());
     painter.setFont(shown);
     painter.setPen(colour());
-    painter.drawText(
-        rect().adjusted(Bar + Gap, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text());
+    painter.drawText(rect().adjusted(Bar + Gap, 0, 0, 0), Wrapped, m_befund);
     if (hasFocus()) {
         QStyleOptionFocusRect option;
         option.initFrom(this);

@@ -4,9 +4,8 @@
 
 namespace zerna {
 
-/// One line that says what is the matter and, when it is clicked or Enter is pressed on it, leads there. It keeps its
-/// place while it has nothing to say, so that what stands below stays still. A text that is too long is cut, the tool
-/// tip has it whole.
+/// A line that says what is the matter and, when it is clicked or Enter is pressed on it, leads there. It keeps its
+/// place while it has nothing to say, so that what stands below stays still; a long text takes further lines.
 class Befundzeile : public QAbstractButton {
     Q_OBJECT
 
@@ -20,16 +19,14 @@ public:
     const QString& befund() const { return m_befund; }
 
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
 
 protected:
-    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void cut();
     QColor colour() const;
 
     QString m_befund;

@@ -42,6 +42,23 @@ QString dreitext(int anzahl)
 
 QString symbolOf(const Eingabe::Zeile& zeile) { return zeile.element ? toQt(zeile.element->symbol()) : QString(); }
 
+/// A row of its own height, at least `height`, above or below the diagram area.
+QWidget* boxed(QWidget* parent, int height, QLayout* upper, QLayout* lower, int bottomMargin)
+{
+    auto* box = new QWidget(parent);
+    box->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    auto* frame = new QHBoxLayout(box);
+    frame->setContentsMargins(0, 4, 0, bottomMargin);
+    frame->addStrut(height - 4 - bottomMargin);
+    auto* column = new QVBoxLayout;
+    frame->addLayout(column);
+    column->setSpacing(6);
+    column->addLayout(upper);
+    column->addStretch(); // rows stay where they are when one is empty
+    column->addLayout(lower);
+    return box;
+}
+
 } // namespace
 
 Diagrammbereich::Diagrammbereich(Programm& programm, Dialoge dialoge, QWidget* parent)
@@ -152,29 +169,15 @@ void Diagrammbereich::layOut()
     auto* buttons = knopfzeile({m_cmdKopieren, m_cmdSpeichern});
     buttons->setSpacing(8);
 
-    const auto boxed = [this](int height, QLayout* upper, QLayout* lower, int bottomMargin) {
-        auto* box = new QWidget(this);
-        box->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-        auto* frame = new QHBoxLayout(box);
-        frame->setContentsMargins(0, 4, 0, bottomMargin);
-        frame->addStrut(height - 4 - bottomMargin);
-        auto* column = new QVBoxLayout;
-        frame->addLayout(column);
-        column->setSpacing(6);
-        column->addLayout(upper);
-        column->addStretch(); // rows stay where they are when one is empty
-        column->addLayout(lower);
-        return box;
-    };
     auto* position = new QHBoxLayout;
     position->addWidget(m_labelPos);
     position->addWidget(m_lblDrei, 1);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(boxed(Top, lists, values, 4));
+    column->addWidget(boxed(this, Top, lists, values, 4));
     column->addWidget(m_picDiagramm, 1);
-    column->addWidget(boxed(Bottom, position, buttons, 8));
+    column->addWidget(boxed(this, Bottom, position, buttons, 8));
 }
 
 void Diagrammbereich::orderTabs()

@@ -45,7 +45,7 @@ QIcon backIcon(const QWidget& widget)
     painter.setPen(widget.palette().color(QPalette::Text));
     painter.setFont(widget.font());
     painter.drawText(QRect(0, 0, Size, Size), Qt::AlignCenter, QStringLiteral("↶"));
-    return QIcon(pixmap);
+    return {pixmap};
 }
 
 bool isOnTheRight(const Groesse& zeile) { return zeile.zeile >= FirstRightLine; }
