@@ -21,9 +21,9 @@ struct Wiegebezug {
     float masse = 0; ///< in mg, then
 };
 
-/// What is still to be weighed, as a German sentence: "Noch 305,5 mg Cu". Empty unless all
-/// have target masses from 0 on. Within the
-/// tolerance of the at% nothing is missing. Throws when there are no at% of what was weighed.
+/// What is still to be weighed, as a German sentence: "Noch 305,5 mg Cu"; why nothing can be when a target mass is
+/// negative. Empty while one is missing. Within the tolerance of the at% nothing is missing. Throws when there are no
+/// at% of what was weighed.
 std::string wiegestand(
     const clsCalc& calc, std::span<const Wiegung> wiegungen, const std::optional<Wiegebezug>& bezug = std::nullopt);
 
