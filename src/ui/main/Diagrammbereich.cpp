@@ -323,7 +323,10 @@ bool Diagrammbereich::showObstacle()
 
 void Diagrammbereich::showError(const Laufzeitfehler& error)
 {
-    m_picDiagramm->showFehler(QStringLiteral("%1 (%2)").arg(toQt(error.what())).arg(error.Nummer()));
+    m_picDiagramm->showFehler(QStringLiteral("%1 (%2)\n\nDie Größe hat hier keinen Wert oder ist an den Enden 0: Werte "
+                                             "der Komponenten prüfen oder eine andere Größe wählen.")
+                                  .arg(toQt(error.what()))
+                                  .arg(error.Nummer()));
 }
 
 void Diagrammbereich::drawTernary()
