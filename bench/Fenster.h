@@ -13,7 +13,7 @@
 
 namespace zerna {
 
-inline constexpr int Fermienergie = 8; ///< code of the quantity that diagrams are measured with
+inline constexpr int FermienergieCode = 8; ///< code of the quantity that diagrams are measured with
 
 /// The program with its window, five components and the Fermi energy in the diagram.
 class Fenster {
@@ -29,7 +29,7 @@ public:
             return *m_window;
         });
         auto& quantities = find<QComboBox>("cmbDiagramm");
-        quantities.setCurrentIndex(quantities.findData(Fermienergie));
+        quantities.setCurrentIndex(quantities.findData(FermienergieCode));
         emit quantities.activated(quantities.currentIndex());
         QCoreApplication::processEvents();
     }

@@ -56,7 +56,7 @@ struct Bearbeitung : Aufbau {
     {
         float sum = 0;
         for (const Groesse& zeile : ergebniszeilen())
-            sum += zeile.wert(calc);
+            sum += wert(zeile, calc);
         return sum;
     }
 

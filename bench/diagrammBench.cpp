@@ -38,7 +38,7 @@ void reihe(benchmark::State& state)
     Aufbau aufbau;
     const auto alloy = komponenten(aufbau);
     for (auto _ : state) // NOLINT(clang-analyzer-deadcode.DeadStores)
-        benchmark::DoNotOptimize(konzentrationsreihe(aufbau.calc, alloy, 0, Fermienergie));
+        benchmark::DoNotOptimize(konzentrationsreihe(aufbau.calc, alloy, 0, FermienergieCode));
 }
 
 /// The same formulas from ready numbers, without a check anywhere.
@@ -67,7 +67,7 @@ void reiheBloss(benchmark::State& state)
     Aufbau aufbau;
     const auto alloy = komponenten(aufbau);
     auto teile = anteile(alloy);
-    const Reihe expected = konzentrationsreihe(aufbau.calc, alloy, 0, Fermienergie);
+    const Reihe expected = konzentrationsreihe(aufbau.calc, alloy, 0, FermienergieCode);
     if (std::abs(bareSeries(teile)[40] - expected[40]) > 1e-5F * expected[40])
         state.SkipWithError("rechnet anders als die Reihe");
     for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
@@ -118,7 +118,7 @@ void nurZeichnen(benchmark::State& state)
 {
     Aufbau aufbau;
     const Rechteck plot = plotArea(Bildgroesse.width(), Bildgroesse.height());
-    const Reihe values = konzentrationsreihe(aufbau.calc, komponenten(aufbau), 0, Fermienergie);
+    const Reihe values = konzentrationsreihe(aufbau.calc, komponenten(aufbau), 0, FermienergieCode);
     const auto [smallest, largest] = endValues(values);
     const Bereich range = yBereich(smallest, largest);
     const Abbildung abbildung(plot.width, plot.height, {0, 100}, range);

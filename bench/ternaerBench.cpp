@@ -15,7 +15,7 @@ namespace zerna {
 
 namespace {
 
-constexpr int Fermienergie = 8;
+constexpr int FermienergieCode = 8;
 constexpr int Feinste = 10;
 constexpr QSize Bildgroesse(1000, 700);
 
@@ -32,7 +32,7 @@ void gitter(benchmark::State& state)
     Aufbau aufbau;
     const auto three = komponenten(aufbau);
     for (auto _ : state) // NOLINT(clang-analyzer-deadcode.DeadStores)
-        benchmark::DoNotOptimize(ternaergitter(aufbau.calc, three, Fermienergie, Feinste));
+        benchmark::DoNotOptimize(ternaergitter(aufbau.calc, three, FermienergieCode, Feinste));
 }
 
 /// The same formulas from ready numbers, without a check anywhere.
@@ -66,7 +66,7 @@ void frames(benchmark::State& state)
 {
     Aufbau aufbau;
     Ternaerdiagramm diagramm;
-    diagramm.setGitter(ternaergitter(aufbau.calc, komponenten(aufbau), Fermienergie, Feinste), {});
+    diagramm.setGitter(ternaergitter(aufbau.calc, komponenten(aufbau), FermienergieCode, Feinste), {});
     QImage image(Bildgroesse, QImage::Format_ARGB32_Premultiplied);
     std::vector<double> milliseconds;
     for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
@@ -86,7 +86,7 @@ void frames(benchmark::State& state)
 void dreiecke(benchmark::State& state)
 {
     Aufbau aufbau;
-    const Ternaergitter grid = ternaergitter(aufbau.calc, komponenten(aufbau), Fermienergie, Feinste);
+    const Ternaergitter grid = ternaergitter(aufbau.calc, komponenten(aufbau), FermienergieCode, Feinste);
     const auto triangles = triangulate(grid);
     const Wertebereich range = wertebereich(grid.werte);
     QImage image(Bildgroesse, QImage::Format_ARGB32_Premultiplied);
