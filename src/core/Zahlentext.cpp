@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
+#include <utility>
 
 #include "core/Laufzeitfehler.h"
 #include "core/Unbekannt.h"
@@ -65,12 +66,13 @@ Ziffern roundedDigits(double value, int digits)
     return ziffern({buffer.data(), end.ptr});
 }
 
-/// The decimal value of a double: of its digits those that are not noise.
+constexpr int Reliable = 15; // digits of a double that are not noise
+
+/// The decimal value of a double: its reliable digits.
 Ziffern decimalDigits(double value)
 {
-    constexpr std::size_t Reliable = 15;
     const Ziffern shortest = shortestDigits(value);
-    return shortest.count <= Reliable ? shortest : roundedDigits(value, Reliable);
+    return std::cmp_less_equal(shortest.count, Reliable) ? shortest : roundedDigits(value, Reliable);
 }
 
 /// The digits rounded to the first `count` of them, ties away from zero; count may be 0 or less.
@@ -198,7 +200,10 @@ std::string textOfDouble(double value, Dezimaltrenner trenner)
 
 std::string textWithDigits(double value, int digits, Dezimaltrenner trenner)
 {
-    return std::isfinite(value) ? layOut(rounded(decimalDigits(value), digits), trenner) : std::string();
+    if (!std::isfinite(value))
+        return {};
+    const Ziffern all = digits > Reliable ? shortestDigits(value) : decimalDigits(value);
+    return layOut(rounded(all, digits), trenner);
 }
 
 std::string textWithDigits(float value, int digits, Dezimaltrenner trenner)

@@ -21,6 +21,7 @@ TEST(Zahlentext, WritesTheShortestTextThatReadsBack)
     for (const auto& [value, text] : doubles)
         EXPECT_EQ(textOfDouble(value), text);
     EXPECT_EQ(textWithDigits(63.300003, 7), "63,3");
+    EXPECT_EQ(textWithDigits(1000000000000000100000.0, 17), "1,0000000000000001E+21");
 }
 
 TEST(Zahlentext, RoundsTiesAwayFromZeroInEveryPattern)
