@@ -9,6 +9,8 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include <initializer_list>
+
 #include "ui/controls/Knopfzeile.h"
 #include "ui/controls/Radsperre.h"
 #include "ui/main/Diagrammbereich.h"
@@ -80,7 +82,12 @@ frmMain::frmMain(Programm& programm, Dialoge dialoge)
         ->einnehmen(QSize(1280, 800).expandedTo(m_pic1->minimumSizeHint() + QSize(PanelLeft, PanelTop)));
 }
 
-frmMain::~frmMain() = default;
+/// The focus leaves a field while the window goes, and what that tells reaches nobody any more.
+frmMain::~frmMain()
+{
+    for (QObject* const panel : std::initializer_list<QObject*>{m_komposition, m_ergebnisse, m_diagramm, m_pse})
+        panel->disconnect(this);
+}
 
 void frmMain::load()
 {
