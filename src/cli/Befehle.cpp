@@ -216,6 +216,8 @@ struct Wiegen {
         const Eingabefeld gesamt = zahlenfeld(masse);
         if (gesamt.fehler)
             throw Aufruffehler("--masse " + gekuerzt(masse) + ": keine gültige Zahl");
+        if (gesamt.wert <= 0)
+            throw Aufruffehler("--masse " + gekuerzt(masse) + ": erwartet wird eine Zahl größer als 0");
         umgebung.loadAlloy(komponenten.texte);
         const clsCalc& calc = umgebung.kern().calc();
         const int anzahl = umgebung.kern().eingabe().anzahl();
@@ -243,7 +245,10 @@ struct Friedel {
     void run(Umgebung& umgebung) const
     {
         umgebung.loadAlloy(komponenten.texte);
-        put(friedeldatei(umgebung.kern().calc()), ausgabe.datei);
+        const std::string datei = friedeldatei(umgebung.kern().calc());
+        if (datei.empty())
+            throw Datenfehler("Mit diesen Werten hat die Legierung keine Friedelminima");
+        put(datei, ausgabe.datei);
     }
 
     Komponenten komponenten;

@@ -87,7 +87,8 @@ private:
 
     [[noreturn]] void failNumber(const Elementspalte& spalte, std::string_view text) const
     {
-        failAt(spalte, zitiert(text) + " ist keine gültige Zahl");
+        const std::optional<Fremdzeichen> fremd = fremdzeichen(text);
+        failAt(spalte, fremd && fremd->beschaedigt ? std::string(KeinUtf8) : zitiert(text) + " ist keine gültige Zahl");
     }
 
     template <std::integral Integer>

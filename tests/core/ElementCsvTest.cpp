@@ -39,6 +39,8 @@ TEST_F(ElementCsvTest, ErrorsNameLineAndColumn)
         {changed("Bor", "\"Bor"), "Zeile 6 hat 4 statt " + std::to_string(Elementspalten.size()) + " Spalten"},
         {ReplaceText(changed("Lithium", "\"Li\nth\""), "10.811", "x"),
             "Zeile 7 Spalte Masse: \"x\" ist keine gültige Zahl"},
+        {changed(",5,10.811", ",\xF6,10.811"),
+            "Zeile 6 Spalte OZ: kein UTF-8-Text (die Tabelle als \"CSV UTF-8\" speichern)"},
         {changed("Bor", "B\xF6r"), "Zeile 6 Spalte Name: kein UTF-8-Text (die Tabelle als \"CSV UTF-8\" speichern)"},
         {changed("Bor", "Bωr?"), "Zeile 6 Spalte Name: das Zeichen \"ω\" kann die Elementdatei nicht aufnehmen"},
         {changed("6.941", std::string(100000, '7')),
