@@ -58,11 +58,6 @@ TEST(Kontrast, MarksStandOutFromTheirGround)
                 EXPECT_GE(kontrast(mark, palette.color(ground)), 4.5) << name << ' ' << ground;
         }
         EXPECT_GE(kontrast(abweichungsfarbe(palette), palette.color(QPalette::Window)), 4.5) << name;
-        const ButtonTheme theme = themeFromPalette(palette);
-        for (const ButtonLook& look : {theme.normal, theme.hover, theme.pressed, theme.checked, theme.disabled}) {
-            EXPECT_GE(kontrast(look.text, look.backgroundStart), 4.5) << name;
-            EXPECT_GE(kontrast(look.text, look.backgroundEnd), 4.5) << name;
-        }
     }
     for (const QColor& ink : {Cursorfarbe, Legierungsfarbe, Teilungsfarbe})
         EXPECT_GE(kontrast(ink, Qt::white), 4.5);
@@ -71,19 +66,59 @@ TEST(Kontrast, MarksStandOutFromTheirGround)
 TEST(Kontrast, CellsOfTheTableCarryTheirTextsSignsAndHatching)
 {
     std::vector<QColor> grounds;
+    for (int i = 0; i <= 1000; ++i)
+        grounds.push_back(toQt(farbskala(i / 1000.0)));
     for (const Elementgruppe& gruppe : elementgruppen()) {
-        for (const bool dark : {false, true})
-            grounds.push_back(toQt(gruppe.farbe(dark)));
+        grounds.push_back(toQt(gruppe.hell));
+        grounds.push_back(toQt(gruppe.dunkel));
     }
-    for (int i = 0; i <= 100; ++i)
-        grounds.push_back(toQt(farbskala(i / 100.0)));
-    for (const auto& [name, palette] : desktops())
-        grounds.push_back(palette.color(QPalette::Button));
+    for (const QColor& missing : {QColor(Qt::white), QColor(239, 239, 239), QColor(49, 54, 59), QColor(Qt::black)})
+        grounds.push_back(missing);
     for (const QColor& ground : grounds) {
         const QColor text = textOn(ground);
         EXPECT_GE(kontrast(text, ground), 4.5) << ground.name().toStdString();
-        EXPECT_GE(kontrast(zeichenfarbe(ground, text), ground), 3) << ground.name().toStdString();
+        EXPECT_GE(kontrast(textOn(text), text), 4.5) << "numbers on their plate";
+        EXPECT_GE(kontrast(zeichenfarbe(ground, text), ground), 4.5) << ground.name().toStdString();
         EXPECT_GE(kontrast(linienfarbe(ground, text), ground), 3) << ground.name().toStdString();
+    }
+    EXPECT_NEAR(kontrast(Qt::white, QColor(118, 118, 118)), 4.54, 0.01) << "the guidelines' own example";
+}
+
+TEST(Kontrast, EveryStateOfAButtonIsLegibleInAwkwardPalettesToo)
+{
+    auto palettes = desktops();
+    for (const auto& [window, button, text, accent] : {
+             std::tuple("#000000", "#000000", "#ffff00", "#00ff00"), // high contrast
+             {"#707070", "#757575", "#7a7a7a", "#777777"}, // grey on grey
+             {"#ffffff", "#ffffff", "#202020", "#ffffff"}, // white accent on white
+         }) {
+        QPalette palette{QColor(button), QColor(window)};
+        palette.setColor(QPalette::ButtonText, QColor(text));
+        palette.setColor(QPalette::Highlight, QColor(accent));
+        palettes.emplace_back(text, palette);
+    }
+    for (const auto& [name, palette] : palettes) {
+        const ButtonTheme theme = themeFromPalette(palette);
+        for (unsigned bits = 0; bits < 16; ++bits) {
+            SCOPED_TRACE(testing::Message() << name << ", condition " << bits);
+            const bool enabled = (bits & 8U) == 0;
+            const ButtonLook look = lookOf(theme, {enabled, (bits & 4U) != 0, (bits & 2U) != 0, (bits & 1U) != 0});
+            for (const QColor& background : {look.backgroundStart, look.backgroundEnd}) {
+                EXPECT_GE(kontrast(look.text, background), 4.5);
+                EXPECT_GE(kontrast(theme.focus, background), enabled ? 3.0 : 1.0);
+            }
+        }
+    }
+}
+
+TEST(Kontrast, FocusStandsOutOnEveryGround)
+{
+    for (const QColor& highlight :
+        {QColor(61, 174, 233), QColor(0, 120, 215), QColor(255, 255, 0), QColor(40, 40, 40)}) {
+        QPalette palette;
+        palette.setColor(QPalette::Highlight, highlight);
+        for (const QColor& ground : {QColor(Qt::white), QColor(49, 54, 59), QColor(118, 118, 118)})
+            EXPECT_GE(kontrast(fokusfarbe(palette, ground), ground), 3.0) << highlight.name().toStdString();
     }
 }
 

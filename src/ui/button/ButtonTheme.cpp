@@ -1,55 +1,22 @@
 #include "ui/button/ButtonTheme.h"
 
-#include <algorithm>
-#include <cmath>
-#include <initializer_list>
-
 #include "ui/platform/Farben.h"
 
 namespace zerna {
 
 namespace {
 
-constexpr double TextContrast = 4.5;
-constexpr double LineContrast = 3.0;
 constexpr double BaseContrast = 10.0; // leaves room for the tints of hover, pressed and checked
-
-/// `share` 0 gives `one`, 1 gives `other`.
-QColor mixed(const QColor& one, const QColor& other, double share)
-{
-    const auto channel = [share](int a, int b) { return static_cast<int>(std::lround(a + (b - a) * share)); };
-    return {channel(one.red(), other.red()), channel(one.green(), other.green()), channel(one.blue(), other.blue())};
-}
-
-double smallestContrast(const QColor& colour, std::initializer_list<QColor> backgrounds)
-{
-    double smallest = 21;
-    for (const QColor& background : backgrounds)
-        smallest = std::min(smallest, contrastRatio(colour, background));
-    return smallest;
-}
-
-/// `colour`, moved no further towards black or white than it takes to stand out from all backgrounds.
-QColor standingOut(const QColor& colour, std::initializer_list<QColor> backgrounds, double contrast)
-{
-    constexpr int Steps = 50;
-    const bool lighten = smallestContrast(Qt::white, backgrounds) > smallestContrast(Qt::black, backgrounds);
-    const QColor pole = lighten ? Qt::white : Qt::black;
-    QColor result = colour;
-    for (int step = 1; step <= Steps && smallestContrast(result, backgrounds) < contrast; ++step)
-        result = mixed(colour, pole, static_cast<double>(step) / Steps);
-    return result;
-}
 
 /// `look` with a text that stands out from both ends of the background. A gradient around medium grey can be too
 /// light for white and too dark for black text; it is made flat, since any one colour bears one of the two.
-ButtonLook legible(ButtonLook look, double contrast)
+ButtonLook legible(ButtonLook look)
 {
     const QColor wanted = look.text;
-    look.text = standingOut(wanted, {look.backgroundStart, look.backgroundEnd}, contrast);
-    if (smallestContrast(look.text, {look.backgroundStart, look.backgroundEnd}) < contrast) {
-        look.backgroundStart = look.backgroundEnd = mixed(look.backgroundStart, look.backgroundEnd, 0.5);
-        look.text = standingOut(wanted, {look.backgroundStart}, contrast);
+    look.text = abgehoben(wanted, {look.backgroundStart, look.backgroundEnd}, Textkontrast);
+    if (kleinsterKontrast(look.text, {look.backgroundStart, look.backgroundEnd}) < Textkontrast) {
+        look.backgroundStart = look.backgroundEnd = gemischt(look.backgroundStart, look.backgroundEnd, 0.5);
+        look.text = abgehoben(wanted, {look.backgroundStart}, Textkontrast);
     }
     return look;
 }
@@ -57,8 +24,8 @@ ButtonLook legible(ButtonLook look, double contrast)
 /// `look` with its background moved towards that of `other`.
 ButtonLook tinted(ButtonLook look, const ButtonLook& other, double share)
 {
-    look.backgroundStart = mixed(look.backgroundStart, other.backgroundStart, share);
-    look.backgroundEnd = mixed(look.backgroundEnd, other.backgroundEnd, share);
+    look.backgroundStart = gemischt(look.backgroundStart, other.backgroundStart, share);
+    look.backgroundEnd = gemischt(look.backgroundEnd, other.backgroundEnd, share);
     return look;
 }
 
@@ -78,18 +45,12 @@ constexpr Shades DarkShades{.start = 0.12, .end = 0.06, .frame = 0.3, .hover = 0
 ButtonLook disabledChecked(const ButtonTheme& theme)
 {
     ButtonLook look = tinted(theme.disabled, theme.checked, 0.6);
-    look.frame = mixed(theme.disabled.frame, theme.checked.frame, 0.3);
+    look.frame = gemischt(theme.disabled.frame, theme.checked.frame, 0.3);
     look.frameWidth = theme.checked.frameWidth;
-    return legible(look, TextContrast);
+    return legible(look);
 }
 
 } // namespace
-
-double contrastRatio(const QColor& one, const QColor& other)
-{
-    const auto [darker, lighter] = std::minmax({leuchtdichte(fromQt(one)), leuchtdichte(fromQt(other))});
-    return (lighter + 0.05) / (darker + 0.05);
-}
 
 ButtonState stateOf(const ButtonCondition& condition)
 {
@@ -110,7 +71,7 @@ ButtonLook lookOf(const ButtonTheme& theme, const ButtonCondition& condition)
     case ButtonState::Pressed:
         return theme.pressed;
     case ButtonState::Checked:
-        return condition.hovered ? legible(tinted(theme.checked, theme.hover, 0.5), TextContrast) : theme.checked;
+        return condition.hovered ? legible(tinted(theme.checked, theme.hover, 0.5)) : theme.checked;
     case ButtonState::Hover:
         return theme.hover;
     case ButtonState::Normal:
@@ -127,32 +88,30 @@ ButtonTheme themeFromPalette(const QPalette& palette)
     const Shades& shades = dark ? DarkShades : LightShades;
 
     // A medium grey carries neither black nor white text well once it is tinted, so move away from the text first.
-    const QColor base = standingOut(colour(QPalette::Button), {dark ? Qt::white : Qt::black}, BaseContrast);
-    const QColor start = mixed(base, Qt::white, shades.start);
-    const QColor end = mixed(base, Qt::white, shades.end);
-    const QColor frame = mixed(base, text, shades.frame);
-    const QColor accent = standingOut(colour(QPalette::Highlight), {start, end}, LineContrast);
-    const auto towardsAccent = [&accent](const QColor& from, double share) { return mixed(from, accent, share); };
+    const QColor base = abgehoben(colour(QPalette::Button), {dark ? Qt::white : Qt::black}, BaseContrast);
+    const QColor start = gemischt(base, Qt::white, shades.start);
+    const QColor end = gemischt(base, Qt::white, shades.end);
+    const QColor frame = gemischt(base, text, shades.frame);
+    const QColor accent = abgehoben(colour(QPalette::Highlight), {start, end}, Grafikkontrast);
+    const auto towardsAccent = [&accent](const QColor& from, double share) { return gemischt(from, accent, share); };
 
-    const QColor flat = mixed(base, colour(QPalette::Window), 0.5);
+    const QColor flat = gemischt(base, colour(QPalette::Window), 0.5);
 
     ButtonTheme theme;
-    theme.normal = legible({start, end, frame, text}, TextContrast);
-    theme.hover =
-        legible({towardsAccent(start, shades.hover), towardsAccent(end, shades.hover), towardsAccent(frame, 0.7), text},
-            TextContrast);
+    theme.normal = legible({start, end, frame, text});
+    theme.hover = legible(
+        {towardsAccent(start, shades.hover), towardsAccent(end, shades.hover), towardsAccent(frame, 0.7), text});
     // Pressed turns the gradient over: the button seems pushed in.
     theme.pressed = legible(
-        {towardsAccent(end, shades.pressed), towardsAccent(start, shades.pressed), mixed(accent, text, 0.2), text},
-        TextContrast);
+        {towardsAccent(end, shades.pressed), towardsAccent(start, shades.pressed), gemischt(accent, text, 0.2), text});
     const QColor tint = towardsAccent(end, shades.checked);
-    theme.checked = legible({tint, tint, accent, mixed(accent, text, 0.6)}, TextContrast);
+    theme.checked = legible({tint, tint, accent, gemischt(accent, text, 0.6)});
     theme.checked.frameWidth = 2;
-    theme.disabled = legible({flat, flat, mixed(base, text, 0.15), mixed(text, base, 0.55)}, TextContrast);
-    theme.focus = standingOut(accent,
+    theme.disabled = legible({flat, flat, gemischt(base, text, 0.15), gemischt(text, base, 0.55)});
+    theme.focus = abgehoben(accent,
         {start, end, theme.hover.backgroundStart, theme.hover.backgroundEnd, theme.pressed.backgroundStart,
             theme.pressed.backgroundEnd, theme.checked.backgroundStart, theme.checked.backgroundEnd},
-        LineContrast);
+        Grafikkontrast);
     return theme;
 }
 

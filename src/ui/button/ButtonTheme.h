@@ -51,7 +51,4 @@ ButtonLook lookOf(const ButtonTheme& theme, const ButtonCondition& condition);
 /// from both ends of the background by 4.5:1 or more in every state, the focus colour by 3:1 or more.
 ButtonTheme themeFromPalette(const QPalette& palette);
 
-/// Contrast of two opaque colours by relative luminance, 1 (equal) to 21 (black and white).
-double contrastRatio(const QColor& one, const QColor& other);
-
 } // namespace zerna

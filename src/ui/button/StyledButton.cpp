@@ -13,6 +13,8 @@
 #include <cmath>
 #include <vector>
 
+#include "ui/platform/Kontrast.h"
+
 namespace zerna {
 
 namespace {
@@ -32,7 +34,7 @@ struct CaptionLayer {
 std::vector<CaptionLayer> captionLayers(StyledButton::CaptionEffect effect, const QColor& text)
 {
     // Behind light text a light edge would only blur it, and so would a dark edge behind dark text.
-    const bool lightText = contrastRatio(text, Qt::black) > contrastRatio(text, Qt::white);
+    const bool lightText = textOn(text) == QColor(Qt::black);
     const QColor light(255, 255, 255, lightText ? 60 : 255);
     const QColor shade(0, 0, 0, lightText ? 180 : 55);
     switch (effect) {

@@ -2,20 +2,14 @@
 
 #include <array>
 
-#include "ui/platform/Farben.h"
+#include "ui/platform/Kontrast.h"
 
 namespace zerna {
 
 namespace {
 
 /// The colour that a partly transparent one gives on a ground.
-QColor opaque(const QColor& colour, const QColor& ground)
-{
-    const double share = colour.alphaF();
-    const auto mixed = [share](int above, int below) { return qRound(above * share + below * (1 - share)); };
-    return {
-        mixed(colour.red(), ground.red()), mixed(colour.green(), ground.green()), mixed(colour.blue(), ground.blue())};
-}
+QColor opaque(const QColor& colour, const QColor& ground) { return gemischt(ground, colour, colour.alphaF()); }
 
 } // namespace
 
@@ -29,11 +23,11 @@ QPalette lesbar(QPalette palette)
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         for (const auto& [text, ground] : Texts) {
             const QColor below = palette.color(group, ground);
-            palette.setColor(group, text, abgehoben(opaque(palette.color(group, text), below), below, Textkontrast));
+            palette.setColor(group, text, abgehoben(opaque(palette.color(group, text), below), {below}, Textkontrast));
         }
         const QColor selected = palette.color(group, QPalette::HighlightedText);
         palette.setColor(
-            group, QPalette::Highlight, abgehoben(palette.color(group, QPalette::Highlight), selected, Textkontrast));
+            group, QPalette::Highlight, abgehoben(palette.color(group, QPalette::Highlight), {selected}, Textkontrast));
     }
     return palette;
 }

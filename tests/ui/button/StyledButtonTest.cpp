@@ -150,35 +150,6 @@ TEST_F(StyledButtonTest, ThemeOfTheApplicationReachesAllButtonsAndElseThePalette
     QApplication::setPalette(before);
 }
 
-TEST(ButtonTheme, ContrastIsThatOfTheLuminances)
-{
-    for (const auto& [colour, ratio] : {std::pair("#000000", 21.0), {"#777777", 4.48}, {"#0000ff", 8.59}}) {
-        EXPECT_NEAR(contrastRatio(QColor(colour), Qt::white), ratio, 0.01);
-        EXPECT_NEAR(contrastRatio(Qt::white, QColor(colour)), ratio, 0.01);
-    }
-}
-
-TEST(ButtonTheme, EveryStateIsLegibleInLightDarkAndAwkwardPalettes)
-{
-    const QPalette palettes[]{
-        light, dark, paletteWith("#000000", "#000000", "#ffff00", "#00ff00"), // high contrast
-        paletteWith("#707070", "#757575", "#7a7a7a", "#777777"), // grey on grey
-        paletteWith("#ffffff", "#ffffff", "#202020", "#ffffff"), // white accent on white
-    };
-    for (const QPalette& palette : palettes) {
-        const ButtonTheme theme = themeFromPalette(palette);
-        for (unsigned bits = 0; bits < 16; ++bits) {
-            SCOPED_TRACE(testing::Message() << &palette - palettes << ", condition " << bits);
-            const bool enabled = (bits & 8U) == 0;
-            const ButtonLook look = lookOf(theme, {enabled, (bits & 4U) != 0, (bits & 2U) != 0, (bits & 1U) != 0});
-            for (const QColor& background : {look.backgroundStart, look.backgroundEnd}) {
-                EXPECT_GE(contrastRatio(look.text, background), 4.5);
-                EXPECT_GE(contrastRatio(theme.focus, background), enabled ? 3.0 : 1.0);
-            }
-        }
-    }
-}
-
 TEST(StyledButtonTexts, ToolTipIsEscapedAndScreenReadersGetPlainTexts)
 {
     StyledButton button("&Speichern && Beenden");
