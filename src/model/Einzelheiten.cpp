@@ -1,7 +1,6 @@
 #include "model/Einzelheiten.h"
 
-#include <array>
-
+#include "core/Anzeigetext.h"
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
 #include "model/Groessen.h"
@@ -10,30 +9,9 @@ namespace zerna {
 
 namespace {
 
-/// "-1,5E-34" as "−1,5·10⁻³⁴".
-std::string mitZehnerpotenz(std::string_view number)
-{
-    constexpr std::array<std::string_view, 10> Hochgestellt{"⁰", "¹", "²", "³", "⁴", "⁵", "⁶", "⁷", "⁸", "⁹"};
-    std::string text;
-    bool exponent = false;
-    for (const char c : number) {
-        if (c == 'E') {
-            exponent = true;
-            text += "·10";
-        } else if (c == '-') {
-            text += exponent ? "⁻" : "−";
-        } else if (exponent && c != '+') {
-            text += Hochgestellt.at(static_cast<std::size_t>(c - '0'));
-        } else if (!exponent) {
-            text += c;
-        }
-    }
-    return text;
-}
-
 std::string mitEinheit(const std::string& number, std::string_view unit)
 {
-    return number.empty() ? "unbekannt" : mitZehnerpotenz(number) + ' ' + std::string(unit);
+    return number.empty() ? "unbekannt" : anzeigetext(number) + ' ' + std::string(unit);
 }
 
 void addKonstanten(Einzelheiten& alle, const Lehrbucheintrag& eintrag)
