@@ -6,7 +6,7 @@
 
 namespace zerna {
 
-/// Offers a text that tests set, and one that cannot be made.
+/// Offers a text that tests set, and one that cannot be made. What the dialog offers is recorded in stunde.txt.
 struct ExportierenTest : FilesTest {
     bool save(const std::string& typed, int type)
     {
@@ -24,30 +24,25 @@ struct ExportierenTest : FilesTest {
     FakeSaveDialog dialog;
 };
 
-TEST_F(ExportierenTest, ChosenKindIsWrittenAndNoOtherMade)
-{
-    EXPECT_TRUE(save("a", 1));
-    EXPECT_EQ(contentOf("a.dat"), "5 g/cm\xB3\r\n");
-    EXPECT_EQ(dialog.offered, "Daten exportieren ...|DAT-File (*.dat)|*.dat|Friedelminima (*.fri)|*.fri");
-    EXPECT_TRUE(boxes.shown.empty());
-    EXPECT_FALSE(save("a", 2));
-    EXPECT_EQ(made, 1);
-}
-
 TEST_F(ExportierenTest, NothingIsWrittenWhereTheUserGivesUp)
 {
     EXPECT_FALSE(exportieren(boxes, dialog, Exporttitel, arten)) << "the dialog is cancelled";
+    for (const int type : {0, 3})
+        EXPECT_FALSE(save("a", type)) << "no such kind";
     writeBytes(folder / "a.dat", "alt");
     EXPECT_FALSE(save("a", 1)) << "the added extension would hit another file";
+    EXPECT_EQ(dialog.asked, std::vector<std::string>{"a.dat"});
     EXPECT_EQ(made, 0);
+    EXPECT_NE(std::filesystem::current_path(), folder.path());
     dialog.replace = true;
     text.reset();
     EXPECT_FALSE(save("a", 1)) << "a question on the way to the bytes is cancelled";
     EXPECT_EQ(contentOf("a.dat"), "alt");
     EXPECT_TRUE(boxes.shown.empty());
-    text = "neu";
+    text = "5 g/cm³\r\n";
     EXPECT_TRUE(save("a", 1));
-    EXPECT_EQ(contentOf("a.dat"), "neu");
+    EXPECT_EQ(contentOf("a.dat"), "5 g/cm\xB3\r\n");
+    EXPECT_EQ(std::filesystem::current_path(), folder.path());
 }
 
 TEST_F(ExportierenTest, AfterAFailureTheDialogComesAgainAndTheBytesAreMadeOnce)
@@ -57,20 +52,17 @@ TEST_F(ExportierenTest, AfterAFailureTheDialogComesAgainAndTheBytesAreMadeOnce)
         dialog.next = {(folder / "b").string(), 1};
         EXPECT_FALSE(save("a", 1));
     }
-    EXPECT_EQ(
-        dialog.offeredAgain, (std::vector{(folder / "a.dat").string() + "|1", (folder / "b.dat").string() + "|1"}));
-    EXPECT_EQ(boxes.shown.size(), 2U);
+    EXPECT_FALSE(save("Al/Cu", 2)) << "no such folder";
+    EXPECT_EQ(dialog.offeredAgain,
+        (std::vector{(folder / "a.dat").string() + "|1", (folder / "b.dat").string() + "|1",
+            (folder / "Al/Cu").string() + "|2"}));
+    EXPECT_EQ(boxes.shown.size(), 3U);
     EXPECT_EQ(made, 1);
-    EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
-}
-
-TEST_F(ExportierenTest, NothingToSaveIsSaidAndNoFileMade)
-{
     text = "";
     EXPECT_FALSE(save("a", 1));
-    EXPECT_EQ(boxes.shown.at(0).text, "Es gibt nichts zu speichern: Für diese Dateiart ist kein Wert bekannt.");
+    EXPECT_EQ(boxes.shown.at(3).text, "Es gibt nichts zu speichern: Für diese Dateiart ist kein Wert bekannt.");
+    EXPECT_EQ(dialog.offeredAgain.size(), 4U) << "another kind may have values";
     EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
-    EXPECT_EQ(dialog.offeredAgain.size(), 1U) << "another kind may have values";
 }
 
 TEST_F(ExportierenTest, FailureNamesFileAndReasonAndLeavesTheEarlierFile)

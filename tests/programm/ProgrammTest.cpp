@@ -107,7 +107,6 @@ TEST_F(ProgrammTest, BadDataFilesAreReportedAndNeverOverwritten)
     const std::string none = "Index außerhalb des gültigen Bereichs\r\n\r\nDie Elementdatei\r\n" + dataFile.string()
         + "\r\nenthält keine Elemente oder ist nicht lesbar; ohne Elemente lässt sich nichts berechnen." + remedy;
     const std::string twice = damaged("Dieser Schlüssel ist bereits einem Element dieser Auflistung zugeordnet");
-    const std::string tooShort = damaged("Eingabe hinter Dateiende");
     struct Row {
         const char* name;
         std::string bytes;
@@ -118,9 +117,7 @@ TEST_F(ProgrammTest, BadDataFilesAreReportedAndNeverOverwritten)
     for (const auto& [name, bytes, caption, text, runs] : {
              Row{"no elements", std::string(4, '\0'), "KoltZerna", none, true},
              {"an element twice", builtIn.substr(0, 4) + hydrogen + hydrogen, "Zerna", twice, false},
-             {"empty", "", "Zerna", tooShort, false},
-             {"a negative count", "\xFF\xFF\xFF\xFF" + hydrogen, "Zerna", tooShort, false},
-             {"the greatest count", "\xFF\xFF\xFF\x7F" + hydrogen, "Zerna", tooShort, false},
+             {"empty", "", "Zerna", damaged("Eingabe hinter Dateiende"), false},
          }) {
         SCOPED_TRACE(name);
         boxes.shown.clear();
