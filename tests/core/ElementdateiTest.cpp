@@ -30,30 +30,23 @@ struct ElementdateiTest : FilesTest {
 TEST_F(ElementdateiTest, CountsThatTheBytesDoNotBear)
 {
     const std::string two = fileOf("PC").substr(1);
-    struct Row {
-        const char* name;
-        std::string bytes;
-        int error;
-        int elements;
-        std::size_t boxes = 0;
-    };
-    const Row rows[] = {
-        {"bytes behind the last record", "\x02" + two + "x", 0, 2},
-        {"no elements", std::string(4, '\0'), 0, 0},
-        {"empty file", "", 62, 0},
-        {"negative count", "\xFF\xFF\xFF\xFF" + two.substr(3), 62, 0},
-        {"greatest count there is", "\xFF\xFF\xFF\x7F" + two.substr(3), 62, 0},
+    const std::tuple<const char*, std::string, int, int, std::size_t> rows[] = {
+        {"bytes behind the last record", "\x02" + two + "x", 0, 2, 0},
+        {"no elements", std::string(4, '\0'), 0, 0, 0},
+        {"empty file", "", 62, 0, 0},
+        {"negative count", "\xFF\xFF\xFF\xFF" + two.substr(3), 62, 0, 0},
+        {"greatest count there is", "\xFF\xFF\xFF\x7F" + two.substr(3), 62, 0, 0},
         {"a record missing", "\x03" + two, 0, 3, 1},
         {"two records missing, both without a symbol", "\x04" + two, 457, 3, 2},
-        {"one symbol twice", fileOf("CC"), 457, 1},
+        {"one symbol twice", fileOf("CC"), 457, 1, 0},
         {"lengths beyond the end", std::string("\x09\0\0\0\1\1\1\0a\xFF\xFF\1\1\1\0b\xFF\xFF\1\1\1\0c\xFF\xFF", 25),
             457, 2, 3},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(load(row.bytes), row.error);
-        EXPECT_EQ(elements.Count(), row.elements);
-        EXPECT_EQ(boxes.shown.size(), row.boxes);
+    for (const auto& [name, bytes, error, count, messages] : rows) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(load(bytes), error);
+        EXPECT_EQ(elements.Count(), count);
+        EXPECT_EQ(boxes.shown.size(), messages);
     }
     const std::string whole = fileOf("ABCDEF");
     for (std::size_t size = 4; size < whole.size(); ++size) {

@@ -6,44 +6,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <thread>
-
 #include "core/Datei.h"
 #include "support/FilesTest.h"
 #include "support/FullDisk.h"
 
 namespace zerna {
-
-namespace {
-
-constexpr int Dateien = 40;
-
-std::string contentOf(int writer, int file)
-{
-    return std::string(static_cast<std::size_t>(3000 + 700 * writer + file), static_cast<char>('a' + writer));
-}
-
-std::string nameOf(int writer, int file) { return std::to_string(writer) + "-" + std::to_string(file); }
-
-void writeMany(const std::filesystem::path& folder, int writer)
-{
-    for (int file = 0; file < Dateien; ++file)
-        writeExport(folder / nameOf(writer, file), contentOf(writer, file));
-}
-
-/// Runs an action in a process of its own, which may become another user; its exit status.
-template <class Action>
-int inChild(Action&& action)
-{
-    const pid_t child = fork();
-    if (child == 0)
-        _exit(action());
-    int status = -1;
-    waitpid(child, &status, 0);
-    return WEXITSTATUS(status);
-}
-
-} // namespace
 
 struct ExportdateiTest : FilesTest {
     ExportdateiTest() { writeBytes(target, "alt"); }
@@ -51,6 +18,16 @@ struct ExportdateiTest : FilesTest {
     int exportTo(const std::filesystem::path& path) const
     {
         return errorNumber([&] { writeExport(path, "neuer Text\r\n"); });
+    }
+
+    /// The same as another user, in a process of its own.
+    int exportToAsNobody(const std::filesystem::path& path) const
+    {
+        if (fork() == 0)
+            _exit(setuid(65534) != 0 ? 1 : exportTo(path));
+        int status = -1;
+        wait(&status);
+        return WEXITSTATUS(status);
     }
 
     std::ptrdiff_t filesInFolder() const
@@ -89,15 +66,15 @@ TEST_F(ExportdateiTest, KeepsAnOwnerToWhomNoFileCanBeGiven)
         GTEST_SKIP() << "takes two users";
     chmod(target.c_str(), 0666);
     chmod(folder.path().c_str(), 0777);
-    EXPECT_EQ(inChild([&] { return setuid(65534) != 0 ? 1 : exportTo(target); }), 0);
+    EXPECT_EQ(exportToAsNobody(target), 0);
     struct stat file { };
     ASSERT_EQ(stat(target.c_str(), &file), 0);
     EXPECT_EQ(file.st_uid, 0U);
     EXPECT_EQ(bytesOf(target), "neuer Text\r\n");
     chmod(target.c_str(), 0444);
-    EXPECT_EQ(inChild([&] { return setuid(65534) != 0 ? 1 : exportTo(target); }), 70);
+    EXPECT_EQ(exportToAsNobody(target), 70);
     chmod(folder.path().c_str(), 0755);
-    EXPECT_EQ(inChild([&] { return setuid(65534) != 0 ? 1 : exportTo(folder / "neu.dat"); }), 70);
+    EXPECT_EQ(exportToAsNobody(folder / "neu.dat"), 70);
     EXPECT_EQ(filesInFolder(), 1);
 }
 
@@ -120,24 +97,20 @@ TEST_F(ExportdateiTest, SaysAtOnceWhyATargetCannotBeWritten)
 
 TEST_F(ExportdateiTest, ManyWritersInOneFolderKeepTheirFilesApart)
 {
-    std::vector<pid_t> children;
-    for (int pair = 0; pair < 3; ++pair) {
-        children.push_back(fork());
-        if (children.back() == 0) {
-            std::thread other([&] { writeMany(folder.path(), 2 * pair); });
-            writeMany(folder.path(), 2 * pair + 1);
-            other.join();
+    constexpr int Writers = 6;
+    constexpr int Files = 240;
+    const auto contentOf = [](int file) { return std::string(3000U + 17U * file, static_cast<char>('a' + file % 26)); };
+    for (int writer = 0; writer < Writers; ++writer) {
+        if (fork() == 0) {
+            for (int file = writer; file < Files; file += Writers)
+                writeExport(folder / std::to_string(file), contentOf(file));
             _exit(0);
         }
     }
-    for (const pid_t child : children) {
-        int status = -1;
-        waitpid(child, &status, 0);
-        EXPECT_EQ(status, 0);
-    }
-    for (int i = 0; i < 6 * Dateien; ++i)
-        EXPECT_EQ(bytesOf(folder / nameOf(i / Dateien, i % Dateien)), contentOf(i / Dateien, i % Dateien)) << i;
-    EXPECT_EQ(filesInFolder(), 6 * Dateien + 1);
+    while (wait(nullptr) > 0) { }
+    for (int file = 0; file < Files; ++file)
+        EXPECT_EQ(bytesOf(folder / std::to_string(file)), contentOf(file)) << file;
+    EXPECT_EQ(filesInFolder(), Files + 1);
 }
 
 TEST_F(ExportdateiTest, ClearsWhatAKilledRunHasLeftAndNothingElse)

