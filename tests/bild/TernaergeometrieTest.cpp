@@ -17,8 +17,6 @@ TEST(Projektion, TiltsThenTurnsAndFindsBack)
         Bildpunkt expected; ///< in sides of the triangle, y upwards
     } rows[] = {
         {"from above", 90, 0, {0.2, 0.3, 0.2}},
-        {"from the front", 0, 0, {0.2, 0.2, -0.3}},
-        {"from below", -90, 0, {0.2, -0.3, -0.2}},
         {"from the side", 0, 90, {-0.3, 0.2, -0.2}},
         {"tilted", 30, 0, {0.2, 0.323205, -0.159808}},
     };
@@ -40,46 +38,20 @@ TEST(Projektion, TiltsThenTurnsAndFindsBack)
 
 TEST(Ansicht, StaysWithinItsLimits)
 {
-    const struct {
-        const char* name;
-        double tilt, turn;
-        Ansicht expected;
-    } rows[] = {
-        {"inside", 64, -60, {89, -90}},
-        {"over the top, over the back", 66, 211, {90, -179}},
-        {"just at both limits", -115, -150, {-90, -180}},
-        {"below the bottom", -200, 215, {-90, -175}},
-        {"whole turns", 0, 3600, {25, -30}},
-    };
-    for (const auto& row : rows)
-        EXPECT_EQ(rotated({}, row.tilt, row.turn), row.expected) << row.name;
-    EXPECT_EQ(zoomed({}, 2).zoom, 2);
-    EXPECT_EQ(zoomed({}, 1e300).zoom, 3);
+    EXPECT_EQ(rotated({}, 66, 211), (Ansicht{90, -179})) << "over the top, over the back";
+    EXPECT_EQ(rotated({}, -200, -3600), (Ansicht{-90, -30})) << "below the bottom, whole turns";
     EXPECT_EQ(zoomed({}, HUGE_VAL).zoom, 3);
     EXPECT_EQ(zoomed({}, 0).zoom, 0.5);
 }
 
 TEST(Zusammensetzung, HasItsPlaceInTheTriangle)
 {
-    const struct {
-        const char* name;
-        Anteile3 anteile;
-        double x, y;
-    } rows[] = {
-        {"first component", {1, 0, 0}, -0.5, -0.288675},
-        {"third component", {0, 0, 1}, 0, 0.577350},
-        {"a mixture", {0.2, 0.5, 0.3}, 0.15, -0.028868},
-    };
-    for (const auto& [name, anteile, x, y] : rows) {
-        const Raumpunkt place = placeOf(anteile, 7);
-        EXPECT_NEAR(std::hypot(place.x - x, place.y - y), 0, 1e-6) << name;
-        const Anteile3 back = compositionAt(place).value_or(Anteile3{});
-        EXPECT_NEAR(std::hypot(back[0] - anteile[0], back[1] - anteile[1], back[2] - anteile[2]), 0, 1e-9) << name;
-    }
+    const Raumpunkt place = placeOf({0.2, 0.5, 0.3}, 7);
+    EXPECT_NEAR(std::hypot(place.x - 0.15, place.y + 0.028868), 0, 1e-6);
+    const Anteile3 back = compositionAt(place).value_or(Anteile3{});
+    EXPECT_NEAR(std::hypot(back[0] - 0.2, back[1] - 0.5, back[2] - 0.3), 0, 1e-9);
     EXPECT_FALSE(compositionAt({0, -0.29, 0})) << "below the base line";
-    EXPECT_FALSE(compositionAt({0, 0.58, 0})) << "above the third corner";
-    EXPECT_FALSE(compositionAt({0.4, 0, 0})) << "right of the triangle";
-    EXPECT_FALSE(compositionAt({-0.4, 0, 0})) << "left of it";
+    EXPECT_FALSE(compositionAt({-0.4, 0, 0})) << "left of the triangle";
 }
 
 TEST(Ternaerflaeche, IsInterpolatedAndHasHoles)
@@ -90,9 +62,7 @@ TEST(Ternaerflaeche, IsInterpolatedAndHasHoles)
         Anteile3 anteile;
         double value;
     } rows[] = {
-        {"first component", {1, 0, 0}, 10},
         {"second component", {0, 1, 0}, 20},
-        {"third component", {0, 0, 1}, 0},
         {"on an edge of the grid", {0.25, 0.5, 0.25}, 12.5},
         {"in an upright triangle", {0.2, 0.2, 0.6}, 6},
         {"in one upside down", {0.4, 0.4, 0.2}, 12},

@@ -29,10 +29,6 @@ TEST(WertskalaTest, OutliersDoNotPushAllOthersTogether)
         const Wertskala skala(row.werte);
         EXPECT_EQ(skala.art(), row.art) << row.name;
         EXPECT_NEAR(skala.position(row.wert), row.position, 1e-9) << row.name;
-        if (skala.kleinster() < skala.groesster()) {
-            EXPECT_EQ(skala.position(skala.kleinster()), 0) << row.name;
-            EXPECT_EQ(skala.position(skala.groesster()), 1) << row.name;
-        }
     }
     EXPECT_EQ(Wertskala(std::vector{1.F, 2.F, 4.F, 8.F, 16.F, 32.F, 64.F, 128.F, 4096.F}).mitte(), 64);
     EXPECT_EQ(Wertskala(std::vector{Unbekannt}).mitte(), 0);

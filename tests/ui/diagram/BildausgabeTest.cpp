@@ -23,37 +23,24 @@ TEST_F(BildausgabeTest, ImagesHaveTheirPixelsAndVectorsFineSurfaces)
     const struct {
         const char* name;
         Exportart art;
-        const char* extension;
         const char* begin;
         double ratio;
     } rows[] = {
-        {"bitmap", bitmap(maler, leinwand), ".bmp", "BM", 1},
-        {"png", bildarten(maler, leinwand).at(0), ".png", "\x89PNG", 2},
-        {"svg", bildarten(maler, leinwand).at(1), ".svg", "<?xml", 3},
-        {"pdf", bildarten(maler, leinwand).at(2), ".pdf", "%PDF", 3},
+        {"png", bildarten(maler, leinwand).at(0), "\x89PNG", 2},
+        {"svg", bildarten(maler, leinwand).at(1), "<?xml", 3},
+        {"pdf", bildarten(maler, leinwand).at(2), "%PDF", 3},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        EXPECT_EQ(row.art.endung, row.extension);
         EXPECT_TRUE(ratios.empty()) << "nothing is painted before it is chosen";
         EXPECT_TRUE(row.art.bytes()->starts_with(row.begin));
         EXPECT_EQ(std::exchange(ratios, {}), std::vector<double>{row.ratio});
     }
-    const auto expectPicture = [this](const Exportart& art, int scale) {
-        const QImage image = QImage::fromData(QByteArray::fromStdString(*art.bytes()));
-        EXPECT_EQ(image.size(), leinwand.size * scale);
-        EXPECT_EQ(image.pixelColor(20 * scale - 1, 10), QColor(Qt::red));
-        EXPECT_EQ(image.pixelColor(20 * scale, 10), QColor(Qt::white));
-    };
-    expectPicture(rows[0].art, 1);
-    expectPicture(rows[1].art, 2);
-}
-
-TEST_F(BildausgabeTest, PictureWithoutPixelsIsNoFile)
-{
-    const Leinwand empty{{0, 20}, {}, 1};
-    EXPECT_THROW(bitmap(maler, empty).bytes(), Laufzeitfehler);
-    EXPECT_THROW(bildarten(maler, empty).at(0).bytes(), Laufzeitfehler);
+    const QImage image = QImage::fromData(QByteArray::fromStdString(*rows[0].art.bytes()));
+    EXPECT_EQ(image.size(), leinwand.size * 2);
+    EXPECT_EQ(image.pixelColor(39, 10), QColor(Qt::red));
+    EXPECT_EQ(image.pixelColor(40, 10), QColor(Qt::white));
+    EXPECT_THROW(bitmap(maler, {{0, 20}, {}, 1}).bytes(), Laufzeitfehler) << "no pixels, no file";
 }
 
 } // namespace zerna

@@ -2,7 +2,6 @@
 #include <QTimer>
 #include <QWheelEvent>
 
-#include <map>
 #include <random>
 
 #include "support/FakeDesk.h"
@@ -62,30 +61,6 @@ TEST_F(TernaeransichtTest, DragsAndArrowKeysTiltAndTurn)
     drag({{0, 500}, {0, -65}}); // from the limit of 90 degrees
     mouse(QEvent::MouseMove, {300, 300}, {});
     EXPECT_EQ(picture(), start);
-}
-
-TEST_F(TernaeransichtTest, ReadOutAndFileNameThePoints)
-{
-    drag({{-30, 65}}); // from above and not turned: the third corner is at the top
-    picture();
-    std::map<int, std::string> byColumn, byRow; // the first of each
-    for (int y = 0; y < area().height(); y += 3) {
-        for (int x = 0; x < area().width(); x += 3) {
-            mouse(QEvent::MouseMove, QPointF(x, y), {});
-            if (const std::string shown = text("LabelPos"); !shown.empty()) {
-                byColumn.emplace(x, shown);
-                byRow.emplace(y, shown);
-            }
-        }
-    }
-    EXPECT_EQ(byColumn.begin()->second.substr(0, 4), "Al 9");
-    EXPECT_EQ(byColumn.rbegin()->second.find("Cu 9"), 12U) << byColumn.rbegin()->second;
-    EXPECT_EQ(byRow.begin()->second.find("Mg 9"), 24U) << byRow.begin()->second;
-    saveDialog.answer = {(folder / "t").string(), 1};
-    click("cmdDiagramm_Speichern");
-    const std::string file = bytesOf(folder / "t.3dd");
-    EXPECT_EQ(file.substr(0, 54), "Al [at%]\tCu [at%]\tMg [at%]\te/a\r\n0\t0\t100\t2\r\n0\t2\t98\t1.98");
-    EXPECT_EQ(std::count(file.begin(), file.end(), '\n'), 1 + 51 * 52 / 2);
 }
 
 TEST_F(TernaeransichtTest, WheelAndKeysZoomAndSeveralMovesAreOneFrame)
