@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "core/Zeichensatz.h"
+#include "ui/controls/Wertanzeige.h"
 
 /// What changed on the controls of a window and what came out of it, as compact lines.
 namespace zerna {
@@ -126,6 +127,7 @@ struct Anblick {
     std::string hint; // the fault of a field, or what its formula comes to
     bool isVisible = false;
     bool isEnabled = true;
+    bool isPale = false;
 };
 
 inline Anblick lookAt(QWidget& widget)
@@ -136,7 +138,9 @@ inline Anblick lookAt(QWidget& widget)
         seen.text = field->text().toStdString();
         seen.hint = oneLine(field->toolTip());
     } else if (const auto* const label = qobject_cast<QLabel*>(&widget)) {
+        const auto* const value = qobject_cast<const Wertanzeige*>(&widget);
         seen.text = oneLine(label->text());
+        seen.isPale = value != nullptr && value->istBlass();
     } else if (const auto* const button = qobject_cast<QAbstractButton*>(&widget)) {
         seen.text = button->accessibleName().toStdString() + (button->isChecked() ? " (checked)" : "");
     } else if (const auto* const lines = qobject_cast<QListWidget*>(&widget)) {
@@ -178,6 +182,7 @@ inline void logChanges(
     std::map<std::string, std::vector<std::string>> states;
     forChanged(&Anblick::isVisible, [&](auto& name, bool is) { states[is ? "shown" : "hidden"].push_back(name); });
     forChanged(&Anblick::isEnabled, [&](auto& name, bool is) { states[is ? "enabled" : "disabled"].push_back(name); });
+    forChanged(&Anblick::isPale, [&](auto& name, bool is) { states[is ? "pale" : "plain"].push_back(name); });
     for (const auto& [state, changed] : states) {
         for (const std::string& range : contracted(changed))
             log.add(state, range);

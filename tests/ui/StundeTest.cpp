@@ -28,6 +28,9 @@ struct StundeTest : FakeDesk {
         QTest::keySequence(&control(name), QKeySequence(QString::fromStdString(key)));
     }
 
+    /// The place that the first two words give.
+    static QPoint at(const std::string& xy) { return {std::stoi(words(xy).at(0)), std::stoi(words(xy).at(1))}; }
+
     QPoint placeIn(const std::string& name, const QPoint& position) const
     {
         return control(name).mapTo(window.get(), position);
@@ -40,16 +43,17 @@ struct StundeTest : FakeDesk {
     }
 
     /// Chooses an entry of the menu that the action opens.
-    void answerMenu(const std::string& entry, const std::function<void()>& open) const
+    void answerMenu(const std::string& entry, const std::function<void()>& open)
     {
-        QTimer::singleShot(0, [&entry] {
+        QTimer::singleShot(0, [this, &entry] {
             auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
             ASSERT_NE(menu, nullptr);
             for (QAction* const action : menu->actions()) {
+                offers.push_back(action->text().replace('\t', ": ").toStdString());
                 if (action->text().section('\t', 0, 0).remove('&').toStdString() == entry)
                     menu->setActiveAction(action);
             }
-            EXPECT_NE(menu->activeAction(), nullptr) << entry;
+            EXPECT_EQ(menu->activeAction() == nullptr, entry.empty()) << entry;
             QTest::keyClick(menu, menu->activeAction() != nullptr ? Qt::Key_Return : Qt::Key_Escape);
         });
         open();
@@ -90,14 +94,18 @@ struct StundeTest : FakeDesk {
         {"focus", [this](auto& name, auto&) { control(name).setFocus(); }},
         {"key", [this](auto& name, auto& key) { pressKey(name, key); }},
         {"press", [this](auto& name, auto& text) { QTest::keyClicks(&control(name), QString::fromStdString(text)); }},
-        {"move",
-            [this](auto& name, auto& xy) {
-                moveMouse(name, {std::stoi(words(xy).at(0)), std::stoi(words(xy).at(1))});
+        {"move", [this](auto& name, auto& xy) { moveMouse(name, at(xy)); }},
+        {"tap", [this](auto& name, auto& xy) { QTest::mouseClick(&control(name), Qt::LeftButton, {}, at(xy)); }},
+        {"twice",
+            [this](auto& name, auto& xyEntry) {
+                const std::string entry = QString::fromStdString(xyEntry).section(' ', 2).toStdString();
+                answerMenu(entry, [&] { QTest::mouseDClick(&control(name), Qt::LeftButton, {}, at(xyEntry)); });
             }},
         {"menu", [this](auto& name, auto& entry) { answerMenu(entry, [&] { rightClick(name); }); }},
         {"take", [this](auto& name, auto& entry) { answerMenu(entry, [&] { pressKey(name, "Return"); }); }},
         {"save", [this](auto& name, auto& file) { save(name, words(file).at(0), std::stoi(words(file).at(1))); }},
         {"input", [this](auto& text, auto&) { inputBox.answer = text.empty() ? std::nullopt : std::optional(text); }},
+        {"answer", [this](auto& yesOrNo, auto&) { boxes.answer = yesOrNo == "yes"; }},
         {"watch", [this](auto& name, auto& others) { watch(name + ' ' + others); }},
     };
 
@@ -105,12 +113,15 @@ struct StundeTest : FakeDesk {
     std::string play(const std::string& line)
     {
         boxes.shown.clear();
+        boxes.asked.clear();
+        offers.clear();
         inputBox.prompts.clear();
         saveDialog.asked.clear();
         QApplication::clipboard()->clear();
         const std::map<std::string, std::string> settingsBefore = settings.stored;
         const QString text = QString::fromStdString(line);
         const std::string verb = text.section(' ', 0, 0).toStdString();
+        const QWidget* const focusBefore = QApplication::focusWidget();
         actions.at(verb)(text.section(' ', 1, 1).toStdString(), text.section(' ', 2).toStdString());
         QCoreApplication::processEvents();
         Protokoll log;
@@ -126,6 +137,8 @@ struct StundeTest : FakeDesk {
             for (const std::string& name : watched)
                 now[name] = lookAt(control(name));
             logChanges(log, watched, std::exchange(seen, now), now);
+            if (verb == "key" && QApplication::focusWidget() != focusBefore)
+                log.add("focus", QApplication::focusWidget()->objectName().toStdString());
         }
         return log.text() + clipboardText() + filesWritten();
     }
@@ -137,6 +150,10 @@ struct StundeTest : FakeDesk {
             text.replace(QString::fromStdString(folder.path().string()), QStringLiteral("(folder)"));
             log.add("box", box.caption + ": " + oneLine(text));
         }
+        for (const std::string& question : boxes.asked)
+            log.add("asked", oneLine(QString::fromStdString(question)));
+        for (const std::string& entry : offers)
+            log.add("menu", entry);
         if (saveDialog.offered != std::exchange(offered, saveDialog.offered))
             log.add("dialog", saveDialog.offered);
         for (const std::string& asked : saveDialog.asked)
@@ -168,6 +185,7 @@ struct StundeTest : FakeDesk {
     std::vector<std::string> watched;
     Anblicke seen;
     std::string offered; // by the save dialog the last time
+    std::vector<std::string> offers; // entries of the menu
     std::map<std::string, std::filesystem::file_time_type> written;
 };
 

@@ -6,8 +6,6 @@
 #include <random>
 
 #include "support/FakeDesk.h"
-#include "ui/controls/Befundzeile.h"
-#include "ui/diagram/Diagrammflaeche.h"
 #include "ui/diagram/conDisplay.h"
 
 namespace zerna {
@@ -40,39 +38,6 @@ TEST_F(DiagrammbereichTest, EveryEditRedrawsAndCalcKeepsTheAlloy)
     }
     EXPECT_EQ(picture(), image) << "copying leaves it as it is";
     EXPECT_FLOAT_EQ(programm->Calc().Valenz(), 1.6F) << "of 60 at% zinc, not of the last step";
-}
-
-TEST_F(DiagrammbereichTest, WithoutThreeComponentsItSaysWhyThereIsNoTernaryDiagramAndOffersThem)
-{
-    const auto line = [this] { return find<Befundzeile>("lblDrei").befund().toStdString(); };
-    choose("cmbDiagramm_Typ", "3 D - ternär");
-    EXPECT_EQ(text("cmbDiagramm_Typ"), "2 D");
-    EXPECT_EQ(line(), "„3 D - ternär“ braucht genau drei Komponenten, jetzt sind es zwei. Auf drei ändern");
-    QTest::keyClick(&find("lblDrei"), Qt::Key_Return);
-    EXPECT_EQ(texts({"lblAnzahl", "cmbDiagramm_Typ"}) + line(), "3|3 D - ternär");
-    click("cmdKom_0");
-    EXPECT_EQ(texts({"lblAnzahl", "cmbDiagramm_Typ"}) + line(), "4|2 D");
-    choose("cmbDiagramm_Typ", "3 D - ternär");
-    EXPECT_TRUE(line().find("vier") != std::string::npos && boxes.shown.empty());
-    choose("cmbDiagramm_Typ", "PSE");
-    EXPECT_EQ(line(), "");
-}
-
-TEST_F(DiagrammbereichTest, WhatCannotBeComputedSaysWhyUntilTheNextGoodEdit)
-{
-    const QImage before = picture();
-    choose("cmdDichte_1", "<andere>");
-    EXPECT_FALSE(find("conDisplay1").isVisible()) << "density 0";
-    const QImage isZero = picture();
-    type("txtDichte_1", "");
-    EXPECT_NE(picture(), isZero) << "another text";
-    type("txtDichte_1", "8,96");
-    EXPECT_EQ(picture(), before);
-    type("txtProzent_0", "5x");
-    EXPECT_TRUE(find("conDisplay1").isVisible()) << "stays while an at% is being typed";
-    click("cmdKom_1");
-    EXPECT_FALSE(find("conDisplay1").isVisible()) << "a single component";
-    EXPECT_TRUE(boxes.shown.empty());
 }
 
 TEST_F(DiagrammbereichTest, MenuSavesThePicture)
