@@ -60,6 +60,7 @@ struct Groessenliste {
     void run(Umgebung& umgebung) const
     {
         umgebung.loadAlloy(komponenten.texte);
+        umgebung.nenneBefund();
         Rechenkern& kern = umgebung.kern();
         const Tabelle tabelle =
             lehrbuch ? lehrbuchtabelle(kern.calc(), kern.komponenten()) : groessentabelle(kern.calc());
@@ -82,6 +83,7 @@ struct Text {
     void run(Umgebung& umgebung) const
     {
         umgebung.loadAlloy(komponenten.texte);
+        umgebung.nenneBefund();
         const clsCalc& calc = umgebung.kern().calc();
         const std::vector<Komponentenzeile> zeilen = umgebung.kern().eingabe().komponentenzeilen();
         Ergebnistexte texte;
@@ -246,8 +248,10 @@ struct Friedel {
     {
         umgebung.loadAlloy(komponenten.texte);
         const std::string datei = friedeldatei(umgebung.kern().calc());
-        if (datei.empty())
+        if (datei.empty()) {
+            umgebung.nenneBefund();
             throw Datenfehler("Mit diesen Werten hat die Legierung keine Friedelminima");
+        }
         put(datei, ausgabe.datei);
     }
 

@@ -11,6 +11,7 @@
 #include "core/Plattform.h"
 #include "core/Zahlentext.h"
 #include "core/Zeichensatz.h"
+#include "model/Ergebnislage.h"
 
 namespace zerna {
 
@@ -54,6 +55,13 @@ void Umgebung::loadAlloy(std::span<const std::string> komponenten)
         angaben.push_back(komponentenangabe(text));
     load();
     m_kern.setAlloy(angaben);
+}
+
+void Umgebung::nenneBefund()
+{
+    const Ergebnislage lage = ergebnislage(m_kern.eingabe(), m_kern.eingabe(), m_kern.calc());
+    if (lage.befund)
+        std::cerr << "zerna-cli: " << befundgrund(m_kern.eingabe(), *lage.befund) << '\n';
 }
 
 void put(const std::string& text, const std::string& file)

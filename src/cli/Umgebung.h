@@ -30,6 +30,9 @@ public:
     /// Datenfehler.
     void loadAlloy(std::span<const std::string> komponenten);
 
+    /// Says on standard error what makes the results of the alloy doubtful.
+    void nenneBefund();
+
     Rechenkern& kern() { return m_kern; }
 
     std::string daten; ///< the data file that was asked for; empty for none

@@ -144,6 +144,13 @@ std::string befundtext(const Eingabe& eingabe, const Befund& befund)
         + befund.text;
 }
 
+std::string befundgrund(const Eingabe& eingabe, const Befund& befund)
+{
+    const std::string text = befundtext(eingabe, befund);
+    const std::size_t end = text.find(". ");
+    return end == std::string::npos ? text : text.substr(0, end + 1);
+}
+
 std::string zusammensetzung(const Eingabe& eingabe)
 {
     std::string text;

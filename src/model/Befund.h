@@ -40,6 +40,9 @@ const Befund* wichtigster(std::span<const Befund> alle);
 /// "Komponente 1 (Al): at% fehlt. …".
 std::string befundtext(const Eingabe& eingabe, const Befund& befund);
 
+/// The same without the remedy, which is the window's.
+std::string befundgrund(const Eingabe& eingabe, const Befund& befund);
+
 /// "Al 60, Cu 40 at%".
 std::string zusammensetzung(const Eingabe& eingabe);
 

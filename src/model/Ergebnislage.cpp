@@ -2,17 +2,6 @@
 
 namespace zerna {
 
-namespace {
-
-/// The reason without the remedy, for want of room.
-std::string firstSentence(const std::string& text)
-{
-    const std::size_t end = text.find(". ");
-    return end == std::string::npos ? text : text.substr(0, end + 1);
-}
-
-} // namespace
-
 bool Ergebnislage::istFehler() const
 {
     if (!getippt.empty())
@@ -28,7 +17,7 @@ std::string Ergebnislage::text() const
         return getippt + ": eingetippt, gilt bis zur nächsten Änderung. Zurück zur Zusammensetzung.";
     if (gehoertZu.empty())
         return befundtext;
-    return firstSentence(befundtext) + " Die Ergebnisse gehören zu " + gehoertZu + ".";
+    return befundtext + " Die Ergebnisse gehören zu " + gehoertZu + ".";
 }
 
 bool Ergebnislage::zaehlt(const Groesse& groesse) const

@@ -32,10 +32,10 @@ TEST_F(BefundTest, EachFaultIsNamedWithItsPlaceAndWhatItMeansForTheResults)
     for (const auto& [schritt, ort, zeile, expected, fehler] :
         {
             Row{prozent(0, "60"), Prozent, 0, "", false},
-            {prozent(0, ""), Prozent, 0, "Komponente 1 (Al): at% fehlt. Die Ergebnisse gehören zu Al 50, Cu 50 at%.",
-                true},
+            {prozent(0, ""), Prozent, 0,
+                "Komponente 1 (Al): at% fehlt. Eine Zahl eintragen. Die Ergebnisse gehören zu Al 50, Cu 50 at%.", true},
             {prozent(0, "6x"), Prozent, 0,
-                "Komponente 1 (Al): at%: Keine gültige Zahl (Typen unverträglich). Die Ergebnisse", true},
+                "Komponente 1 (Al): at%: Keine gültige Zahl (Typen unverträglich). Ziffern mit", true},
             {prozent(0, "120"), Prozent, 0,
                 "Komponente 1 (Al): Mehr als 100 at%. Ohne die letzte Komponente ergeben sie zusammen 120 at%.", false},
             {prozent(0, "-5"), Prozent, 0, "Komponente 1 (Al): Weniger als 0 at%.", false},
