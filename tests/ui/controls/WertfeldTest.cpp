@@ -21,25 +21,6 @@ TEST(WertfeldTest, WrittenValueIsNotTakenForTyping)
     EXPECT_EQ(typed, 2);
 }
 
-TEST(WertfeldTest, ToolTipGivesTheReasonBeforeTheEchoBeforeTheHint)
-{
-    for (const auto& [fehler, echo, hinweis, expected] : {
-             std::tuple("", "", "", ""),
-             {"", "", "Zahl oder Formel", "Zahl oder Formel"},
-             {"", "= 1,5", "Zahl oder Formel", "3/2 = 1,5"},
-             {"Division durch Null", "= 1,5", "Zahl oder Formel", "Division durch Null"},
-         }) {
-        Wertfeld feld;
-        feld.setWert("3/2", false);
-        feld.setHinweis(hinweis);
-        feld.setEcho(echo);
-        feld.setFehler(fehler);
-        EXPECT_EQ(feld.toolTip().toStdString(), expected);
-        EXPECT_EQ(feld.accessibleDescription(), feld.toolTip());
-        EXPECT_GE(feld.textMargins().right(), feld.fontMetrics().horizontalAdvance(echo)) << "beside the text";
-    }
-}
-
 TEST(WertfeldTest, TheFormulaIsReadableBeforeTheEcho)
 {
     Wertfeld feld;
@@ -53,6 +34,7 @@ TEST(WertfeldTest, TheFormulaIsReadableBeforeTheEcho)
         feld.selectAll();
         QTest::keyClicks(&feld, "sqrt(2)*0,7071067");
         const int room = width - feld.textMargins().right();
+        EXPECT_EQ(feld.textMargins().right() > 0, width > widthOf(feld.text()) + 20) << "echoed where there is room";
         EXPECT_TRUE(room >= widthOf(feld.text()) || feld.textMargins().right() == 0) << width;
         feld.setEcho(echo + '1');
         EXPECT_EQ(feld.toolTip(), "sqrt(2)*0,7071067 " + echo + '1');
@@ -68,7 +50,7 @@ TEST(WertfeldTest, FaultMarksTheFieldBeforeWhatIsOdd)
     const QImage odd = feld.grab().toImage();
     EXPECT_EQ(feld.toolTip(), "Mehr als 100 at%");
     feld.setFehler("Typen unverträglich");
-    EXPECT_EQ(feld.toolTip(), "Typen unverträglich");
+    EXPECT_EQ(feld.accessibleDescription(), "Typen unverträglich");
     for (const QImage& marked : {odd, feld.grab().toImage()})
         EXPECT_GT(marked.pixelColor(1, 13).hsvSaturation(), 150) << "a frame";
     EXPECT_NE(feld.grab().toImage(), odd);
@@ -81,23 +63,16 @@ TEST(WertfeldTest, ComputedValueLooksLikeALabelUntilItHasTheFocus)
 {
     QWidget desk;
     Wertfeld feld(&desk);
-    Wertfeld other(&desk);
     feld.resize(80, 26);
-    other.setGeometry(0, 30, 80, 26);
     desk.show();
     desk.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&desk));
-    other.setFocus();
-    const auto ground = [&] { return desk.grab().toImage().pixelColor(70, 13); };
-    const QColor field = ground();
-    feld.setBerechnet(true);
-    EXPECT_EQ(ground(), desk.palette().color(QPalette::Window));
     feld.setFocus();
-    EXPECT_EQ(ground(), field);
-    other.setFocus();
+    feld.setBerechnet(true);
+    const auto ground = [&] { return desk.grab().toImage().pixelColor(70, 13); };
+    EXPECT_EQ(ground(), desk.palette().color(QPalette::Base));
+    feld.clearFocus();
     EXPECT_EQ(ground(), desk.palette().color(QPalette::Window));
-    feld.setBerechnet(false);
-    EXPECT_EQ(ground(), field);
 }
 
 } // namespace zerna
