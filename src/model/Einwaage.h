@@ -31,7 +31,7 @@ struct Wiegehindernis {
     bool operator==(const Wiegehindernis&) const = default;
 };
 
-/// Why there are no target masses.
+/// Why there are no target masses, or none that can be weighed.
 std::optional<Wiegehindernis> sollmassenHindernis(const clsCalc& calc, int komponentenzahl);
 
 /// Why there are no at%; a mass may be Unbekannt.

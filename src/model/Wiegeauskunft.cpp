@@ -81,10 +81,8 @@ std::string wiegestand(const clsCalc& calc, std::span<const Wiegung> wiegungen, 
 {
     if (wiegungen.empty() || std::ranges::any_of(wiegungen, istUnbekannt, &Wiegung::soll))
         return {};
-    if (const auto negative = std::ranges::find_if(wiegungen, [](const Wiegung& w) { return w.soll < 0; });
-        negative != wiegungen.end())
-        return calc.Element_Symbol(static_cast<int>(negative - wiegungen.begin()))
-            + " hat weniger als 0 at%, das lässt sich nicht einwiegen.";
+    if (const auto hindernis = sollmassenHindernis(calc, static_cast<int>(wiegungen.size())))
+        return calc.Element_Symbol(hindernis->komponente) + " " + hindernis->grund + ".";
     if (bezug && wiegungen[static_cast<std::size_t>(bezug->komponente)].ist != bezug->masse)
         return "Die Sollmassen beziehen sich noch auf " + mengeText(calc, bezug->komponente, bezug->masse)
             + " (Eingabetaste: neu beziehen)";
