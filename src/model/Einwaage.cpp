@@ -104,12 +104,12 @@ std::vector<float> gewogeneAtomprozente(const clsCalc& calc, std::span<const flo
 
 std::optional<Wiegehindernis> sollmassenHindernis(const clsCalc& calc, int komponentenzahl)
 {
-    if (calc.Element_Prozente(0) == 0)
-        return Wiegehindernis{0, "hat 0 at% und ist der Bezug der Rechnung"};
     for (int i = 0; i < komponentenzahl; ++i) {
         if (calc.Element_Prozente(i) < 0)
             return Wiegehindernis{i, "hat weniger als 0 at%, das lässt sich nicht einwiegen"};
     }
+    if (calc.Element_Prozente(0) == 0)
+        return Wiegehindernis{0, "hat 0 at% und ist der Bezug der Rechnung"};
     return missingAtommasse(calc, komponentenzahl, [&](int i) { return calc.Element_Prozente(i) != 0; });
 }
 

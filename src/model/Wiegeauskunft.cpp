@@ -81,7 +81,8 @@ std::string wiegestand(const clsCalc& calc, std::span<const Wiegung> wiegungen, 
 {
     if (wiegungen.empty() || std::ranges::any_of(wiegungen, istUnbekannt, &Wiegung::soll))
         return {};
-    if (const auto hindernis = sollmassenHindernis(calc, static_cast<int>(wiegungen.size())))
+    const bool hasNegative = std::ranges::any_of(wiegungen, [](const Wiegung& w) { return w.soll < 0; });
+    if (const auto hindernis = sollmassenHindernis(calc, static_cast<int>(wiegungen.size())); hasNegative && hindernis)
         return calc.Element_Symbol(hindernis->komponente) + " " + hindernis->grund + ".";
     if (bezug && wiegungen[static_cast<std::size_t>(bezug->komponente)].ist != bezug->masse)
         return "Die Sollmassen beziehen sich noch auf " + mengeText(calc, bezug->komponente, bezug->masse)
