@@ -95,7 +95,7 @@ TEST(AchsenTest, DivisionsThatHaveRoomAreLabelled)
     EXPECT_EQ(xLabels(160), "0 - 20 - 40 - 60 - 80 - - ") << "every second one has room";
 }
 
-TEST(AchsenTest, LabelsAreCentredAtTheirTicks)
+TEST(AchsenTest, LabelsAreCentredAtTheirTicksAndNotCutOff)
 {
     const Rechteck plot = plotArea(360, 300);
     const Achsenmarke row = yMarken(plot, 300, {0, 10}, 16).at(3);
@@ -103,25 +103,16 @@ TEST(AchsenTest, LabelsAreCentredAtTheirTicks)
     const auto columns = xMarken(plot, 360, {0, 100}, breite);
     EXPECT_EQ(std::pair(columns.at(4).position, columns.at(4).labelStart), std::pair(180.0, 173.0));
     EXPECT_EQ(columns.at(10).labelStart, 339) << "not beyond the edge";
+    EXPECT_DOUBLE_EQ(labelScale({{0, "1,000"}}, plot, breite, 60), 30 / 105.0) << "too high for the strip below";
 }
 
 TEST(AchsenTest, PixelsAreWholeHalvesToEvenAndMapBack)
 {
     const Abbildung abbildung(200, 100, {0, 100}, {0, 10});
-    const struct {
-        const char* name;
-        double x, column;
-        double y, row;
-    } rows[] = {
-        {"corner", 0, 0, 0, 100},
-        {"halves to even, down", 0.25, 0, 9.75, 2},
-        {"halves to even, up", 0.75, 2, 9.65, 4},
-        {"outside", -0.75, -2, -1, 110},
-    };
-    for (const auto& row : rows) {
-        EXPECT_EQ(abbildung.column(row.x), row.column) << row.name;
-        EXPECT_EQ(abbildung.row(row.y), row.row) << row.name;
-    }
+    const auto pixel = [&](double x, double y) { return std::pair(abbildung.column(x), abbildung.row(y)); };
+    EXPECT_EQ(pixel(0.25, 9.75), std::pair(0.0, 2.0)) << "down";
+    EXPECT_EQ(pixel(0.75, 9.65), std::pair(2.0, 4.0)) << "up";
+    EXPECT_EQ(pixel(-0.75, -1), std::pair(-2.0, 110.0)) << "outside";
     EXPECT_EQ(std::pair(abbildung.x(50), abbildung.y(25)), std::pair(25.0, 7.5));
 }
 

@@ -59,7 +59,7 @@ TEST(Flaechenbild, WhatIsNoAreaOrBesideThePictureLeavesNoPixel)
         Dreieck corners;
     } rows[] = {
         {"a line", {{{1, 1}, {5, 5}, {9, 9}}}},
-        {"a column that is no number", {{{1, 1}, {NAN, 5}, {9, 1}}}},
+        {"a row that is no number", {{{1, 1}, {5, 5}, {9, NAN}}}},
         {"above on the left", {{{-9, -9}, {-1, -9}, {-5, -1}}}},
         {"far below", {{{1, 1e6F}, {9, 1e6F}, {5, 2e6F}}}},
     };

@@ -24,34 +24,18 @@ PSEBild layOut(std::vector<float> values, double labelHeight = 60)
 
 TEST(PSEGeometrieTest, RangesAreRoundedOutwards)
 {
-    const struct {
-        const char* name;
-        Bereich range, rounded;
-    } rows[] = {
-        {"to tens", {0.25, 17.5}, {0, 20}},
-        {"exactly ten wide", {95, 105}, {90, 110}},
-        {"negative, to halves of it", {-20.5, -9}, {-25, -5}},
-        {"empty", {5, 5}, {5, 5}},
-    };
-    for (const auto& row : rows)
-        EXPECT_EQ(gerundeterBereich(row.range), row.rounded) << row.name;
+    EXPECT_EQ(gerundeterBereich({0.25, 17.5}), (Bereich{0, 20})) << "to tens";
+    EXPECT_EQ(gerundeterBereich({95, 105}), (Bereich{90, 110})) << "exactly ten wide";
+    EXPECT_EQ(gerundeterBereich({-20.5, -9}), (Bereich{-25, -5})) << "to halves of it";
 }
 
 TEST(PSEGeometrieTest, MissingValuesBreakTheCurve)
 {
     const PSEBild bild = layOut({0, Unbekannt, 4, 10, Unbekannt});
     EXPECT_EQ(bild.curve, (std::vector<std::vector<Punkt>>{{{260, 1100}}, {{280, 700}, {290, 100}}}));
-    const struct {
-        const char* name;
-        double x;
-        std::size_t element;
-    } rows[] = {
-        {"in the gap, nearer to the left", 269, 0},
-        {"in the gap, nearer to the right", 271, 2},
-        {"right of all", 900, 3},
-    };
-    for (const auto& row : rows)
-        EXPECT_EQ(nearestElement(bild, row.x), row.element) << row.name;
+    EXPECT_EQ(nearestElement(bild, 269), 0U) << "in the gap, nearer to the left";
+    EXPECT_EQ(nearestElement(bild, 271), 2U) << "in the gap, nearer to the right";
+    EXPECT_EQ(nearestElement(bild, 900), 3U) << "right of all";
     // Intended: the first value counts for the range even when it is missing.
     EXPECT_EQ(bereichMitErstemWert({Unbekannt, 7}).min, Unbekannt);
     EXPECT_EQ(layOut({Unbekannt, 7}).curve.size(), 1U);
@@ -62,18 +46,11 @@ TEST(PSEGeometrieTest, EverythingStandsInUserCoordinates)
 {
     const PSEBild bild = layOut({0, 1, 2, 3, 10});
     EXPECT_EQ(bild.lines.size(), 14U) << "two axes, the tick at 0, eleven divisions";
-    const struct {
-        const char* name;
-        Punkt point, expected;
-    } rows[] = {
-        {"end of the x axis", bild.lines.at(0).to, {300, 1100}},
-        {"its topmost tick", bild.lines.at(13).from, {220, 100}},
-        {"title", bild.titel.position, {10, 1000}},
-        {"number at 0", bild.labels.at(0).position, {247, 1170}},
-        {"lowest label of the y axis", bild.labels.at(2).position, {60, 1070}},
-    };
-    for (const auto& row : rows)
-        EXPECT_EQ(row.point, row.expected) << row.name;
+    EXPECT_EQ(bild.lines.at(0).to, (Punkt{300, 1100})) << "end of the x axis";
+    EXPECT_EQ(bild.lines.at(13).from, (Punkt{220, 100})) << "topmost tick of the y axis";
+    EXPECT_EQ(bild.titel.position, (Punkt{10, 1000}));
+    EXPECT_EQ(bild.labels.at(0).position, (Punkt{247, 1170})) << "number at 0";
+    EXPECT_EQ(bild.labels.at(2).position, (Punkt{60, 1070})) << "lowest label of the y axis";
 }
 
 TEST(PSEGeometrieTest, EveryDivisionThatHasRoomIsLabelled)

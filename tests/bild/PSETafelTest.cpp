@@ -66,7 +66,7 @@ TEST_F(PSETafelTest, NeighboursLieBeyondGaps)
 TEST_F(PSETafelTest, LettersFindTheWholeSymbolBeforeLongerOnes)
 {
     EXPECT_EQ(symbolOf(elementWithPrefix(elements, "b")), "B");
-    EXPECT_EQ(symbolOf(elementWithPrefix(elements, "LA")), "La");
+    EXPECT_EQ(symbolOf(elementWithPrefix(elements, "L")), "La");
     EXPECT_EQ(elementWithPrefix(elements, "ä"), nullptr);
 }
 
