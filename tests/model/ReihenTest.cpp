@@ -53,13 +53,15 @@ TEST_F(ReihenTest, FaultsReachTheCaller)
              {"nothing to share the rest with", [] { dichtereihe(std::array{2.0F}, 0); }, 11},
          })
         EXPECT_EQ(errorNumber(action), error) << name;
-    alloy[1].dichte = 2;
-    struct Component {
+}
+
+TEST_F(ReihenTest, FaultsOfAComponentReachTheCaller)
+{
+    struct Row {
         float dichte, valenz;
         int error;
     };
-    for (const auto& [dichte, valenz, error] :
-        {Component{0, 3, 11}, {Unbekannt, 3, 5}, {2.7F, Unbekannt, 5}, {2.7F, 3, 0}}) {
+    for (const auto& [dichte, valenz, error] : {Row{0, 3, 11}, {Unbekannt, 3, 5}, {2.7F, Unbekannt, 5}, {2.7F, 3, 0}}) {
         alloy[0].dichte = dichte;
         alloy[0].valenz = valenz;
         EXPECT_EQ(errorNumber([this] { series(1, 0); }), error) << dichte;
