@@ -137,6 +137,10 @@ inline Anblick lookAt(QWidget& widget)
     if (const auto* const field = qobject_cast<QLineEdit*>(&widget)) {
         seen.text = field->text().toStdString();
         seen.hint = oneLine(field->toolTip());
+        for (const QAction* const action : field->actions()) {
+            if (action->isVisible())
+                entries += action->toolTip();
+        }
     } else if (const auto* const label = qobject_cast<QLabel*>(&widget)) {
         const auto* const value = qobject_cast<const Wertanzeige*>(&widget);
         seen.text = oneLine(label->text());
