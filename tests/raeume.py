@@ -15,7 +15,9 @@ BENEATH = {
     "parser": ["core"],
     "model": ["parser"],
     "bild": ["model"],
-    "programm": ["model"],
+    "traeger": ["core"],
+    "dokument": ["model"],
+    "programm": ["dokument", "traeger"],
     "cli": ["programm", "bild"],
     "ui/platform": ["programm", "bild"],
     "ui/button": ["ui/platform"],
@@ -26,7 +28,7 @@ BENEATH = {
     "ui/main": ["ui/diagram", "ui/weighing"],
     "app": ["ui/main"],
 }
-WITHOUT_QT = ["core", "parser", "model", "bild", "programm", "cli"]
+WITHOUT_QT = ["core", "parser", "model", "bild", "traeger", "dokument", "programm", "cli"]
 LONGEST = 400  # lines of a file
 
 USABLE = {}

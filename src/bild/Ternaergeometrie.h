@@ -4,6 +4,7 @@
 #include <optional>
 #include <vector>
 
+#include "model/Diagrammwahl.h"
 #include "model/Ternaergitter.h"
 #include "model/Wertebereich.h"
 
@@ -25,15 +26,6 @@ struct Bildpunkt {
     double x = 0;
     double y = 0;
     double depth = 0;
-};
-
-/// How the diagram is looked at. `flach` is the flat diagram: from above, corners in their usual places, no heights.
-struct Ansicht {
-    double tilt = 25; ///< degrees above the horizon, -90 to 90
-    double turn = -30; ///< degrees about the vertical
-    double zoom = 1; ///< 0.5 to 3
-    bool flach = false;
-    bool operator==(const Ansicht&) const = default;
 };
 
 /// The view after tilting and turning; the tilt stays within its limits, the turn within -180 to 180.

@@ -19,6 +19,8 @@ struct Wiegung {
 struct Wiegebezug {
     int komponente = 0;
     float masse = 0; ///< in mg, then
+
+    bool operator==(const Wiegebezug&) const = default;
 };
 
 /// What is still to be weighed, as a German sentence: "Noch 305,5 mg Cu"; why nothing can be when a target mass is

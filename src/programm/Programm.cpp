@@ -131,7 +131,7 @@ bool Programm::LoadElements(Hauptfenster& window)
     if (!m_fileHandler->OpenFile(name, Binaer))
         return true;
     const auto fill = [&](const std::shared_ptr<clsElement>& element, int position) {
-        m_eingabe.setCurrentElement(element);
+        m_dokument.eingabe.setCurrentElement(element);
         for (int list = 0; list < MaxKomponenten; ++list)
             window.addElement(list, element->symbol(), position);
     };
@@ -162,13 +162,13 @@ void Programm::restoreElements(Hauptfenster& window)
 
 bool Programm::uebernehmen()
 {
-    const auto legierung = m_eingabe.legierung();
-    if (!m_eingabe.istVollstaendig() || !legierung)
+    const auto legierung = m_dokument.eingabe.legierung();
+    if (!m_dokument.eingabe.istVollstaendig() || !legierung)
         return false;
-    m_eingabe.elementeSetzen();
-    m_komponentenzahl = m_eingabe.anzahl();
+    m_dokument.eingabe.elementeSetzen();
+    m_komponentenzahl = m_dokument.eingabe.anzahl();
     Calc().Legierung_Setzen(legierung->komponenten());
-    m_gerechnet = m_eingabe;
+    m_gerechnet = m_dokument.eingabe;
     return true;
 }
 
@@ -176,7 +176,7 @@ void Programm::shutdown() noexcept
 {
     m_parser.reset();
     m_elementCollection.clear();
-    m_eingabe.setCurrentElement(nullptr);
+    m_dokument.eingabe.setCurrentElement(nullptr);
     m_selectedElement.reset();
     m_calc.reset();
     m_loader.reset();

@@ -9,7 +9,7 @@
 #include "core/Settings.h"
 #include "core/clsFileHandler.h"
 #include "core/clsLoader.h"
-#include "model/Eingabe.h"
+#include "model/Dokument.h"
 #include "model/clsCalc.h"
 #include "parser/clsParser.h"
 #include "programm/Hauptfenster.h"
@@ -40,7 +40,7 @@ public:
     clsParser& Parser();
 
     /// The element that a row handler looked up last; typed density and valence go into it. Maybe null.
-    const std::shared_ptr<clsElement>& CurrentElement() const { return m_eingabe.CurrentElement(); }
+    const std::shared_ptr<clsElement>& CurrentElement() const { return m_dokument.eingabe.CurrentElement(); }
 
     /// The element chosen in the periodic table. Maybe null.
     const std::shared_ptr<clsElement>& SelectedElement() const { return m_selectedElement; }
@@ -66,8 +66,11 @@ public:
         bool m_before;
     };
 
+    /// All that is being worked on.
+    zerna::Dokument& Dokument() { return m_dokument; }
+
     /// The alloy as it is being entered.
-    zerna::Eingabe& Eingabe() { return m_eingabe; }
+    zerna::Eingabe& Eingabe() { return m_dokument.eingabe; }
 
     /// The entered alloy as it was when Calc got it.
     const zerna::Eingabe& gerechneteEingabe() const { return m_gerechnet; }
@@ -98,7 +101,7 @@ private:
     std::unique_ptr<clsLoader> m_loader;
     zerna::ElementCollection m_elementCollection;
     std::shared_ptr<clsElement> m_selectedElement;
-    zerna::Eingabe m_eingabe{m_elementCollection};
+    zerna::Dokument m_dokument{m_elementCollection};
     zerna::Eingabe m_gerechnet{m_elementCollection};
     bool m_startupDone = false;
     std::string m_fehlendeElemente; // chosen last time and not in the table, a line each

@@ -5,6 +5,7 @@
 #include <array>
 #include <span>
 
+#include "model/Diagrammwahl.h"
 #include "model/PSEReihe.h"
 #include "programm/Programm.h"
 #include "ui/platform/Dialoge.h"
@@ -49,8 +50,6 @@ signals:
     void dreiKomponentenRequested();
 
 private:
-    enum class Diagrammtyp { Konzentration = 0, Ternaer = 1, PSE = 2 };
-
     void createControls();
     void createSteps();
     void createLabels();

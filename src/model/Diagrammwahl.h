@@ -1,0 +1,27 @@
+#pragma once
+
+namespace zerna {
+
+/// How the ternary diagram is looked at. `flach` is the flat diagram: from above, corners in their usual places, no
+/// heights.
+struct Ansicht {
+    double tilt = 25; ///< degrees above the horizon, -90 to 90
+    double turn = -30; ///< degrees about the vertical, -180 to 180
+    double zoom = 1; ///< 0.5 to 3
+    bool flach = false;
+    bool operator==(const Ansicht&) const = default;
+};
+
+enum class Diagrammtyp { Konzentration = 0, Ternaer = 1, PSE = 2 };
+
+/// Which diagram is shown of an alloy.
+struct Diagrammwahl {
+    Diagrammtyp typ = Diagrammtyp::Konzentration;
+    int groesse = 0; ///< code of the quantity
+    int komponente = 0; ///< row of the component along the axis
+    int aufloesung = 5; ///< of the ternary diagram, 1 to FeinsteAufloesung
+    Ansicht ansicht; ///< of the ternary diagram
+    bool operator==(const Diagrammwahl&) const = default;
+};
+
+} // namespace zerna

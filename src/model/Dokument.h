@@ -1,0 +1,68 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "model/Diagrammwahl.h"
+#include "model/Eingabe.h"
+#include "model/Wiegeauskunft.h"
+
+namespace zerna {
+
+/// The weighing as it was typed; masses in mg. The rows behind the last one in use keep what they hold.
+struct Wiegedaten {
+    std::string gewuenscht = "1000"; ///< wanted total mass
+    std::array<std::string, MaxKomponenten> gewogen; ///< empty: not weighed
+    std::string verlust;
+    std::optional<Wiegebezug> bezug; ///< what the target masses were set to match, unless the wanted total
+
+    bool operator==(const Wiegedaten&) const = default;
+};
+
+/// An alloy that was kept to be compared with others. It follows no later change.
+struct Variante {
+    std::string name;
+    Eingabe eingabe;
+    std::string fremd; ///< keys of a newer program's file, as the text of a JSON object; empty for none
+
+    bool operator==(const Variante&) const = default;
+};
+
+inline constexpr std::size_t MaxVarianten = 50;
+
+/// The kept alloys, in the order they are shown in.
+struct Vergleich {
+    std::vector<Variante> varianten; ///< up to MaxVarianten
+    std::size_t referenz = 0; ///< which one the others are compared with
+
+    bool operator==(const Vergleich&) const = default;
+};
+
+/// All that a file keeps and that can be undone. A value: copying it is cheap, because the kept alloys, which change
+/// seldom, are shared until they change.
+struct Dokument {
+    explicit Dokument(const ElementCollection& elements)
+        : eingabe(elements)
+    {
+    }
+
+    std::string titel;
+    std::string bemerkung;
+    Eingabe eingabe;
+    Wiegedaten wiegen;
+    Diagrammwahl diagramm;
+    std::shared_ptr<const Vergleich> vergleich = std::make_shared<Vergleich>(); ///< never null
+    std::string fremd; ///< keys of a newer program's file, as the text of a JSON object; empty for none
+
+    bool operator==(const Dokument& other) const
+    {
+        return titel == other.titel && bemerkung == other.bemerkung && eingabe == other.eingabe
+            && wiegen == other.wiegen && diagramm == other.diagramm
+            && (vergleich == other.vergleich || *vergleich == *other.vergleich) && fremd == other.fremd;
+    }
+};
+
+} // namespace zerna
