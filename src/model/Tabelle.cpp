@@ -1,5 +1,8 @@
 #include "model/Tabelle.h"
 
+#include <string_view>
+#include <utility>
+
 namespace zerna {
 
 namespace {
@@ -24,6 +27,16 @@ std::string htmlZelle(std::string_view tag, const Tabelle::Spalte& spalte, std::
     return zelle + "</" + std::string(tag) + '>';
 }
 
+std::string csvZelle(const std::string& text)
+{
+    if (text.find_first_of(";\"\r\n") == std::string::npos)
+        return text;
+    std::string cell = "\"";
+    for (const char c : text)
+        cell.append(c == '"' ? "\"\"" : std::string(1, c));
+    return cell + '"';
+}
+
 } // namespace
 
 std::string alsText(const Tabelle& tabelle)
@@ -32,6 +45,26 @@ std::string alsText(const Tabelle& tabelle)
     for (const std::vector<std::string>& zeile : tabelle.zeilen) {
         for (std::size_t i = 0; i < zeile.size(); ++i)
             text.append(i == 0 ? "" : "\t").append(zeile[i]);
+        text += "\r\n";
+    }
+    return text;
+}
+
+Tabelle mitKopf(Tabelle tabelle)
+{
+    std::vector<std::string> kopf;
+    for (const Tabelle::Spalte& spalte : tabelle.spalten)
+        kopf.push_back(spalte.name);
+    tabelle.zeilen.insert(tabelle.zeilen.begin(), std::move(kopf));
+    return tabelle;
+}
+
+std::string alsCsv(const Tabelle& tabelle)
+{
+    std::string text = "\xEF\xBB\xBF";
+    for (const std::vector<std::string>& zeile : mitKopf(tabelle).zeilen) {
+        for (std::size_t i = 0; i < zeile.size(); ++i)
+            text.append(i == 0 ? "" : ";").append(csvZelle(zeile[i]));
         text += "\r\n";
     }
     return text;
