@@ -4,7 +4,7 @@
 #   bench    build and run the benchmarks   ci     all of these, and format, lint and fuzz targets
 set -euo pipefail
 
-tools=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev zlib1g-dev)
+tools=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev zlib1g-dev libexpat1-dev)
 window=(qt6-base-dev qt6-svg-dev qt6-translations-l10n fonts-dejavu-core)
 program=("${tools[@]}" "${window[@]}" qt6-wayland)
 tests=("${tools[@]}" "${window[@]}" libgtest-dev libgmock-dev python3)

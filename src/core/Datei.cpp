@@ -157,9 +157,8 @@ void Datei::close()
 
 std::string readFile(const std::filesystem::path& path)
 {
-    constexpr std::uint64_t Largest = 64U << 20U;
     Datei file(path, Zugriff::Eingabe);
-    if (file.remaining() > Largest)
+    if (file.remaining() > GroessteDatei)
         throw Laufzeitfehler(Fehler::EinAusgabefehler, "die Datei ist größer als 64 MB");
     return std::string(file.readText(static_cast<std::size_t>(file.remaining())));
 }

@@ -80,7 +80,10 @@ private:
     std::optional<Laufzeitfehler> m_writeError;
 };
 
-/// All bytes of a file that fits into memory with ease; an error for one of more than 64 MB.
+/// More bytes than this (64 MB) are not read at once.
+inline constexpr std::size_t GroessteDatei = std::size_t{64} << 20U;
+
+/// All bytes of a file that fits into memory with ease; an error for one that is larger than that.
 std::string readFile(const std::filesystem::path& path);
 
 /// The run-time error that a failed call of the system means, from its error code (errno).

@@ -1,0 +1,73 @@
+#include "traeger/Dokumentfund.h"
+
+#include <algorithm>
+#include <array>
+
+#include "traeger/Entpacken.h"
+#include "traeger/Pdf.h"
+#include "traeger/Png.h"
+#include "traeger/Svg.h"
+
+namespace zerna {
+
+namespace {
+
+using namespace std::string_view_literals;
+
+bool istDokument(std::string_view bytes)
+{
+    constexpr auto Utf8Mark = "\xEF\xBB\xBF"sv;
+    bytes.remove_prefix(bytes.starts_with(Utf8Mark) ? Utf8Mark.size() : 0);
+    const std::size_t first = bytes.find_first_not_of(" \t\r\n");
+    return first != std::string_view::npos && bytes[first] == '{';
+}
+
+bool istAnderesBild(std::string_view bytes)
+{
+    constexpr auto Beginnings = std::to_array({"BM"sv, "\xFF\xD8\xFF"sv, "GIF8"sv, "II*\0"sv, "MM\0*"sv, "RIFF"sv});
+    return std::any_of(
+        Beginnings.begin(), Beginnings.end(), [bytes](std::string_view begin) { return bytes.starts_with(begin); });
+}
+
+Dokumentfund fremd(std::string_view bytes)
+{
+    if (bytes.empty())
+        return {Dateiart::Fremd, {}, "Die Datei ist leer."};
+    if (istAnderesBild(bytes))
+        return {Dateiart::Fremd, {}, "Diese Art von Bild kann keine Legierung tragen; PNG, SVG und PDF können es."};
+    return {Dateiart::Fremd, {}, "Die Datei ist weder eine Legierung noch ein Bild, das eine trägt (PNG, SVG, PDF)."};
+}
+
+Dokumentfund dokumentInGepacktem(std::string_view bytes)
+{
+    const Entpackt unpacked = entpackt(bytes);
+    if (!unpacked.vollstaendig)
+        return {Dateiart::Svg, {}, "Die gepackte SVG-Grafik ist beschädigt oder zu groß."};
+    return istSvg(unpacked.bytes) ? dokumentImSvg(unpacked.bytes) : fremd(bytes);
+}
+
+} // namespace
+
+Dokumentfund dokumentAus(std::string_view bytes)
+{
+    if (istDokument(bytes))
+        return {Dateiart::Dokument, std::string(bytes), {}};
+    if (istPng(bytes))
+        return dokumentImPng(bytes);
+    if (istPdf(bytes))
+        return dokumentImPdf(bytes);
+    if (istSvg(bytes))
+        return dokumentImSvg(bytes);
+    if (bytes.starts_with("\x1F\x8B"))
+        return dokumentInGepacktem(bytes);
+    return fremd(bytes);
+}
+
+std::string keineLegierungIn(std::string_view traeger)
+{
+    return "In " + std::string(traeger)
+        + " steckt keine Legierung. Die Datei stammt nicht aus Zerna, oder die Legierung ging beim Bearbeiten oder "
+          "Versenden verloren.";
+}
+
+} // namespace zerna
