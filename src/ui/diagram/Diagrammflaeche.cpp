@@ -80,9 +80,11 @@ void Diagrammflaeche::savePicture()
     exportieren(m_programm.boxes(), m_dialoge.save, "Bild speichern", bildarten(m_diagramm->maler(), leinwand()));
 }
 
+void Diagrammflaeche::print() { printPicture(this, m_diagramm->maler(), leinwand()); }
+
 void Diagrammflaeche::contextMenuEvent(QContextMenuEvent* event)
 {
-    if (m_diagramm->exportarten(leinwand()).empty())
+    if (!istDiagramm())
         return;
     QMenu menu(this);
     addCommands(menu);
@@ -108,8 +110,7 @@ void Diagrammflaeche::addOutputs(QMenu& menu)
     menu.addAction(QStringLiteral("Werte kopieren"), this, &Diagrammflaeche::copyValues);
     menu.addSeparator();
     menu.addAction(QStringLiteral("Bild speichern ..."), this, &Diagrammflaeche::savePicture);
-    menu.addAction(
-        QStringLiteral("Drucken ..."), this, [this] { printPicture(this, m_diagramm->maler(), leinwand()); });
+    menu.addAction(QStringLiteral("Drucken ..."), this, &Diagrammflaeche::print);
 }
 
 void Diagrammflaeche::resizeEvent(QResizeEvent* event)

@@ -48,6 +48,11 @@ public:
     /// Asks for a name and saves the values or the bitmap of what is shown.
     void save();
 
+    void print();
+
+    /// Whether what is shown has values to be saved and printed.
+    bool istDiagramm() const { return !m_diagramm->exportarten(leinwand()).empty(); }
+
 signals:
     /// What is under the mouse or the cursor; empty for nothing.
     void positionChanged(const QString& text);

@@ -18,6 +18,7 @@ namespace zerna {
 class Befundzeile;
 class Diagrammflaeche;
 class Lehrbuchmarke;
+class Menue;
 class StyledButton;
 class conLabel;
 
@@ -42,6 +43,10 @@ public:
 
     /// Chooses the ternary diagram, if there are three rows.
     void selectTernary() { chooseType(static_cast<int>(Diagrammtyp::Ternaer)); }
+
+    void addBefehle(Menue& menue);
+    bool istDruckbar() const;
+    void drucke();
 
 signals:
     /// A value label has stepped the at% of a row.

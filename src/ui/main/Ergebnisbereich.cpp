@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <tuple>
 
 #include "core/CheckedArithmetic.h"
 #include "core/Zahlentext.h"
@@ -14,6 +15,7 @@
 #include "ui/button/StyledButton.h"
 #include "ui/controls/Befundzeile.h"
 #include "ui/controls/Knopfzeile.h"
+#include "ui/controls/Menue.h"
 #include "ui/controls/Wertanzeige.h"
 #include "ui/controls/Wertfeld.h"
 #include "ui/main/Ergebnisdetails.h"
@@ -117,6 +119,22 @@ QAction* Ergebnisbereich::addCopy(const QString& caption, const std::function<QS
         action->setEnabled(!copied.isEmpty());
     });
     return action;
+}
+
+void Ergebnisbereich::addBefehle(Menue& menue)
+{
+    using enum Menue::Abschnitt;
+    menue.add(Ausgabe,
+        {.text = QStringLiteral("&Ergebnisse speichern ..."), .name = "mnuMFE_Speichern", .tun = [this] { save(); }});
+    menue.add(Kopieren,
+        {.text = QStringLiteral("&Ergebnisse kopieren"), .name = "mnuMFE_Kopieren", .tun = [this] { copyText(); }});
+    QMenu* const tabelle = menue.addUntermenue(Kopieren, QStringLiteral("&Tabelle kopieren"));
+    tabelle->addActions(m_tabellenknopf->choices());
+    for (const auto& [text, name, step] :
+        {std::tuple(QStringLiteral("&Nächstes Friedelminimum"), "mnuFriedel_Naechstes", 1),
+            {QStringLiteral("V&origes Friedelminimum"), "mnuFriedel_Voriges", -1}}) {
+        menue.add(Diagramm, {.text = text, .name = name, .tun = [this, step = step] { stepFriedel(step); }});
+    }
 }
 
 void Ergebnisbereich::layOut()

@@ -20,6 +20,7 @@ namespace zerna {
 
 class Ergebnisdetails;
 class Befundzeile;
+class Menue;
 class StyledButton;
 class Tabellenknopf;
 
@@ -37,6 +38,8 @@ public:
 
     /// Says above the results what is wrong with what is entered, and whether they still belong to it.
     void zeigeLage(const Eingabe& eingabe);
+
+    void addBefehle(Menue& menue);
 
 signals:
     /// What is wrong is to be mended there.

@@ -5,12 +5,14 @@
 #include <QLabel>
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 #include "core/Zahlentext.h"
 #include "parser/Formelwert.h"
 #include "ui/button/StyledButton.h"
 #include "ui/controls/Knopfzeile.h"
+#include "ui/controls/Menue.h"
 #include "ui/main/Dichteschalter.h"
 #include "ui/main/Kompositionszeile.h"
 #include "ui/platform/QtText.h"
@@ -39,8 +41,7 @@ void Kompositionsbereich::createControls()
         m_cmdKom.at(i)->setAccessibleName(hints.at(i));
         m_cmdKom.at(i)->setToolTipText(hints.at(i));
         const int step = i == 0 ? 1 : -1;
-        connect(m_cmdKom.at(i), &StyledButton::clicked, this,
-            [this, step] { setAnzahl(naechsteKomponentenzahl(eingabe().anzahl(), step)); });
+        connect(m_cmdKom.at(i), &StyledButton::clicked, this, [this, step] { stepAnzahl(step); });
     }
     m_label1->setBuddy(m_cmdKom[0]);
     m_dichteschalter = new Dichteschalter(this);
@@ -56,6 +57,15 @@ void Kompositionsbereich::createControls()
     for (int row = 0; row < MaxKomponenten; ++row) {
         m_zeilen.at(static_cast<std::size_t>(row)) = new Kompositionszeile(row, this);
         connectRow(row);
+    }
+}
+
+void Kompositionsbereich::addBefehle(Menue& menue)
+{
+    for (const auto& [text, name, step] : {std::tuple(QStringLiteral("Komponente &hinzufügen"), "mnuKom_0", 1),
+             {QStringLiteral("Komponente e&ntfernen"), "mnuKom_1", -1}}) {
+        menue.add(Menue::Abschnitt::Legierung,
+            {.text = text, .name = name, .tun = [this, step = step] { stepAnzahl(step); }});
     }
 }
 
@@ -161,6 +171,8 @@ void Kompositionsbereich::enterProzent(int row, int prozent)
 {
     taken(eingabe().setProzent(row, textOfSingle(static_cast<float>(prozent))));
 }
+
+void Kompositionsbereich::stepAnzahl(int step) { setAnzahl(naechsteKomponentenzahl(eingabe().anzahl(), step)); }
 
 void Kompositionsbereich::setAnzahl(int count)
 {

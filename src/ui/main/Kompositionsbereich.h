@@ -14,6 +14,7 @@ namespace zerna {
 
 class Dichteschalter;
 class Kompositionszeile;
+class Menue;
 class StyledButton;
 
 /// The composition grid: up to five rows of element, at%, density and valence. Every edit is taken at once: it becomes
@@ -48,6 +49,8 @@ public:
     /// Enters an at% as if it had been typed.
     void enterProzent(int row, int prozent);
 
+    void addBefehle(Menue& menue);
+
 signals:
     /// The entered alloy is another one now.
     void geaendert(const Aenderung& aenderung);
@@ -58,6 +61,7 @@ private:
     void createControls();
     void layOut();
     void connectRow(int row);
+    void stepAnzahl(int step);
     void elementChosen(int row, std::string_view key);
     void valenzEdited(const Aenderung& aenderung);
     void valenzLeft(int row);

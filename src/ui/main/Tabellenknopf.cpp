@@ -46,12 +46,11 @@ void Tabellenknopf::createMenu()
 {
     auto* const menu = new QMenu(this);
     auto* const choices = new QActionGroup(menu);
-    for (QAction* const choice :
-        {addChoice(QStringLiteral("Mit Dezimalkomma kopieren (1,5)"), "mnuKomma", Dezimaltrenner::Komma),
-            addChoice(QStringLiteral("Mit Dezimalpunkt kopieren (1.5)"), "mnuPunkt", Dezimaltrenner::Punkt)}) {
+    m_choices = {addChoice(QStringLiteral("Mit Dezimalkomma kopieren (1,5)"), "mnuKomma", Dezimaltrenner::Komma),
+        addChoice(QStringLiteral("Mit Dezimalpunkt kopieren (1.5)"), "mnuPunkt", Dezimaltrenner::Punkt)};
+    for (QAction* const choice : m_choices)
         choices->addAction(choice);
-        menu->addAction(choice);
-    }
+    menu->addActions(m_choices);
     connect(m_cmdTrenner, &StyledButton::clicked, menu,
         [this, menu] { menu->popup(m_cmdTrenner->mapToGlobal(m_cmdTrenner->rect().bottomLeft())); });
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QWidget>
 
 #include <vector>
@@ -24,6 +25,9 @@ public:
     /// What takes the keyboard focus, in this order.
     std::vector<QWidget*> tabOrder() const;
 
+    /// The entries of the menu.
+    const QList<QAction*>& choices() const { return m_choices; }
+
 signals:
     void copyRequested(Dezimaltrenner trenner);
 
@@ -35,6 +39,7 @@ private:
     Settings& m_settings;
     StyledButton* m_cmdTabelle = nullptr;
     StyledButton* m_cmdTrenner = nullptr;
+    QList<QAction*> m_choices;
 };
 
 } // namespace zerna

@@ -12,13 +12,13 @@
 #include <initializer_list>
 
 #include "ui/controls/Knopfzeile.h"
+#include "ui/controls/Menue.h"
 #include "ui/controls/Radsperre.h"
 #include "ui/main/Diagrammbereich.h"
 #include "ui/main/Ergebnisbereich.h"
 #include "ui/main/Fensterplatz.h"
 #include "ui/main/Kompositionsbereich.h"
 #include "ui/main/PSEbereich.h"
-#include "ui/main/frmAbout.h"
 #include "ui/platform/QtText.h"
 #include "ui/weighing/conWiegen.h"
 
@@ -76,10 +76,12 @@ frmMain::frmMain(Programm& programm, Dialoge dialoge)
     createCalculatorPanel(dialoge);
     layOut();
     connectPanels();
+    fillMenu();
     new Radsperre(*this);
     load();
     (new Fensterplatz(*this, programm.settings()))
-        ->einnehmen(QSize(1280, 800).expandedTo(m_pic1->minimumSizeHint() + QSize(PanelLeft, PanelTop)));
+        ->einnehmen(QSize(1280, 800).expandedTo(
+            m_pic1->minimumSizeHint() + QSize(PanelLeft, PanelTop + m_menue->sizeHint().height())));
 }
 
 /// The focus leaves a field while the window goes, and what that tells reaches nobody any more.
@@ -99,6 +101,8 @@ void frmMain::load()
 
 void frmMain::createControls()
 {
+    m_menue = new Menue(this);
+    m_menue->setObjectName(QStringLiteral("mnuMain"));
     m_optButton1[0] = makeSwitch(this, QStringLiteral("&Rechner"), QStringLiteral("optButton_1_0"));
     m_optButton1[1] = makeSwitch(this, QStringLiteral("&Periodensystem"), QStringLiteral("optButton_1_1"));
     m_cmdAbout = new StyledButton(QStringLiteral("&Info"), this);
@@ -155,7 +159,8 @@ void frmMain::layOutCalculator()
     columns->addWidget(m_diagramm, 1);
 }
 
-/// The strip above, the panels below it at (4, 40), as large as the window less these margins.
+/// Below the menu bar the strip, and below that at (4, 40) the panels, as large as the window less menu bar and these
+/// margins.
 void frmMain::layOut()
 {
     auto* strip = new QWidget(this);
@@ -174,6 +179,7 @@ void frmMain::layOut()
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
+    column->setMenuBar(m_menue);
     column->addWidget(strip);
     column->addWidget(m_panels, 1);
 }
@@ -185,7 +191,7 @@ void frmMain::connectPanels()
         connect(m_optButton1.at(k), &StyledButton::clicked, this, [this, i] { showPanel(i); });
         connect(m_cmdKnopf1.at(k), &StyledButton::clicked, this, [this, i] { showLowerArea(i); });
     }
-    connect(m_cmdAbout, &StyledButton::clicked, this, [this] { frmAbout(m_programm.Loader(), this).exec(); });
+    connect(m_cmdAbout, &StyledButton::clicked, this, &frmMain::showAbout);
     connect(m_komposition, &Kompositionsbereich::geaendert, this, &frmMain::uebernehmen);
     connect(m_komposition, &Kompositionsbereich::befundGeaendert, this,
         [this] { m_ergebnisse->zeigeLage(m_programm.Eingabe()); });
@@ -250,6 +256,7 @@ void frmMain::sperren(std::string_view grund)
     reason->setAlignment(Qt::AlignCenter);
     reason->setContentsMargins(40, 0, 40, 0);
     m_pic1->layout()->addWidget(reason);
+    m_menue->sperre();
 }
 
 void frmMain::show()

@@ -14,6 +14,7 @@ namespace zerna {
 class Diagrammbereich;
 class Ergebnisbereich;
 class Kompositionsbereich;
+class Menue;
 class PSEbereich;
 class StyledButton;
 class conWiegen;
@@ -47,6 +48,11 @@ private:
     void createControls();
     void createCalculatorPanel(Dialoge dialoge);
     void connectPanels();
+    void fillMenu();
+    void addAnsichten();
+    bool istEinwaageDran() const;
+    void drucke();
+    void showAbout();
     void layOut();
     void layOutCalculator();
     void uebernehmen(const Aenderung& aenderung);
@@ -54,6 +60,7 @@ private:
     void showLowerArea(int area);
 
     Programm& m_programm;
+    Menue* m_menue = nullptr;
     std::array<StyledButton*, 2> m_optButton1{};
     StyledButton* m_cmdAbout = nullptr;
     QWidget* m_pic1 = nullptr; // the calculator panel

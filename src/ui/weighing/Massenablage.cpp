@@ -57,4 +57,6 @@ void Massenablage::zeige(int anzahl)
     m_zurueckholen->setVisible(hasPlace);
 }
 
+bool Massenablage::bietetAn() const { return !m_zurueckholen->isHidden(); }
+
 } // namespace zerna

@@ -35,6 +35,8 @@ public:
     /// Shows what there is, with the offer if one of the masses stood in the first `anzahl` rows.
     void zeige(int anzahl);
 
+    bool bietetAn() const; ///< what can be put back now
+
 signals:
     void zurueckholen();
 

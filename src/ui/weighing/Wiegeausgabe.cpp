@@ -8,6 +8,7 @@
 #include "programm/Exportieren.h"
 #include "ui/button/StyledButton.h"
 #include "ui/controls/Knopfzeile.h"
+#include "ui/controls/Menue.h"
 #include "ui/platform/QtText.h"
 #include "ui/platform/Zwischenablage.h"
 #include "ui/weighing/Wiegezettel.h"
@@ -49,6 +50,16 @@ StyledButton* Wiegeausgabe::makeButton(const QString& caption, const char* name,
     button->setObjectName(QLatin1String(name));
     button->setToolTipText(hint);
     return button;
+}
+
+void Wiegeausgabe::addBefehle(Menue& menue)
+{
+    menue.add(Menue::Abschnitt::Ausgabe,
+        {.text = QStringLiteral("&Wiegeprotokoll speichern ..."), .name = "mnuWiegen_Speichern", .tun = [this] {
+             save();
+         }});
+    menue.add(Menue::Abschnitt::Kopieren,
+        {.text = QStringLiteral("Wiege&protokoll kopieren"), .name = "mnuWiegen_Kopieren", .tun = [this] { copy(); }});
 }
 
 void Wiegeausgabe::print()

@@ -9,6 +9,7 @@
 
 namespace zerna {
 
+class Menue;
 class StyledButton;
 
 /// The buttons that print, copy and save the weighing protocol.
@@ -20,9 +21,11 @@ public:
     Wiegeausgabe(MessageBoxes& boxes, SaveFileDialog& saveDialog, std::function<Wiegeprotokoll()> protokoll,
         QWidget* parent = nullptr);
 
+    void addBefehle(Menue& menue);
+    void print();
+
 private:
     StyledButton* makeButton(const QString& caption, const char* name, const QString& hint);
-    void print();
     void copy();
     void save();
 

@@ -14,6 +14,7 @@
 #include "core/Zahlentext.h"
 #include "model/Einwaage.h"
 #include "model/Wiegeprotokoll.h"
+#include "ui/controls/Menue.h"
 #include "ui/platform/QtText.h"
 #include "ui/weighing/Festlabel.h"
 #include "ui/weighing/Massenablage.h"
@@ -98,6 +99,18 @@ void conWiegen::createAuskunft()
     m_verlust = new Verlustbereich(this);
     connect(m_verlust, &Verlustbereich::verlustEntered, this, &conWiegen::zeigeVerlust);
 }
+
+void conWiegen::addBefehle(Menue& menue)
+{
+    m_ausgabe->addBefehle(menue);
+    menue.add(Menue::Abschnitt::Legierung,
+        {.text = QStringLiteral("&Istmassen zurückholen"),
+            .name = "mnuZurueckholen",
+            .tun = [this] { putBack(); },
+            .moeglich = [this] { return m_ablage->bietetAn(); }});
+}
+
+void conWiegen::drucke() { m_ausgabe->print(); }
 
 void conWiegen::layOut()
 {

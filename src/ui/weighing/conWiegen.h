@@ -18,6 +18,7 @@ namespace zerna {
 
 class Massenablage;
 class Massenfeld;
+class Menue;
 class Verlustbereich;
 class Wiegeausgabe;
 class Wiegezeile;
@@ -34,6 +35,9 @@ public:
     /// Rebuilds the panel for an alloy that the calculator has just been given. Masses weighed of a component that is
     /// no longer there are taken out of the rows, with an offer to put them back.
     void Aktualisieren(const Eingabe& eingabe);
+
+    void addBefehle(Menue& menue);
+    void drucke();
 
 private:
     void createControls(SaveFileDialog& saveDialog);

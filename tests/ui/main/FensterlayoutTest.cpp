@@ -80,9 +80,11 @@ TEST_F(FensterlayoutTest, DiagramKeepsItsOffsetsAndFewComponentsLeaveNoGap)
     for (const QSize size : {QSize(1024, 700), QSize(1280, 800)}) {
         window->resize(size);
         QCoreApplication::processEvents();
-        EXPECT_EQ(find("Pic_1_0").mapTo(window.get(), QPoint()), QPoint(4, 40));
-        EXPECT_EQ(find("Pic_1_0").size(), size - QSize(4, 40));
-        EXPECT_EQ(find("picDiagramm").size(), size - QSize(640, 190));
+        const QSize menu(0, find("mnuMain").height());
+        EXPECT_LT(menu.height(), 2 * find("mnuMain").fontMetrics().height()); // one line
+        EXPECT_EQ(find("Pic_1_0").mapTo(window.get(), QPoint()), QPoint(4, 40 + menu.height()));
+        EXPECT_EQ(find("Pic_1_0").size(), size - menu - QSize(4, 40));
+        EXPECT_EQ(find("picDiagramm").size(), size - menu - QSize(640, 190));
     }
     const int below = find("cmdKnopf1_0").y();
     click("cmdKom_1");

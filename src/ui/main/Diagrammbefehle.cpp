@@ -1,0 +1,45 @@
+#include <tuple>
+
+#include "ui/controls/Menue.h"
+#include "ui/diagram/Diagrammflaeche.h"
+#include "ui/main/Diagrammbereich.h"
+
+namespace zerna {
+
+void Diagrammbereich::addBefehle(Menue& menue)
+{
+    using enum Menue::Abschnitt;
+    menue.add(Ausgabe,
+        {.text = QStringLiteral("&Diagramm speichern ..."),
+            .name = "mnuDiagramm_Speichern",
+            .tun = [this] { m_picDiagramm->save(); },
+            .moeglich = [this] { return istDruckbar(); }});
+    menue.add(Menue::Abschnitt::Kopieren,
+        {.text = QStringLiteral("&Diagramm kopieren"), .name = "mnuDiagramm_Kopieren", .tun = [this] {
+             m_picDiagramm->copyPicture();
+         }});
+    for (const auto& [text, name, typ] :
+        {std::tuple(QStringLiteral("Diagramm &2 D"), "mnuTyp_0", zerna::Diagrammtyp::Konzentration),
+            {QStringLiteral("Diagramm &3 D - ternär"), "mnuTyp_1", zerna::Diagrammtyp::Ternaer},
+            {QStringLiteral("Diagramm P&SE"), "mnuTyp_2", zerna::Diagrammtyp::PSE}}) {
+        menue.add(Menue::Abschnitt::Diagrammtyp,
+            {.text = text,
+                .name = name,
+                .tun = [this, typ = typ] { chooseType(static_cast<int>(typ)); },
+                .gewaehlt = [this, typ = typ] { return m_typ == typ; }});
+    }
+    for (const auto& [text, name, step] : {std::tuple(QStringLiteral("&Feinere Auflösung"), "mnuSteps_1", 1),
+             {QStringLiteral("&Gröbere Auflösung"), "mnuSteps_0", -1}}) {
+        menue.add(Diagramm,
+            {.text = text,
+                .name = name,
+                .tun = [this, step = step] { stepResolution(step); },
+                .moeglich = [this] { return m_typ == zerna::Diagrammtyp::Ternaer; }});
+    }
+}
+
+bool Diagrammbereich::istDruckbar() const { return m_picDiagramm->istDiagramm(); }
+
+void Diagrammbereich::drucke() { m_picDiagramm->print(); }
+
+} // namespace zerna

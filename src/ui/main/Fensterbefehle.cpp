@@ -1,0 +1,87 @@
+#include <QStackedWidget>
+
+#include <tuple>
+
+#include "ui/controls/Menue.h"
+#include "ui/main/Diagrammbereich.h"
+#include "ui/main/Ergebnisbereich.h"
+#include "ui/main/Kompositionsbereich.h"
+#include "ui/main/frmAbout.h"
+#include "ui/main/frmMain.h"
+#include "ui/weighing/conWiegen.h"
+
+namespace zerna {
+
+/// The panels add what belongs to them, in the order in which it is to stand in a section.
+void frmMain::fillMenu()
+{
+    using enum Menue::Abschnitt;
+    m_ergebnisse->addBefehle(*m_menue);
+    m_conWiegen1->addBefehle(*m_menue);
+    m_diagramm->addBefehle(*m_menue);
+    m_komposition->addBefehle(*m_menue);
+    addAnsichten();
+    m_menue->add(Drucken,
+        {.text = {},
+            .name = "mnuDrucken",
+            .tasten = {QKeySequence(Qt::CTRL | Qt::Key_P)},
+            .tun = [this] { drucke(); },
+            .moeglich = [this] { return m_pic1->isVisible() && (istEinwaageDran() || m_diagramm->istDruckbar()); },
+            .beschriftung =
+                [this] {
+                    return istEinwaageDran() ? QStringLiteral("Wiegezettel d&rucken ...")
+                                             : QStringLiteral("Diagramm d&rucken ...");
+                }});
+    m_menue->add(Ende,
+        {.text = QStringLiteral("&Beenden"),
+            .name = "mnuBeenden",
+            .tasten = {QKeySequence(Qt::CTRL | Qt::Key_Q)},
+            .tun = [this] { close(); },
+            .immer = true});
+    m_menue->add(
+        Info, {.text = QStringLiteral("&Info ..."), .name = "mnuInfo", .tun = [this] { showAbout(); }, .immer = true});
+}
+
+void frmMain::addAnsichten()
+{
+    using enum Menue::Abschnitt;
+    for (const auto& [text, name, panel] : {std::tuple(QStringLiteral("&Rechner"), "mnuPanel_0", 0),
+             {QStringLiteral("&Periodensystem"), "mnuPanel_1", 1}}) {
+        m_menue->add(Bereiche,
+            {.text = text,
+                .name = name,
+                .tun = [this, panel = panel] { showPanel(panel); },
+                .gewaehlt = [this, panel = panel] { return m_panels->currentIndex() == panel; }});
+    }
+    for (const auto& [text, name, area] :
+        {std::tuple(QStringLiteral("&Ergebnisse"), "mnuArea_0", 0), {QStringLiteral("Ein&waage"), "mnuArea_1", 1}}) {
+        m_menue->add(Links,
+            {.text = text,
+                .name = name,
+                .tun =
+                    [this, area = area] {
+                        showPanel(0);
+                        showLowerArea(area);
+                    },
+                .gewaehlt = [this, area = area] { return m_lowerArea->currentIndex() == area; }});
+    }
+}
+
+/// Whether the weighing has the focus; else it is the diagram that is printed.
+bool frmMain::istEinwaageDran() const
+{
+    const QWidget* const focused = focusWidget();
+    return focused != nullptr && m_conWiegen1->isVisible() && m_conWiegen1->isAncestorOf(focused);
+}
+
+void frmMain::drucke()
+{
+    if (istEinwaageDran())
+        m_conWiegen1->drucke();
+    else
+        m_diagramm->drucke();
+}
+
+void frmMain::showAbout() { frmAbout(m_programm.Loader(), this).exec(); }
+
+} // namespace zerna
