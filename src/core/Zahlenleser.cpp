@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <cstdint>
 
 #include "core/CheckedArithmetic.h"
@@ -11,19 +12,21 @@ namespace zerna {
 
 namespace {
 
-/// "&H" digits as a 32-bit two's complement number; false if it is no such text.
-bool readHexNumber(std::string_view text, double& value)
+enum class Lesung { Zahl, KeineZahl, ZuGross };
+
+/// "&H" digits as a 32-bit two's complement number.
+Lesung readHexNumber(std::string_view text, double& value)
 {
     if (text.size() < 3 || text[0] != '&' || (text[1] != 'H' && text[1] != 'h'))
-        return false;
+        return Lesung::KeineZahl;
     std::uint32_t bits = 0;
     const auto [end, error] = std::from_chars(text.data() + 2, text.data() + text.size(), bits, 16);
     if (error == std::errc::result_out_of_range)
-        throw Laufzeitfehler(Fehler::Ueberlauf);
+        return Lesung::ZuGross;
     if (error != std::errc() || end != text.data() + text.size())
-        return false;
+        return Lesung::KeineZahl;
     value = static_cast<std::int32_t>(bits);
-    return true;
+    return Lesung::Zahl;
 }
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
@@ -133,27 +136,48 @@ bool isTooSmall(std::string_view number)
     return static_cast<std::int64_t>(point) - static_cast<std::int64_t>(firstDigit) + exponent < 0;
 }
 
+/// Leaves the value alone unless the text is a number.
+Lesung read(std::string_view text, double& value)
+{
+    text = trimmed(text);
+    if (text.empty())
+        return Lesung::KeineZahl;
+    if (text.front() == '&')
+        return readHexNumber(text, value);
+    if (readDigits(text, value))
+        return Lesung::Zahl;
+    Dezimaltext decimal(text);
+    const std::string_view number = decimal.normalised();
+    if (number.empty())
+        return Lesung::KeineZahl;
+    const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
+    if (result.ec != std::errc::result_out_of_range)
+        return Lesung::Zahl;
+    if (!isTooSmall(number))
+        return Lesung::ZuGross;
+    value = 0;
+    return Lesung::Zahl;
+}
+
 } // namespace
 
 bool readNumber(std::string_view text, double& value)
 {
-    text = trimmed(text);
-    if (text.empty())
-        return false;
-    if (text.front() == '&')
-        return readHexNumber(text, value);
-    if (readDigits(text, value))
-        return true;
-    Dezimaltext decimal(text);
-    const std::string_view number = decimal.normalised();
-    if (number.empty())
-        return false;
-    const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
-    if (result.ec != std::errc::result_out_of_range)
-        return true;
-    if (!isTooSmall(number))
+    const Lesung lesung = read(text, value);
+    if (lesung == Lesung::ZuGross)
         throw Laufzeitfehler(Fehler::Ueberlauf);
-    value = 0;
+    return lesung == Lesung::Zahl;
+}
+
+bool readSingle(std::string_view text, float& value)
+{
+    double number = 0;
+    if (read(text, number) != Lesung::Zahl)
+        return false;
+    const auto single = static_cast<float>(number);
+    if (!std::isfinite(single))
+        return false;
+    value = single;
     return true;
 }
 

@@ -160,28 +160,42 @@ std::string wholeText(double value)
     return {buffer.data(), std::to_chars(buffer.data(), buffer.data() + buffer.size(), whole).ptr};
 }
 
-/// The shortest text of a number that is in plain digits, 0.0001 or more and below 1e15, and not whole.
-std::string shortestPlainText(double value, Dezimaltrenner trenner)
+constexpr double FirstPlain = 1e-4;
+
+/// The shortest text of a number that is in plain digits, FirstPlain or more and below 1e15, and not whole, behind a
+/// text.
+template <class Number>
+void appendShortestPlain(std::string& text, Number value, Dezimaltrenner trenner)
 {
     std::array<char, 32> buffer; // written by to_chars
     char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed).ptr;
     *std::find(buffer.data(), end, '.') = static_cast<char>(trenner);
-    return {buffer.data(), end};
+    text.append(buffer.data(), end);
 }
 
 } // namespace
 
 std::string textOfSingle(float value, Dezimaltrenner trenner)
 {
+    std::string text;
+    appendSingle(text, value, trenner);
+    return text;
+}
+
+void appendSingle(std::string& text, float value, Dezimaltrenner trenner)
+{
     constexpr float FirstGap = 16777216; // from here on the shortest text of a whole number may be another number's
+    const float amount = std::abs(value);
     if (isWholeBelow(value, FirstGap))
-        return wholeText(value);
-    return std::isfinite(value) ? layOut(shortestDigits(value), trenner) : std::string();
+        text += wholeText(value);
+    else if (amount >= FirstPlain && amount < FirstGap)
+        appendShortestPlain(text, value, trenner);
+    else if (std::isfinite(value))
+        text += layOut(shortestDigits(value), trenner);
 }
 
 std::string textOfDouble(double value, Dezimaltrenner trenner)
 {
-    constexpr double FirstPlain = 1e-4;
     constexpr double FirstWithExponent = 1e15;
     if (isWholeBelow(value, FirstWithExponent))
         return wholeText(value);
@@ -191,7 +205,9 @@ std::string textOfDouble(double value, Dezimaltrenner trenner)
     // shortest text is several times faster than rounding.
     if (std::abs(value) >= FirstPlain && std::abs(value) < FirstWithExponent) {
         constexpr std::size_t DigitsAndSeparator = 16;
-        if (std::string text = shortestPlainText(value, trenner); text.size() <= DigitsAndSeparator)
+        std::string text;
+        appendShortestPlain(text, value, trenner);
+        if (text.size() <= DigitsAndSeparator)
             return text;
     }
     const Ziffern shortest = shortestDigits(value);

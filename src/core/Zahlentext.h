@@ -18,6 +18,9 @@ enum class Dezimaltrenner : char { Komma = ',', Punkt = '.' };
 /// -5 < e < 15, otherwise like "1,5E+20" or "1,5E-7". 0.1F gives "0,1"; empty for a value that is no finite number.
 std::string textOfSingle(float value, Dezimaltrenner trenner = Dezimaltrenner::Komma);
 
+/// The same behind what a text holds already.
+void appendSingle(std::string& text, float value, Dezimaltrenner trenner = Dezimaltrenner::Komma);
+
 /// 15 significant digits without trailing zeros, laid out like the text of a single.
 std::string textOfDouble(double value, Dezimaltrenner trenner = Dezimaltrenner::Komma);
 
@@ -49,7 +52,11 @@ float singleFromText(std::string_view text);
 /// error 6).
 bool readNumber(std::string_view text, double& value);
 
-/// The same as an optional, which is built where it is used: handing it over costs more than reading a short number.
+/// The text as a single; false, and the value left alone, for a text that is no number and for a number too large.
+bool readSingle(std::string_view text, float& value);
+
+/// What readNumber reads as an optional, which is built where it is used: handing it over costs more than reading a
+/// short number.
 inline std::optional<double> numberIn(std::string_view text)
 {
     double value = 0;

@@ -199,8 +199,8 @@ void clsCalc::berechne(std::span<const Legierungskomponente> komponenten)
             const float masse = k.element->Masse();
             // A missing density or mass weighed by a small at% would pass for a plausible one.
             const bool missing = prozent != 0 && (istUnbekannt(k.dichte) || istUnbekannt(masse));
-            if (missing || istUnbekannt(k.valenz))
-                throw Laufzeitfehler(Fehler::UngueltigesArgument);
+            if (missing || k.dichte == 0 || istUnbekannt(k.valenz))
+                return berechnungGescheitert();
             valenz = toSingle(valenz + k.valenz * prozent);
             molvolumen = toSingle(molvolumen + quotient(prozent * masse, k.dichte));
             dichte = toSingle(dichte + k.dichte * prozent);

@@ -10,17 +10,9 @@
 #include "model/Eingabe.h"
 #include "model/clsCalc.h"
 #include "parser/clsParser.h"
+#include "programm/Komponentenangabe.h"
 
 namespace zerna {
-
-/// A component as it is written on a command line: SYMBOL=ATPERCENT[:dichte=…][:valenz=…].
-struct Komponentenangabe {
-    std::string text; ///< as written, for messages
-    std::string symbol;
-    std::string prozent; ///< a number, as written
-    std::string dichte; ///< a number, "amorph", "fluessig" or "kristallin"; empty: the first known of these
-    std::string valenz; ///< "s", "p", "d", "f" or a formula; empty: the element's valence
-};
 
 /// An argument that is not written as it must be; what() says in German what is wrong and names it.
 class Aufruffehler : public std::runtime_error {
@@ -34,7 +26,7 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// Takes a component text apart. Throws Aufruffehler.
+/// Takes a component text apart; its at% are a number. Throws Aufruffehler.
 Komponentenangabe komponentenangabe(std::string_view text);
 
 /// Element data, parser and calculator without any window, settings or files of their own.

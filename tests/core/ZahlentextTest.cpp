@@ -9,7 +9,8 @@ TEST(Zahlentext, WritesTheShortestTextThatReadsBack)
 {
     const std::pair<float, const char*> rows[] = {{0.1F, "0,1"}, {1.0000001F, "1,0000001"},
         {1.5e14F, "150000000000000"}, {1e15F, "1E+15"}, {0.00012F, "0,00012"}, {1.5e-5F, "1,5E-5"},
-        {Unbekannt, "-3E+38"}, {-0.0F, "0"}, {1e-45F, "1E-45"}};
+        {Unbekannt, "-3E+38"}, {-0.0F, "0"}, {1e-45F, "1E-45"}, {1e-4F, "0,0001"}, {9.999999e-5F, "9,999999E-5"},
+        {-8388607.5F, "-8388607,5"}, {16777218.0F, "16777218"}, {33554450.0F, "33554450"}};
     for (const auto& [value, text] : rows) {
         EXPECT_EQ(textOfSingle(value), text);
         EXPECT_EQ(singleFromText(text), value);
@@ -57,6 +58,11 @@ TEST(Zahlentext, ReadsWhatPeopleType)
         {std::string(500, ' ') + "1" + std::string(500, '0') + "e-500", 1}};
     for (const auto& [text, value] : numbers)
         EXPECT_DOUBLE_EQ(doubleFromText(text), value) << text;
+    float single = 0;
+    EXPECT_TRUE(readSingle("12,5", single));
+    for (const std::string text : {"1e39", "1e400", "1.234,5", ""})
+        EXPECT_FALSE(readSingle(text, single)) << text;
+    EXPECT_EQ(single, 12.5F) << "left alone";
     const std::pair<std::string, int> errors[] = {{"&H100000000", 6}, {"&H", 13}, {"1.234,5", 13}, {"", 13}, {"  ", 13},
         {"-", 13}, {"+-5", 13}, {",", 13}, {"1e+", 13}, {"5 g", 13}, {"inf", 13}, {"0x1F", 13}, {"1e400", 6},
         {"1" + zeros + "e-30", 6}};
