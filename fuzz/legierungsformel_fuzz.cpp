@@ -1,0 +1,67 @@
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+#include <string>
+
+#include "core/Zeichensatz.h"
+#include "model/Formeltext.h"
+#include "model/Legierungsformel.h"
+#include "support/RecordingBoxes.h"
+
+using namespace zerna;
+
+namespace {
+
+void require(bool condition)
+{
+    if (!condition)
+        std::abort();
+}
+
+/// What is read can be entered, written out as a formula and read again.
+void readBack(const Legierungsformel& formel, const ElementCollection& elements)
+{
+    Eingabe eingabe(elements);
+    eingabe.setAnzahl(static_cast<int>(formel.komponenten().size()));
+    for (std::size_t i = 0; i < formel.komponenten().size(); ++i) {
+        eingabe.waehleElement(static_cast<int>(i), formel.komponenten()[i].element->symbol());
+        eingabe.setProzentOhneAusgleich(static_cast<int>(i), formel.prozenttext(i));
+    }
+    for (const auto schrift : {Formelschrift::Einfach, Formelschrift::Tiefgestellt, Formelschrift::LaTeX}) {
+        const std::string text = formeltext(eingabe, schrift);
+        const Formellesung again = legierungsformel(text, elements);
+        require(!text.empty() && !again.fehler);
+        for (std::size_t i = 0; i < formel.komponenten().size(); ++i)
+            require(std::abs(again.formel.komponenten()[i].prozent - formel.komponenten()[i].prozent) <= 1e-4);
+    }
+}
+
+} // namespace
+
+/// Reads the bytes as an alloy's formula: an error has a reason and a place, an alloy has 100 % and can be written.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const std::string text(data, data + size);
+    Dateinummern files;
+    RecordingBoxes boxes;
+    ElementCollection elements;
+    for (const char* const symbol : {"Al", "B", "C", "Cu", "Co", "Fe", "Mg"}) {
+        auto element = std::make_shared<clsElement>(files, boxes);
+        element->setsymbol(symbol);
+        elements.Add(element, symbol);
+    }
+
+    const auto [formel, fehler] = legierungsformel(text, elements);
+    require(boxes.shown.empty());
+    if (fehler) {
+        require(!fehler->grund.empty() && fehler->stelle <= zeichenzahl(text) + 1);
+        return 0;
+    }
+    double sum = 0;
+    for (const Formelkomponente& komponente : formel.komponenten())
+        sum += komponente.prozent;
+    require(std::abs(sum - 100) <= 1e-6);
+    readBack(formel, elements);
+    return 0;
+}
