@@ -13,6 +13,7 @@
 #include "model/Komponentenzeile.h"
 #include "model/Komposition.h"
 #include "model/Legierung.h"
+#include "model/Rohlegierung.h"
 
 namespace zerna {
 
@@ -63,6 +64,13 @@ public:
 
     /// One row of 100 at%, without an element; the others prepared with their first at%.
     explicit Eingabe(const ElementCollection& elements);
+
+    /// The alloy as it was kept, each text read again; 1 to 5 rows (error 9 outside). A row whose element the table
+    /// does not have has its at% only.
+    static Eingabe aus(const ElementCollection& elements, const Rohlegierung& roh);
+
+    /// What is to be kept of it: aus() makes an equal one of that.
+    Rohlegierung roh() const;
 
     /// Sets the number of rows, 1 to 5 (error 9 outside), and balances.
     Aenderung setAnzahl(int anzahl);

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "dokument/Lesefehler.h"
+#include "dokument/Tabellenunterschied.h"
+#include "model/Dokument.h"
+
+/// The document as a file: a JSON text in UTF-8 that people can read. Its shape is in docs/zerna.schema.json; it counts
+/// from 1 throughout.
+namespace zerna {
+
+inline constexpr int Dateiversion = 1;
+
+/// The file of a document. Keys that a newer program has left in it come along.
+std::string schreibe(const Dokument& dokument);
+
+/// What became of a file.
+struct Lesung {
+    std::optional<Dokument> dokument; ///< nothing if the file is broken, then there is an error
+    Lesefehler fehler;
+    std::vector<Tabellenunterschied> unterschiede; ///< to be kept or taken over before it is worked with
+    std::string nurLesen; ///< why the file must not be written over, in sentences; empty if it may be
+};
+
+/// Reads a file. Whatever it holds, the answer is a document that can be worked with or an error; nothing is thrown.
+Lesung lies(std::string_view text, const ElementCollection& elements);
+
+} // namespace zerna

@@ -1,0 +1,224 @@
+#include <algorithm>
+#include <limits>
+#include <span>
+#include <utility>
+
+#include "core/Kuerzung.h"
+#include "dokument/Dokumentdatei.h"
+#include "dokument/Dokumentjson.h"
+#include "dokument/Feldleser.h"
+#include "dokument/Fremdes.h"
+#include "dokument/Worte.h"
+#include "model/Groessen.h"
+#include "model/Ternaergitter.h"
+
+namespace zerna {
+
+namespace {
+
+constexpr std::size_t LargestFile = 64UL << 20U; // bytes
+constexpr std::size_t LongestField = 32767; // characters, as in a field of the window
+constexpr std::size_t LongestRemark = 1'000'000;
+
+template <class Code, std::size_t Count>
+Code codeFor(Feldleser& leser, const Json& object, std::string_view key, const std::array<Wort<Code>, Count>& worte)
+{
+    const std::string text = leser.text(object, key, LongestField);
+    const auto found = std::ranges::find(worte, text, &Wort<Code>::wort);
+    if (found != worte.end())
+        return found->code;
+    leser.ablehnen(leser.feld(object, key), zitiert(text) + " ist hier nicht bekannt");
+    return worte.front().code;
+}
+
+std::string dichtewahlIn(Feldleser& leser, const Json& object)
+{
+    std::string wahl = leser.text(object, "wahl", LongestField);
+    const auto known = dichtearten();
+    if (wahl != AndereWahl && std::ranges::find(known, wahl) == known.end())
+        leser.ablehnen(leser.feld(object, "wahl"), zitiert(wahl) + " ist hier nicht bekannt");
+    return wahl;
+}
+
+/// Rows of a file, one after the other.
+void readZeile(Feldleser& leser, const Json& json, Rohzeile& zeile, float& valenzwert)
+{
+    if (!json.is_object())
+        leser.ablehnen(json, "Eine Zeile muss ein Objekt sein");
+    zeile.element = leser.textOderNull(json, "element", LongestField);
+    zeile.prozent = leser.text(json, "prozent", LongestField);
+    if (zeile.element.empty())
+        return;
+    const Json& dichte = leser.objekt(json, "dichte");
+    zeile.dichtewahl = dichtewahlIn(leser, dichte);
+    zeile.dichte = leser.text(dichte, "text", LongestField);
+    zeile.dichteInKraft = leser.wert(dichte, "wert");
+    const Json& valenz = leser.objekt(json, "valenz");
+    zeile.valenzwahl = codeFor(leser, valenz, "wahl", Valenzworte);
+    zeile.valenz = leser.text(valenz, "text", LongestField);
+    zeile.valenzInKraft = leser.text(valenz, "inKraft", LongestField);
+    valenzwert = leser.wert(valenz, "wert");
+}
+
+/// The rows that a file leaves out hold what they hold at the start.
+Dateilegierung readLegierung(Feldleser& leser, const Json& json, const ElementCollection& elements)
+{
+    Dateilegierung legierung{Eingabe(elements).roh(), {}};
+    const Json& zeilen = leser.liste(json, "zeilen", 1, MaxKomponenten);
+    for (std::size_t i = 0; i < zeilen.size() && !leser.fehler(); ++i)
+        readZeile(leser, zeilen.at(i), legierung.roh.zeilen.at(i), legierung.valenzen.at(i));
+    legierung.roh.anzahl = leser.ganzzahl(json, "anzahl", 1, std::max(1, static_cast<int>(zeilen.size())));
+    legierung.roh.rest = leser.text(json, "rest", LongestField);
+    legierung.roh.nachgeschlagen = leser.textOderNull(json, "nachgeschlagen", LongestField);
+    return legierung;
+}
+
+Wiegedaten readWiegen(Feldleser& leser, const Json& json)
+{
+    Wiegedaten wiegen;
+    wiegen.gewuenscht = leser.text(json, "gewuenscht", LongestField);
+    const Json& gewogen = leser.liste(json, "gewogen", 0, MaxKomponenten);
+    for (std::size_t i = 0; i < gewogen.size(); ++i)
+        wiegen.gewogen.at(i) = leser.text(gewogen.at(i), LongestField);
+    wiegen.verlust = leser.text(json, "verlust", LongestField);
+    if (leser.feld(json, "bezug").is_null())
+        return wiegen;
+    const Json& bezug = leser.objekt(json, "bezug");
+    wiegen.bezug = Wiegebezug{leser.ganzzahl(bezug, "zeile", 1, MaxKomponenten) - 1, leser.wert(bezug, "masse")};
+    return wiegen;
+}
+
+Diagrammwahl readDiagramm(Feldleser& leser, const Json& json)
+{
+    Diagrammwahl wahl;
+    wahl.typ = codeFor(leser, json, "art", Diagrammworte);
+    wahl.groesse = leser.ganzzahl(json, "groesse", 0, std::numeric_limits<int>::max());
+    if (findGroesse(wahl.groesse) == nullptr)
+        leser.ablehnen(leser.feld(json, "groesse"), "Eine Größe mit dieser Kennzahl gibt es nicht");
+    wahl.komponente = leser.ganzzahl(json, "zeile", 1, MaxKomponenten) - 1;
+    wahl.aufloesung = leser.ganzzahl(json, "aufloesung", 1, FeinsteAufloesung);
+    const Json& ansicht = leser.objekt(json, "ansicht");
+    wahl.ansicht.tilt = leser.zahl(ansicht, "neigung", -90, 90);
+    wahl.ansicht.turn = leser.zahl(ansicht, "drehung", -180, 180);
+    wahl.ansicht.zoom = leser.zahl(ansicht, "zoom", 0.5, 3);
+    wahl.ansicht.flach = leser.schalter(ansicht, "flach");
+    return wahl;
+}
+
+/// Reads a document from its JSON value, part by part.
+class Dokumentleser {
+public:
+    Dokumentleser(const Jsontext& json, const ElementCollection& elements)
+        : m_json(json)
+        , m_elements(elements)
+        , m_leser(json)
+    {
+    }
+
+    Lesung lies()
+    {
+        Lesung lesung;
+        Dokument dokument(m_elements);
+        const Json& root = m_json.wert();
+        readKopf(root, dokument);
+        dokument.eingabe = eingabe(m_leser.objekt(root, "legierung"), std::nullopt);
+        dokument.wiegen = readWiegen(m_leser, m_leser.objekt(root, "einwaage"));
+        dokument.diagramm = readDiagramm(m_leser, m_leser.objekt(root, "diagramm"));
+        dokument.vergleich = vergleich(m_leser.objekt(root, "vergleich"));
+        if (m_leser.fehler()) {
+            lesung.fehler = *m_leser.fehler();
+            if (m_version > Dateiversion)
+                lesung.fehler.grund += "; die Datei stammt von einer neueren Version von Zerna";
+            return lesung;
+        }
+        dokument.fremd = fremdtext(root, dokumentjson(dokument));
+        lesung.nurLesen = nurLesen();
+        lesung.unterschiede = std::move(m_unterschiede);
+        lesung.dokument = std::move(dokument);
+        return lesung;
+    }
+
+private:
+    void readKopf(const Json& root, Dokument& dokument)
+    {
+        const auto kennung = root.is_object() ? root.find("format") : root.end();
+        if (kennung == root.end() || *kennung != Dateikennung)
+            m_leser.ablehnen(root, "Das ist keine Zerna-Datei: Die Angabe \"format\": \"Zerna-Legierung\" fehlt");
+        m_version = m_leser.ganzzahl(root, "version", 1, std::numeric_limits<int>::max());
+        dokument.titel = m_leser.text(root, "titel", LongestField);
+        dokument.bemerkung = m_leser.text(root, "bemerkung", LongestRemark);
+    }
+
+    Eingabe eingabe(const Json& json, std::optional<std::size_t> variante)
+    {
+        const Dateilegierung legierung = readLegierung(m_leser, json, m_elements);
+        if (m_leser.fehler())
+            return Eingabe(m_elements);
+        std::ranges::move(zerna::unterschiede(legierung, m_elements, variante), std::back_inserter(m_unterschiede));
+        for (const Rohzeile& zeile : legierung.roh.zeilen) {
+            const bool isMissing = !zeile.element.empty() && !m_elements.find(zeile.element);
+            if (isMissing && std::ranges::count(m_missing, zeile.element) == 0)
+                m_missing.push_back(zeile.element);
+        }
+        return Eingabe::aus(m_elements, legierung.roh);
+    }
+
+    std::shared_ptr<const Vergleich> vergleich(const Json& json)
+    {
+        auto vergleich = std::make_shared<Vergleich>();
+        const Json& varianten = m_leser.liste(json, "varianten", 0, MaxVarianten);
+        for (std::size_t i = 0; i < varianten.size() && !m_leser.fehler(); ++i) {
+            if (!varianten.at(i).is_object())
+                m_leser.ablehnen(varianten.at(i), "Eine Variante muss ein Objekt sein");
+            std::string name = m_leser.text(varianten.at(i), "name", LongestField);
+            Variante variante{std::move(name), eingabe(m_leser.objekt(varianten.at(i), "legierung"), i), {}};
+            if (!m_leser.fehler())
+                variante.fremd = fremdtext(varianten.at(i), variantenjson(variante));
+            vergleich->varianten.push_back(std::move(variante));
+        }
+        const int most = std::max(1, static_cast<int>(varianten.size()));
+        vergleich->referenz = static_cast<std::size_t>(m_leser.ganzzahl(json, "referenz", 1, most)) - 1;
+        return vergleich;
+    }
+
+    std::string nurLesen() const
+    {
+        std::string reason;
+        if (m_version > Dateiversion)
+            reason = "Die Datei stammt von einer neueren Version von Zerna. Was diese Version nicht kennt, wird nicht "
+                     "gezeigt.";
+        if (m_missing.empty())
+            return reason;
+        std::string symbols;
+        for (const std::string& symbol : m_missing)
+            symbols += (symbols.empty() ? "" : ", ") + gekuerzt(symbol);
+        return reason + (reason.empty() ? "" : " ") + "Die Elementtabelle kennt nicht: " + gekuerzt(symbols, 255)
+            + ". Die Zeilen damit sind leer.";
+    }
+
+    const Jsontext& m_json;
+    const ElementCollection& m_elements;
+    Feldleser m_leser;
+    int m_version = Dateiversion;
+    std::vector<Tabellenunterschied> m_unterschiede;
+    std::vector<std::string> m_missing; // elements
+};
+
+} // namespace
+
+Lesung lies(std::string_view text, const ElementCollection& elements)
+{
+    Lesung lesung;
+    if (text.size() > LargestFile) {
+        lesung.fehler.grund = "Die Datei ist größer als 64 MB";
+        return lesung;
+    }
+    const Jsontext json(text);
+    if (json.fehler()) {
+        lesung.fehler = *json.fehler();
+        return lesung;
+    }
+    return Dokumentleser(json, elements).lies();
+}
+
+} // namespace zerna

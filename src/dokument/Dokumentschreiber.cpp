@@ -1,0 +1,100 @@
+#include <algorithm>
+#include <cmath>
+
+#include "core/Unbekannt.h"
+#include "core/Zahlentext.h"
+#include "dokument/Dokumentdatei.h"
+#include "dokument/Dokumentjson.h"
+#include "dokument/Fremdes.h"
+#include "dokument/Worte.h"
+
+namespace zerna {
+
+namespace {
+
+/// A single in its shortest digits.
+Json zahl(float wert)
+{
+    const bool isNumber = std::isfinite(wert) && !istUnbekannt(wert);
+    return isNumber ? Json(doubleFromText(textOfSingle(wert))) : Json();
+}
+
+Json textOderNull(const std::string& text) { return text.empty() ? Json() : Json(text); }
+
+Json zeilenjson(const Rohzeile& zeile, float valenz)
+{
+    Json json{
+        {"element", textOderNull(zeile.element)}, {"prozent", zeile.prozent}, {"dichte", nullptr}, {"valenz", nullptr}};
+    if (zeile.element.empty())
+        return json;
+    json["dichte"] = {{"wahl", zeile.dichtewahl}, {"text", zeile.dichte}, {"wert", zahl(zeile.dichteInKraft)}};
+    json["valenz"] = {{"wahl", wortFuer(zeile.valenzwahl, Valenzworte)}, {"text", zeile.valenz},
+        {"inKraft", zeile.valenzInKraft}, {"wert", zahl(valenz)}};
+    return json;
+}
+
+Json legierungsjson(const Eingabe& eingabe)
+{
+    const Rohlegierung roh = eingabe.roh();
+    Json zeilen = Json::array();
+    for (int i = 0; i < MaxKomponenten; ++i)
+        zeilen.push_back(zeilenjson(roh.zeilen.at(static_cast<std::size_t>(i)), eingabe.zeile(i).inKraft.valenz));
+    return {{"anzahl", roh.anzahl}, {"zeilen", std::move(zeilen)}, {"rest", roh.rest},
+        {"nachgeschlagen", textOderNull(roh.nachgeschlagen)}};
+}
+
+Json wiegejson(const Wiegedaten& wiegen)
+{
+    Json json{{"gewuenscht", wiegen.gewuenscht}, {"gewogen", wiegen.gewogen}, {"verlust", wiegen.verlust},
+        {"bezug", nullptr}};
+    if (wiegen.bezug)
+        json["bezug"] = {{"zeile", wiegen.bezug->komponente + 1}, {"masse", zahl(wiegen.bezug->masse)}};
+    return json;
+}
+
+Json diagrammjson(const Diagrammwahl& wahl)
+{
+    const Ansicht& ansicht = wahl.ansicht;
+    return {{"art", wortFuer(wahl.typ, Diagrammworte)}, {"groesse", wahl.groesse}, {"zeile", wahl.komponente + 1},
+        {"aufloesung", wahl.aufloesung},
+        {"ansicht",
+            {{"neigung", ansicht.tilt}, {"drehung", ansicht.turn}, {"zoom", ansicht.zoom}, {"flach", ansicht.flach}}}};
+}
+
+Json variantenliste(const Vergleich& vergleich)
+{
+    Json liste = Json::array();
+    for (const Variante& variante : vergleich.varianten) {
+        Json json = variantenjson(variante);
+        fuegeEin(json, fremdesAus(variante.fremd));
+        liste.push_back(std::move(json));
+    }
+    return liste;
+}
+
+} // namespace
+
+Json variantenjson(const Variante& variante)
+{
+    return {{"name", variante.name}, {"legierung", legierungsjson(variante.eingabe)}};
+}
+
+Json dokumentjson(const Dokument& dokument)
+{
+    const std::size_t referenz = std::clamp<std::size_t>(
+        dokument.vergleich->referenz + 1, 1, std::max<std::size_t>(1, dokument.vergleich->varianten.size()));
+    return {{"format", Dateikennung}, {"version", Dateiversion}, {"titel", dokument.titel},
+        {"bemerkung", dokument.bemerkung}, {"legierung", legierungsjson(dokument.eingabe)},
+        {"einwaage", wiegejson(dokument.wiegen)}, {"diagramm", diagrammjson(dokument.diagramm)},
+        {"vergleich", {{"referenz", referenz}, {"varianten", nullptr}}}};
+}
+
+std::string schreibe(const Dokument& dokument)
+{
+    Json json = dokumentjson(dokument);
+    fuegeEin(json, fremdesAus(dokument.fremd));
+    json["vergleich"]["varianten"] = variantenliste(*dokument.vergleich);
+    return json.dump(4, ' ', false, Json::error_handler_t::replace) + '\n';
+}
+
+} // namespace zerna

@@ -1,0 +1,140 @@
+#include "dokument/Tabellenunterschied.h"
+
+#include <algorithm>
+#include <memory>
+
+#include "core/Kuerzung.h"
+#include "core/Unbekannt.h"
+#include "dokument/Worte.h"
+#include "model/Komposition.h"
+
+namespace zerna {
+
+namespace {
+
+using Wert = Tabellenunterschied::Wert;
+
+/// The choice itself, or the element's first one if the table does not offer it.
+std::string offeredDichte(const clsElement& element, const std::string& wahl)
+{
+    return hatDichte(element, wahl) ? wahl : std::string(dichteauswahl(element).front());
+}
+
+int offeredValenz(const clsElement& element, int wahl)
+{
+    const auto choices = valenzauswahl(element);
+    return std::ranges::count(choices, wahl, &Valenzeintrag::code) > 0 ? wahl : ValenzStandard;
+}
+
+std::optional<Tabellenunterschied> dichteunterschied(const Rohzeile& zeile, const clsElement& element)
+{
+    if (zeile.dichtewahl == AndereWahl)
+        return std::nullopt;
+    const std::string offered = offeredDichte(element, zeile.dichtewahl);
+    const float hier = dichteFor(element, offered);
+    const float datei = zahlenfeld(zeile.dichte).wert;
+    if (offered == zeile.dichtewahl && datei == hier)
+        return std::nullopt;
+    return Tabellenunterschied{{}, 0, zeile.element, Wert::Dichte, zeile.dichtewahl, datei, hier};
+}
+
+/// A typed valence may be a formula that takes valences from the table.
+std::optional<Tabellenunterschied> valenzunterschied(
+    const Rohzeile& zeile, float valenz, const clsElement& element, const ElementCollection& elements)
+{
+    const bool isTyped = zeile.valenzwahl == ValenzAndere;
+    const int offered = offeredValenz(element, zeile.valenzwahl);
+    const float hier = isTyped ? valenzfeld(zeile.valenzInKraft, elements).wert : valenzFor(element, offered);
+    const float datei = isTyped ? valenz : valenzfeld(zeile.valenz, elements).wert;
+    if (offered == zeile.valenzwahl && datei == hier)
+        return std::nullopt;
+    const std::string wahl = isTyped ? zeile.valenzInKraft : std::string(wortFuer(zeile.valenzwahl, Valenzworte));
+    return Tabellenunterschied{{}, 0, zeile.element, Wert::Valenz, wahl, datei, hier};
+}
+
+void behalte(Rohzeile& zeile, const Tabellenunterschied& unterschied, const ElementCollection&)
+{
+    if (unterschied.was == Wert::Dichte) {
+        zeile.dichtewahl = AndereWahl;
+    } else {
+        zeile.valenzwahl = ValenzAndere;
+        zeile.valenz = zeile.valenzInKraft = feldtext(unterschied.datei);
+    }
+}
+
+void uebernimm(Rohzeile& zeile, const Tabellenunterschied& unterschied, const ElementCollection& elements)
+{
+    const auto element = elements.find(unterschied.element);
+    if (unterschied.was == Wert::Dichte) {
+        zeile.dichtewahl = offeredDichte(*element, zeile.dichtewahl);
+        zeile.dichte = feldtext(unterschied.hier);
+        zeile.dichteInKraft = unterschied.hier;
+    } else if (zeile.valenzwahl != ValenzAndere) { // a typed formula has been computed with this table already
+        zeile.valenzwahl = offeredValenz(*element, zeile.valenzwahl);
+        zeile.valenz = zeile.valenzInKraft = feldtext(unterschied.hier);
+    }
+}
+
+template <class Decision>
+void decide(Dokument& dokument, std::span<const Tabellenunterschied> unterschiede, const ElementCollection& elements,
+    Decision decision)
+{
+    const auto vergleich = std::make_shared<Vergleich>(*dokument.vergleich);
+    for (const Tabellenunterschied& unterschied : unterschiede) {
+        Eingabe& eingabe =
+            unterschied.variante ? vergleich->varianten.at(*unterschied.variante).eingabe : dokument.eingabe;
+        Rohlegierung roh = eingabe.roh();
+        decision(roh.zeilen.at(static_cast<std::size_t>(unterschied.zeile)), unterschied, elements);
+        eingabe = Eingabe::aus(elements, roh);
+    }
+    dokument.vergleich = vergleich;
+}
+
+} // namespace
+
+std::vector<Tabellenunterschied> unterschiede(
+    const Dateilegierung& legierung, const ElementCollection& elements, std::optional<std::size_t> variante)
+{
+    std::vector<Tabellenunterschied> found;
+    const auto add = [&](std::optional<Tabellenunterschied> unterschied, std::size_t zeile) {
+        if (!unterschied)
+            return;
+        unterschied->variante = variante;
+        unterschied->zeile = static_cast<int>(zeile);
+        found.push_back(*std::move(unterschied));
+    };
+    for (std::size_t i = 0; i < legierung.roh.zeilen.size(); ++i) {
+        const Rohzeile& zeile = legierung.roh.zeilen.at(i);
+        const auto element = elements.find(zeile.element);
+        if (!element)
+            continue;
+        add(dichteunterschied(zeile, *element), i);
+        add(valenzunterschied(zeile, legierung.valenzen.at(i), *element, elements), i);
+    }
+    return found;
+}
+
+std::string unterschiedstext(const Tabellenunterschied& unterschied, const Dokument& dokument)
+{
+    const auto shown = [](float value) { return istUnbekannt(value) ? "kein Wert" : feldtext(value); };
+    const std::string ort = unterschied.variante
+        ? "Variante " + zitiert(dokument.vergleich->varianten.at(*unterschied.variante).name) + ", Zeile "
+        : "Zeile ";
+    return ort + std::to_string(unterschied.zeile + 1) + ": "
+        + (unterschied.was == Wert::Dichte ? "Dichte (" : "Valenz (") + gekuerzt(unterschied.wahl) + ") von "
+        + unterschied.element + ": " + shown(unterschied.datei) + " in der Datei, " + shown(unterschied.hier) + " hier";
+}
+
+void behalteDateiwerte(
+    Dokument& dokument, std::span<const Tabellenunterschied> unterschiede, const ElementCollection& elements)
+{
+    decide(dokument, unterschiede, elements, behalte);
+}
+
+void uebernehmeTabelle(
+    Dokument& dokument, std::span<const Tabellenunterschied> unterschiede, const ElementCollection& elements)
+{
+    decide(dokument, unterschiede, elements, uebernimm);
+}
+
+} // namespace zerna

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "model/Diagrammwahl.h"
+#include "model/Komposition.h"
+
+/// The words that a file has for the program's codes.
+namespace zerna {
+
+inline constexpr std::string_view Dateikennung = "Zerna-Legierung";
+
+template <class Code>
+struct Wort {
+    Code code{};
+    std::string_view wort;
+};
+
+inline constexpr std::array<Wort<int>, 6> Valenzworte{
+    {{ValenzStandard, "Standard"}, {0, "s"}, {1, "p"}, {2, "d"}, {3, "f"}, {ValenzAndere, AndereWahl}}};
+
+inline constexpr std::array<Wort<Diagrammtyp>, 3> Diagrammworte{
+    {{Diagrammtyp::Konzentration, "Konzentration"}, {Diagrammtyp::Ternaer, "ternär"}, {Diagrammtyp::PSE, "PSE"}}};
+
+/// The word of a code; the first one for a code that has none.
+template <class Code, std::size_t Count>
+std::string_view wortFuer(Code code, const std::array<Wort<Code>, Count>& worte)
+{
+    const auto found = std::ranges::find(worte, code, &Wort<Code>::code);
+    return (found == worte.end() ? worte.begin() : found)->wort;
+}
+
+} // namespace zerna

@@ -1,0 +1,197 @@
+#include "dokument/Dokumentdatei.h"
+
+#include <cstdlib>
+
+#include <gmock/gmock.h>
+
+#include "support/RechnerTest.h"
+#include "support/Zufallsdokument.h"
+
+namespace zerna {
+namespace {
+
+struct DokumentdateiTest : RechnerTest {
+    DokumentdateiTest()
+    {
+        addElements();
+        Eingabe& eingabe = dokument.eingabe;
+        eingabe.setAnzahl(2);
+        eingabe.waehleElement(0, "Al");
+        eingabe.waehleElement(1, "Cu");
+        eingabe.waehleValenz(0, ValenzAndere);
+        eingabe.setValenz(0, "z_Cu+1");
+        const Variante variante{"Probe 1", eingabe, {}};
+        dokument.vergleich = std::make_shared<Vergleich>(Vergleich{{variante}, 0});
+    }
+
+    Lesung read(const std::string& text) const { return lies(text, elements); }
+
+    /// The document's file with the first occurrence of a text replaced.
+    std::string with(const std::string& before, const std::string& after) const
+    {
+        std::string text = schreibe(dokument);
+        const std::size_t place = text.find(before);
+        EXPECT_NE(place, std::string::npos) << before;
+        return text.replace(place, before.size(), after);
+    }
+
+    std::vector<std::string> differences(const Lesung& lesung) const
+    {
+        std::vector<std::string> lines;
+        for (const Tabellenunterschied& unterschied : lesung.unterschiede)
+            lines.push_back(unterschiedstext(unterschied, *lesung.dokument));
+        return lines;
+    }
+
+    Dokument dokument{elements};
+};
+
+TEST_F(DokumentdateiTest, ReadsWhatItWrote)
+{
+    constexpr int Documents = 2000;
+    constexpr int Checked = 100; // against the schema
+    Zufallsdokument zufall(elements, 1);
+    for (int i = 0; i < Documents; ++i) {
+        SCOPED_TRACE(i);
+        const Dokument written = zufall.naechstes();
+        const std::string text = schreibe(written);
+        const Lesung lesung = read(text);
+        ASSERT_TRUE(lesung.dokument) << lesung.fehler.text() << text;
+        ASSERT_EQ(*lesung.dokument, written) << text;
+        ASSERT_EQ(schreibe(*lesung.dokument), text);
+        ASSERT_TRUE(lesung.unterschiede.empty()) << differences(lesung).front();
+        EXPECT_EQ(lesung.nurLesen, "");
+        if (i < Checked)
+            writeBytes(folder / std::to_string(i), text);
+    }
+    const std::string check = ZERNA_SCHEMA_CHECK " '" + folder.path().string() + "'";
+    EXPECT_EQ(std::system(check.c_str()), 0) << "a file is not as docs/zerna.schema.json says";
+}
+
+TEST_F(DokumentdateiTest, SaysWhereAndWhyAFileIsBroken)
+{
+    struct Row {
+        std::string before;
+        std::string after;
+        const char* error;
+    };
+    const std::vector<Row> rows{
+        {"\"version\": 1,", "\"version\": 1", "Zeile 4, Spalte 5: Das ist kein gültiges JSON."},
+        {"\"version\": 1,", "\"version\": 1,,", "Zeile 3, Spalte 18: Das ist kein gültiges JSON."},
+        {"\"version\": 1,", "\"version\": +1,", "Zeile 3, Spalte 16: Das ist kein gültiges JSON."},
+        {"Zerna-Legierung", "Legierung",
+            "Zeile 1, Spalte 1: Das ist keine Zerna-Datei: Die Angabe \"format\": \"Zerna-Legierung\" fehlt."},
+        {"\"titel\": \"\"", "\"titel\": 7", "Zeile 4, Spalte 14: \"titel\" muss ein Text sein."},
+        {"\"titel\": \"\"", "\"titel\": \"\\ud800\"",
+            "Zeile 4, Spalte 21: Die Ersatzdarstellung eines Zeichens (\\u…) ist unvollständig."},
+        {"\"titel\": \"\"", "\"titel\": \"ö\xC3\"", "Zeile 4, Spalte 17: Hier steht kein gültiges UTF-8."},
+        {"\"titel\": \"\"", "\"titel\": \"" + std::string(32768, 'x') + "\"",
+            "Zeile 4, Spalte 14: Der Text hat mehr als 32767 Zeichen."},
+        {"\"titel\": \"\"", "\"ü\": 1, \"ü\": 2, \"titel\": \"\"",
+            "Zeile 4, Spalte 13: Der Schlüssel \"ü\" kommt zweimal vor."},
+        {"\"bemerkung\": \"\",", "", "Zeile 1, Spalte 1: Hier fehlt die Angabe \"bemerkung\"."},
+        {"\"anzahl\": 2", "\"anzahl\": 6", "Zeile 7, Spalte 19: \"anzahl\" muss eine ganze Zahl von 1 bis 5 sein."},
+        {"\"anzahl\": 2", "\"anzahl\": 2.5", "Zeile 7, Spalte 19: \"anzahl\" muss eine ganze Zahl von 1 bis 5 sein."},
+        {"\"anzahl\": 2", "\"anzahl\": 18446744073709551615",
+            "Zeile 7, Spalte 19: \"anzahl\" muss eine ganze Zahl von 1 bis 5 sein."},
+        {"\"anzahl\": 2", "\"anzahl\": 1e999", "Zeile 7, Spalte 23: Die Zahl ist zu groß."},
+        {"\"wahl\": \"flüssig\"", "\"wahl\": \"fest\"", "Zeile 13, Spalte 29: \"fest\" ist hier nicht bekannt."},
+        {"\"wahl\": \"Standard\"", "\"wahl\": \"g\"", "Zeile 33, Spalte 29: \"g\" ist hier nicht bekannt."},
+        {"\"wert\": ", "\"wert\": 1e39, \"x\":",
+            "Zeile 15, Spalte 29: \"wert\" muss eine Zahl von "
+            "-3,40282346638529E+38 bis 3,40282346638529E+38 sein."},
+        {"\"groesse\": 0", "\"groesse\": 99", "Zeile 75, Spalte 20: Eine Größe mit dieser Kennzahl gibt es nicht."},
+        {"\"zoom\": 1.0", "\"zoom\": 1e9", "Zeile 81, Spalte 21: \"zoom\" muss eine Zahl von 0,5 bis 3 sein."},
+        {"\"zoom\": 1.0", "\"zoom\": " + std::string(100, '['),
+            "Zeile 81, Spalte 82: Die Datei ist zu tief verschachtelt."},
+        {"\"referenz\": 1", "\"referenz\": 2",
+            "Zeile 86, Spalte 21: \"referenz\" muss eine ganze Zahl von 1 bis 1 sein."},
+        {"\"version\": 1,\n    \"titel\": \"\"", "\"version\": 2,\n    \"titel\": []",
+            "Zeile 4, Spalte 14: \"titel\" muss ein Text sein; die Datei stammt von einer neueren Version von Zerna."},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.after);
+        const Lesung lesung = read(with(row.before, row.after));
+        EXPECT_FALSE(lesung.dokument);
+        EXPECT_EQ(lesung.fehler.text(), row.error);
+    }
+    const std::string whole = schreibe(dokument);
+    for (std::size_t length = 0; length < whole.size() - 2; length += 3)
+        ASSERT_FALSE(read(whole.substr(0, length)).dokument) << length;
+}
+
+TEST_F(DokumentdateiTest, KeepsWhatANewerProgramLeft)
+{
+    const std::string text = with("\"version\": 1", "\"version\": 2");
+    EXPECT_THAT(read(text).nurLesen, testing::StartsWith("Die Datei stammt von einer neueren Version"));
+
+    std::string foreign = text;
+    int keys = 0;
+    for (const char* const place :
+        {"\"element\": ", "\"text\": ", "\"verlust\": ", "\"zoom\": ", "\"name\": ", "\"titel\": "}) {
+        const std::size_t last = foreign.rfind(place);
+        foreign.insert(last, "\"neu" + std::to_string(++keys) + "\": {\"a\": [1.5, \"ü\"]}, ");
+    }
+    const Lesung lesung = read(foreign);
+    ASSERT_TRUE(lesung.dokument) << lesung.fehler.text();
+    const std::string written = schreibe(*lesung.dokument);
+    for (int key = 1; key <= keys; ++key)
+        EXPECT_THAT(written, testing::HasSubstr("\"neu" + std::to_string(key) + "\": {"));
+    EXPECT_EQ(schreibe(*read(written).dokument), written);
+}
+
+TEST_F(DokumentdateiTest, TellsDifferencesToTheTableForKeepingOrTakingOver)
+{
+    const std::string text = schreibe(dokument);
+    const auto alloy = [](const Dokument& read) { return *read.eingabe.legierung(); };
+    const Legierung before = alloy(dokument);
+    elements.Item("Cu")->setDichte_Fluessig(8.5F);
+    elements.Item("Cu")->setValenz(2);
+    const Lesung lesung = read(text);
+    ASSERT_TRUE(lesung.dokument);
+    EXPECT_THAT(differences(lesung),
+        testing::ElementsAre("Zeile 1: Valenz (z_Cu+1) von Al: 2 in der Datei, 3 hier",
+            "Zeile 2: Dichte (flüssig) von Cu: 7,997 in der Datei, 8,5 hier",
+            "Zeile 2: Valenz (Standard) von Cu: 1 in der Datei, 2 hier",
+            "Variante \"Probe 1\", Zeile 1: Valenz (z_Cu+1) von Al: 2 in der Datei, 3 hier",
+            "Variante \"Probe 1\", Zeile 2: Dichte (flüssig) von Cu: 7,997 in der Datei, 8,5 hier",
+            "Variante \"Probe 1\", Zeile 2: Valenz (Standard) von Cu: 1 in der Datei, 2 hier"));
+
+    const auto values = [&](const Dokument& read) {
+        std::vector<float> found;
+        for (const Eingabe& eingabe : {read.eingabe, read.vergleich->varianten.front().eingabe}) {
+            for (const Legierungskomponente& komponente : eingabe.legierung()->komponenten())
+                found.insert(found.end(), {komponente.dichte, komponente.valenz});
+        }
+        return found;
+    };
+    const float al = before.komponenten().front().dichte;
+    Dokument kept = *lesung.dokument;
+    behalteDateiwerte(kept, lesung.unterschiede, elements);
+    EXPECT_THAT(values(kept), testing::ElementsAre(al, 2, 7.997F, 1, al, 2, 7.997F, 1));
+    EXPECT_EQ(kept.eingabe.zeile(1).dichtewahl, AndereWahl);
+    EXPECT_TRUE(read(schreibe(kept)).unterschiede.empty());
+
+    Dokument taken = *lesung.dokument;
+    uebernehmeTabelle(taken, lesung.unterschiede, elements);
+    EXPECT_THAT(values(taken), testing::ElementsAre(al, 3, 8.5F, 2, al, 3, 8.5F, 2));
+    EXPECT_EQ(taken.eingabe.zeile(1).dichtewahl, "flüssig");
+    EXPECT_TRUE(read(schreibe(taken)).unterschiede.empty());
+}
+
+TEST_F(DokumentdateiTest, TellsOfElementsAndChoicesThatTheTableLacks)
+{
+    const Lesung lesung = read(with("\"element\": \"Cu\"", "\"element\": \"Qx\""));
+    ASSERT_TRUE(lesung.dokument);
+    EXPECT_EQ(lesung.nurLesen, "Die Elementtabelle kennt nicht: Qx. Die Zeilen damit sind leer.");
+    EXPECT_EQ(lesung.dokument->eingabe.zeile(1).element, nullptr);
+    EXPECT_EQ(lesung.dokument->eingabe.zeile(1).prozent.text, "50");
+
+    Lesung lacking = read(with("\"wahl\": \"flüssig\"", "\"wahl\": \"amorph\""));
+    ASSERT_EQ(lacking.unterschiede.size(), 1U);
+    uebernehmeTabelle(*lacking.dokument, lacking.unterschiede, elements);
+    EXPECT_EQ(*lacking.dokument, dokument);
+}
+
+} // namespace
+} // namespace zerna

@@ -1,0 +1,120 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <random>
+#include <string>
+
+#include "core/Zahlentext.h"
+#include "model/Dokument.h"
+
+namespace zerna {
+
+/// Makes documents as users could, and some that nobody would: each seed the same ones on every machine.
+class Zufallsdokument {
+public:
+    Zufallsdokument(const ElementCollection& elements, unsigned seed)
+        : m_elements(elements)
+        , m_random(seed)
+    {
+    }
+
+    Dokument naechstes()
+    {
+        Dokument dokument(m_elements);
+        dokument.titel = text();
+        dokument.bemerkung = text() + "\r\n" + text();
+        dokument.eingabe = eingabe();
+        dokument.wiegen.gewuenscht = text();
+        for (std::string& gewogen : dokument.wiegen.gewogen)
+            gewogen = text();
+        dokument.wiegen.verlust = text();
+        if (below(3) == 0)
+            dokument.wiegen.bezug = Wiegebezug{below(MaxKomponenten), single()};
+        dokument.diagramm = {static_cast<Diagrammtyp>(below(3)), below(11), below(MaxKomponenten), 1 + below(10),
+            {real(-90, 90), real(-180, 180), real(0.5, 3), below(2) == 0}};
+        dokument.vergleich = vergleich();
+        if (below(4) == 0)
+            dokument.fremd = R"({"diagramm":{"farbe":"grün"},"neu":[1,null,{"a":-2.5}]})";
+        return dokument;
+    }
+
+    Eingabe eingabe()
+    {
+        Eingabe eingabe(m_elements);
+        for (int steps = below(20); steps > 0; --steps)
+            change(eingabe, below(MaxKomponenten));
+        return eingabe;
+    }
+
+    /// One edit of a row.
+    void change(Eingabe& eingabe, int zeile)
+    {
+        switch (below(8)) {
+        case 0:
+            eingabe.setAnzahl(1 + below(MaxKomponenten));
+            break;
+        case 1:
+            eingabe.waehleElement(zeile, element().symbol());
+            break;
+        case 2:
+            eingabe.setProzent(zeile, text());
+            break;
+        case 3:
+            eingabe.setProzentOhneAusgleich(zeile, text());
+            break;
+        case 4:
+            eingabe.nachschlagen(zeile);
+            break;
+        case 5:
+            eingabe.waehleDichteart(dichtearten().at(static_cast<std::size_t>(below(3))));
+            break;
+        case 6:
+            eingabe.waehleDichte(zeile, AndereWahl);
+            if (eingabe.zeile(zeile).element)
+                eingabe.setDichte(zeile, text());
+            break;
+        default:
+            eingabe.waehleValenz(zeile, ValenzAndere);
+            if (eingabe.zeile(zeile).element)
+                eingabe.setValenz(zeile, text());
+        }
+    }
+
+    int below(int count) { return static_cast<int>(m_random() % static_cast<unsigned>(count)); }
+
+private:
+    const clsElement& element() { return *m_elements.Item(1 + below(m_elements.Count())); }
+
+    double real(double least, double most)
+    {
+        return least + (most - least) * static_cast<double>(m_random()) / 0xFFFFFFFF;
+    }
+
+    float single() { return static_cast<float>(real(-1, 1) * std::array{1e-9, 0.1, 7.0, 1e3, 2.5e20}.at(pick(5))); }
+
+    std::string text()
+    {
+        static const std::array<std::string, 16> Texte{"", "0", "-0", "33.30", " 12,5 ", "1e39", "3/2", "z_Cu+1",
+            "hex(7)", "sqrt(2", "<unbekannt>", "Größe \"2 kF\" \\ 😀", std::string("\0\x7F\n", 3), "&H10", "foo(1)",
+            "1,,5"};
+        return below(2) == 0 ? textOfSingle(single()) : Texte.at(pick(Texte.size()));
+    }
+
+    std::size_t pick(std::size_t count) { return m_random() % count; }
+
+    std::shared_ptr<const Vergleich> vergleich()
+    {
+        auto vergleich = std::make_shared<Vergleich>();
+        const int count = below(200) == 0 ? static_cast<int>(MaxVarianten) : below(3);
+        for (int i = 0; i < count; ++i)
+            vergleich->varianten.push_back({text(), eingabe(), below(4) == 0 ? R"({"note":{"x":"€"}})" : ""});
+        vergleich->referenz = count == 0 ? 0 : static_cast<std::size_t>(below(count));
+        return vergleich;
+    }
+
+    const ElementCollection& m_elements;
+    std::mt19937 m_random;
+};
+
+} // namespace zerna
