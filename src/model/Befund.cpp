@@ -26,28 +26,35 @@ std::string summentext(const Eingabe& eingabe)
     double sum = 0;
     for (int i = 0; i < eingabe.anzahl() - 1; ++i)
         sum += eingabe.zeile(i).prozent.wert;
-    return "Ohne die letzte Komponente ergeben sie zusammen " + textWithDigits(sum, 7) + " at%.";
+    return "Ohne die letzte Komponente ergeben sie zusammen " + textWithDigits(sum, 7) + " "
+        + std::string(einheitenname(eingabe.quelle())) + ".";
 }
 
 void addProzent(std::vector<Befund>& alle, const Eingabe& eingabe, int zeile)
 {
-    const Eingabefeld& prozent = eingabe.prozentInKraft(zeile);
+    const Eingabefeld& anteil = eingabe.anteilInKraft(zeile);
+    const std::string einheit(einheitenname(eingabe.quelle()));
     const auto add = [&](Schwere schwere, std::string text) {
         alle.push_back({zeile, Eingabeort::Prozent, schwere, std::move(text)});
     };
     const auto isFaulty = [&](int i) { return eingabe.zeile(i).prozent.fehler.has_value(); };
-    if (prozent.fehler)
-        return add(Schwere::Fehler, fehltext("at%", prozent));
-    if (eingabe.zeile(zeile).prozent.text != prozent.text)
-        return add(Schwere::Bedenken, "Hier steht der Rest auf 100 at%; was eingetippt wird, zählt nicht.");
+    if (anteil.fehler)
+        return add(Schwere::Fehler, fehltext(einheit, anteil));
+    if (eingabe.zeile(zeile).prozent.text != anteil.text)
+        return add(Schwere::Bedenken, "Hier steht der Rest auf 100 " + einheit + "; was eingetippt wird, zählt nicht.");
     for (int i = 0; i < eingabe.anzahl() - 1; ++i) {
         if (isFaulty(i))
-            return; // the rest belongs to other at%
+            return; // the rest belongs to other parts
     }
-    if (prozent.wert < 0)
-        add(Schwere::Bedenken, "Weniger als 0 at%. " + summentext(eingabe));
-    else if (prozent.wert > 100)
-        add(Schwere::Bedenken, "Mehr als 100 at%. " + summentext(eingabe));
+    if (const auto& fehler = eingabe.prozentInKraft(zeile).fehler) {
+        if (!fehler->abhilfe.empty())
+            add(Schwere::Fehler, fehler->text());
+        return;
+    }
+    if (anteil.wert < 0)
+        add(Schwere::Bedenken, "Weniger als 0 " + einheit + ". " + summentext(eingabe));
+    else if (anteil.wert > 100)
+        add(Schwere::Bedenken, "Mehr als 100 " + einheit + ". " + summentext(eingabe));
 }
 
 void addDichte(std::vector<Befund>& alle, const Eingabe::Zeile& row, int zeile)
@@ -109,18 +116,20 @@ std::optional<Befund> mittelbefund(const Eingabe& eingabe, const clsCalc& calc)
 {
     const float valenz = wert(ergebniszeile(Valenzzeile), calc);
     const float teilchen = wert(ergebniszeile(Teilchenzeile), calc);
+    const std::string anteile(einheitenname(eingabe.einheit()));
     if (istUnbekannt(valenz))
         return Befund{.text = "Die Legierung lässt sich mit diesen Werten nicht berechnen."};
     if (istUnbekannt(teilchen))
-        return Befund{.ort = Eingabeort::Prozent, .text = "Zusammen haben die Komponenten kein Volumen. at% ändern."};
+        return Befund{
+            .ort = Eingabeort::Prozent, .text = "Zusammen haben die Komponenten kein Volumen. " + anteile + " ändern."};
     if (teilchen <= 0)
         return Befund{.ort = Eingabeort::Prozent,
-            .text = "Die mittlere Teilchenzahldichte ist nicht positiv (" + textOfSingle(teilchen)
-                + " 1/nm³). at% oder Dichten ändern."};
+            .text = "Die mittlere Teilchenzahldichte ist nicht positiv (" + textOfSingle(teilchen) + " 1/nm³). "
+                + anteile + " oder Dichten ändern."};
     if (const float dichte = wert(ergebniszeile(Dichtezeile), calc); dichte <= 0)
         return Befund{.ort = Eingabeort::Prozent,
-            .text =
-                "Die mittlere Dichte ist nicht positiv (" + textOfSingle(dichte) + " g/cm³). at% oder Dichten ändern."};
+            .text = "Die mittlere Dichte ist nicht positiv (" + textOfSingle(dichte) + " g/cm³). " + anteile
+                + " oder Dichten ändern."};
     if (valenz > 0)
         return std::nullopt;
     return Befund{.zeile = firstWithoutElectrons(eingabe),

@@ -108,6 +108,7 @@ Aenderung Eingabe::setAnzahl(int anzahl)
 {
     if (anzahl < 1 || anzahl > MaxKomponenten)
         throw Laufzeitfehler(Fehler::IndexAusserhalb);
+    adoptShown(false);
     m_anzahl = anzahl;
     balance();
     return {.anzahl = true, .anteil = true};
@@ -118,29 +119,88 @@ Aenderung Eingabe::waehleElement(int zeile, std::string_view key)
     auto element = m_elements->find(key);
     if (!element)
         return {};
+    adoptShown(false);
     at(zeile).element = std::move(element);
+    convert();
     waehleDichte(zeile, dichteauswahl(*at(zeile).element).front());
     waehleValenz(zeile, ValenzStandard);
-    return {.element = true, .dichte = true, .valenz = true};
+    return {.element = true, .anteil = m_quelle == Anteilseinheit::Masse, .dichte = true, .valenz = true};
 }
 
 Aenderung Eingabe::setProzent(int zeile, std::string_view text)
 {
+    const bool isAdopted = adoptShown(true);
     readZahl(at(zeile).prozent, text);
-    return {.anteil = !istAusgleich(zeile) && balance()};
+    const bool isBalanced = !istAusgleich(zeile) && balance();
+    return {.anteil = isBalanced || isAdopted};
 }
 
 void Eingabe::setProzentOhneAusgleich(int zeile, std::string_view text)
 {
+    adoptShown(true);
     readZahl(at(zeile).prozent, text);
     if (istAusgleich(zeile))
         m_rest = at(zeile).prozent;
+    convert();
 }
 
 void Eingabe::gleicheAus() { balance(); }
 
-/// False, and nothing written, if a row above the last one is empty or no number.
+/// Makes the parts that are shown the typed ones, `always` or only if there are any; the rows behind the last one keep
+/// their numbers. False if they are the typed ones already.
+bool Eingabe::adoptShown(bool always)
+{
+    if (m_einheit == m_quelle)
+        return false;
+    const std::vector<Eingabefeld> shown = converted(m_einheit);
+    if (shown.front().fehler && !always)
+        return false;
+    for (std::size_t i = 0; i < shown.size(); ++i)
+        m_zeilen.at(i).prozent = zahlenfeld(shown[i].text);
+    m_rest = zahlenfeld(shown.back().text);
+    m_quelle = m_einheit;
+    balance();
+    return true;
+}
+
+std::vector<Eingabefeld> Eingabe::anteile(Anteilseinheit einheit) const
+{
+    if (einheit != m_quelle)
+        return converted(einheit);
+    std::vector<Eingabefeld> typed;
+    for (const Zeile& row : zeilen())
+        typed.push_back(row.prozent);
+    return typed;
+}
+
+/// The parts that count in the unit that they were not typed in.
+std::vector<Eingabefeld> Eingabe::converted(Anteilseinheit einheit) const
+{
+    std::vector<Anteilsangabe> angaben;
+    for (int i = 0; i < m_anzahl; ++i)
+        angaben.push_back({&anteilInKraft(i), zeile(i).element.get()});
+    return umgerechnet(angaben, einheit);
+}
+
+/// Works out the at% that mass % come to.
+void Eingabe::convert()
+{
+    if (m_quelle == Anteilseinheit::Masse)
+        m_atomprozente = converted(Anteilseinheit::Atom);
+    else
+        m_atomprozente.clear();
+}
+
+/// False if there is no rest.
 bool Eingabe::balance()
+{
+    const bool isBalanced = writeRest();
+    convert();
+    return isBalanced;
+}
+
+/// False, and nothing written, if a row above the last one is empty or no number.
+bool Eingabe::writeRest()
 {
     std::array<float, MaxKomponenten> prozente{};
     const auto above = std::span(prozente).first(static_cast<std::size_t>(m_anzahl) - 1);

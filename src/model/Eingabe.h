@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/ElementCollection.h"
+#include "model/Anteilseinheit.h"
 #include "model/Eingabefeld.h"
 #include "model/Komponentenzeile.h"
 #include "model/Komposition.h"
@@ -37,8 +38,13 @@ struct Hindernis {
 /// The entered alloy as a value: one to five rows of element, at%, density and valence, each text read once when it is
 /// entered. The rows behind the last one keep what they hold. Operations take rows 0 to 4 and say what they changed.
 ///
-/// The last row in use is the balance row: it takes what is missing to 100 at%, and entering its own at% changes
-/// nothing that is computed. Rows of the same element share one density and one valence.
+/// The last row in use is the balance row: it takes what is missing to 100 %, and entering its own part changes nothing
+/// that is computed. Rows of the same element share one density and one valence.
+///
+/// Parts are typed in einheit(), at% at first. Another unit shows the same parts converted and changes none of them:
+/// they keep their texts in quelle(), the unit they were typed in, until one is edited (or a row comes, goes or takes
+/// another element). Only then those shown become the typed ones. So going to the other unit and back never drifts, and
+/// what is to be kept are both units and the texts of the rows; what is in the other unit follows.
 class Eingabe {
 public:
     /// Density (g/cm³) and valence in force for an element: those of the last texts that had a value.
@@ -52,7 +58,7 @@ public:
 
     struct Zeile {
         std::shared_ptr<clsElement> element; ///< null until one is chosen
-        Eingabefeld prozent; ///< at%
+        Eingabefeld prozent; ///< its part as it was typed, in quelle()
         std::string dichtewahl; ///< one of dichteauswahl(), empty without an element
         Eingabefeld dichte; ///< g/cm³
         int valenzwahl = ValenzStandard; ///< code of the valence choice
@@ -78,13 +84,16 @@ public:
     /// Chooses an element by its key, with its first density and its standard valence. Nothing for an unknown key.
     Aenderung waehleElement(int zeile, std::string_view key);
 
-    /// Enters an at%. Nothing changes while one of the rows above the balance row is empty or no number.
+    /// Has the parts typed in that unit from now on. Nothing that is computed changes.
+    void setEinheit(Anteilseinheit einheit) { m_einheit = einheit; }
+
+    /// Enters a part in einheit(). Nothing changes while one of the rows above the balance row is empty or no number.
     Aenderung setProzent(int zeile, std::string_view text);
 
-    /// Takes an at% as it is given, the balance row's too.
+    /// Takes a part in einheit() as it is given, the balance row's too.
     void setProzentOhneAusgleich(int zeile, std::string_view text);
 
-    /// Writes the balance row's at% again, over what was entered there.
+    /// Writes the balance row's part again, over what was entered there.
     void gleicheAus();
 
     /// Chooses one of dichteauswahl(); "<andere>" begins at 0. Nothing for a row without an element.
@@ -118,12 +127,25 @@ public:
     const Zeile& zeile(int zeile) const { return m_zeilen.at(static_cast<std::size_t>(zeile)); }
     bool istAusgleich(int zeile) const { return zeile == m_anzahl - 1; }
 
-    /// The at% that is computed with: what stands in the row, but the rest for the balance row, whatever is entered
+    Anteilseinheit einheit() const { return m_einheit; }
+    Anteilseinheit quelle() const { return m_quelle; }
+
+    /// The part in quelle() that counts: what stands in the row, but the rest for the balance row, whatever is entered
     /// there.
-    const Eingabefeld& prozentInKraft(int zeile) const
+    const Eingabefeld& anteilInKraft(int zeile) const
     {
         return istAusgleich(zeile) ? m_rest : this->zeile(zeile).prozent;
     }
+
+    /// The at% that is computed with; a fault while there is none.
+    const Eingabefeld& prozentInKraft(int zeile) const
+    {
+        const auto i = static_cast<std::size_t>(zeile);
+        return i < m_atomprozente.size() ? m_atomprozente[i] : anteilInKraft(zeile);
+    }
+
+    /// What the rows in use show in a unit: what was typed in it, or the parts converted.
+    std::vector<Eingabefeld> anteile(Anteilseinheit einheit) const;
 
     /// Whether all rows in use have an element and a readable at%.
     bool istVollstaendig() const;
@@ -146,7 +168,11 @@ public:
 private:
     std::span<const Zeile> zeilen() const { return std::span(m_zeilen).first(static_cast<std::size_t>(m_anzahl)); }
     Zeile& at(int zeile) { return m_zeilen.at(static_cast<std::size_t>(zeile)); }
+    std::vector<Eingabefeld> converted(Anteilseinheit einheit) const;
+    bool adoptShown(bool always);
+    void convert();
     bool balance();
+    bool writeRest();
     void writeDichte(int zeile, Eingabefeld feld);
     void writeValenz(int zeile, Eingabefeld feld);
     void mirror(int zeile);
@@ -154,7 +180,10 @@ private:
     const ElementCollection* m_elements;
     int m_anzahl = 1;
     std::array<Zeile, MaxKomponenten> m_zeilen;
-    Eingabefeld m_rest; // the balance row's at%, which what is entered there does not change
+    Eingabefeld m_rest; // the balance row's part, which what is entered there does not change
+    Anteilseinheit m_einheit = Anteilseinheit::Atom;
+    Anteilseinheit m_quelle = Anteilseinheit::Atom;
+    std::vector<Eingabefeld> m_atomprozente; // of the rows in use, while mass % were typed
     std::shared_ptr<clsElement> m_current; // maybe null
 };
 
