@@ -56,6 +56,7 @@ void Komponenten::define(CLI::App& befehl)
             "SYMBOL=ATPROZENT[:dichte=ZAHL|amorph|fluessig|kristallin][:valenz=s|p|d|f|TEXT], eine bis fünf")
         ->required()
         ->option_text("KOMPONENTE ...");
+    befehl.add_flag("--massenprozent", massenprozent, "ATPROZENT sind Massenprozent");
 }
 
 void Ausgabe::define(CLI::App& befehl)

@@ -5,12 +5,17 @@
 #include <string>
 #include <vector>
 
+#include "model/Anteilseinheit.h"
+
 namespace zerna {
 
 /// Options that several commands have. Numbers are read by the program's own rules, so they are kept as texts.
 struct Komponenten {
     void define(CLI::App& befehl);
+    Anteilseinheit einheit() const { return massenprozent ? Anteilseinheit::Masse : Anteilseinheit::Atom; }
+
     std::vector<std::string> texte;
+    bool massenprozent = false;
 };
 
 struct Ausgabe {

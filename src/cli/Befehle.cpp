@@ -59,7 +59,7 @@ struct Groessenliste {
 
     void run(Umgebung& umgebung) const
     {
-        umgebung.loadAlloy(komponenten.texte);
+        umgebung.loadAlloy(komponenten.texte, komponenten.einheit());
         umgebung.nenneBefund();
         Rechenkern& kern = umgebung.kern();
         const Tabelle tabelle =
@@ -82,7 +82,7 @@ struct Text {
 
     void run(Umgebung& umgebung) const
     {
-        umgebung.loadAlloy(komponenten.texte);
+        umgebung.loadAlloy(komponenten.texte, komponenten.einheit());
         umgebung.nenneBefund();
         const clsCalc& calc = umgebung.kern().calc();
         const std::vector<Komponentenzeile> zeilen = umgebung.kern().eingabe().komponentenzeilen();
@@ -121,7 +121,7 @@ struct Konzentration {
         const int step = schritt.wert();
         if (step < 1 || step > 100)
             throw Aufruffehler("--schritt " + std::to_string(step) + ": erwartet wird 1 bis 100");
-        umgebung.loadAlloy(komponenten.texte);
+        umgebung.loadAlloy(komponenten.texte, komponenten.einheit());
         const auto alloy = umgebung.kern().komponenten();
         const std::size_t variable = indexOfVariable(umgebung.kern().elements(), alloy);
         const int index = static_cast<int>(variable);
@@ -193,7 +193,7 @@ struct Ternaer {
         if (komponenten.texte.size() != 3)
             throw Aufruffehler("Ein ternäres Diagramm hat drei Komponenten, angegeben sind "
                 + std::to_string(komponenten.texte.size()));
-        umgebung.loadAlloy(komponenten.texte);
+        umgebung.loadAlloy(komponenten.texte, komponenten.einheit());
         put(ternaerdatei(ternaergitter(umgebung.kern().calc(), umgebung.kern().komponenten(), kennzahl, resolution)),
             ausgabe.datei);
     }
@@ -220,7 +220,7 @@ struct Wiegen {
             throw Aufruffehler("--masse " + gekuerzt(masse) + ": keine gültige Zahl");
         if (gesamt.wert <= 0)
             throw Aufruffehler("--masse " + gekuerzt(masse) + ": erwartet wird eine Zahl größer als 0");
-        umgebung.loadAlloy(komponenten.texte);
+        umgebung.loadAlloy(komponenten.texte, komponenten.einheit());
         const clsCalc& calc = umgebung.kern().calc();
         const int anzahl = umgebung.kern().eingabe().anzahl();
         if (const auto hindernis = sollmassenHindernis(calc, anzahl)) {
@@ -246,7 +246,7 @@ struct Friedel {
 
     void run(Umgebung& umgebung) const
     {
-        umgebung.loadAlloy(komponenten.texte);
+        umgebung.loadAlloy(komponenten.texte, komponenten.einheit());
         const std::string datei = friedeldatei(umgebung.kern().calc());
         if (datei.empty()) {
             umgebung.nenneBefund();

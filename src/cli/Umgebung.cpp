@@ -48,13 +48,13 @@ void Umgebung::load()
         m_kern.loadBuiltIn();
 }
 
-void Umgebung::loadAlloy(std::span<const std::string> komponenten)
+void Umgebung::loadAlloy(std::span<const std::string> komponenten, Anteilseinheit einheit)
 {
     std::vector<Komponentenangabe> angaben;
     for (const std::string& text : komponenten)
-        angaben.push_back(komponentenangabe(text));
+        angaben.push_back(komponentenangabe(text, einheit));
     load();
-    m_kern.setAlloy(angaben);
+    m_kern.setAlloy(angaben, einheit);
 }
 
 void Umgebung::nenneBefund()

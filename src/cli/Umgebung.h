@@ -26,9 +26,9 @@ public:
     /// Datenfehler.
     void load();
 
-    /// Reads the elements and makes the alloy of these component texts the calculator's. Throws Aufruffehler or
-    /// Datenfehler.
-    void loadAlloy(std::span<const std::string> komponenten);
+    /// Reads the elements and makes the alloy of these component texts, their parts in that unit, the calculator's.
+    /// Throws Aufruffehler or Datenfehler.
+    void loadAlloy(std::span<const std::string> komponenten, Anteilseinheit einheit);
 
     /// Says on standard error what makes the results of the alloy doubtful.
     void nenneBefund();

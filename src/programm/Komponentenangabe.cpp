@@ -128,7 +128,10 @@ std::string valenzgrund(const Eingabefeld& valenz)
     return valenz.fehler ? "Valenz " + zitiert(valenz.text) + ": " + valenz.fehler->text() : std::string();
 }
 
-std::string prozentgrund(std::string_view prozent) { return "at% " + zitiert(prozent) + " ist keine gültige Zahl"; }
+std::string prozentgrund(std::string_view prozent, Anteilseinheit einheit)
+{
+    return std::string(einheitenname(einheit)) + " " + zitiert(prozent) + " ist keine gültige Zahl";
+}
 
 std::string komponentengrund(std::string_view text, std::string_view grund)
 {

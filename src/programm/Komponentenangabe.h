@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "core/ElementCollection.h"
+#include "model/Anteilseinheit.h"
 #include "model/Eingabefeld.h"
 #include "model/Legierung.h"
 
@@ -40,7 +41,7 @@ std::string liesWahl(const ElementCollection& elements, const Komponentenangabe&
 Eingabefeld valenzfeld(const ElementCollection& elements, const Komponentenangabe& angabe, const Komponentenwahl& wahl);
 std::string valenzgrund(const Eingabefeld& valenz);
 
-std::string prozentgrund(std::string_view prozent);
+std::string prozentgrund(std::string_view prozent, Anteilseinheit einheit = Anteilseinheit::Atom);
 
 /// A reason with the component in front that it is about.
 std::string komponentengrund(std::string_view text, std::string_view grund);

@@ -33,12 +33,12 @@ void require(std::string_view text, const std::string& grund)
 
 } // namespace
 
-Komponentenangabe komponentenangabe(std::string_view text)
+Komponentenangabe komponentenangabe(std::string_view text, Anteilseinheit einheit)
 {
     Komponentenangabe angabe;
     require<Aufruffehler>(text, liesAngabe(text, angabe));
     if (float prozent = 0; !readSingle(angabe.prozent, prozent))
-        require<Aufruffehler>(text, prozentgrund(angabe.prozent));
+        require<Aufruffehler>(text, prozentgrund(angabe.prozent, einheit));
     return angabe;
 }
 
@@ -82,15 +82,17 @@ void Rechenkern::load(int number, const std::string& name)
         throw Datenfehler("Datei " + zitiert(name, Dateinamenlaenge) + " enthält keine Elemente");
 }
 
-void Rechenkern::setAlloy(std::span<const Komponentenangabe> angaben)
+void Rechenkern::setAlloy(std::span<const Komponentenangabe> angaben, Anteilseinheit einheit)
 {
     require<Aufruffehler>(anzahlgrund(angaben.size()));
     m_eingabe = Eingabe(m_elements);
     m_eingabe.setAnzahl(static_cast<int>(angaben.size()));
     for (int zeile = 0; const Komponentenangabe& angabe : angaben)
         enterElement(zeile++, angabe);
+    m_eingabe.setEinheit(einheit);
     for (int zeile = 0; const Komponentenangabe& angabe : angaben)
         m_eingabe.setProzentOhneAusgleich(zeile++, textOfSingle(singleFromText(angabe.prozent)));
+    checkAnteile(angaben);
     m_legierung = m_eingabe.legierung().value();
     m_eingabe.elementeSetzen();
     m_komponentenzahl = m_eingabe.anzahl();
@@ -100,6 +102,16 @@ void Rechenkern::setAlloy(std::span<const Komponentenangabe> angaben)
     std::vector<std::string_view> texte;
     std::ranges::transform(angaben, std::back_inserter(texte), &Komponentenangabe::text);
     throw Datenfehler(rechengrund(komponenten(), texte));
+}
+
+/// Throws for mass % that come to no at%.
+void Rechenkern::checkAnteile(std::span<const Komponentenangabe> angaben) const
+{
+    for (int zeile = 0; const Komponentenangabe& angabe : angaben) {
+        const auto& fehler = m_eingabe.prozentInKraft(zeile++).fehler;
+        if (fehler && !fehler->abhilfe.empty())
+            require<Datenfehler>(angabe.text, fehler->grund);
+    }
 }
 
 void Rechenkern::enterElement(int zeile, const Komponentenangabe& angabe)

@@ -26,8 +26,8 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// Takes a component text apart; its at% are a number. Throws Aufruffehler.
-Komponentenangabe komponentenangabe(std::string_view text);
+/// Takes a component text apart, its part, in that unit, is a number. Throws Aufruffehler.
+Komponentenangabe komponentenangabe(std::string_view text, Anteilseinheit einheit = Anteilseinheit::Atom);
 
 /// Element data, parser and calculator without any window, settings or files of their own.
 class Rechenkern {
@@ -41,9 +41,9 @@ public:
     /// Replaces the elements by the built-in table.
     void loadBuiltIn();
 
-    /// Makes the alloy of one to five components the calculator's. At% are taken as given, the last one too. Throws
-    /// Aufruffehler or Datenfehler.
-    void setAlloy(std::span<const Komponentenangabe> angaben);
+    /// Makes the alloy of one to five components, their parts in that unit, the calculator's. They are taken as given,
+    /// the last one too. Throws Aufruffehler or Datenfehler.
+    void setAlloy(std::span<const Komponentenangabe> angaben, Anteilseinheit einheit = Anteilseinheit::Atom);
 
     /// The alloy of the last setAlloy as it was entered, and as numbers.
     const Eingabe& eingabe() const { return m_eingabe; }
@@ -62,6 +62,7 @@ private:
     };
 
     void load(int number, const std::string& name);
+    void checkAnteile(std::span<const Komponentenangabe> angaben) const;
     void enterElement(int zeile, const Komponentenangabe& angabe);
     void enterDichte(int zeile, const Komponentenangabe& angabe);
     void enterValenz(int zeile, const Komponentenangabe& angabe);
