@@ -19,12 +19,14 @@ void pruefe(const Vergleich& vergleich, std::size_t position)
         throw Laufzeitfehler(Fehler::IndexAusserhalb);
 }
 
-/// "Al60Cu40".
+/// "Al60Cu40"; what has no share is left out.
 std::string formel(const Eingabe& eingabe)
 {
     std::string text;
-    for (const Komponentenzeile& k : eingabe.komponentenzeilen())
-        text += k.symbol + (eingabe.anzahl() == 1 ? std::string() : k.prozent);
+    for (const Komponentenzeile& k : eingabe.komponentenzeilen()) {
+        if (k.prozent != "0")
+            text += k.symbol + (k.prozent == "100" ? std::string() : k.prozent);
+    }
     return text;
 }
 

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRegularExpression>
+#include <QTableView>
 
 #include <iterator>
 #include <map>
@@ -90,11 +91,12 @@ inline std::string textContent(const QString& text)
     return '\n' + indented(text);
 }
 
-/// Of a bitmap the pixels.
+/// Of a bitmap the pixels; a text is UTF-8 if it begins with a byte order mark.
 inline std::string fileContent(const std::string& name, const std::string& bytes)
 {
     if (!name.ends_with(".bmp"))
-        return textContent(QString::fromStdString(fromWindows1252(bytes)));
+        return textContent(
+            QString::fromStdString(bytes.starts_with("\xEF\xBB\xBF") ? bytes.substr(3) : fromWindows1252(bytes)));
     const QImage image = QImage::fromData(QByteArray::fromStdString(bytes)).convertToFormat(QImage::Format_RGB32);
     const QByteArray pixels(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes());
     return ": " + sizeText(image) + ' ' + checksum(pixels) + '\n';
@@ -147,6 +149,10 @@ inline Anblick lookAt(QWidget& widget)
         seen.isPale = value != nullptr && value->istBlass();
     } else if (const auto* const button = qobject_cast<QAbstractButton*>(&widget)) {
         seen.text = button->accessibleName().toStdString() + (button->isChecked() ? " (checked)" : "");
+    } else if (const auto* const table = qobject_cast<QTableView*>(&widget)) {
+        for (int i = 0; i < table->model()->columnCount(); ++i)
+            entries += oneLine(table->model()->headerData(i, Qt::Horizontal).toString()).c_str();
+        seen.text = table->currentIndex().data(Qt::AccessibleTextRole).toString().toStdString();
     } else if (const auto* const lines = qobject_cast<QListWidget*>(&widget)) {
         for (int i = 0; i < lines->count(); ++i)
             entries += lines->item(i)->text();

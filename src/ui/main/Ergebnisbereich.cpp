@@ -81,7 +81,10 @@ void Ergebnisbereich::createButtons()
     m_cmdKopieren = new StyledButton(QStringLiteral("&Kopieren"), this);
     m_cmdKopieren->setObjectName(QStringLiteral("cmdMFE_Kopieren"));
     m_cmdKopieren->setToolTipText(QStringLiteral("Alle Ergebnisse als Text in die Zwischenablage"));
-    m_tabellenknopf = new Tabellenknopf(m_programm.settings(), this);
+    m_tabellenknopf = new Tabellenknopf(m_programm.settings(), QStringLiteral("MFE"),
+        QStringLiteral(
+            "Alle Ergebnisse mit ganzen Zahlen und den Werten des Lehrbuchs für Tabellen- und Textprogramme"),
+        this);
     connect(m_tabellenknopf, &Tabellenknopf::copyRequested, this, &Ergebnisbereich::copyTable);
     m_cmdSpeichern = new StyledButton(QStringLiteral("&Speichern"), this);
     m_cmdSpeichern->setObjectName(QStringLiteral("cmdMFE_Speichern"));

@@ -6,6 +6,7 @@
 #include "ui/main/Diagrammbereich.h"
 #include "ui/main/Ergebnisbereich.h"
 #include "ui/main/Kompositionsbereich.h"
+#include "ui/main/Vergleichsbereich.h"
 #include "ui/main/frmAbout.h"
 #include "ui/main/frmMain.h"
 #include "ui/weighing/conWiegen.h"
@@ -20,6 +21,7 @@ void frmMain::fillMenu()
     m_conWiegen1->addBefehle(*m_menue);
     m_diagramm->addBefehle(*m_menue);
     m_komposition->addBefehle(*m_menue);
+    m_vergleich->addBefehle(*m_menue);
     addAnsichten();
     m_menue->add(Drucken,
         {.text = {},
@@ -46,7 +48,7 @@ void frmMain::addAnsichten()
 {
     using enum Menue::Abschnitt;
     for (const auto& [text, name, panel] : {std::tuple(QStringLiteral("&Rechner"), "mnuPanel_0", 0),
-             {QStringLiteral("&Periodensystem"), "mnuPanel_1", 1}}) {
+             {QStringLiteral("&Periodensystem"), "mnuPanel_1", 1}, {QStringLiteral("&Vergleich"), "mnuPanel_2", 2}}) {
         m_menue->add(Bereiche,
             {.text = text,
                 .name = name,

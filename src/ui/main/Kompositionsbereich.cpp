@@ -174,6 +174,14 @@ void Kompositionsbereich::enterProzent(int row, int prozent)
 
 void Kompositionsbereich::stepAnzahl(int step) { setAnzahl(naechsteKomponentenzahl(eingabe().anzahl(), step)); }
 
+void Kompositionsbereich::setEingabe(const zerna::Eingabe& eingabe)
+{
+    const bool anzahl = eingabe.anzahl() != this->eingabe().anzahl();
+    this->eingabe() = eingabe;
+    zeige();
+    emit geaendert({.anzahl = anzahl, .element = true, .anteil = true, .dichte = true, .valenz = true});
+}
+
 void Kompositionsbereich::setAnzahl(int count)
 {
     // Intended: one less than the number of rows is stored, see restoreCount.

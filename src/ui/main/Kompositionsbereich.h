@@ -46,6 +46,9 @@ public:
     /// Shows so many rows, 1 to 5.
     void setAnzahl(int count);
 
+    /// Shows another alloy and works on with it.
+    void setEingabe(const zerna::Eingabe& eingabe);
+
     /// Enters an at% as if it had been typed.
     void enterProzent(int row, int prozent);
 

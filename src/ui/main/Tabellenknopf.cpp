@@ -16,20 +16,19 @@ constexpr std::string_view Komma = "Komma";
 
 } // namespace
 
-Tabellenknopf::Tabellenknopf(Settings& settings, QWidget* parent)
+Tabellenknopf::Tabellenknopf(Settings& settings, const QString& table, const QString& hint, QWidget* parent)
     : QWidget(parent)
     , m_settings(settings)
     , m_cmdTabelle(new StyledButton(QStringLiteral("&Tabelle kopieren"), this))
     , m_cmdTrenner(new StyledButton(QStringLiteral("▾"), this))
 {
-    m_cmdTabelle->setObjectName(QStringLiteral("cmdMFE_Tabelle"));
-    m_cmdTabelle->setToolTipText(QStringLiteral(
-        "Alle Ergebnisse mit ganzen Zahlen und den Werten des Lehrbuchs für Tabellen- und Textprogramme"));
+    m_cmdTabelle->setObjectName(QStringLiteral("cmd%1_Tabelle").arg(table));
+    m_cmdTabelle->setToolTipText(hint);
     connect(m_cmdTabelle, &StyledButton::clicked, this, [this] { emit copyRequested(trenner()); });
-    m_cmdTrenner->setObjectName(QStringLiteral("cmdMFE_Trenner"));
+    m_cmdTrenner->setObjectName(QStringLiteral("cmd%1_Trenner").arg(table));
     m_cmdTrenner->setAccessibleName(QStringLiteral("Dezimaltrenner der Tabelle"));
     m_cmdTrenner->setToolTipText(QStringLiteral("Dezimalkomma oder Dezimalpunkt wählen"));
-    createMenu();
+    createMenu(table);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(2);
@@ -42,12 +41,14 @@ Tabellenknopf::Tabellenknopf(Settings& settings, QWidget* parent)
 
 std::vector<QWidget*> Tabellenknopf::tabOrder() const { return {m_cmdTabelle, m_cmdTrenner}; }
 
-void Tabellenknopf::createMenu()
+void Tabellenknopf::createMenu(const QString& table)
 {
     auto* const menu = new QMenu(this);
     auto* const choices = new QActionGroup(menu);
-    m_choices = {addChoice(QStringLiteral("Mit Dezimalkomma kopieren (1,5)"), "mnuKomma", Dezimaltrenner::Komma),
-        addChoice(QStringLiteral("Mit Dezimalpunkt kopieren (1.5)"), "mnuPunkt", Dezimaltrenner::Punkt)};
+    m_choices = {addChoice(QStringLiteral("Mit Dezimalkomma kopieren (1,5)"), QStringLiteral("mnu%1_Komma").arg(table),
+                     Dezimaltrenner::Komma),
+        addChoice(QStringLiteral("Mit Dezimalpunkt kopieren (1.5)"), QStringLiteral("mnu%1_Punkt").arg(table),
+            Dezimaltrenner::Punkt)};
     for (QAction* const choice : m_choices)
         choices->addAction(choice);
     menu->addActions(m_choices);
@@ -55,12 +56,14 @@ void Tabellenknopf::createMenu()
         [this, menu] { menu->popup(m_cmdTrenner->mapToGlobal(m_cmdTrenner->rect().bottomLeft())); });
 }
 
-QAction* Tabellenknopf::addChoice(const QString& caption, const char* name, Dezimaltrenner trenner)
+QAction* Tabellenknopf::addChoice(const QString& caption, const QString& name, Dezimaltrenner trenner)
 {
     auto* const action = new QAction(caption, this);
-    action->setObjectName(QLatin1String(name));
+    action->setObjectName(name);
     action->setCheckable(true);
-    action->setChecked(trenner == this->trenner());
+    const auto showChoice = [this, action, trenner] { action->setChecked(trenner == this->trenner()); };
+    showChoice();
+    connect(m_cmdTrenner, &StyledButton::clicked, action, showChoice); // which may have been made elsewhere
     connect(action, &QAction::triggered, this, [this, trenner] {
         m_settings.SaveSetting(Schluessel, trenner == Dezimaltrenner::Punkt ? Punkt : Komma);
         emit copyRequested(trenner);

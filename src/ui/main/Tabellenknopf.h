@@ -20,7 +20,8 @@ class Tabellenknopf : public QWidget {
     Q_OBJECT
 
 public:
-    explicit Tabellenknopf(Settings& settings, QWidget* parent = nullptr);
+    /// What it consists of is named after the table: "MFE" makes "cmdMFE_Tabelle" and "mnuMFE_Komma".
+    Tabellenknopf(Settings& settings, const QString& table, const QString& hint, QWidget* parent = nullptr);
 
     /// What takes the keyboard focus, in this order.
     std::vector<QWidget*> tabOrder() const;
@@ -28,13 +29,15 @@ public:
     /// The entries of the menu.
     const QList<QAction*>& choices() const { return m_choices; }
 
+    /// With which decimal separator numbers are copied.
+    Dezimaltrenner trenner() const;
+
 signals:
     void copyRequested(Dezimaltrenner trenner);
 
 private:
-    void createMenu();
-    QAction* addChoice(const QString& caption, const char* name, Dezimaltrenner trenner);
-    Dezimaltrenner trenner() const;
+    void createMenu(const QString& table);
+    QAction* addChoice(const QString& caption, const QString& name, Dezimaltrenner trenner);
 
     Settings& m_settings;
     StyledButton* m_cmdTabelle = nullptr;

@@ -10,8 +10,10 @@
 #include <QVBoxLayout>
 
 #include <initializer_list>
+#include <span>
 
 #include "ui/controls/Knopfzeile.h"
+#include "ui/controls/Kurzmeldung.h"
 #include "ui/controls/Menue.h"
 #include "ui/controls/Radsperre.h"
 #include "ui/main/Diagrammbereich.h"
@@ -19,6 +21,7 @@
 #include "ui/main/Fensterplatz.h"
 #include "ui/main/Kompositionsbereich.h"
 #include "ui/main/PSEbereich.h"
+#include "ui/main/Vergleichsbereich.h"
 #include "ui/platform/QtText.h"
 #include "ui/weighing/conWiegen.h"
 
@@ -57,11 +60,11 @@ QScrollArea* scrolling(QWidget* panel)
     return area;
 }
 
-/// Shows which of two switches is on.
-void checkOnly(const std::array<StyledButton*, 2>& switches, int on)
+/// Shows which of the switches is on.
+void checkOnly(std::span<StyledButton* const> switches, int on)
 {
-    for (int i = 0; i < 2; ++i)
-        switches.at(static_cast<std::size_t>(i))->setChecked(i == on);
+    for (int i = 0; i < std::ssize(switches); ++i)
+        switches[static_cast<std::size_t>(i)]->setChecked(i == on);
 }
 
 } // namespace
@@ -87,7 +90,8 @@ frmMain::frmMain(Programm& programm, Dialoge dialoge)
 /// The focus leaves a field while the window goes, and what that tells reaches nobody any more.
 frmMain::~frmMain()
 {
-    for (QObject* const panel : std::initializer_list<QObject*>{m_komposition, m_ergebnisse, m_diagramm, m_pse})
+    for (QObject* const panel :
+        std::initializer_list<QObject*>{m_komposition, m_ergebnisse, m_diagramm, m_pse, m_vergleich})
         panel->disconnect(this);
 }
 
@@ -105,11 +109,15 @@ void frmMain::createControls()
     m_menue->setObjectName(QStringLiteral("mnuMain"));
     m_optButton1[0] = makeSwitch(this, QStringLiteral("&Rechner"), QStringLiteral("optButton_1_0"));
     m_optButton1[1] = makeSwitch(this, QStringLiteral("&Periodensystem"), QStringLiteral("optButton_1_1"));
+    m_optButton1[2] = makeSwitch(this, QStringLiteral("&Vergleich"), QStringLiteral("optButton_1_2"));
     m_cmdAbout = new StyledButton(QStringLiteral("&Info"), this);
     m_cmdAbout->setObjectName(QStringLiteral("cmdAbout"));
     m_cmdAbout->setToolTipText(QStringLiteral("Über dieses Programm"));
     setKnopfgroesse(m_optButton1[0], 120);
     setKnopfgroesse(m_optButton1[1], 150);
+    setKnopfgroesse(m_optButton1[2], 120);
+    m_meldung = new Kurzmeldung(this);
+    m_meldung->setObjectName(QStringLiteral("lblMeldung"));
     setKnopfgroesse(m_cmdAbout, 90);
     m_pic1 = new QWidget;
     m_pic1->setObjectName(QStringLiteral("Pic_1_0"));
@@ -130,6 +138,8 @@ void frmMain::createCalculatorPanel(Dialoge dialoge)
     m_lowerArea->addWidget(m_ergebnisse);
     m_lowerArea->addWidget(m_conWiegen1);
     m_diagramm = new Diagrammbereich(m_programm, dialoge, m_pic1);
+    m_vergleich = new Vergleichsbereich(m_programm, dialoge);
+    m_vergleich->setObjectName(QStringLiteral("Pic_1_2"));
     layOutCalculator();
 }
 
@@ -167,14 +177,16 @@ void frmMain::layOut()
     auto* row = new QHBoxLayout(strip);
     row->setContentsMargins(8, 6, 8, 6);
     row->setSpacing(4);
-    row->addWidget(m_optButton1[0]);
-    row->addWidget(m_optButton1[1]);
-    row->addStretch();
+    for (StyledButton* const button : m_optButton1)
+        row->addWidget(button);
+    row->addSpacing(12);
+    row->addWidget(m_meldung, 1);
     row->addWidget(m_cmdAbout);
     row->addStrut(PanelTop - 12);
     m_panels = new QStackedWidget(this);
     m_panels->addWidget(scrolling(m_pic1));
     m_panels->addWidget(scrolling(m_pse));
+    m_panels->addWidget(scrolling(m_vergleich));
     m_panels->setContentsMargins(PanelLeft, 0, 0, 0);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -186,11 +198,10 @@ void frmMain::layOut()
 
 void frmMain::connectPanels()
 {
-    for (int i = 0; i < 2; ++i) {
-        const auto k = static_cast<std::size_t>(i);
-        connect(m_optButton1.at(k), &StyledButton::clicked, this, [this, i] { showPanel(i); });
-        connect(m_cmdKnopf1.at(k), &StyledButton::clicked, this, [this, i] { showLowerArea(i); });
-    }
+    for (std::size_t i = 0; i < m_optButton1.size(); ++i)
+        connect(m_optButton1.at(i), &StyledButton::clicked, this, [this, i] { showPanel(static_cast<int>(i)); });
+    for (std::size_t i = 0; i < m_cmdKnopf1.size(); ++i)
+        connect(m_cmdKnopf1.at(i), &StyledButton::clicked, this, [this, i] { showLowerArea(static_cast<int>(i)); });
     connect(m_cmdAbout, &StyledButton::clicked, this, &frmMain::showAbout);
     connect(m_komposition, &Kompositionsbereich::geaendert, this, &frmMain::uebernehmen);
     connect(m_komposition, &Kompositionsbereich::befundGeaendert, this,
@@ -203,6 +214,8 @@ void frmMain::connectPanels()
         m_diagramm->selectTernary();
     });
     connect(m_diagramm, &Diagrammbereich::prozentStepped, m_komposition, &Kompositionsbereich::enterProzent);
+    connect(m_vergleich, &Vergleichsbereich::gemeldet, m_meldung, &Kurzmeldung::zeige);
+    connect(m_vergleich, &Vergleichsbereich::ladenRequested, this, &frmMain::lade);
 }
 
 void frmMain::ComboElementListIndex(int index, int listIndex) { m_komposition->chooseElement(index, listIndex); }
@@ -240,6 +253,16 @@ void frmMain::uebernehmen(const Aenderung& aenderung)
     }
     m_ergebnisse->zeigeLage(m_programm.Eingabe());
     m_diagramm->zeige(m_programm.Eingabe(), aenderung);
+    m_meldung->zeige({});
+}
+
+/// Puts a kept alloy in place of the entered one.
+void frmMain::lade(const QString& name, const zerna::Eingabe& eingabe)
+{
+    m_komposition->setEingabe(eingabe);
+    showPanel(0);
+    m_komposition->focusFirstField();
+    m_meldung->zeige(QStringLiteral("✓  „%1“ geladen").arg(name));
 }
 
 void frmMain::sperren(std::string_view grund)
@@ -278,6 +301,8 @@ void frmMain::showPanel(int panel)
     m_panels->setCurrentIndex(panel);
     if (panel == 1)
         m_pse->layOut();
+    if (panel == 2)
+        m_vergleich->setFocus();
 }
 
 void frmMain::showLowerArea(int area)

@@ -14,14 +14,16 @@ namespace zerna {
 class Diagrammbereich;
 class Ergebnisbereich;
 class Kompositionsbereich;
+class Kurzmeldung;
 class Menue;
 class PSEbereich;
 class StyledButton;
+class Vergleichsbereich;
 class conWiegen;
 
-/// The main window: a strip with the panel switches, and below it the calculator panel or the periodic table. It ties
-/// the panels together: an edit of the composition is handed to the calculator here, and then to the panels that show
-/// it.
+/// The main window: a strip with the panel switches, and below it the calculator panel, the periodic table or the kept
+/// alloys. It ties the panels together: an edit of the composition is handed to the calculator here, and then to the
+/// panels that show it.
 class frmMain : public QWidget, public Hauptfenster {
     Q_OBJECT
 
@@ -56,18 +58,21 @@ private:
     void layOut();
     void layOutCalculator();
     void uebernehmen(const Aenderung& aenderung);
+    void lade(const QString& name, const zerna::Eingabe& eingabe);
     void showPanel(int panel);
     void showLowerArea(int area);
 
     Programm& m_programm;
     Menue* m_menue = nullptr;
-    std::array<StyledButton*, 2> m_optButton1{};
+    std::array<StyledButton*, 3> m_optButton1{};
+    Kurzmeldung* m_meldung = nullptr; // beside the switches
     StyledButton* m_cmdAbout = nullptr;
     QWidget* m_pic1 = nullptr; // the calculator panel
     QWidget* m_left = nullptr; // its left column
     QStackedWidget* m_lowerArea = nullptr; // of the left column: results or weighing
     QStackedWidget* m_panels = nullptr;
     PSEbereich* m_pse = nullptr; // the second panel
+    Vergleichsbereich* m_vergleich = nullptr; // the third panel
     Kompositionsbereich* m_komposition = nullptr;
     std::array<StyledButton*, 2> m_cmdKnopf1{};
     Ergebnisbereich* m_ergebnisse = nullptr;

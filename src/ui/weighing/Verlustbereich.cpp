@@ -20,7 +20,7 @@ Verlustbereich::Verlustbereich(QWidget* parent)
     , m_txtVerlust(new Massenfeld(QStringLiteral("txtVerlust"), this))
     , m_lstVerlust(new QListWidget(this))
 {
-    auto* const caption = new QLabel(QStringLiteral("Masse&verlust [mg]:"), this);
+    auto* const caption = new QLabel(QStringLiteral("Masseverlus&t [mg]:"), this);
     caption->setBuddy(m_txtVerlust);
     m_txtVerlust->setAccessibleName(QStringLiteral("Masseverlust in Milligramm"));
     m_lstVerlust->setObjectName(QStringLiteral("lstVerlust"));

@@ -18,7 +18,7 @@ TEST_F(ErgebnisbereichTest, ATableForSpreadsheetsAndWordProcessors)
     openAluminiumCopper();
     click("cmdMFE_Tabelle");
     EXPECT_NE(clipboard().find("\t1,487537E-16\tN/m²\t148,75371\tGPa"), std::string::npos);
-    find<QAction>("mnuPunkt").trigger();
+    find<QAction>("mnuMFE_Punkt").trigger();
     click("cmdMFE_Tabelle");
     EXPECT_NE(clipboard().find("\t1.487537E-16\tN/m²\t148.75371\tGPa"), std::string::npos) << "remembered";
     QTextDocument document;

@@ -43,7 +43,7 @@ TEST_F(FensterbefehleTest, MenusDoWhatTheButtonsDo)
 {
     openAluminiumCopper();
     for (const auto& [button, entry] : {std::pair("cmdMFE_Kopieren", "mnuMFE_Kopieren"),
-             {"cmdWiegen_Kopieren", "mnuWiegen_Kopieren"}, {"cmdMFE_Tabelle", "mnuKomma"}}) {
+             {"cmdWiegen_Kopieren", "mnuWiegen_Kopieren"}, {"cmdMFE_Tabelle", "mnuMFE_Komma"}}) {
         find<QAbstractButton>(button).click();
         const std::string copied = clipboard();
         QApplication::clipboard()->clear();

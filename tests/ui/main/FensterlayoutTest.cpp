@@ -62,9 +62,11 @@ TEST_F(FensterlayoutTest, NothingIsCutOffOrOverlaps)
         font.setPointSize(points);
         QApplication::setFont(font);
         open();
+        QTest::keyClick(window.get(), Qt::Key_D, Qt::ControlModifier);
         for (const QSize size : {QSize(1, 1), QSize(700, 500), QSize(1024, 700), QSize(1280, 800), QSize(2560, 1600)}) {
             window->resize(size);
-            for (const char* const view : {"cmdKnopf1_0", "cmdKnopf1_1", "optButton_1_1", "optButton_1_0"}) {
+            for (const char* const view :
+                {"cmdKnopf1_0", "cmdKnopf1_1", "optButton_1_1", "optButton_1_2", "optButton_1_0"}) {
                 SCOPED_TRACE(testing::Message() << points << " pt, " << size.width() << " px, " << view);
                 click(view);
                 QCoreApplication::processEvents();

@@ -24,7 +24,7 @@ struct frmMainTest : FakeDesk {
     {
         settings["Komponenten"] = "4";
         open();
-        for (const char* const areaSwitch : {"cmdKnopf1_0", "cmdKnopf1_1", "optButton_1_1"}) {
+        for (const char* const areaSwitch : {"cmdKnopf1_0", "cmdKnopf1_1", "optButton_1_1", "optButton_1_2"}) {
             SCOPED_TRACE(areaSwitch);
             click(areaSwitch);
             check();
@@ -138,13 +138,13 @@ TEST_F(frmMainTest, SwitchesShowOnePanelAndOneArea)
     open();
     const auto shown = [this] {
         std::string names;
-        for (const char* const name : {"Pic_1_0", "Pic_1_1", "lblMFE_7", "conWiegen1"})
+        for (const char* const name : {"Pic_1_0", "Pic_1_1", "Pic_1_2", "lblMFE_7", "conWiegen1"})
             names += find(name).isVisible() ? std::string(name) + ' ' : "";
         return names;
     };
     EXPECT_EQ(shown(), "Pic_1_0 lblMFE_7 ");
     for (const auto& [key, names] : {std::pair(Qt::Key_W, "Pic_1_0 conWiegen1 "), {Qt::Key_P, "Pic_1_1 "},
-             {Qt::Key_R, "Pic_1_0 conWiegen1 "}, {Qt::Key_E, "Pic_1_0 lblMFE_7 "}}) {
+             {Qt::Key_V, "Pic_1_2 "}, {Qt::Key_R, "Pic_1_0 conWiegen1 "}, {Qt::Key_E, "Pic_1_0 lblMFE_7 "}}) {
         QTest::keyClick(window.get(), key, Qt::AltModifier);
         EXPECT_TRUE(QTest::qWaitFor([&, expected = names] { return shown() == expected; })) << shown();
     }

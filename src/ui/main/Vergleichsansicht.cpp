@@ -1,0 +1,147 @@
+#include "ui/main/Vergleichsansicht.h"
+
+#include <QHeaderView>
+#include <QSignalBlocker>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+
+#include "ui/main/Vergleichsmodell.h"
+#include "ui/platform/Farben.h"
+#include "ui/platform/QtText.h"
+#include "ui/platform/Schriftfolge.h"
+
+namespace zerna {
+
+namespace {
+
+constexpr int Zellrand = 8; // beside the text of a cell
+
+/// Tints the reference and sets what was entered off against what was computed.
+class Vergleichszelle : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const bool isResult = index.data(Vergleichsmodell::ErgebnisRolle).toBool();
+        QColor ground = option->palette.color(isResult ? QPalette::Base : QPalette::AlternateBase);
+        if (index.data(Vergleichsmodell::ReferenzRolle).toBool())
+            ground = gemischt(ground, option->palette.color(QPalette::Active, QPalette::Highlight), ReferenceTint);
+        option->backgroundBrush = ground;
+        option->text += QChar(0x2002); // keeps numbers off the line
+    }
+
+private:
+    static constexpr double ReferenceTint = 0.16;
+};
+
+} // namespace
+
+Vergleichsansicht::Vergleichsansicht(Vergleichsmodell& modell, QWidget* parent)
+    : QTableView(parent)
+    , m_modell(modell)
+{
+    setModel(&modell);
+    setItemDelegate(new Vergleichszelle(this));
+    setAccessibleName(QStringLiteral("Gemerkte Legierungen"));
+    setSelectionMode(ContiguousSelection);
+    setTabKeyNavigation(false); // the key leaves the table
+    setWordWrap(false);
+    setCornerButtonEnabled(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(this, &QWidget::customContextMenuRequested, this,
+        [this](const QPoint& position) { emit menuRequested(viewport()->mapToGlobal(position)); });
+    connect(this, &QTableView::doubleClicked, this, &Vergleichsansicht::doppelklick);
+    createHeaders();
+}
+
+void Vergleichsansicht::createHeaders()
+{
+    QHeaderView* const alloys = horizontalHeader();
+    alloys->setSectionsMovable(true);
+    alloys->setSectionsClickable(true);
+    alloys->setHighlightSections(false);
+    alloys->setTextElideMode(Qt::ElideRight);
+    alloys->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(alloys, &QHeaderView::sectionPressed, this, [this](int column) { waehle(column); });
+    connect(alloys, &QHeaderView::sectionDoubleClicked, this, [this](int column) {
+        waehle(column);
+        emit doppelklick();
+    });
+    connect(alloys, &QHeaderView::sectionMoved, this, &Vergleichsansicht::moved, Qt::QueuedConnection);
+    connect(alloys, &QWidget::customContextMenuRequested, this, [this, alloys](const QPoint& position) {
+        if (const int column = alloys->logicalIndexAt(position); column >= 0) {
+            waehle(column);
+            emit menuRequested(alloys->viewport()->mapToGlobal(position));
+        }
+    });
+    QHeaderView* const lines = verticalHeader();
+    lines->setSectionsClickable(false);
+    lines->setHighlightSections(false);
+    lines->setSectionResizeMode(QHeaderView::Fixed);
+    folgeSchrift(this, [this, lines] {
+        constexpr int Spacing = 8;
+        lines->setDefaultSectionSize(fontMetrics().height() + Spacing);
+        passeBreitenAn();
+    });
+}
+
+void Vergleichsansicht::passeBreitenAn()
+{
+    QFont bold = font();
+    bold.setBold(true);
+    const QFontMetrics header(bold);
+    const int number = fontMetrics().horizontalAdvance(QStringLiteral("−8,8888·10⁻⁸⁸"));
+    for (int column = 0; column < m_modell.columnCount(); ++column) {
+        const int name = header.horizontalAdvance(toQt(m_modell.tabelle().name(static_cast<std::size_t>(column))));
+        setColumnWidth(column, std::min(std::max(number, name), 2 * number) + 2 * Zellrand);
+    }
+}
+
+void Vergleichsansicht::waehle(int legierung)
+{
+    const int row = std::clamp(m_zeile, 0, std::max(m_modell.rowCount() - 1, 0));
+    setCurrentIndex(m_modell.index(row, legierung));
+}
+
+/// The header has moved what it shows; the alloys themselves are moved instead.
+void Vergleichsansicht::moved(int logical, int from, int to)
+{
+    const QSignalBlocker blocker(horizontalHeader());
+    if (horizontalHeader()->visualIndex(logical) == to)
+        horizontalHeader()->moveSection(to, from);
+    emit verschoben(from, to);
+}
+
+void Vergleichsansicht::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QTableView::currentChanged(current, previous);
+    if (current.isValid())
+        m_zeile = current.row();
+    emit legierungGewaehlt();
+}
+
+QString Vergleichsansicht::auswahl(Dezimaltrenner trenner) const
+{
+    const QItemSelection selected = selectionModel()->selection();
+    if (selected.isEmpty())
+        return {};
+    const QItemSelectionRange cells = selected.first(); // there is but one
+    if (cells.width() == m_modell.columnCount() && cells.height() == m_modell.rowCount())
+        return {};
+    QString text;
+    for (int row = cells.top(); row <= cells.bottom(); ++row) {
+        for (int column = cells.left(); column <= cells.right(); ++column)
+            text += (column == cells.left() ? QString() : QStringLiteral("\t"))
+                + toQt(m_modell.tabelle().zahl(
+                    static_cast<std::size_t>(row), static_cast<std::size_t>(column), m_modell.art(), trenner));
+        text += row == cells.bottom() ? QString() : QStringLiteral("\r\n");
+    }
+    return text;
+}
+
+} // namespace zerna
