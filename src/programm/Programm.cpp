@@ -6,6 +6,7 @@
 #include "core/Elementdatei.h"
 #include "core/Exportdatei.h"
 #include "core/Kuerzung.h"
+#include "dokument/Dokumentdatei.h"
 #include "programm/EingebauteTabelle.h"
 
 namespace zerna {
@@ -159,6 +160,8 @@ void Programm::restoreElements(Hauptfenster& window)
         window.ComboElementListIndex(list, position);
     }
 }
+
+std::string Programm::dokumenttext() const { return schreibe(m_dokument); }
 
 bool Programm::uebernehmen()
 {

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <string>
 #include <utility>
 
 #include "core/ElementCollection.h"
@@ -68,6 +69,9 @@ public:
 
     /// All that is being worked on.
     zerna::Dokument& Dokument() { return m_dokument; }
+
+    /// The same as the text of a file.
+    std::string dokumenttext() const;
 
     /// The alloy as it is being entered.
     zerna::Eingabe& Eingabe() { return m_dokument.eingabe; }

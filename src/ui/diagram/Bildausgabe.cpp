@@ -11,6 +11,9 @@
 #include <algorithm>
 
 #include "core/Laufzeitfehler.h"
+#include "traeger/Png.h"
+#include "traeger/Svg.h"
+#include "ui/platform/Pdfanhang.h"
 
 namespace zerna {
 
@@ -36,7 +39,7 @@ std::string encoded(const QImage& image, const char* format)
     return bytes.toStdString();
 }
 
-std::string asSvg(const Bildmaler& maler, const Leinwand& leinwand)
+std::string asSvg(const Bildmaler& maler, const Leinwand& leinwand, const std::string& dokument)
 {
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -48,11 +51,11 @@ std::string asSvg(const Bildmaler& maler, const Leinwand& leinwand)
     QPainter painter(&generator);
     maler(painter, leinwand);
     painter.end();
-    return bytes.toStdString();
+    return svgMitDokument(bytes.toStdString(), dokument);
 }
 
 /// One page of the picture's own size, a logical pixel being 1/96 inch.
-std::string asPdf(const Bildmaler& maler, const Leinwand& leinwand)
+std::string asPdf(const Bildmaler& maler, const Leinwand& leinwand, const std::string& dokument)
 {
     constexpr int PixelsPerInch = 96;
     constexpr double PointsPerPixel = 72.0 / PixelsPerInch;
@@ -63,6 +66,7 @@ std::string asPdf(const Bildmaler& maler, const Leinwand& leinwand)
     writer.setResolution(PixelsPerInch);
     writer.setPageSize(QPageSize(QSizeF(leinwand.size) * PointsPerPixel, QPageSize::Point));
     writer.setPageMargins(QMarginsF(0, 0, 0, 0));
+    haengeAn(writer, dokument);
     QPainter painter(&writer);
     maler(painter, leinwand);
     painter.end();
@@ -88,13 +92,16 @@ Exportart bitmap(const Bildmaler& maler, const Leinwand& leinwand)
     return {"Bitmap (*.bmp)", "", ".bmp", [=] { return encoded(imageOf(maler, leinwand), "BMP"); }, true};
 }
 
-std::vector<Exportart> bildarten(const Bildmaler& maler, const Leinwand& leinwand)
+std::vector<Exportart> bildarten(const Bildmaler& maler, const Leinwand& leinwand, const std::string& dokument)
 {
-    const auto png = [=] { return encoded(imageOf(maler, withRatio(leinwand, PngRatio)), "PNG"); };
+    const Leinwand vector = withRatio(leinwand, VectorRatio);
+    const auto png = [=] {
+        return pngMitDokument(encoded(imageOf(maler, withRatio(leinwand, PngRatio)), "PNG"), dokument);
+    };
     return {
         {"PNG-Bild (*.png)", "*.png", ".png", png},
-        {"SVG-Grafik (*.svg)", "*.svg", ".svg", [=] { return asSvg(maler, withRatio(leinwand, VectorRatio)); }},
-        {"PDF-Dokument (*.pdf)", "*.pdf", ".pdf", [=] { return asPdf(maler, withRatio(leinwand, VectorRatio)); }},
+        {"SVG-Grafik (*.svg)", "*.svg", ".svg", [=] { return asSvg(maler, vector, dokument); }},
+        {"PDF-Dokument (*.pdf)", "*.pdf", ".pdf", [=] { return asPdf(maler, vector, dokument); }},
     };
 }
 

@@ -77,7 +77,8 @@ void Diagrammflaeche::save()
 
 void Diagrammflaeche::savePicture()
 {
-    exportieren(m_programm.boxes(), m_dialoge.save, "Bild speichern", bildarten(m_diagramm->maler(), leinwand()));
+    exportieren(m_programm.boxes(), m_dialoge.save, "Bild speichern",
+        bildarten(m_diagramm->maler(), leinwand(), m_programm.dokumenttext()));
 }
 
 void Diagrammflaeche::print() { printPicture(this, m_diagramm->maler(), leinwand()); }

@@ -24,9 +24,9 @@ constexpr std::string_view NoPrinter =
 } // namespace
 
 Wiegeausgabe::Wiegeausgabe(
-    MessageBoxes& boxes, SaveFileDialog& saveDialog, std::function<Wiegeprotokoll()> protokoll, QWidget* parent)
+    Programm& programm, SaveFileDialog& saveDialog, std::function<Wiegeprotokoll()> protokoll, QWidget* parent)
     : QWidget(parent)
-    , m_boxes(boxes)
+    , m_programm(programm)
     , m_saveDialog(saveDialog)
     , m_protokoll(std::move(protokoll))
 {
@@ -66,11 +66,11 @@ void Wiegeausgabe::print()
 {
     const Wiegeprotokoll protokoll = m_protokoll();
     if (!istEineMasseBekannt(protokoll.zeilen))
-        m_boxes.show(Icon::Exclamation, Programmtitel, NothingWeighed);
+        m_programm.boxes().show(Icon::Exclamation, Programmtitel, NothingWeighed);
     else if (QPrinterInfo::availablePrinterNames().isEmpty())
-        m_boxes.show(Icon::Exclamation, Programmtitel, NoPrinter);
+        m_programm.boxes().show(Icon::Exclamation, Programmtitel, NoPrinter);
     else
-        druckeWiegezettel(window(), m_boxes, protokoll);
+        druckeWiegezettel(window(), m_programm.boxes(), protokoll);
 }
 
 void Wiegeausgabe::copy() { copyToClipboard(toQt(wiegeprotokoll(m_protokoll()))); }
@@ -79,11 +79,12 @@ void Wiegeausgabe::save()
 {
     const Wiegeprotokoll protokoll = m_protokoll();
     if (!istEineMasseBekannt(protokoll.zeilen))
-        return zeigeNichtsZuSpeichern(m_boxes, NothingWeighed);
+        return zeigeNichtsZuSpeichern(m_programm.boxes(), NothingWeighed);
     const std::array arten{
         textdatei("Wiegeprotokoll (*.dat)", "*.dat", ".dat", [&] { return wiegeprotokoll(protokoll); }),
-        Exportart{"Wiegezettel (*.pdf)", "*.pdf", ".pdf", [&] { return wiegezettelAlsPdf(protokoll); }}};
-    exportieren(m_boxes, m_saveDialog, Exporttitel, arten);
+        Exportart{"Wiegezettel (*.pdf)", "*.pdf", ".pdf",
+            [&] { return wiegezettelAlsPdf(protokoll, m_programm.dokumenttext()); }}};
+    exportieren(m_programm.boxes(), m_saveDialog, Exporttitel, arten);
 }
 
 } // namespace zerna

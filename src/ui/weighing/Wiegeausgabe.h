@@ -6,6 +6,7 @@
 
 #include "model/Wiegeprotokoll.h"
 #include "programm/ExportFileDialog.h"
+#include "programm/Programm.h"
 
 namespace zerna {
 
@@ -18,7 +19,7 @@ class Wiegeausgabe : public QWidget {
 
 public:
     /// `protokoll` is asked for the protocol when a button is pressed.
-    Wiegeausgabe(MessageBoxes& boxes, SaveFileDialog& saveDialog, std::function<Wiegeprotokoll()> protokoll,
+    Wiegeausgabe(Programm& programm, SaveFileDialog& saveDialog, std::function<Wiegeprotokoll()> protokoll,
         QWidget* parent = nullptr);
 
     void addBefehle(Menue& menue);
@@ -29,7 +30,7 @@ private:
     void copy();
     void save();
 
-    MessageBoxes& m_boxes;
+    Programm& m_programm;
     SaveFileDialog& m_saveDialog;
     std::function<Wiegeprotokoll()> m_protokoll;
 };

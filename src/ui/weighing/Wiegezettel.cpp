@@ -11,6 +11,7 @@
 
 #include <algorithm>
 
+#include "ui/platform/Pdfanhang.h"
 #include "ui/platform/QtText.h"
 
 namespace zerna {
@@ -99,7 +100,7 @@ QString wiegezettel(const Wiegeprotokoll& protokoll)
         + signature();
 }
 
-std::string wiegezettelAlsPdf(const Wiegeprotokoll& protokoll)
+std::string wiegezettelAlsPdf(const Wiegeprotokoll& protokoll, const std::string& dokument)
 {
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -108,6 +109,7 @@ std::string wiegezettelAlsPdf(const Wiegeprotokoll& protokoll)
     writer.setTitle(QStringLiteral("Wiegezettel"));
     writer.setPageSize(QPageSize(QPageSize::A4));
     writer.setPageMargins(Margins, QPageLayout::Millimeter);
+    haengeAn(writer, dokument);
     print(writer, protokoll);
     return bytes.toStdString();
 }

@@ -14,8 +14,8 @@ namespace zerna {
 /// The weighing protocol as a page to print: what is wanted and weighed, the loss list, lines for date and signature.
 QString wiegezettel(const Wiegeprotokoll& protokoll);
 
-/// The page as a PDF document.
-std::string wiegezettelAlsPdf(const Wiegeprotokoll& protokoll);
+/// The page as a PDF document that carries the document, the text of a file.
+std::string wiegezettelAlsPdf(const Wiegeprotokoll& protokoll, const std::string& dokument);
 
 /// Asks for a printer and prints the page; says so if that fails.
 void druckeWiegezettel(QWidget* parent, MessageBoxes& boxes, const Wiegeprotokoll& protokoll);

@@ -59,7 +59,7 @@ void conWiegen::createControls(SaveFileDialog& saveDialog)
     createRows();
     createAuskunft();
     m_ausgabe = new Wiegeausgabe(
-        m_programm.boxes(), saveDialog, [this] { return protokoll(); }, this);
+        m_programm, saveDialog, [this] { return protokoll(); }, this);
 }
 
 void conWiegen::createTarget()

@@ -4,18 +4,22 @@
 
 #include <gtest/gtest.h>
 
-#include "core/Laufzeitfehler.h"
+#include "dokument/Dokumentdatei.h"
+#include "support/RechnerTest.h"
+#include "support/Zufallsdokument.h"
+#include "traeger/Dokumentfund.h"
 
 namespace zerna {
 
 /// A picture that is red on its left half and remembers how finely it was asked for.
-struct BildausgabeTest : testing::Test {
+struct BildausgabeTest : RechnerTest {
     const Leinwand leinwand{{40, 20}, {}, 1};
     std::vector<double> ratios;
     const Bildmaler maler = [this](QPainter& painter, const Leinwand& canvas) {
         ratios.push_back(canvas.devicePixelRatio);
         painter.fillRect(QRect(0, 0, canvas.size.width() / 2, canvas.size.height()), Qt::red);
     };
+    const std::string dokument = "{}";
 };
 
 TEST_F(BildausgabeTest, ImagesHaveTheirPixelsAndVectorsFineSurfaces)
@@ -26,9 +30,9 @@ TEST_F(BildausgabeTest, ImagesHaveTheirPixelsAndVectorsFineSurfaces)
         const char* begin;
         double ratio;
     } rows[] = {
-        {"png", bildarten(maler, leinwand).at(0), "\x89PNG", 2},
-        {"svg", bildarten(maler, leinwand).at(1), "<?xml", 3},
-        {"pdf", bildarten(maler, leinwand).at(2), "%PDF", 3},
+        {"png", bildarten(maler, leinwand, dokument).at(0), "\x89PNG", 2},
+        {"svg", bildarten(maler, leinwand, dokument).at(1), "<?xml", 3},
+        {"pdf", bildarten(maler, leinwand, dokument).at(2), "%PDF", 3},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -41,6 +45,20 @@ TEST_F(BildausgabeTest, ImagesHaveTheirPixelsAndVectorsFineSurfaces)
     EXPECT_EQ(image.pixelColor(39, 10), QColor(Qt::red));
     EXPECT_EQ(image.pixelColor(40, 10), QColor(Qt::white));
     EXPECT_THROW(bitmap(maler, {{0, 20}, {}, 1}).bytes(), Laufzeitfehler) << "no pixels, no file";
+}
+
+TEST_F(BildausgabeTest, EveryPictureCarriesTheDocument)
+{
+    constexpr int Documents = 2000;
+    addElements();
+    Zufallsdokument zufall(elements, 3);
+    for (int i = 0; i < Documents; ++i) {
+        const std::string carried = schreibe(zufall.naechstes());
+        for (const Exportart& art : bildarten(maler, leinwand, carried)) {
+            SCOPED_TRACE(std::string(art.endung) + " " + std::to_string(i));
+            ASSERT_EQ(dokumentAus(*art.bytes()).dokument, carried);
+        }
+    }
 }
 
 } // namespace zerna
