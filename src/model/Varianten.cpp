@@ -19,14 +19,22 @@ void pruefe(const Vergleich& vergleich, std::size_t position)
         throw Laufzeitfehler(Fehler::IndexAusserhalb);
 }
 
-/// "Al60Cu40"; what has no share is left out.
+/// "Al60Cu40", or "Al96Cu4 Masse %" if that is what was typed; what has no part is left out.
 std::string formel(const Eingabe& eingabe)
 {
+    constexpr int Digits = 7; // of a single
     std::string text;
-    for (const Komponentenzeile& k : eingabe.komponentenzeilen()) {
-        if (k.prozent != "0")
-            text += k.symbol + (k.prozent == "100" ? std::string() : k.prozent);
+    for (int i = 0; i < eingabe.anzahl(); ++i) {
+        const auto& element = eingabe.zeile(i).element;
+        const Eingabefeld& anteil = eingabe.anteilInKraft(i);
+        if (!element || anteil.wert == 0)
+            continue;
+        text += element->symbol();
+        if (anteil.fehler || anteil.wert != 100)
+            text += anteil.fehler ? anteil.text : textWithDigits(anteil.wert, Digits);
     }
+    if (eingabe.quelle() == Anteilseinheit::Masse)
+        text.append(" ").append(einheitenname(eingabe.quelle()));
     return text;
 }
 

@@ -40,6 +40,15 @@ float prozent(float value, float reference)
     return toSingle(gerundet(percent, std::max(std::abs(percent), 100.0)));
 }
 
+float anteil(const Eingabefeld& feld) { return feld.fehler ? Unbekannt : feld.wert; }
+
+float summe(float a, float b)
+{
+    if (istUnbekannt(a) || istUnbekannt(b))
+        return Unbekannt;
+    return orUnbekannt([&] { return toSingle(geschrieben(a) + geschrieben(b)); });
+}
+
 std::string eingabeanzeige(float value) { return textWithDigits(value, Digits); }
 
 /// A result as it is shown without its unit, but 0 can be told from an unknown value.
@@ -65,24 +74,27 @@ void Vergleichstabelle::setze(const Vergleich& vergleich, const clsCalc& calc)
 
 Vergleichstabelle::Spalte Vergleichstabelle::berechnet(const Variante& variante, clsCalc& calc)
 {
-    Spalte spalte{{}, variante.eingabe, {}, {}};
-    for (int i = 0; i < variante.eingabe.anzahl(); ++i) {
-        const Eingabe::Zeile& row = variante.eingabe.zeile(i);
+    const Eingabe& eingabe = variante.eingabe;
+    Spalte spalte{{}, eingabe, {}, {}};
+    const std::vector<Eingabefeld> massen = eingabe.anteile(Anteilseinheit::Masse);
+    for (int i = 0; i < eingabe.anzahl(); ++i) {
+        const Eingabe::Zeile& row = eingabe.zeile(i);
         if (!row.element)
             continue;
-        const Eingabefeld& typed = variante.eingabe.prozentInKraft(i);
-        const Bestandteil next{
-            row.element->symbol(), typed.fehler ? Unbekannt : typed.wert, row.inKraft.dichte, row.inKraft.valenz};
-        const auto same = std::ranges::find(spalte.bestandteile, next.symbol, &Bestandteil::symbol);
-        if (same == spalte.bestandteile.end())
-            spalte.bestandteile.push_back(next);
-        else if (istUnbekannt(same->prozent) || istUnbekannt(next.prozent))
-            same->prozent = Unbekannt;
-        else
-            same->prozent =
-                orUnbekannt([&] { return toSingle(geschrieben(same->prozent) + geschrieben(next.prozent)); });
+        const float atome = anteil(eingabe.prozentInKraft(i));
+        const float masse = anteil(eingabe.istAusgleich(i) && eingabe.quelle() == Anteilseinheit::Masse
+                ? eingabe.anteilInKraft(i)
+                : massen.at(static_cast<std::size_t>(i)));
+        const auto same = std::ranges::find(spalte.bestandteile, row.element->symbol(), &Bestandteil::symbol);
+        if (same == spalte.bestandteile.end()) {
+            spalte.bestandteile.push_back(
+                {row.element->symbol(), atome, masse, row.inKraft.dichte, row.inKraft.valenz});
+        } else {
+            same->atome = summe(same->atome, atome);
+            same->masse = summe(same->masse, masse);
+        }
     }
-    const bool isComputed = berechne(variante.eingabe, calc).empty();
+    const bool isComputed = berechne(eingabe, calc).empty();
     for (const Groesse& groesse : ergebniszeilen())
         spalte.ergebnisse.push_back(isComputed ? zerna::wert(groesse, calc) : Unbekannt);
     return spalte;
@@ -112,11 +124,12 @@ void Vergleichstabelle::ordneZeilen()
     };
     if (m_spalten.empty())
         return;
-    addEntered("Anteil", "at%", &Bestandteil::prozent, 0);
+    addEntered("Anteil", "at%", &Bestandteil::atome, 0);
     for (const Groesse& groesse : ergebniszeilen())
         m_zeilen.push_back({std::string(groesse.bezeichnung()), std::string(groesse.einheit), true});
     for (Spalte& spalte : m_spalten)
         spalte.werte.insert(spalte.werte.end(), spalte.ergebnisse.begin(), spalte.ergebnisse.end());
+    addEntered("Massenanteil", "Masse %", &Bestandteil::masse, 0);
     addEntered("Dichte", "g/cm³", &Bestandteil::dichte, Unbekannt);
     addEntered("Valenz", "e/a", &Bestandteil::valenz, Unbekannt);
 }

@@ -16,8 +16,8 @@ namespace zerna {
 enum class Vergleichsart { Wert, Differenz, Prozent };
 
 /// The kept alloys side by side: a column for each, a line for each quantity. First the at% of all elements that occur
-/// in one of them, then the results in their order, then densities and valences of the elements. An alloy is computed
-/// when it comes; an alloy that cannot be computed has no results.
+/// in one of them, then the results in their order, then mass %, densities and valences of the elements. An alloy is
+/// computed when it comes; an alloy that cannot be computed has no results.
 class Vergleichstabelle {
 public:
     struct Zeile {
@@ -57,7 +57,8 @@ public:
 private:
     struct Bestandteil {
         std::string symbol;
-        float prozent = 0; // at%
+        float atome = 0; // at%
+        float masse = 0; // mass %
         float dichte = 0; // g/cm³
         float valenz = 0;
     };

@@ -33,6 +33,17 @@ TEST_F(VariantenTest, AreNamedAfterTheirCompositionUnlikeEachOther)
     eingabe.setAnzahl(1);
     merken(vergleich, eingabe);
     EXPECT_EQ(namen(vergleich), "Al60Cu40* Al33,3Cu66,7 Al60Cu40 (2) Al60Cu40 (3) Al");
+    eingabe.setAnzahl(3);
+    eingabe.waehleElement(2, "Mg");
+    eingabe.setProzent(0, "95");
+    eingabe.setProzent(1, "5,0");
+    eingabe.setEinheit(Anteilseinheit::Masse);
+    merken(vergleich, eingabe);
+    EXPECT_EQ(vergleich.varianten.back().name, "Al95Cu5") << "only shown in mass %";
+    eingabe.setProzent(0, "95");
+    eingabe.setProzent(1, "5,0");
+    merken(vergleich, eingabe);
+    EXPECT_EQ(vergleich.varianten.back().name, "Al95Cu5 Masse %");
     EXPECT_EQ(vergleich.varianten[1].eingabe.zeile(0).prozent.text, "33,3") << "a later change has reached it";
 
     struct Row {

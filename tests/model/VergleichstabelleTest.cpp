@@ -56,6 +56,9 @@ TEST_F(VergleichstabelleTest, ShowsValuesAndHowTheyDifferFromTheReference)
              {"Hall - Koeffizient", "−5,0001·10⁻¹¹ / −4,3519·10⁻¹¹ /  | -5,0000646E-11 / -4,3519056E-11 / ",
                  "−5,0001·10⁻¹¹ / +6,4816·10⁻¹² /  | -5,0000646E-11 / 6,48159E-12 / ",
                  "−5,0001·10⁻¹¹ / −12,963 % /  | -5,0000646E-11 / -12,963 / "},
+             {"Massenanteil Al", "29,80479 / 56,08641 / 76,95464 | 29,804787 / 56,08641 / 76,95464",
+                 "29,80479 / +26,28162 / +47,14985 | 29,804787 / 26,28162 / 47,14985",
+                 "29,80479 / +88,179 % / +158,2 % | 29,804787 / 88,1792 / 158,1956"},
              {"Dichte Al", "2,377 / 2,377 / 2,377 | 2,377 / 2,377 / 2,377", "2,377 / 0 / 0 | 2,377 / 0 / 0",
                  "2,377 / 0 % / 0 % | 2,377 / 0 / 0"},
              {"Valenz Cu", "1 / 1 /  | 1 / 1 / ", "1 / 0 /  | 1 / 0 / ", "1 / 0 % /  | 1 / 0 / "},
@@ -73,12 +76,14 @@ TEST_F(VergleichstabelleTest, HasALineForEachQuantityAndElement)
     std::string lines;
     for (const Vergleichstabelle::Zeile& line : tabelle.zeilen())
         lines += line.name + (line.istErgebnis ? "*" : "") + '|';
-    EXPECT_EQ(tabelle.zeilen().size(), 3 + 18 + 2 * 3);
+    EXPECT_EQ(tabelle.zeilen().size(), 3 + 18 + 3 * 3);
     EXPECT_EQ(lines.substr(0, 53), "Anteil Al|Anteil Cu|Anteil Mg|mittlere Valenz*|mittle");
-    EXPECT_NE(lines.find("Kompressionsmodul*|Dichte Al|Dichte Cu|Dichte Mg|Valenz Al|"), std::string::npos);
+    EXPECT_NE(lines.find("Kompressionsmodul*|Massenanteil Al|Massenanteil Cu|Massenanteil Mg|Dichte Al|Dichte "
+                         "Cu|Dichte Mg|Valenz Al|"),
+        std::string::npos);
     vergleich.varianten.pop_back();
     tabelle.setze(vergleich, calc);
-    EXPECT_EQ(tabelle.zeilen().size(), 2 + 18 + 2 * 2);
+    EXPECT_EQ(tabelle.zeilen().size(), 2 + 18 + 3 * 2);
     tabelle.setze({}, calc);
     EXPECT_TRUE(tabelle.zeilen().empty());
 }

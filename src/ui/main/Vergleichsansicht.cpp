@@ -15,7 +15,20 @@ namespace zerna {
 
 namespace {
 
-constexpr int Zellrand = 8; // beside the text of a cell
+constexpr QChar Abstand = u'\u2007'; // keeps texts off the line at their right, at the end of any line
+
+/// The alloys' names, which end where their numbers do.
+class Legierungsnamen : public QHeaderView {
+public:
+    using QHeaderView::QHeaderView;
+
+protected:
+    void initStyleOptionForIndex(QStyleOptionHeader* option, int column) const override
+    {
+        QHeaderView::initStyleOptionForIndex(option, column);
+        option->text.replace(QLatin1Char('\n'), Abstand + QStringLiteral("\n")).append(Abstand);
+    }
+};
 
 /// Tints the reference and sets what was entered off against what was computed.
 class Vergleichszelle : public QStyledItemDelegate {
@@ -31,7 +44,7 @@ protected:
         if (index.data(Vergleichsmodell::ReferenzRolle).toBool())
             ground = gemischt(ground, option->palette.color(QPalette::Active, QPalette::Highlight), ReferenceTint);
         option->backgroundBrush = ground;
-        option->text += QChar(0x2002); // keeps numbers off the line
+        option->text += Abstand;
     }
 
 private:
@@ -61,7 +74,8 @@ Vergleichsansicht::Vergleichsansicht(Vergleichsmodell& modell, QWidget* parent)
 
 void Vergleichsansicht::createHeaders()
 {
-    QHeaderView* const alloys = horizontalHeader();
+    auto* const alloys = new Legierungsnamen(Qt::Horizontal, this);
+    setHorizontalHeader(alloys);
     alloys->setSectionsMovable(true);
     alloys->setSectionsClickable(true);
     alloys->setHighlightSections(false);
@@ -92,13 +106,16 @@ void Vergleichsansicht::createHeaders()
 
 void Vergleichsansicht::passeBreitenAn()
 {
+    constexpr int Margin = 5; // of the toolkit, on each side
     QFont bold = font();
     bold.setBold(true);
-    const QFontMetrics header(bold);
-    const int number = fontMetrics().horizontalAdvance(QStringLiteral("−8,8888·10⁻⁸⁸"));
+    const auto width = [](const QString& text, const QFont& font) {
+        return QFontMetrics(font).horizontalAdvance(text + Abstand) + 2 * Margin;
+    };
+    const int number = width(QStringLiteral("−8,8888·10⁻⁸⁸"), font());
     for (int column = 0; column < m_modell.columnCount(); ++column) {
-        const int name = header.horizontalAdvance(toQt(m_modell.tabelle().name(static_cast<std::size_t>(column))));
-        setColumnWidth(column, std::min(std::max(number, name), 2 * number) + 2 * Zellrand);
+        const int name = width(toQt(m_modell.tabelle().name(static_cast<std::size_t>(column))), bold);
+        setColumnWidth(column, std::clamp(name, number, 2 * number));
     }
 }
 

@@ -165,10 +165,6 @@ void Vergleichsbereich::layOut()
         bar->addWidget(button);
     }
     bar->addStretch();
-    auto* const caption = new QLabel(QStringLiteral("An&zeigen:"), this);
-    caption->setBuddy(m_cmbArt);
-    bar->addWidget(caption);
-    bar->addWidget(m_cmbArt);
     auto* const guide = new QLabel(QString::fromUtf8(Anleitung), this);
     guide->setObjectName(QStringLiteral("lblVergleich_Anleitung"));
     guide->setWordWrap(true);
@@ -177,7 +173,11 @@ void Vergleichsbereich::layOut()
     m_seiten = new QStackedWidget(this);
     m_seiten->addWidget(guide);
     m_seiten->addWidget(m_ansicht);
+    auto* const caption = new QLabel(QStringLiteral("An&zeigen:"), this);
+    caption->setBuddy(m_cmbArt);
     QHBoxLayout* const below = knopfzeile({m_cmdSpeichern});
+    below->insertWidget(0, caption);
+    below->insertWidget(1, m_cmbArt);
     below->insertWidget(below->count() - 1, m_tabellenknopf);
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(4, 4, 8, 8);
@@ -185,7 +185,7 @@ void Vergleichsbereich::layOut()
     column->addLayout(bar);
     column->addWidget(m_seiten, 1);
     column->addLayout(below);
-    order.insert(order.end(), {m_cmbArt, m_ansicht});
+    order.insert(order.end(), {m_ansicht, m_cmbArt});
     std::ranges::copy(m_tabellenknopf->tabOrder(), std::back_inserter(order));
     order.push_back(m_cmdSpeichern);
     setTabReihenfolge(order);
