@@ -53,7 +53,8 @@ void Komponenten::define(CLI::App& befehl)
 {
     befehl
         .add_option("komponenten", texte,
-            "SYMBOL=ATPROZENT[:dichte=ZAHL|amorph|fluessig|kristallin][:valenz=s|p|d|f|TEXT], eine bis fünf")
+            "SYMBOL=ATPROZENT[:dichte=ZAHL|amorph|fluessig|kristallin][:valenz=s|p|d|f|TEXT], eine bis fünf; oder eine "
+            "Datei *.zerna, *.png, *.svg, *.pdf, die eine Legierung enthält")
         ->required()
         ->option_text("KOMPONENTE ...");
     befehl.add_flag("--massenprozent", massenprozent, "ATPROZENT sind Massenprozent");

@@ -190,10 +190,10 @@ struct Ternaer {
         if (resolution < 1 || resolution > FeinsteAufloesung)
             throw Aufruffehler("--aufloesung " + std::to_string(resolution) + ": erwartet wird 1 bis "
                 + std::to_string(FeinsteAufloesung));
-        if (komponenten.texte.size() != 3)
-            throw Aufruffehler("Ein ternäres Diagramm hat drei Komponenten, angegeben sind "
-                + std::to_string(komponenten.texte.size()));
         umgebung.loadAlloy(komponenten.texte, komponenten.einheit());
+        const std::size_t anzahl = umgebung.kern().komponenten().size();
+        if (anzahl != 3)
+            throw Aufruffehler("Ein ternäres Diagramm hat drei Komponenten, angegeben sind " + std::to_string(anzahl));
         put(ternaerdatei(ternaergitter(umgebung.kern().calc(), umgebung.kern().komponenten(), kennzahl, resolution)),
             ausgabe.datei);
     }
@@ -224,8 +224,8 @@ struct Wiegen {
         const clsCalc& calc = umgebung.kern().calc();
         const int anzahl = umgebung.kern().eingabe().anzahl();
         if (const auto hindernis = sollmassenHindernis(calc, anzahl)) {
-            const auto komponente = static_cast<std::size_t>(hindernis->komponente);
-            throw Datenfehler("Komponente " + zitiert(komponenten.texte.at(komponente)) + ": " + hindernis->grund);
+            const std::string symbol = calc.Element_Symbol(hindernis->komponente);
+            throw Datenfehler("Komponente " + zitiert(symbol) + ": " + hindernis->grund);
         }
         const Tabelle tabelle = wiegetabelle(calc, anzahl, gesamt.wert);
         put(form.json ? alsJson(tabelle) : alsText(tabelle), ausgabe.datei);

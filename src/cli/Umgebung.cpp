@@ -1,5 +1,6 @@
 #include "cli/Umgebung.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <iostream>
 #include <system_error>
@@ -12,6 +13,7 @@
 #include "core/Zahlentext.h"
 #include "core/Zeichensatz.h"
 #include "model/Ergebnislage.h"
+#include "programm/Dokumentoeffnung.h"
 
 namespace zerna {
 
@@ -50,11 +52,41 @@ void Umgebung::load()
 
 void Umgebung::loadAlloy(std::span<const std::string> komponenten, Anteilseinheit einheit)
 {
+    if (const auto file = std::ranges::find_if(komponenten, istDokumentname); file != komponenten.end()) {
+        if (komponenten.size() > 1)
+            throw Aufruffehler("Die Datei " + zitiert(*file, Dateinamenlaenge) + " ist schon die ganze Legierung");
+        if (einheit != Anteilseinheit::Atom)
+            throw Aufruffehler("--massenprozent gibt es nicht mit einer Datei, in der steht, was eingetragen ist");
+        return loadDocument(*file);
+    }
     std::vector<Komponentenangabe> angaben;
     for (const std::string& text : komponenten)
         angaben.push_back(komponentenangabe(text, einheit));
     load();
     m_kern.setAlloy(angaben, einheit);
+}
+
+/// Values that the table gives otherwise stay those of the file, which is said.
+void Umgebung::loadDocument(const std::string& file)
+{
+    const std::string name = "Datei " + zitiert(file, Dateinamenlaenge) + ": ";
+    load();
+    Dokumentoeffnung oeffnung = oeffneDokument(pathFromUtf8(file), m_kern.elements());
+    Lesung& lesung = oeffnung.lesung;
+    if (!lesung.dokument)
+        throw Datenfehler(name + oeffnung.grund);
+    if (!lesung.nurLesen.empty())
+        std::cerr << "zerna-cli: " << name << lesung.nurLesen << '\n';
+    for (const Tabellenunterschied& unterschied : lesung.unterschiede) {
+        if (!unterschied.variante)
+            std::cerr << "zerna-cli: " << name << unterschiedstext(unterschied, *lesung.dokument) << '\n';
+    }
+    behalteDateiwerte(*lesung.dokument, lesung.unterschiede, m_kern.elements());
+    try {
+        m_kern.setAlloy(std::move(lesung.dokument->eingabe));
+    } catch (const Datenfehler& error) {
+        throw Datenfehler(name + error.what());
+    }
 }
 
 void Umgebung::nenneBefund()

@@ -26,8 +26,8 @@ public:
     /// Datenfehler.
     void load();
 
-    /// Reads the elements and makes the alloy of these component texts, their parts in that unit, the calculator's.
-    /// Throws Aufruffehler or Datenfehler.
+    /// Reads the elements and makes the alloy of these component texts, their parts in that unit, the calculator's, or
+    /// that of the document in the one file that they name. Throws Aufruffehler or Datenfehler.
     void loadAlloy(std::span<const std::string> komponenten, Anteilseinheit einheit);
 
     /// Says on standard error what makes the results of the alloy doubtful.
@@ -38,6 +38,8 @@ public:
     std::string daten; ///< the data file that was asked for; empty for none
 
 private:
+    void loadDocument(const std::string& file);
+
     StandardErrorBoxes m_boxes;
     Rechenkern m_kern{m_boxes};
 };

@@ -8,6 +8,7 @@
 #include "core/Kuerzung.h"
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
+#include "model/Befund.h"
 #include "parser/Formelwert.h"
 #include "programm/EingebauteTabelle.h"
 
@@ -93,15 +94,33 @@ void Rechenkern::setAlloy(std::span<const Komponentenangabe> angaben, Anteilsein
     for (int zeile = 0; const Komponentenangabe& angabe : angaben)
         m_eingabe.setProzentOhneAusgleich(zeile++, textOfSingle(singleFromText(angabe.prozent)));
     checkAnteile(angaben);
+    std::vector<std::string_view> texte;
+    std::ranges::transform(angaben, std::back_inserter(texte), &Komponentenangabe::text);
+    compute(texte);
+}
+
+void Rechenkern::setAlloy(Eingabe eingabe)
+{
+    const std::vector<Befund> alle = befunde(eingabe);
+    const Befund* const befund = wichtigster(alle);
+    if (befund != nullptr && befund->schwere == Schwere::Fehler)
+        throw Datenfehler(befundgrund(eingabe, *befund));
+    m_eingabe = std::move(eingabe);
+    std::vector<std::string_view> symbole;
+    for (int i = 0; i < m_eingabe.anzahl(); ++i)
+        symbole.push_back(m_eingabe.zeile(i).element->symbol());
+    compute(symbole);
+}
+
+/// Hands the entered alloy to the calculator; the texts name its components in an error.
+void Rechenkern::compute(std::span<const std::string_view> texte)
+{
     m_legierung = m_eingabe.legierung().value();
     m_eingabe.elementeSetzen();
     m_komponentenzahl = m_eingabe.anzahl();
     m_calc.Legierung_Setzen(m_legierung.komponenten());
-    if (!istUnbekannt(m_calc.Valenz()))
-        return;
-    std::vector<std::string_view> texte;
-    std::ranges::transform(angaben, std::back_inserter(texte), &Komponentenangabe::text);
-    throw Datenfehler(rechengrund(komponenten(), texte));
+    if (istUnbekannt(m_calc.Valenz()))
+        throw Datenfehler(rechengrund(komponenten(), texte));
 }
 
 /// Throws for mass % that come to no at%.

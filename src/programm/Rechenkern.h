@@ -45,6 +45,9 @@ public:
     /// the last one too. Throws Aufruffehler or Datenfehler.
     void setAlloy(std::span<const Komponentenangabe> angaben, Anteilseinheit einheit = Anteilseinheit::Atom);
 
+    /// Makes an entered alloy of these elements the calculator's. Throws Datenfehler if it cannot be computed.
+    void setAlloy(Eingabe eingabe);
+
     /// The alloy of the last setAlloy as it was entered, and as numbers.
     const Eingabe& eingabe() const { return m_eingabe; }
     std::span<const Legierungskomponente> komponenten() const { return m_legierung.komponenten(); }
@@ -62,6 +65,7 @@ private:
     };
 
     void load(int number, const std::string& name);
+    void compute(std::span<const std::string_view> texte);
     void checkAnteile(std::span<const Komponentenangabe> angaben) const;
     void enterElement(int zeile, const Komponentenangabe& angabe);
     void enterDichte(int zeile, const Komponentenangabe& angabe);

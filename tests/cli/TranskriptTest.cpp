@@ -8,6 +8,7 @@ using TranskriptTest = Kommandozeile;
 
 TEST_F(TranskriptTest, EveryCommandAnswersAsRecorded)
 {
+    setenv("BEISPIEL", ZERNA_TESTS_DIR "/cli/Al-Cu.zerna", 1);
     playTranscript(ZERNA_TESTS_DIR "/cli/befehle.txt", "$ ", [this](const std::string& arguments) {
         Answer answer = run(arguments);
         if (!answer.text.empty() && !answer.text.ends_with('\n'))
