@@ -68,6 +68,8 @@ Dateilegierung readLegierung(Feldleser& leser, const Json& json, const ElementCo
     for (std::size_t i = 0; i < zeilen.size() && !leser.fehler(); ++i)
         readZeile(leser, zeilen.at(i), legierung.roh.zeilen.at(i), legierung.valenzen.at(i));
     legierung.roh.anzahl = leser.ganzzahl(json, "anzahl", 1, std::max(1, static_cast<int>(zeilen.size())));
+    legierung.roh.einheit = codeFor(leser, json, "einheit", Einheitenworte);
+    legierung.roh.quelle = codeFor(leser, json, "getipptIn", Einheitenworte);
     legierung.roh.rest = leser.text(json, "rest", LongestField);
     legierung.roh.nachgeschlagen = leser.textOderNull(json, "nachgeschlagen", LongestField);
     return legierung;

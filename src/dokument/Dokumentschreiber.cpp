@@ -39,7 +39,8 @@ Json legierungsjson(const Eingabe& eingabe)
     Json zeilen = Json::array();
     for (int i = 0; i < MaxKomponenten; ++i)
         zeilen.push_back(zeilenjson(roh.zeilen.at(static_cast<std::size_t>(i)), eingabe.zeile(i).inKraft.valenz));
-    return {{"anzahl", roh.anzahl}, {"zeilen", std::move(zeilen)}, {"rest", roh.rest},
+    return {{"anzahl", roh.anzahl}, {"einheit", wortFuer(roh.einheit, Einheitenworte)},
+        {"getipptIn", wortFuer(roh.quelle, Einheitenworte)}, {"zeilen", std::move(zeilen)}, {"rest", roh.rest},
         {"nachgeschlagen", textOderNull(roh.nachgeschlagen)}};
 }
 

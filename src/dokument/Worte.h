@@ -4,6 +4,7 @@
 #include <array>
 #include <string_view>
 
+#include "model/Anteilseinheit.h"
 #include "model/Diagrammwahl.h"
 #include "model/Komposition.h"
 
@@ -20,6 +21,9 @@ struct Wort {
 
 inline constexpr std::array<Wort<int>, 6> Valenzworte{
     {{ValenzStandard, "Standard"}, {0, "s"}, {1, "p"}, {2, "d"}, {3, "f"}, {ValenzAndere, AndereWahl}}};
+
+inline constexpr std::array<Wort<Anteilseinheit>, 2> Einheitenworte{
+    {{Anteilseinheit::Atom, "at%"}, {Anteilseinheit::Masse, "Masse %"}}};
 
 inline constexpr std::array<Wort<Diagrammtyp>, 3> Diagrammworte{
     {{Diagrammtyp::Konzentration, "Konzentration"}, {Diagrammtyp::Ternaer, "ternär"}, {Diagrammtyp::PSE, "PSE"}}};

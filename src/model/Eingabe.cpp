@@ -90,12 +90,15 @@ Eingabe Eingabe::aus(const ElementCollection& elements, const Rohlegierung& roh)
         eingabe.m_zeilen.at(i) = zeileAus(elements, roh.zeilen.at(i));
     eingabe.m_rest = zahlenfeld(roh.rest);
     eingabe.m_current = elements.find(roh.nachgeschlagen);
+    eingabe.m_einheit = roh.einheit;
+    eingabe.m_quelle = roh.quelle;
+    eingabe.convert();
     return eingabe;
 }
 
 Rohlegierung Eingabe::roh() const
 {
-    Rohlegierung roh{m_anzahl, {}, m_rest.text, m_current ? m_current->symbol() : ""};
+    Rohlegierung roh{m_anzahl, {}, m_rest.text, m_current ? m_current->symbol() : "", m_einheit, m_quelle};
     for (std::size_t i = 0; i < m_zeilen.size(); ++i) {
         const Zeile& row = m_zeilen.at(i);
         roh.zeilen.at(i) = {row.element ? row.element->symbol() : "", row.prozent.text, row.dichtewahl, row.dichte.text,

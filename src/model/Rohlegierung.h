@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "model/Anteilseinheit.h"
 #include "model/Komposition.h"
 #include "model/Legierung.h"
 
@@ -11,7 +12,7 @@ namespace zerna {
 /// A row of an alloy as it is kept: what was typed and chosen, and what is in force for its element.
 struct Rohzeile {
     std::string element; ///< symbol; empty until one is chosen
-    std::string prozent; ///< text
+    std::string prozent; ///< its part, text
     std::string dichtewahl; ///< one of dichteauswahl(), empty without an element
     std::string dichte; ///< text
     int valenzwahl = ValenzStandard; ///< code of the valence choice
@@ -24,8 +25,10 @@ struct Rohzeile {
 struct Rohlegierung {
     int anzahl = 1; ///< rows in use
     std::array<Rohzeile, MaxKomponenten> zeilen;
-    std::string rest; ///< at% of the balance row
+    std::string rest; ///< part of the balance row
     std::string nachgeschlagen; ///< symbol of the element looked up last; empty for none
+    Anteilseinheit einheit = Anteilseinheit::Atom; ///< that parts are typed in
+    Anteilseinheit quelle = Anteilseinheit::Atom; ///< that those here were typed in
 };
 
 } // namespace zerna

@@ -50,7 +50,7 @@ public:
     /// One edit of a row.
     void change(Eingabe& eingabe, int zeile)
     {
-        switch (below(8)) {
+        switch (below(9)) {
         case 0:
             eingabe.setAnzahl(1 + below(MaxKomponenten));
             break;
