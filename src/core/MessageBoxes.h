@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <span>
 #include <string_view>
 
 namespace zerna {
@@ -19,6 +21,14 @@ public:
 
     /// Asks whether to go on all the same; `go` is the caption of the button for it. Yes where nobody can be asked.
     virtual bool ask(std::string_view /*caption*/, std::string_view /*text*/, std::string_view /*go*/) { return true; }
+
+    /// Asks which way to go, and answers with its position; `ways` are the captions of the buttons: first the usual
+    /// one, last the one that leaves everything as it is. The first one where nobody can be asked.
+    virtual std::size_t choose(
+        std::string_view /*caption*/, std::string_view /*text*/, std::span<const std::string_view> /*ways*/)
+    {
+        return 0;
+    }
 };
 
 } // namespace zerna

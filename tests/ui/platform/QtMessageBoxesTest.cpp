@@ -2,6 +2,8 @@
 
 #include <QMessageBox>
 
+#include <array>
+
 #include "support/ModalDialog.h"
 
 namespace zerna {
@@ -20,6 +22,16 @@ TEST(QtMessageBoxesTest, TextIsShownAsItIsUntilAKeyIsPressed)
         };
         inDialog<QMessageBox>(
             read, [icon = icon] { QtMessageBoxes().show(icon, "Übersicht", "Werte <b>über</b> 0\r\n&amp; mehr"); });
+    }
+}
+
+TEST(QtMessageBoxesTest, TheFirstWayIsTheUsualOneAndTheLastTheWayOut)
+{
+    constexpr std::array<std::string_view, 3> Ways{"&Speichern", "&Verwerfen", "&Abbrechen"};
+    for (const auto& [key, modifiers, way] :
+        {std::tuple(Qt::Key_Return, Qt::NoModifier, 0U), {Qt::Key_V, Qt::AltModifier, 1U}, {Qt::Key_Escape, {}, 2U}}) {
+        inDialog<QMessageBox>([key = key, modifiers = modifiers](const QMessageBox&) { press(key, modifiers); },
+            [way = way, &Ways] { EXPECT_EQ(QtMessageBoxes().choose("Zerna", "Wohin?", Ways), way); });
     }
 }
 
