@@ -54,12 +54,12 @@ Dokumentfund dokumentAus(std::string_view bytes)
         return {Dateiart::Dokument, std::string(bytes), {}};
     if (istPng(bytes))
         return dokumentImPng(bytes);
-    if (istPdf(bytes))
-        return dokumentImPdf(bytes);
     if (istSvg(bytes))
         return dokumentImSvg(bytes);
     if (bytes.starts_with("\x1F\x8B"))
         return dokumentInGepacktem(bytes);
+    if (istPdf(bytes)) // after what is known by its very beginning: its own mark may stand somewhat later
+        return dokumentImPdf(bytes);
     return fremd(bytes);
 }
 

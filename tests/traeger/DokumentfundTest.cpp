@@ -68,6 +68,8 @@ TEST(DokumentfundTest, ADocumentComesBackFromEveryCarrierAsItWas)
         {"PNG, text stored packed", Dateiart::Png, pngWith("zTXt", "zerna\0\0"s + gepackt(Dokumenttext)), Dokumenttext},
         {"PNG, plain iTXt with a language", Dateiart::Png, pngWith("iTXt", "zerna\0\0\0de\0Legierung\0{}"s), "{}"},
         {"SVG", Dateiart::Svg, svgMitDokument(Svgbild, Dokumenttext), Dokumenttext},
+        {"SVG that speaks of another kind", Dateiart::Svg, svgMitDokument(Svgbild, R"({"%PDF-1.4"})"),
+            R"({"%PDF-1.4"})"},
         {"SVG written anew", Dateiart::Svg, "\xEF\xBB\xBF" + svgWith(own), R"({"a": Ω<})"},
         {"SVG, characters that XML lacks", Dateiart::Svg, svgMitDokument(Svgbild, "{\"\xEF\xBF\xBE\xEF\xBF\xBF\"}"),
             R"({"\ufffe\uffff"})"},
