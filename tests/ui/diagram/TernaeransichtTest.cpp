@@ -5,6 +5,7 @@
 #include <random>
 
 #include "support/FakeDesk.h"
+#include "traeger/Dokumentfund.h"
 #include "ui/diagram/Diagrammflaeche.h"
 
 namespace zerna {
@@ -106,6 +107,20 @@ TEST_F(TernaeransichtTest, FlatViewStandsStill)
     drag({{40, 50}});
     EXPECT_EQ(picture(), flat);
     EXPECT_EQ(chosen({Qt::Key_Down, Qt::Key_Down, Qt::Key_Return}), start);
+}
+
+TEST_F(TernaeransichtTest, ItsPictureCarriesWhatIsEntered)
+{
+    type("txtProzent_0", "33.30");
+    saveDialog.answer = {(folder / "bild").string(), 2};
+    QTimer::singleShot(0, [] { // "Bild speichern ..." is the last but one
+        QTest::keySequence(QApplication::activePopupWidget(), {Qt::Key_Up, Qt::Key_Up, Qt::Key_Return});
+    });
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {});
+    send(event);
+    const Dokumentfund found = dokumentAus(bytesOf(folder / "bild.svg"));
+    EXPECT_EQ(found.dokument, programm->dokumenttext());
+    EXPECT_NE(found.dokument.value_or("").find("\"33.30\""), std::string::npos);
 }
 
 TEST_F(TernaeransichtTest, RandomDragsLeaveNoTrace)
