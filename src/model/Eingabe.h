@@ -163,7 +163,11 @@ public:
     /// Gives the elements of all rows the density and the valence text that are in force for them.
     void elementeSetzen();
 
-    bool operator==(const Eingabe&) const = default;
+    /// Whether the same is entered; what was looked up last only says where the next text goes.
+    bool operator==(const Eingabe& other) const
+    {
+        return m_anzahl == other.m_anzahl && m_zeilen == other.m_zeilen && m_rest == other.m_rest;
+    }
 
 private:
     std::span<const Zeile> zeilen() const { return std::span(m_zeilen).first(static_cast<std::size_t>(m_anzahl)); }

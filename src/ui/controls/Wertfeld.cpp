@@ -1,6 +1,9 @@
 #include "ui/controls/Wertfeld.h"
 
+#include <QAction>
+#include <QContextMenuEvent>
 #include <QFocusEvent>
+#include <QMenu>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QStyle>
@@ -16,6 +19,19 @@ namespace {
 
 constexpr const char* Marke = "Marke"; // property: the text form of the unknown-value marker, or "0"
 constexpr int EchoMargin = 6;
+
+/// The action of the window with the standard key; null if it has none.
+QAction* actionOf(const QWidget& window, QKeySequence::StandardKey key)
+{
+    const auto known = QKeySequence::keyBindings(key);
+    for (QAction* const action : window.actions()) {
+        for (const QKeySequence& own : action->shortcuts()) {
+            if (known.contains(own))
+                return action;
+        }
+    }
+    return nullptr;
+}
 
 } // namespace
 
@@ -145,6 +161,46 @@ void Wertfeld::showHinweis()
     const QString unmarked = m_bedenken.isEmpty() ? valid : m_bedenken;
     setToolTip(m_fehler.isEmpty() ? unmarked : m_fehler);
     setAccessibleDescription(toolTip());
+}
+
+/// Whether the window undoes what was typed.
+bool Wertfeld::goesToWindow(const QKeyEvent& key) const
+{
+    if (key.matches(QKeySequence::Undo))
+        return !m_eigenerVerlauf || !isUndoAvailable();
+    return key.matches(QKeySequence::Redo) && (!m_eigenerVerlauf || !isRedoAvailable());
+}
+
+/// A text field claims these keys before the window's actions get them.
+bool Wertfeld::event(QEvent* event)
+{
+    if (event->type() != QEvent::ShortcutOverride || !goesToWindow(static_cast<const QKeyEvent&>(*event)))
+        return QLineEdit::event(event);
+    event->ignore();
+    return false;
+}
+
+/// Comes with these keys only while the window has nothing to undo; then they must not do anything else.
+void Wertfeld::keyPressEvent(QKeyEvent* event)
+{
+    if (goesToWindow(*event))
+        event->ignore();
+    else
+        QLineEdit::keyPressEvent(event);
+}
+
+void Wertfeld::contextMenuEvent(QContextMenuEvent* event)
+{
+    QMenu* const menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    QAction* const undo = actionOf(*window(), QKeySequence::Undo);
+    QAction* const redo = actionOf(*window(), QKeySequence::Redo);
+    if (const auto own = menu->actions(); !m_eigenerVerlauf && !isReadOnly() && undo != nullptr && redo != nullptr) {
+        menu->insertActions(own.at(0), {undo, redo});
+        menu->removeAction(own.at(0)); // the field's undo and redo come first
+        menu->removeAction(own.at(1));
+    }
+    menu->popup(event->globalPos());
 }
 
 void Wertfeld::focusInEvent(QFocusEvent* event)

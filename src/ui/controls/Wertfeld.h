@@ -29,6 +29,10 @@ public:
     void setEcho(const QString& echo);
     const QString& echo() const { return m_echo; }
 
+    /// Whether the field takes its own typing back. Else undo and redo go to the window's actions with these keys, from
+    /// the field's menu too.
+    void setEigenerVerlauf(bool eigener) { m_eigenerVerlauf = eigener; }
+
     /// Whether the program works the value out: then the field looks like a label until it has the focus.
     void setBerechnet(bool berechnet);
 
@@ -43,8 +47,11 @@ signals:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    bool event(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
@@ -52,6 +59,7 @@ private:
     void showHinweis();
     void cutEcho();
     void strengthenDisabledText();
+    bool goesToWindow(const QKeyEvent& key) const;
     bool looksLikeLabel() const { return m_berechnet && !hasFocus(); }
     void showArt();
 
@@ -61,6 +69,7 @@ private:
     QString m_shownEcho; // as much of it as there is room for
     QString m_hinweis;
     bool m_berechnet = false;
+    bool m_eigenerVerlauf = false;
 };
 
 } // namespace zerna

@@ -55,6 +55,19 @@ void Diagrammflaeche::showTernaer(Ternaergitter gitter, const Anteile3& current)
     showDiagramm(m_ternaer, Qt::StrongFocus);
 }
 
+void Diagrammflaeche::setAnsicht(const Ansicht& ansicht)
+{
+    m_ternaer.setAnsicht(ansicht);
+    update();
+}
+
+/// Called where the view may have changed.
+void Diagrammflaeche::nenneAnsicht(const QString& geste)
+{
+    if (m_diagramm == &m_ternaer)
+        emit ansichtChanged(geste);
+}
+
 void Diagrammflaeche::showFehler(const QString& grund)
 {
     showHinweis(QStringLiteral("Konnte Diagramm nicht berechnen!\n\n%1").arg(grund));
@@ -99,6 +112,7 @@ void Diagrammflaeche::addCommands(QMenu& menu)
         menu.addAction(command.text, this, [this, execute = command.execute] {
             execute();
             update();
+            nenneAnsicht({});
         });
     }
     if (!menu.isEmpty())
@@ -137,6 +151,7 @@ void Diagrammflaeche::mousePressEvent(QMouseEvent* event)
     if (event->button() != Qt::LeftButton)
         return;
     m_dragging = true;
+    ++m_drags;
     m_lastPosition = event->position();
 }
 
@@ -149,8 +164,10 @@ void Diagrammflaeche::mouseReleaseEvent(QMouseEvent* event)
 void Diagrammflaeche::mouseDoubleClickEvent(QMouseEvent* event)
 {
     QWidget::mouseDoubleClickEvent(event);
-    if (m_diagramm->doubleClicked())
-        update();
+    if (!m_diagramm->doubleClicked())
+        return;
+    update();
+    nenneAnsicht({});
 }
 
 /// Several changes of the view before the next painting become one picture.
@@ -159,10 +176,12 @@ void Diagrammflaeche::mouseMoveEvent(QMouseEvent* event)
     QWidget::mouseMoveEvent(event);
     const QPointF way = event->position() - m_lastPosition;
     m_lastPosition = event->position();
-    if (m_dragging && m_diagramm->dragged(way))
+    if (m_dragging && m_diagramm->dragged(way)) {
         update();
-    else
+        nenneAnsicht(QStringLiteral("Maus %1").arg(m_drags));
+    } else {
         emit positionChanged(m_diagramm->positionText(event->position(), leinwand()));
+    }
 }
 
 void Diagrammflaeche::wheelEvent(QWheelEvent* event)
@@ -172,6 +191,7 @@ void Diagrammflaeche::wheelEvent(QWheelEvent* event)
         return QWidget::wheelEvent(event);
     event->accept();
     update();
+    nenneAnsicht(QStringLiteral("Rad"));
 }
 
 void Diagrammflaeche::leaveEvent(QEvent* event)
@@ -187,6 +207,7 @@ void Diagrammflaeche::keyPressEvent(QKeyEvent* event)
     if (const QString text = m_diagramm->cursorText(); !text.isEmpty())
         emit positionChanged(text);
     update();
+    nenneAnsicht(QStringLiteral("Tasten"));
 }
 
 void Diagrammflaeche::focusOutEvent(QFocusEvent* event)

@@ -36,6 +36,10 @@ public:
     /// Shows a ternary diagram; `current` is the alloy's own composition.
     void showTernaer(Ternaergitter gitter, const Anteile3& current);
 
+    /// How the ternary diagram is looked at, also while another one is shown.
+    const Ansicht& ansicht() const { return m_ternaer.ansicht(); }
+    void setAnsicht(const Ansicht& ansicht);
+
     /// Shows that the diagram could not be computed and why.
     void showFehler(const QString& grund);
 
@@ -56,6 +60,8 @@ public:
 signals:
     /// What is under the mouse or the cursor; empty for nothing.
     void positionChanged(const QString& text);
+    /// The user has turned or zoomed the ternary diagram; what belongs to one movement has the same name.
+    void ansichtChanged(const QString& geste);
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
@@ -75,6 +81,7 @@ private:
     void showDiagramm(Diagramm& diagramm, Qt::FocusPolicy focus);
     void addCommands(QMenu& menu);
     void addOutputs(QMenu& menu);
+    void nenneAnsicht(const QString& geste);
     void copyValues();
     void savePicture();
 
@@ -86,6 +93,7 @@ private:
     Diagrammmeldung m_meldung;
     Diagramm* m_diagramm = &m_meldung; // what is shown
     bool m_dragging = false;
+    int m_drags = 0; // since the start
     QPointF m_lastPosition; // of the mouse
 };
 

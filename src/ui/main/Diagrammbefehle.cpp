@@ -25,8 +25,8 @@ void Diagrammbereich::addBefehle(Menue& menue)
         menue.add(Menue::Abschnitt::Diagrammtyp,
             {.text = text,
                 .name = name,
-                .tun = [this, typ = typ] { chooseType(static_cast<int>(typ)); },
-                .gewaehlt = [this, typ = typ] { return m_typ == typ; }});
+                .tun = [this, typ = typ] { waehleTyp(static_cast<int>(typ)); },
+                .gewaehlt = [this, typ = typ] { return wahl().typ == typ; }});
     }
     for (const auto& [text, name, step] : {std::tuple(QStringLiteral("&Feinere Auflösung"), "mnuSteps_1", 1),
              {QStringLiteral("&Gröbere Auflösung"), "mnuSteps_0", -1}}) {
@@ -34,7 +34,7 @@ void Diagrammbereich::addBefehle(Menue& menue)
             {.text = text,
                 .name = name,
                 .tun = [this, step = step] { stepResolution(step); },
-                .moeglich = [this] { return m_typ == zerna::Diagrammtyp::Ternaer; }});
+                .moeglich = [this] { return wahl().typ == zerna::Diagrammtyp::Ternaer; }});
     }
 }
 

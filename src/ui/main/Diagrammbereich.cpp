@@ -1,12 +1,12 @@
 #include "ui/main/Diagrammbereich.h"
 
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "core/CheckedArithmetic.h"
 #include "ui/button/StyledButton.h"
@@ -15,7 +15,7 @@
 #include "ui/diagram/Diagrammflaeche.h"
 #include "ui/diagram/conDisplay.h"
 #include "ui/diagram/conLabel.h"
-#include "ui/main/Lehrbuchmarke.h"
+#include "ui/main/Diagrammauswahl.h"
 #include "ui/platform/Anzeige.h"
 #include "ui/platform/QtText.h"
 #include "ui/platform/Schriftfolge.h"
@@ -24,11 +24,6 @@
 namespace zerna {
 
 namespace {
-
-/// Intended: right after the start "Elektronendichte" stands last although its code is 2.
-constexpr std::array AnfangsGroessen{0, 1, 3, 4, 5, 6, 7, 8, 9, 10, 2};
-
-constexpr std::array Legierungsgroessen{0, 1, 3, 4, 2, 5, 6, 7, 8, 9, 10};
 
 /// Why there is no ternary diagram of so many components, and what can be done.
 QString dreitext(int anzahl)
@@ -77,25 +72,23 @@ Diagrammbereich::Diagrammbereich(Programm& programm, Dialoge dialoge, QWidget* p
 
 void Diagrammbereich::createControls()
 {
-    const auto makeList = [this](const char* name, const QString& accessibleName) {
-        auto* list = new QComboBox(this);
-        list->setObjectName(QLatin1String(name));
-        list->setAccessibleName(accessibleName);
-        list->setToolTip(accessibleName);
-        return list;
-    };
-    m_cmbDiagrammTyp = makeList("cmbDiagramm_Typ", QStringLiteral("Diagrammtyp"));
-    m_cmbDiagramm = makeList("cmbDiagramm", QStringLiteral("Größe"));
-    m_lehrbuch = new Lehrbuchmarke(m_programm, this);
-    m_cmbDiagrammElement = makeList("cmbDiagramm_Element", QStringLiteral("Komponente entlang der Achse"));
-    m_cmbDiagrammTyp->addItems({QStringLiteral("2 D"), QStringLiteral("3 D - ternär"), QStringLiteral("PSE")});
-    connect(m_cmbDiagrammTyp, &QComboBox::activated, this, &Diagrammbereich::chooseType);
-    connect(m_cmbDiagramm, &QComboBox::activated, this, [this] { aktualisieren(true); });
-    connect(m_cmbDiagrammElement, &QComboBox::activated, this, [this] { aktualisieren(true); });
-
+    m_auswahl = new Diagrammauswahl(m_programm, this);
+    connect(m_auswahl, &Diagrammauswahl::typChosen, this, &Diagrammbereich::waehleTyp);
+    connect(m_auswahl, &Diagrammauswahl::groesseChosen, this, [this](const QString& name) {
+        aktualisieren(true);
+        emit geschehen({QStringLiteral("Diagramm: %1").arg(name)});
+    });
+    connect(m_auswahl, &Diagrammauswahl::komponenteChosen, this, [this](const QString& symbol) {
+        aktualisieren(true);
+        emit geschehen({QStringLiteral("Diagramm über %1").arg(symbol)});
+    });
     m_labelPos = new QLabel(this);
     m_labelPos->setObjectName(QStringLiteral("LabelPos"));
     m_labelPos->setTextFormat(Qt::PlainText);
+    connect(m_picDiagramm, &Diagrammflaeche::ansichtChanged, this, [this](const QString& geste) {
+        wahl().ansicht = m_picDiagramm->ansicht();
+        emit geschehen({QStringLiteral("Ansicht des Diagramms"), geste});
+    });
     connect(m_picDiagramm, &Diagrammflaeche::positionChanged, this,
         [this](const QString& text) { m_labelPos->setText(gezeigt(text)); });
     m_lblDrei = new Befundzeile(this);
@@ -148,13 +141,7 @@ void Diagrammbereich::layOut()
     constexpr int Top = 78;
     constexpr int Bottom = 72;
     auto* lists = new QHBoxLayout;
-    lists->setSpacing(6);
-    for (QComboBox* const list : {m_cmbDiagrammTyp, m_cmbDiagramm, m_cmbDiagrammElement}) {
-        folgeSchrift(list, [list] { list->setFixedHeight(feldhoehe(*list)); });
-        lists->addWidget(list);
-    }
-    lists->setStretch(1, 1);
-    lists->insertWidget(2, m_lehrbuch);
+    lists->addWidget(m_auswahl);
     auto* values = new QHBoxLayout;
     values->setSpacing(4);
     for (conLabel* const label : m_conLabel)
@@ -182,7 +169,7 @@ void Diagrammbereich::layOut()
 
 void Diagrammbereich::orderTabs()
 {
-    std::vector<QWidget*> order{m_cmbDiagrammTyp, m_cmbDiagramm, m_lehrbuch, m_cmbDiagrammElement};
+    std::vector<QWidget*> order = m_auswahl->tabOrder();
     for (conLabel* const label : m_conLabel) {
         const auto buttons = label->buttons();
         order.insert(order.end(), buttons.begin(), buttons.end());
@@ -194,29 +181,16 @@ void Diagrammbereich::orderTabs()
 
 void Diagrammbereich::load()
 {
-    fillQuantities(AnfangsGroessen);
-    m_typ = Diagrammtyp::Konzentration;
+    m_auswahl->load();
     // Intended: the caption changes to "Auflösung: " with the first step.
     m_lblSteps->setText(QStringLiteral("Schritte: 5"));
 }
-
-/// Fills the quantity list and keeps the chosen quantity if the list has it.
-void Diagrammbereich::fillQuantities(std::span<const int> quantities)
-{
-    const int chosen = groesse();
-    m_cmbDiagramm->clear();
-    for (const int kennzahl : quantities)
-        m_cmbDiagramm->addItem(toQt(findGroesse(kennzahl)->name), kennzahl);
-    m_cmbDiagramm->setCurrentIndex(qMax(0, m_cmbDiagramm->findData(chosen)));
-}
-
-int Diagrammbereich::groesse() const { return m_cmbDiagramm->currentData().toInt(); }
 
 void Diagrammbereich::zeige(const Eingabe& eingabe, const Aenderung& aenderung)
 {
     m_eingabe = eingabe;
     if (aenderung.anzahl || aenderung.element)
-        listComponents();
+        m_auswahl->listKomponenten(m_eingabe);
     if (aenderung.anzahl) {
         m_lblDrei->zeige({}, Befundzeile::Ton::Hinweis);
         selectFirstType();
@@ -225,39 +199,52 @@ void Diagrammbereich::zeige(const Eingabe& eingabe, const Aenderung& aenderung)
     }
 }
 
-/// Lists the elements of the rows; the first one is then chosen.
-void Diagrammbereich::listComponents()
+void Diagrammbereich::zeigeDokument()
 {
-    m_cmbDiagrammElement->clear();
-    for (int row = 0; row < m_eingabe.anzahl(); ++row)
-        m_cmbDiagrammElement->addItem(symbolOf(m_eingabe.zeile(row)), row);
+    const Diagrammwahl shown = wahl(); // the lists write theirs
+    m_eingabe = m_programm.Eingabe();
+    m_picDiagramm->setAnsicht(shown.ansicht);
+    m_lblDrei->zeige({}, Befundzeile::Ton::Hinweis);
+    m_auswahl->listKomponenten(m_eingabe);
+    setTyp(shown.typ);
+    m_auswahl->setGroesse(shown.groesse);
+    m_auswahl->setKomponente(shown.komponente);
+    if (std::exchange(m_steps, shown.aufloesung) != shown.aufloesung)
+        showSteps();
+    aktualisieren(true);
 }
 
-void Diagrammbereich::selectFirstComponent() { m_cmbDiagrammElement->setCurrentIndex(0); }
+void Diagrammbereich::selectFirstComponent() { m_auswahl->setKomponente(0); }
 
 void Diagrammbereich::selectFirstType()
 {
-    if (m_typ == Diagrammtyp::Konzentration)
+    if (wahl().typ == Diagrammtyp::Konzentration)
         aktualisieren(true);
     else
-        chooseType(0);
+        chooseType(Diagrammtyp::Konzentration);
 }
 
-void Diagrammbereich::chooseType(int position)
+void Diagrammbereich::waehleTyp(int position)
 {
-    auto type = static_cast<Diagrammtyp>(position);
-    if (type == Diagrammtyp::Ternaer && m_eingabe.anzahl() != 3)
-        type = Diagrammtyp::Konzentration; // without a box
-    m_lblDrei->zeige(
-        static_cast<int>(type) == position ? QString() : dreitext(m_eingabe.anzahl()), Befundzeile::Ton::Hinweis);
-    m_cmbDiagrammTyp->setCurrentIndex(static_cast<int>(type));
-    m_typ = type;
-    fillQuantities(type == Diagrammtyp::PSE ? psegroessen() : std::span<const int>(Legierungsgroessen));
-    m_cmbDiagrammElement->setVisible(type == Diagrammtyp::Konzentration);
-    m_lblSteps->setVisible(type == Diagrammtyp::Ternaer);
-    for (StyledButton* const button : m_cmdSteps)
-        button->setVisible(type == Diagrammtyp::Ternaer);
+    chooseType(static_cast<Diagrammtyp>(position));
+    emit geschehen({QStringLiteral("Diagrammtyp")});
+}
+
+void Diagrammbereich::chooseType(Diagrammtyp typ)
+{
+    setTyp(typ);
+    m_lblDrei->zeige(wahl().typ == typ ? QString() : dreitext(m_eingabe.anzahl()), Befundzeile::Ton::Hinweis);
     aktualisieren(false);
+}
+
+/// Without three rows it is the concentration diagram instead of the ternary one.
+void Diagrammbereich::setTyp(Diagrammtyp typ)
+{
+    const bool isPossible = typ != Diagrammtyp::Ternaer || m_eingabe.anzahl() == 3; // without a box
+    m_auswahl->setTyp(isPossible ? typ : Diagrammtyp::Konzentration);
+    m_lblSteps->setVisible(wahl().typ == Diagrammtyp::Ternaer);
+    for (StyledButton* const button : m_cmdSteps)
+        button->setVisible(wahl().typ == Diagrammtyp::Ternaer);
 }
 
 void Diagrammbereich::stepResolution(int step)
@@ -267,17 +254,21 @@ void Diagrammbereich::stepResolution(int step)
         m_steps = 1;
     else if (m_steps < 1)
         m_steps = FeinsteAufloesung;
-    m_lblSteps->setText(QStringLiteral("Auflösung: %1").arg(m_steps));
+    wahl().aufloesung = m_steps;
+    showSteps();
     aktualisieren(true);
+    emit geschehen({QStringLiteral("Auflösung")});
 }
+
+void Diagrammbereich::showSteps() { m_lblSteps->setText(QStringLiteral("Auflösung: %1").arg(m_steps)); }
 
 void Diagrammbereich::aktualisieren(bool keepSelection)
 {
     if (!m_programm.StartupDone())
         return;
     refreshLabels();
-    m_lehrbuch->zeige(groesse());
-    switch (m_typ) {
+    m_auswahl->zeigeLehrbuch();
+    switch (wahl().typ) {
     case Diagrammtyp::Konzentration:
         drawConcentration(keepSelection);
         break;
@@ -332,7 +323,7 @@ void Diagrammbereich::showError(const Laufzeitfehler& error)
 void Diagrammbereich::drawTernary()
 {
     if (m_eingabe.anzahl() != 3) {
-        chooseType(0);
+        chooseType(Diagrammtyp::Konzentration);
         return;
     }
     if (showObstacle())
@@ -343,7 +334,7 @@ void Diagrammbereich::drawTernary()
         std::ranges::transform(legierung.komponenten(), current.begin(),
             [](const Legierungskomponente& komponente) { return komponente.prozent / 100.0; });
         m_picDiagramm->showTernaer(
-            ternaergitter(m_programm.Calc(), legierung.komponenten(), groesse(), m_steps), current);
+            ternaergitter(m_programm.Calc(), legierung.komponenten(), wahl().groesse, m_steps), current);
     } catch (const Laufzeitfehler& error) {
         showError(error);
     }
@@ -357,9 +348,8 @@ void Diagrammbereich::drawSeries()
         dichten.at(static_cast<std::size_t>(row)) = m_eingabe.zeile(row).dichte.wert;
     display.setLegierung(m_eingabe.legierung().value());
     display.setDichtefelder(dichten);
-    const int variable = qMax(0, m_cmbDiagrammElement->currentData().toInt());
-    display.setVariablesElement(variable);
-    display.Zeichne_Diagramm_2D(groesse(), variable);
+    display.setVariablesElement(wahl().komponente);
+    display.Zeichne_Diagramm_2D(wahl().groesse, wahl().komponente);
 }
 
 void Diagrammbereich::drawPSE()
@@ -369,7 +359,7 @@ void Diagrammbereich::drawPSE()
         for (const auto& element : m_programm.ElementCollection())
             symbols.push_back(element->symbol());
         m_picDiagramm->showPSE(
-            pseReihe(m_programm.ElementCollection(), m_programm.Calc(), groesse()), std::move(symbols));
+            pseReihe(m_programm.ElementCollection(), m_programm.Calc(), wahl().groesse), std::move(symbols));
     } catch (const Laufzeitfehler& error) {
         showError(error);
     }
@@ -381,7 +371,7 @@ void Diagrammbereich::refreshLabels()
     constexpr float Shown = 1e6F; // what no label has room for is left as it was
     for (int row = 0; row < MaxKomponenten; ++row) {
         conLabel& label = *m_conLabel.at(static_cast<std::size_t>(row));
-        label.setVisible(row < m_eingabe.anzahl() && m_typ == Diagrammtyp::Konzentration);
+        label.setVisible(row < m_eingabe.anzahl() && wahl().typ == Diagrammtyp::Konzentration);
         if (row >= m_eingabe.anzahl())
             continue;
         const Eingabefeld& prozent = m_eingabe.prozentInKraft(row);

@@ -3,21 +3,20 @@
 #include <QWidget>
 
 #include <array>
-#include <span>
 
 #include "model/Diagrammwahl.h"
 #include "model/PSEReihe.h"
 #include "programm/Programm.h"
+#include "ui/controls/Schritt.h"
 #include "ui/platform/Dialoge.h"
 
-class QComboBox;
 class QLabel;
 
 namespace zerna {
 
 class Befundzeile;
+class Diagrammauswahl;
 class Diagrammflaeche;
-class Lehrbuchmarke;
 class Menue;
 class StyledButton;
 class conLabel;
@@ -37,18 +36,22 @@ public:
     /// concentration diagram; another element or density puts the first component along the axis.
     void zeige(const Eingabe& eingabe, const Aenderung& aenderung);
 
+    /// Shows the diagram of the document.
+    void zeigeDokument();
+
     /// Returns to the concentration diagram and draws it.
     void selectFirstType();
     void selectFirstComponent();
 
     /// Chooses the ternary diagram, if there are three rows.
-    void selectTernary() { chooseType(static_cast<int>(Diagrammtyp::Ternaer)); }
+    void selectTernary() { chooseType(Diagrammtyp::Ternaer); }
 
     void addBefehle(Menue& menue);
     bool istDruckbar() const;
     void drucke();
 
 signals:
+    void geschehen(const Schritt& schritt);
     /// A value label has stepped the at% of a row.
     void prozentStepped(int row, int prozent);
     /// The ternary diagram is wanted, which needs three rows.
@@ -58,12 +61,13 @@ private:
     void createControls();
     void createSteps();
     void createLabels();
-    void listComponents();
     void aktualisieren(bool keepSelection);
     void layOut();
     void orderTabs();
-    void fillQuantities(std::span<const int> quantities);
-    void chooseType(int position);
+    void waehleTyp(int position);
+    void chooseType(Diagrammtyp typ);
+    void setTyp(Diagrammtyp typ);
+    void showSteps();
     void stepResolution(int step);
     void drawConcentration(bool keepSelection);
     void drawSeries();
@@ -72,16 +76,12 @@ private:
     bool showObstacle();
     void drawPSE();
     void refreshLabels();
-    int groesse() const;
+    Diagrammwahl& wahl() { return m_programm.Dokument().diagramm; }
 
     Programm& m_programm;
     Eingabe m_eingabe; // the alloy that is drawn
-    Diagrammtyp m_typ = Diagrammtyp::Konzentration;
-    int m_steps = 5; // resolution of the ternary diagram, 1 to 10
-    QComboBox* m_cmbDiagrammTyp = nullptr;
-    QComboBox* m_cmbDiagramm = nullptr;
-    Lehrbuchmarke* m_lehrbuch = nullptr;
-    QComboBox* m_cmbDiagrammElement = nullptr;
+    int m_steps = 5; // resolution of the ternary diagram as it is shown, 1 to 10
+    Diagrammauswahl* m_auswahl = nullptr;
     std::array<StyledButton*, 2> m_cmdSteps{};
     QLabel* m_lblSteps = nullptr;
     std::array<conLabel*, MaxKomponenten> m_conLabel{};

@@ -98,6 +98,7 @@ void Ergebnisgitter::createField(const Groesse& zeile)
     edit->setAccessibleName(toQt(zeile.bezeichnung()));
     edit->setHinweis(QStringLiteral("Wert eintippen, um das Modell ohne Zusammensetzung zu erkunden"));
     edit->setAlignment(Qt::AlignRight);
+    edit->setEigenerVerlauf(true); // what is typed here is no part of the document
     connect(edit, &Wertfeld::textChanged, this, [this, feld] { emit fieldEdited(feld); });
     QAction* const back = edit->addAction(backIcon(*edit), QLineEdit::TrailingPosition);
     back->setObjectName(numberedName("cmdZurueck", feld));

@@ -17,6 +17,7 @@ namespace zerna {
 void frmMain::fillMenu()
 {
     using enum Menue::Abschnitt;
+    addSchritte();
     m_ergebnisse->addBefehle(*m_menue);
     m_conWiegen1->addBefehle(*m_menue);
     m_diagramm->addBefehle(*m_menue);

@@ -75,16 +75,20 @@ void Kompositionsbereich::connectRow(int row)
     using Zeile = Kompositionszeile;
     const Zeile* const zeile = &at(row);
     connect(zeile, &Zeile::elementChosen, this, [this, row](const auto& key) { elementChosen(row, fromQt(key)); });
-    connect(zeile, &Zeile::prozentEntered, this,
-        [this, row](const QString& text) { taken(eingabe().setProzent(row, fromQt(text))); });
-    connect(zeile, &Zeile::dichteChosen, this,
-        [this, row](const QString& wahl) { taken(eingabe().waehleDichte(row, fromQt(wahl))); });
-    connect(zeile, &Zeile::dichteEntered, this,
-        [this, row](const QString& text) { taken(eingabe().setDichte(row, fromQt(text))); });
-    connect(
-        zeile, &Zeile::valenzChosen, this, [this, row](int wahl) { valenzEdited(eingabe().waehleValenz(row, wahl)); });
-    connect(zeile, &Zeile::valenzEntered, this,
-        [this, row](const QString& text) { valenzEdited(eingabe().setValenz(row, fromQt(text))); });
+    connect(zeile, &Zeile::prozentEntered, this, [this, row](const QString& text) {
+        taken(eingabe().setProzent(row, fromQt(text)), schritt("at% von", row, "txtProzent"));
+    });
+    connect(zeile, &Zeile::dichteChosen, this, [this, row](const QString& wahl) {
+        taken(eingabe().waehleDichte(row, fromQt(wahl)), schritt("Dichte von", row));
+    });
+    connect(zeile, &Zeile::dichteEntered, this, [this, row](const QString& text) {
+        taken(eingabe().setDichte(row, fromQt(text)), schritt("Dichte von", row, "txtDichte"));
+    });
+    connect(zeile, &Zeile::valenzChosen, this,
+        [this, row](int wahl) { valenzEdited(eingabe().waehleValenz(row, wahl), schritt("Valenz von", row)); });
+    connect(zeile, &Zeile::valenzEntered, this, [this, row](const QString& text) {
+        valenzEdited(eingabe().setValenz(row, fromQt(text)), schritt("Valenz von", row, "txtValenz"));
+    });
     connect(zeile, &Zeile::valenzLeft, this, [this, row] { valenzLeft(row); });
     // What a person types must reach the element of the row they type in.
     connect(zeile, &Zeile::valueFocused, this, [this, row] { eingabe().nachschlagen(row); });
@@ -92,7 +96,7 @@ void Kompositionsbereich::connectRow(int row)
         if (!eingabe().istAusgleich(row))
             return;
         eingabe().gleicheAus(); // what was typed there must not pass for the at% in force
-        taken({});
+        taken({}, schritt("at% von", row, "txtProzent"));
     });
 }
 
@@ -169,24 +173,36 @@ void Kompositionsbereich::gehZu(int row, Eingabeort ort) { at(row).gehZu(ort); }
 
 void Kompositionsbereich::enterProzent(int row, int prozent)
 {
-    taken(eingabe().setProzent(row, textOfSingle(static_cast<float>(prozent))));
+    taken(eingabe().setProzent(row, textOfSingle(static_cast<float>(prozent))), schritt("at% von", row, "conLabel"));
 }
 
 void Kompositionsbereich::stepAnzahl(int step) { setAnzahl(naechsteKomponentenzahl(eingabe().anzahl(), step)); }
 
-void Kompositionsbereich::setEingabe(const zerna::Eingabe& eingabe)
+void Kompositionsbereich::setEingabe(const zerna::Eingabe& eingabe, const Schritt& schritt)
 {
     const bool anzahl = eingabe.anzahl() != this->eingabe().anzahl();
     this->eingabe() = eingabe;
-    zeige();
+    zeigeDokument();
     emit geaendert({.anzahl = anzahl, .element = true, .anteil = true, .dichte = true, .valenz = true});
+    emit geschehen(schritt);
 }
 
 void Kompositionsbereich::setAnzahl(int count)
 {
+    const Aenderung aenderung = eingabe().setAnzahl(count);
+    speichereAnzahl();
+    taken(aenderung, {QStringLiteral("Zahl der Komponenten")});
+}
+
+void Kompositionsbereich::speichereAnzahl()
+{
     // Intended: one less than the number of rows is stored, see restoreCount.
-    m_programm.settings().SaveSetting("Komponenten", std::to_string(count - 1));
-    taken(eingabe().setAnzahl(count));
+    m_programm.settings().SaveSetting("Komponenten", std::to_string(eingabe().anzahl() - 1));
+}
+
+void Kompositionsbereich::speichereElement(int row, std::string_view key)
+{
+    m_programm.settings().SaveSetting("Element_" + std::to_string(row), key);
 }
 
 void Kompositionsbereich::elementChosen(int row, std::string_view key)
@@ -196,23 +212,25 @@ void Kompositionsbereich::elementChosen(int row, std::string_view key)
         const Programm::Fuellung fuellung(m_programm); // nothing is computed while the row is refilled
         aenderung = eingabe().waehleElement(row, key);
         if (aenderung.element)
-            m_programm.settings().SaveSetting("Element_" + std::to_string(row), key);
+            speichereElement(row, key);
         zeige();
     }
-    if (aenderung.element)
-        emit geaendert(aenderung);
+    if (!aenderung.element)
+        return;
+    emit geaendert(aenderung);
+    emit geschehen(schritt("Element", row));
 }
 
 void Kompositionsbereich::dichteartChosen(std::string_view wahl)
 {
-    taken(eingabe().waehleDichteart(wahl));
+    taken(eingabe().waehleDichteart(wahl), {QStringLiteral("Dichte aller: %1").arg(toQt(wahl))});
     m_dichteschalter->zeigeOhneDichte(wahl, eingabe().ohneDichte(wahl));
 }
 
-void Kompositionsbereich::valenzEdited(const Aenderung& aenderung)
+void Kompositionsbereich::valenzEdited(const Aenderung& aenderung, const Schritt& schritt)
 {
     m_gemeldet.clear();
-    taken(aenderung);
+    taken(aenderung, schritt);
 }
 
 /// Speaks of unknown functions when the formula stands, not between keys, and once of each.
@@ -228,13 +246,33 @@ void Kompositionsbereich::valenzLeft(int row)
 }
 
 /// Shows what an operation has made of the alloy and passes on what it has changed.
-void Kompositionsbereich::taken(const Aenderung& aenderung)
+void Kompositionsbereich::taken(const Aenderung& aenderung, const Schritt& schritt)
 {
     zeige();
     if (aenderung == Aenderung())
         emit befundGeaendert();
     else
         emit geaendert(aenderung);
+    emit geschehen(schritt);
+}
+
+/// The step that does something to a row, typing in one of its fields where that is named.
+Schritt Kompositionsbereich::schritt(const char* was, int row, const char* feld)
+{
+    const auto& element = eingabe().zeile(row).element;
+    const QString wovon = element ? toQt(element->symbol()) : QStringLiteral("Komponente %1").arg(row + 1);
+    return {
+        QStringLiteral("%1 %2").arg(QLatin1String(was), wovon), feld != nullptr ? numberedName(feld, row) : QString()};
+}
+
+void Kompositionsbereich::zeigeDokument()
+{
+    zeige();
+    speichereAnzahl();
+    for (int row = 0; row < MaxKomponenten; ++row) {
+        if (const auto& element = eingabe().zeile(row).element)
+            speichereElement(row, element->symbol());
+    }
 }
 
 void Kompositionsbereich::zeige()

@@ -7,6 +7,7 @@
 
 #include "model/Befund.h"
 #include "programm/Programm.h"
+#include "ui/controls/Schritt.h"
 
 class QLabel;
 
@@ -47,7 +48,10 @@ public:
     void setAnzahl(int count);
 
     /// Shows another alloy and works on with it.
-    void setEingabe(const zerna::Eingabe& eingabe);
+    void setEingabe(const zerna::Eingabe& eingabe, const Schritt& schritt);
+
+    /// Shows the entered alloy, which has become another one without an edit, and lets the next start begin with it.
+    void zeigeDokument();
 
     /// Enters an at% as if it had been typed.
     void enterProzent(int row, int prozent);
@@ -59,6 +63,8 @@ signals:
     void geaendert(const Aenderung& aenderung);
     /// What is wrong with the entered alloy may be something else now.
     void befundGeaendert();
+    /// The user has done something to the entered alloy, and all who follow it have followed.
+    void geschehen(const Schritt& schritt);
 
 private:
     void createControls();
@@ -66,10 +72,13 @@ private:
     void connectRow(int row);
     void stepAnzahl(int step);
     void elementChosen(int row, std::string_view key);
-    void valenzEdited(const Aenderung& aenderung);
+    void valenzEdited(const Aenderung& aenderung, const Schritt& schritt);
+    void speichereAnzahl();
+    void speichereElement(int row, std::string_view key);
     void valenzLeft(int row);
     void dichteartChosen(std::string_view wahl);
-    void taken(const Aenderung& aenderung);
+    void taken(const Aenderung& aenderung, const Schritt& schritt);
+    Schritt schritt(const char* was, int row, const char* feld = nullptr);
     void zeige();
 
     Eingabe& eingabe() { return m_programm.Eingabe(); }

@@ -71,6 +71,7 @@ void checkOnly(std::span<StyledButton* const> switches, int on)
 
 frmMain::frmMain(Programm& programm, Dialoge dialoge)
     : m_programm(programm)
+    , m_verlauf(programm.Dokument(), programm.gerechneteEingabe())
 {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(toQt(Programmtitel));
@@ -79,6 +80,7 @@ frmMain::frmMain(Programm& programm, Dialoge dialoge)
     createCalculatorPanel(dialoge);
     layOut();
     connectPanels();
+    connectVerlauf();
     fillMenu();
     new Radsperre(*this);
     load();
@@ -91,7 +93,7 @@ frmMain::frmMain(Programm& programm, Dialoge dialoge)
 frmMain::~frmMain()
 {
     for (QObject* const panel :
-        std::initializer_list<QObject*>{m_komposition, m_ergebnisse, m_diagramm, m_pse, m_vergleich})
+        std::initializer_list<QObject*>{m_komposition, m_ergebnisse, m_diagramm, m_conWiegen1, m_pse, m_vergleich})
         panel->disconnect(this);
 }
 
@@ -210,6 +212,7 @@ void frmMain::connectPanels()
     connect(m_pse, &PSEbereich::componentChosen, this,
         [this](int row, const QString& symbol) { ComboElementListIndex(row, findElementEntry(row, fromQt(symbol))); });
     connect(m_diagramm, &Diagrammbereich::dreiKomponentenRequested, this, [this] {
+        const Verlauf::Handlung handlung(m_verlauf, {QStringLiteral("Drei Komponenten")});
         m_komposition->setAnzahl(3);
         m_diagramm->selectTernary();
     });
@@ -241,6 +244,7 @@ void frmMain::selectFirstDiagram()
 void frmMain::compute()
 {
     uebernehmen({.anzahl = true, .element = true, .anteil = true, .dichte = true, .valenz = true});
+    m_verlauf.beginne();
 }
 
 /// The way of every edit: the calculator gets the alloy once, then the panels that show it get it.
@@ -259,7 +263,7 @@ void frmMain::uebernehmen(const Aenderung& aenderung)
 /// Puts a kept alloy in place of the entered one.
 void frmMain::lade(const QString& name, const zerna::Eingabe& eingabe)
 {
-    m_komposition->setEingabe(eingabe);
+    m_komposition->setEingabe(eingabe, {QStringLiteral("„%1“ laden").arg(name)});
     showPanel(0);
     m_komposition->focusFirstField();
     m_meldung->zeige(QStringLiteral("✓  „%1“ geladen").arg(name));

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "programm/Programm.h"
+#include "ui/main/Verlauf.h"
 #include "ui/platform/Dialoge.h"
 
 class QStackedWidget;
@@ -42,6 +43,16 @@ public:
     void sperren(std::string_view grund) override;
     void show() override;
 
+    /// Every panel shows the document, which has become another one without an edit.
+    void zeigeDokument();
+
+    /// Shows a document that the program has just been given: no way leads back from it.
+    void beginneDokument();
+
+    /// Ends every user's change of the document, after all that follows from it.
+    void geschehen(const Schritt& schritt) { m_verlauf.geschehen(schritt); }
+    Verlauf& verlauf() { return m_verlauf; }
+
 protected:
     void closeEvent(QCloseEvent* event) override;
 
@@ -50,7 +61,11 @@ private:
     void createControls();
     void createCalculatorPanel(Dialoge dialoge);
     void connectPanels();
+    void connectVerlauf();
+    void zeigeStand(const Verlauf::Stand& stand, const Verlauf::Stand& vorher);
     void fillMenu();
+    QAction* addSchritt(const QString& text, const char* name, const QList<QKeySequence>& tasten);
+    void addSchritte();
     void addAnsichten();
     bool istEinwaageDran() const;
     void drucke();
@@ -63,6 +78,7 @@ private:
     void showLowerArea(int area);
 
     Programm& m_programm;
+    Verlauf m_verlauf;
     Menue* m_menue = nullptr;
     std::array<StyledButton*, 3> m_optButton1{};
     Kurzmeldung* m_meldung = nullptr; // beside the switches

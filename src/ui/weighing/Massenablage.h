@@ -32,6 +32,8 @@ public:
     /// The mass taken out of a row, which is then forgotten; no value if there is none.
     std::optional<AbgelegteMasse> nimm(int row);
 
+    void leere() { m_massen.fill({}); }
+
     /// Shows what there is, with the offer if one of the masses stood in the first `anzahl` rows.
     void zeige(int anzahl);
 

@@ -27,6 +27,8 @@ void Massenfeld::read()
 
 void Massenfeld::setMasse(const QString& text)
 {
+    if (text == this->text())
+        return; // the cursor stays where it is
     setWert(text, false);
     read();
 }

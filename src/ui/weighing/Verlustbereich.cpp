@@ -54,6 +54,8 @@ void Verlustbereich::zeige(const clsCalc& calc, std::span<const float> massen)
     }
 }
 
+void Verlustbereich::setVerlust(const QString& text) { m_txtVerlust->setMasse(text); }
+
 std::vector<std::string> Verlustbereich::zeilen() const
 {
     std::vector<std::string> lines;

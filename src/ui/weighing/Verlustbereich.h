@@ -25,11 +25,14 @@ public:
     /// is a loss of 0; the list is empty while there is neither a loss nor a mass.
     void zeige(const clsCalc& calc, std::span<const float> massen);
 
+    /// Writes the loss without taking it for typing; the list stays.
+    void setVerlust(const QString& text);
+
     /// The list's lines if a loss has been entered.
     std::vector<std::string> zeilen() const;
 
 signals:
-    void verlustEntered();
+    void verlustEntered(const QString& text);
 
 private:
     Massenfeld* m_txtVerlust = nullptr;

@@ -164,6 +164,8 @@ float Wiegezeile::istmasse() const { return m_istmasse->masse(); }
 
 bool Wiegezeile::istGewogen() const { return !m_istmasse->text().isEmpty(); }
 
+QString Wiegezeile::gewogen() const { return m_istmasse->text(); }
+
 void Wiegezeile::setIstmasse(const QString& text) { m_istmasse->setMasse(text); }
 
 void Wiegezeile::zeigeMangel(const QString& grund, bool istSchuld)

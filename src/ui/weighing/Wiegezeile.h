@@ -43,6 +43,7 @@ public:
     /// The mass weighed in mg; Unbekannt while its field holds none.
     float istmasse() const;
     bool istGewogen() const; ///< something has been typed, be it valid or not
+    QString gewogen() const; ///< as typed
     void setIstmasse(const QString& text); ///< without taking it for typing
 
     /// Says at the field of the mass weighed why the masses give no at%; empty if they do. An empty field that is to

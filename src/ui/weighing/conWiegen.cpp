@@ -2,8 +2,6 @@
 
 #include <QDate>
 #include <QGridLayout>
-#include <QGuiApplication>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -21,33 +19,16 @@
 #include "ui/weighing/Massenfeld.h"
 #include "ui/weighing/Verlustbereich.h"
 #include "ui/weighing/Wiegeausgabe.h"
+#include "ui/weighing/Wiegegrund.h"
+#include "ui/weighing/Wiegemeldung.h"
 #include "ui/weighing/Wiegezeile.h"
 
 namespace zerna {
 
-namespace {
-
-constexpr std::string_view Steuerelement = "Benutzersteuerelement conWiegen";
-
-/// The reason of an arithmetic failure that no component is to blame for.
-QString ursache(const Laufzeitfehler& error)
-{
-    return error.Nummer() == static_cast<int>(Fehler::Ueberlauf)
-        ? QStringLiteral("die Zahlen sind zu groß für die Rechnung")
-        : QStringLiteral("die Zahlen sind zu klein für die Rechnung");
-}
-
-/// The sentence about the component that is to blame.
-QString satz(const clsCalc& calc, const Wiegehindernis& hindernis)
-{
-    return toQt(calc.Element_Name(hindernis.komponente) + " " + hindernis.grund);
-}
-
-} // namespace
-
 conWiegen::conWiegen(Programm& programm, SaveFileDialog& saveDialog, QWidget* parent)
     : QWidget(parent)
     , m_programm(programm)
+    , m_meldung(new Wiegemeldung(programm.boxes(), this))
 {
     createControls(saveDialog);
     layOut();
@@ -69,9 +50,11 @@ void conWiegen::createTarget()
     m_txtSollMasse->setAccessibleName(QStringLiteral("Gewünschte Gesamtmasse in Milligramm"));
     m_txtSollMasse->setMasse(QStringLiteral("1000"));
     m_sollMasseCaption->setBuddy(m_txtSollMasse);
-    connect(m_txtSollMasse, &Massenfeld::textChanged, this, [this] {
+    connect(m_txtSollMasse, &Massenfeld::textChanged, this, [this](const QString& text) {
+        daten().gewuenscht = fromQt(text);
         computeTargets();
         showAuskunft();
+        emit geschehen({QStringLiteral("Gesamtmasse"), m_txtSollMasse->objectName()});
     });
 }
 
@@ -81,7 +64,7 @@ void conWiegen::createRows()
         auto* const zeile = new Wiegezeile(row, this);
         m_zeilen.at(static_cast<std::size_t>(row)) = zeile;
         connect(zeile, &Wiegezeile::istmasseEntered, this, [this, row] { Istmasse_Change(row); });
-        connect(zeile, &Wiegezeile::istmasseLeft, this, &conWiegen::reportLater);
+        connect(zeile, &Wiegezeile::istmasseLeft, m_meldung, &Wiegemeldung::zeigeSpaeter);
         connect(zeile, &Wiegezeile::returnPressed, this, [this, row] { Istmasse_KeyDown(row); });
     }
     m_gesamt = new Festlabel({}, 1, this);
@@ -97,7 +80,11 @@ void conWiegen::createAuskunft()
     m_ablage = new Massenablage(this);
     connect(m_ablage, &Massenablage::zurueckholen, this, &conWiegen::putBack);
     m_verlust = new Verlustbereich(this);
-    connect(m_verlust, &Verlustbereich::verlustEntered, this, &conWiegen::zeigeVerlust);
+    connect(m_verlust, &Verlustbereich::verlustEntered, this, [this](const QString& text) {
+        daten().verlust = fromQt(text);
+        zeigeVerlust();
+        emit geschehen({QStringLiteral("Masseverlust"), QStringLiteral("txtVerlust")});
+    });
 }
 
 void conWiegen::addBefehle(Menue& menue)
@@ -142,16 +129,52 @@ QGridLayout* conWiegen::table()
 void conWiegen::Aktualisieren(const Eingabe& eingabe)
 {
     m_anzahl = eingabe.anzahl();
-    const clsCalc& calc = m_programm.Calc();
     for (int row = 0; row < MaxKomponenten; ++row) {
-        auto taken =
-            row < m_anzahl ? at(row).zeige(calc.Element_Symbol(row), toQt(calc.Element_Name(row))) : at(row).hide();
-        if (taken)
+        if (auto taken = zeigeKomponente(row)) {
             m_ablage->legeAb(row, *std::move(taken));
+            gewogen(row).clear();
+        }
     }
-    m_meldung.reset();
+    m_meldung->merke(std::nullopt);
     computeTargets();
     weigh(); // the same masses mean other at% now
+}
+
+/// Shows the component of a row, or none; a mass that was weighed of another one is taken out and returned.
+std::optional<AbgelegteMasse> conWiegen::zeigeKomponente(int row)
+{
+    const clsCalc& calc = m_programm.Calc();
+    return row < m_anzahl ? at(row).zeige(calc.Element_Symbol(row), toQt(calc.Element_Name(row))) : at(row).hide();
+}
+
+/// A mass that is there again is no longer offered to be put back, one that is not there any more is.
+void conWiegen::zeigeDokument()
+{
+    const Wiegedaten shown = daten(); // computing writes the reference
+    m_anzahl = m_programm.Komponentenzahl();
+    m_txtSollMasse->setMasse(toQt(shown.gewuenscht));
+    m_verlust->setVerlust(toQt(shown.verlust));
+    for (int row = 0; row < MaxKomponenten; ++row) {
+        auto taken = zeigeKomponente(row);
+        if (!gewogen(row).empty())
+            m_ablage->nimm(row);
+        else if (taken)
+            m_ablage->legeAb(row, *std::move(taken));
+        at(row).setIstmasse(toQt(gewogen(row)));
+    }
+    m_meldung->merke(std::nullopt);
+    if (m_anzahl == 0)
+        return;
+    computeTargets();
+    if (shown.bezug && shown.bezug->komponente < m_anzahl)
+        reporting(m_programm.boxes(), "zeigeDokument", Wiegesteuerelement, [&] { beziehe(*shown.bezug); });
+    weigh();
+}
+
+void conWiegen::vergissAbgelegte()
+{
+    m_ablage->leere();
+    m_ablage->zeige(m_anzahl);
 }
 
 /// Target masses for the wanted total.
@@ -184,7 +207,7 @@ void conWiegen::showTargets(float wanted)
 
 void conWiegen::setBezug(const std::optional<Wiegebezug>& bezug)
 {
-    m_bezug = bezug;
+    daten().bezug = bezug;
     for (int row = 0; row < MaxKomponenten; ++row) {
         const bool isReference = bezug && bezug->komponente == row;
         at(row).zeigeBezug(isReference
@@ -219,7 +242,9 @@ bool conWiegen::isEverythingWeighed() const
 void conWiegen::Istmasse_Change(int row)
 {
     m_ablage->nimm(row);
-    m_meldung = weigh();
+    gewogen(row) = fromQt(at(row).gewogen());
+    m_meldung->merke(weigh());
+    emit geschehen({QStringLiteral("Istmasse von %1").arg(symbol(row)), numberedName("Istmasse", row)});
 }
 
 /// Shows what the masses weighed come to; returns why they come to nothing.
@@ -233,7 +258,7 @@ std::optional<Laufzeitfehler> conWiegen::weigh()
     try {
         if (isAnythingWeighed())
             showWeighed();
-        else if (m_bezug)
+        else if (daten().bezug)
             computeTargets();
     } catch (const Laufzeitfehler& error) {
         m_istFehler = error;
@@ -268,7 +293,7 @@ void conWiegen::showWeighed()
 /// The mass weighed in this row becomes the reference for the others' target masses.
 void conWiegen::Istmasse_KeyDown(int row)
 {
-    report();
+    m_meldung->zeige();
     const clsCalc& calc = m_programm.Calc();
     if (calc.Element_Prozente(row) == 0) {
         m_programm.boxes().show(Icon::Exclamation, "Zerna @ Marra",
@@ -280,42 +305,22 @@ void conWiegen::Istmasse_KeyDown(int row)
             Icon::Exclamation, Programmtitel, "Masse von " + calc.Element_Name(row) + " ist nicht angegeben!");
         return;
     }
-    reporting(m_programm.boxes(), "Istmasse_KeyDown", Steuerelement, [&] { beziehe(row); });
-}
-
-void conWiegen::beziehe(int row)
-{
-    const float masse = wiegezahl(at(row).istmasse());
-    m_sollmassen = sollmassenZu(m_programm.Calc(), m_anzahl, row, masse);
-    m_sollFehler.reset();
-    for (int other = 0; other < m_anzahl; ++other) {
-        if (other != row)
-            at(other).zeigeSollmasse(toQt(massentext(m_sollmassen[static_cast<std::size_t>(other)])));
-    }
-    setBezug(Wiegebezug{row, masse});
-    showAuskunft();
-}
-
-/// Out of the focus event, and not while a mouse button is down: its release would be lost to the box.
-void conWiegen::reportLater()
-{
-    constexpr int Wait = 20; // ms
-    if (!m_meldung)
-        return;
-    QTimer::singleShot(QGuiApplication::mouseButtons() == Qt::NoButton ? 0 : Wait, this, [this] {
-        if (QGuiApplication::mouseButtons() == Qt::NoButton)
-            report();
-        else
-            reportLater();
+    reporting(m_programm.boxes(), "Istmasse_KeyDown", Wiegesteuerelement, [&] {
+        beziehe({row, wiegezahl(at(row).istmasse())});
+        emit geschehen({QStringLiteral("Bezug auf %1").arg(symbol(row))});
     });
 }
 
-/// Shows once what the last change of a mass has run into.
-void conWiegen::report()
+void conWiegen::beziehe(const Wiegebezug& bezug)
 {
-    const std::optional<Laufzeitfehler> error = std::exchange(m_meldung, std::nullopt);
-    if (error)
-        reporting(m_programm.boxes(), "Istmasse_Change", Steuerelement, [&error] { throw Laufzeitfehler(*error); });
+    m_sollmassen = sollmassenZu(m_programm.Calc(), m_anzahl, bezug.komponente, bezug.masse);
+    m_sollFehler.reset();
+    for (int other = 0; other < m_anzahl; ++other) {
+        if (other != bezug.komponente)
+            at(other).zeigeSollmasse(toQt(massentext(m_sollmassen[static_cast<std::size_t>(other)])));
+    }
+    setBezug(bezug);
+    showAuskunft();
 }
 
 /// Says in the fields and below them what is missing.
@@ -323,34 +328,17 @@ void conWiegen::showAuskunft()
 {
     const clsCalc& calc = m_programm.Calc();
     const auto hindernis = m_istFehler ? atomprozentHindernis(calc, massen()) : std::nullopt;
+    const QString noAtomprozente = m_istFehler ? istGrund(calc, massen(), *m_istFehler) : QString();
     for (int row = 0; row < m_anzahl; ++row)
-        at(row).zeigeMangel(istGrund(), hindernis && hindernis->komponente == row);
-    QStringList lines{sollGrund(), istGrund()};
+        at(row).zeigeMangel(noAtomprozente, hindernis && hindernis->komponente == row);
+    const bool isMarked = istUnbekannt(m_txtSollMasse->masse()); // the field then tells
+    QStringList lines{m_sollFehler && !isMarked ? sollGrund(calc, m_anzahl, *m_sollFehler) : QString(), noAtomprozente};
     lines.removeAll(QString());
     if (lines.isEmpty())
         lines.append(toQt(wiegestandText()));
     m_hinweis->setText(lines.join(QLatin1Char('\n')));
     m_hinweis->setToolTip(m_hinweis->text());
     m_ablage->zeige(m_anzahl);
-}
-
-/// Why there are no target masses, in terms of the alloy where that is to blame.
-QString conWiegen::sollGrund() const
-{
-    if (!m_sollFehler || istUnbekannt(m_txtSollMasse->masse())) // then the field is marked
-        return {};
-    const auto hindernis = sollmassenHindernis(m_programm.Calc(), m_anzahl);
-    return QStringLiteral("Sollmassen nicht berechenbar: %1.")
-        .arg(hindernis ? satz(m_programm.Calc(), *hindernis) : ursache(*m_sollFehler));
-}
-
-QString conWiegen::istGrund() const
-{
-    if (!m_istFehler)
-        return {};
-    const auto hindernis = atomprozentHindernis(m_programm.Calc(), massen());
-    return QStringLiteral("Atomprozente nicht berechenbar: %1.")
-        .arg(hindernis ? satz(m_programm.Calc(), *hindernis) : ursache(*m_istFehler));
 }
 
 std::string conWiegen::wiegestandText() const
@@ -360,7 +348,7 @@ std::string conWiegen::wiegestandText() const
         const std::optional<float> ist = at(row).istGewogen() ? std::optional(at(row).istmasse()) : std::nullopt;
         wiegungen.push_back({m_sollmassen[static_cast<std::size_t>(row)], ist});
     }
-    return wiegestand(m_programm.Calc(), wiegungen, m_bezug);
+    return wiegestand(m_programm.Calc(), wiegungen, m_programm.Dokument().wiegen.bezug);
 }
 
 void conWiegen::putBack()
@@ -368,8 +356,10 @@ void conWiegen::putBack()
     for (int row = 0; row < m_anzahl; ++row) {
         if (const auto taken = m_ablage->nimm(row))
             at(row).setIstmasse(taken->masse);
+        gewogen(row) = fromQt(at(row).gewogen());
     }
     weigh();
+    emit geschehen({QStringLiteral("Istmassen zurückholen")});
 }
 
 void conWiegen::zeigeVerlust() { m_verlust->zeige(m_programm.Calc(), massen()); }
@@ -384,11 +374,12 @@ Wiegeprotokoll conWiegen::protokoll() const
             at(row).einwaage(calc.Element_Symbol(row), textOfSingle(calc.Element_Prozente(row))));
     if (isAnythingWeighed() && !m_gesamt->text().isEmpty())
         protokoll.gewogen = textWithDigits(gesamtmasse(massen()), 7); // all that a single holds
-    if (!m_bezug)
+    const std::optional<Wiegebezug>& bezug = m_programm.Dokument().wiegen.bezug;
+    if (!bezug)
         protokoll.gewuenscht = fromQt(m_txtSollMasse->text());
     else
-        protokoll.bezug = "Sollmassen bezogen auf " + textOfSingle(m_bezug->masse) + " mg "
-            + calc.Element_Symbol(m_bezug->komponente);
+        protokoll.bezug =
+            "Sollmassen bezogen auf " + textOfSingle(bezug->masse) + " mg " + calc.Element_Symbol(bezug->komponente);
     protokoll.verlust = m_verlust->zeilen();
     return protokoll;
 }

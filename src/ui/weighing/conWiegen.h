@@ -10,6 +10,8 @@
 #include "model/Wiegeauskunft.h"
 #include "programm/ExportFileDialog.h"
 #include "programm/Programm.h"
+#include "ui/controls/Schritt.h"
+#include "ui/platform/QtText.h"
 
 class QGridLayout;
 class QLabel;
@@ -21,7 +23,9 @@ class Massenfeld;
 class Menue;
 class Verlustbereich;
 class Wiegeausgabe;
+class Wiegemeldung;
 class Wiegezeile;
+struct AbgelegteMasse;
 struct Wiegeprotokoll;
 
 /// The weighing calculator: target masses for a wanted total, what the masses weighed come to, and what a loss of mass
@@ -36,8 +40,17 @@ public:
     /// no longer there are taken out of the rows, with an offer to put them back.
     void Aktualisieren(const Eingabe& eingabe);
 
+    /// Shows the weighing of the document, for the alloy in the calculator.
+    void zeigeDokument();
+
+    /// Offers no masses any more that were taken out: they belong to another document.
+    void vergissAbgelegte();
+
     void addBefehle(Menue& menue);
     void drucke();
+
+signals:
+    void geschehen(const Schritt& schritt);
 
 private:
     void createControls(SaveFileDialog& saveDialog);
@@ -50,34 +63,33 @@ private:
     void Istmasse_Change(int row);
     void Istmasse_KeyDown(int row);
     void zeigeVerlust();
-    void reportLater();
-    void report();
     void putBack();
 
+    std::optional<AbgelegteMasse> zeigeKomponente(int row);
     void computeTargets();
     std::optional<Laufzeitfehler> weigh();
     void showWeighed();
-    void beziehe(int row);
+    void beziehe(const Wiegebezug& bezug);
     void setBezug(const std::optional<Wiegebezug>& bezug);
     void showTargets(float wanted);
     void showAuskunft();
-    QString sollGrund() const;
-    QString istGrund() const;
     std::string wiegestandText() const;
     std::vector<float> massen() const;
     bool isAnythingWeighed() const;
     bool isEverythingWeighed() const;
     Wiegeprotokoll protokoll() const;
 
+    Wiegedaten& daten() { return m_programm.Dokument().wiegen; }
+    std::string& gewogen(int row) { return daten().gewogen.at(static_cast<std::size_t>(row)); }
+    QString symbol(int row) const { return toQt(m_programm.Calc().Element_Symbol(row)); }
     Wiegezeile& at(int row) const { return *m_zeilen.at(static_cast<std::size_t>(row)); }
 
     Programm& m_programm;
     int m_anzahl = 0; // components of the alloy that is weighed
     std::vector<float> m_sollmassen; // mg, one per component; none if they cannot be computed
     std::optional<Laufzeitfehler> m_sollFehler; // why not
-    std::optional<Wiegebezug> m_bezug; // what the target masses were set to match, unless the wanted total
     std::optional<Laufzeitfehler> m_istFehler; // why the masses give no at%
-    std::optional<Laufzeitfehler> m_meldung; // of the last change of a mass, not shown yet
+    Wiegemeldung* m_meldung = nullptr; // of the last change of a mass
     QLabel* m_sollMasseCaption = nullptr;
     Massenfeld* m_txtSollMasse = nullptr;
     std::array<Wiegezeile*, MaxKomponenten> m_zeilen{};

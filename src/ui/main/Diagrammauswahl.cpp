@@ -1,0 +1,120 @@
+#include "ui/main/Diagrammauswahl.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+
+#include <array>
+
+#include "model/PSEReihe.h"
+#include "ui/controls/Masse.h"
+#include "ui/main/Lehrbuchmarke.h"
+#include "ui/platform/QtText.h"
+#include "ui/platform/Schriftfolge.h"
+
+namespace zerna {
+
+namespace {
+
+/// Intended: right after the start "Elektronendichte" stands last although its code is 2.
+constexpr std::array AnfangsGroessen{0, 1, 3, 4, 5, 6, 7, 8, 9, 10, 2};
+
+constexpr std::array Legierungsgroessen{0, 1, 3, 4, 2, 5, 6, 7, 8, 9, 10};
+
+} // namespace
+
+Diagrammauswahl::Diagrammauswahl(Programm& programm, QWidget* parent)
+    : QWidget(parent)
+    , m_programm(programm)
+    , m_cmbDiagrammTyp(makeList("cmbDiagramm_Typ", QStringLiteral("Diagrammtyp")))
+    , m_cmbDiagramm(makeList("cmbDiagramm", QStringLiteral("Größe")))
+    , m_lehrbuch(new Lehrbuchmarke(programm, this))
+    , m_cmbDiagrammElement(makeList("cmbDiagramm_Element", QStringLiteral("Komponente entlang der Achse")))
+{
+    m_cmbDiagrammTyp->addItems({QStringLiteral("2 D"), QStringLiteral("3 D - ternär"), QStringLiteral("PSE")});
+    connect(m_cmbDiagrammTyp, &QComboBox::activated, this, &Diagrammauswahl::typChosen);
+    connect(m_cmbDiagramm, &QComboBox::activated, this, [this] {
+        wahl().groesse = m_cmbDiagramm->currentData().toInt();
+        emit groesseChosen(m_cmbDiagramm->currentText());
+    });
+    connect(m_cmbDiagrammElement, &QComboBox::activated, this, [this] {
+        wahl().komponente = m_cmbDiagrammElement->currentData().toInt();
+        emit komponenteChosen(m_cmbDiagrammElement->currentText());
+    });
+    layOut();
+}
+
+QComboBox* Diagrammauswahl::makeList(const char* name, const QString& accessibleName)
+{
+    auto* list = new QComboBox(this);
+    list->setObjectName(QLatin1String(name));
+    list->setAccessibleName(accessibleName);
+    list->setToolTip(accessibleName);
+    folgeSchrift(list, [list] { list->setFixedHeight(feldhoehe(*list)); });
+    return list;
+}
+
+void Diagrammauswahl::layOut()
+{
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(6);
+    row->addWidget(m_cmbDiagrammTyp);
+    row->addWidget(m_cmbDiagramm, 1);
+    row->addWidget(m_lehrbuch);
+    row->addWidget(m_cmbDiagrammElement);
+}
+
+std::vector<QWidget*> Diagrammauswahl::tabOrder() const
+{
+    return {m_cmbDiagrammTyp, m_cmbDiagramm, m_lehrbuch, m_cmbDiagrammElement};
+}
+
+void Diagrammauswahl::load() { fillQuantities(AnfangsGroessen); }
+
+void Diagrammauswahl::setTyp(Diagrammtyp typ)
+{
+    wahl().typ = typ;
+    m_cmbDiagrammTyp->setCurrentIndex(static_cast<int>(typ));
+    fillQuantities(typ == Diagrammtyp::PSE ? psegroessen() : std::span<const int>(Legierungsgroessen));
+    m_cmbDiagrammElement->setVisible(typ == Diagrammtyp::Konzentration);
+}
+
+void Diagrammauswahl::fillQuantities(std::span<const int> quantities)
+{
+    m_cmbDiagramm->clear();
+    for (const int kennzahl : quantities)
+        m_cmbDiagramm->addItem(toQt(findGroesse(kennzahl)->name), kennzahl);
+    m_cmbDiagramm->setCurrentIndex(qMax(0, m_cmbDiagramm->findData(wahl().groesse)));
+    wahl().groesse = m_cmbDiagramm->currentData().toInt();
+}
+
+void Diagrammauswahl::setGroesse(int kennzahl)
+{
+    const int position = m_cmbDiagramm->findData(kennzahl);
+    if (position < 0)
+        return;
+    m_cmbDiagramm->setCurrentIndex(position);
+    wahl().groesse = kennzahl;
+}
+
+void Diagrammauswahl::listKomponenten(const Eingabe& eingabe)
+{
+    m_cmbDiagrammElement->clear();
+    for (int row = 0; row < eingabe.anzahl(); ++row) {
+        const auto& element = eingabe.zeile(row).element;
+        m_cmbDiagrammElement->addItem(element ? toQt(element->symbol()) : QString(), row);
+    }
+    wahl().komponente = 0;
+}
+
+void Diagrammauswahl::setKomponente(int row)
+{
+    if (row < 0 || row >= m_cmbDiagrammElement->count())
+        return;
+    m_cmbDiagrammElement->setCurrentIndex(row);
+    wahl().komponente = row;
+}
+
+void Diagrammauswahl::zeigeLehrbuch() { m_lehrbuch->zeige(wahl().groesse); }
+
+} // namespace zerna
