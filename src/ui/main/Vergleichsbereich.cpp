@@ -74,7 +74,7 @@ QAction* Vergleichsbereich::makeAction(
 void Vergleichsbereich::createActions()
 {
     using Bereich = Vergleichsbereich;
-    m_laden = makeAction(QStringLiteral("In den Rechner la&den"), "mnuVergleich_Laden",
+    m_laden = makeAction(QStringLiteral("In den Rechner la&den\tEingabetaste"), "mnuVergleich_Laden",
         {QKeySequence(Qt::Key_Return), QKeySequence(Qt::Key_Enter)}, &Bereich::lade);
     removeAction(m_laden); // the keys press a button that has the focus
     m_ansicht->addAction(m_laden);
