@@ -42,6 +42,13 @@ std::FILE* openFile(const std::filesystem::path& path, const char* mode)
     return failedWith(ENXIO);
 }
 
+std::FILE* openStream(const std::filesystem::path& path) { return _wfopen(path.c_str(), L"rb"); }
+
+std::ptrdiff_t readSome(std::FILE* file, std::span<char> bytes)
+{
+    return _read(_fileno(file), bytes.data(), static_cast<unsigned>(bytes.size()));
+}
+
 std::FILE* createFile(const std::filesystem::path& path, bool)
 {
     // Nobody can delete it while it is open, since deleting is not shared.
@@ -138,6 +145,17 @@ std::FILE* openFile(const std::filesystem::path& path, const char* mode)
         return streamOf(descriptor, mode);
     closeQuietly(descriptor);
     return nullptr;
+}
+
+std::FILE* openStream(const std::filesystem::path& path) { return std::fopen(path.c_str(), "rbe"); }
+
+std::ptrdiff_t readSome(std::FILE* file, std::span<char> bytes)
+{
+    ::ssize_t count = -1;
+    do
+        count = ::read(::fileno(file), bytes.data(), bytes.size());
+    while (count < 0 && errno == EINTR);
+    return count;
 }
 
 std::FILE* createFile(const std::filesystem::path& path, bool forOwnerAlone)

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdio>
 #include <filesystem>
+#include <span>
 
 /// Files as the platform gives them. What fails sets errno.
 namespace zerna {
@@ -9,6 +11,12 @@ namespace zerna {
 /// Opens an ordinary file of any name; `mode` as for fopen, binary. Null for anything else: EISDIR for a folder, ENXIO
 /// for a pipe or a device, at once and without waiting for its other end.
 std::FILE* openFile(const std::filesystem::path& path, const char* mode);
+
+/// Opens anything that bytes come out of, pipes and devices too, which may wait for the other end; null on failure.
+std::FILE* openStream(const std::filesystem::path& path);
+
+/// Reads what is there, waiting only while there is nothing; 0 at the end, -1 on failure. Goes past the file's buffer.
+std::ptrdiff_t readSome(std::FILE* file, std::span<char> bytes);
 
 /// Creates a file that must not be there yet, for its owner alone or as is usual; null with EEXIST if there is one.
 /// While it is open removeLeftover leaves it alone. Ends with moveInto or discard, which close it.
