@@ -25,6 +25,7 @@ void registerLegierungBenchmarks();
 void registerElementdateiBenchmarks();
 void registerBearbeitungBenchmarks();
 void registerEinwaageBenchmarks();
+void registerStapelBenchmarks();
 void registerPeriodentafelBenchmarks();
 void registerTernaerBenchmarks();
 void registerDiagrammBenchmarks();
@@ -60,6 +61,7 @@ constexpr std::array Verhaeltnisse{
         "Legierung auf einmal : Schleife, einmal", "Legierung/auf einmal", "Legierung/Schleife, einmal", OhneZiel, 0},
     Verhaeltnis{
         "Bearbeitung bis zu den Größen : Formeln", "Bearbeitung/Größen", "Bearbeitung/bloße Formeln", Hoechstens, 1.5},
+    Verhaeltnis{"Stapel, Zeile zu Zeile : bloße Formeln", "Stapel/Zeilen", "Stapel/bloße Formeln", Hoechstens, 30},
     Verhaeltnis{"Elemente laden : lesen und kopieren", "Elementdatei/laden", "Elementdatei/kopieren", Hoechstens, 2},
     Verhaeltnis{"Periodentafel : 103 Rechtecke", "Periodentafel/zeichnen", "Periodentafel/Rechtecke", Hoechstens, 1.3},
     Verhaeltnis{
@@ -186,6 +188,7 @@ int main(int argc, char** argv)
     zerna::registerElementdateiBenchmarks();
     zerna::registerBearbeitungBenchmarks();
     zerna::registerEinwaageBenchmarks();
+    zerna::registerStapelBenchmarks();
 #ifdef ZERNA_WINDOW
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);

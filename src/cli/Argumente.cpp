@@ -49,15 +49,15 @@ std::string missingArgument(const CLI::App& befehl)
 
 } // namespace
 
-void Komponenten::define(CLI::App& befehl)
+CLI::Option* Komponenten::define(CLI::App& befehl)
 {
-    befehl
+    befehl.add_flag("--massenprozent", massenprozent, "ATPROZENT sind Massenprozent");
+    return befehl
         .add_option("komponenten", texte,
             "SYMBOL=ATPROZENT[:dichte=ZAHL|amorph|fluessig|kristallin][:valenz=s|p|d|f|TEXT], eine bis fünf; oder eine "
             "Datei *.zerna, *.png, *.svg, *.pdf, die eine Legierung enthält")
         ->required()
         ->option_text("KOMPONENTE ...");
-    befehl.add_flag("--massenprozent", massenprozent, "ATPROZENT sind Massenprozent");
 }
 
 void Ausgabe::define(CLI::App& befehl)

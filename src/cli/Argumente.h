@@ -11,7 +11,7 @@ namespace zerna {
 
 /// Options that several commands have. Numbers are read by the program's own rules, so they are kept as texts.
 struct Komponenten {
-    void define(CLI::App& befehl);
+    CLI::Option* define(CLI::App& befehl);
     Anteilseinheit einheit() const { return massenprozent ? Anteilseinheit::Masse : Anteilseinheit::Atom; }
 
     std::vector<std::string> texte;

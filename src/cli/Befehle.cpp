@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "cli/Argumente.h"
+#include "cli/Stapel.h"
 #include "cli/Umgebung.h"
 #include "core/ElementCsv.h"
 #include "core/Elementdatei.h"
@@ -53,12 +54,25 @@ struct Groessenliste {
     {
         form.define(befehl);
         befehl.add_flag("--lehrbuch", lehrbuch, "Wo der Wert vom Lehrbuch abweicht, dahinter dessen Wert und Einheit");
-        komponenten.define(befehl);
+        stapel.define(befehl);
+        komponenten.define(befehl)->required(false);
         ausgabe.define(befehl);
     }
 
     void run(Umgebung& umgebung) const
     {
+        if (!stapel.gewaehlt)
+            return runOne(umgebung);
+        if (form.json || lehrbuch || !ausgabe.datei.empty())
+            throw Aufruffehler("--json, --lehrbuch und --ausgabe gibt es nicht mit --stapel");
+        stapel.run(umgebung, komponenten.texte, komponenten.einheit());
+    }
+
+    void runOne(Umgebung& umgebung) const
+    {
+        stapel.requireUnused();
+        if (komponenten.texte.empty())
+            throw Aufruffehler("Es fehlt das Argument komponenten (Hilfe: zerna-cli --hilfe)");
         umgebung.loadAlloy(komponenten.texte, komponenten.einheit());
         umgebung.nenneBefund();
         Rechenkern& kern = umgebung.kern();
@@ -69,6 +83,7 @@ struct Groessenliste {
 
     bool lehrbuch = false;
     Tabellenform form;
+    Stapel stapel;
     Komponenten komponenten;
     Ausgabe ausgabe;
 };

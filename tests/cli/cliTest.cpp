@@ -31,4 +31,36 @@ TEST_F(cliTest, ElementsGoToATableAndBackUnchanged)
     EXPECT_EQ(bytesOf(folder / "a.dat"), bytesOf(ZERNA_BIN_DIR "/elemente.dat")) << "left untouched";
 }
 
+TEST_F(cliTest, ListsTakeNoMoreMemoryTheLongerTheyAre)
+{
+#ifdef __SANITIZE_ADDRESS__ // takes terabytes of addresses
+    const std::string limit;
+#else
+    const std::string limit = "ulimit -v 60000; ";
+#endif
+    const std::string list = " | (" + limit + "zerna-cli groessen --stapel --groessen 0)";
+    const Answer lines = run("formel 1 >/dev/null; yes Al=100 | head -300000" + list + " | uniq -c");
+    EXPECT_EQ(lines.text, "      1 Legierung\tmittlere Valenz [e/a]\n 300000 Al=100\t3\n");
+    const Answer line = run("formel 1 >/dev/null; (head -c 100000000 /dev/zero; printf '\\nAl=100\\n\\0')" + list);
+    EXPECT_EQ(line.text,
+        "Legierung\tmittlere Valenz [e/a]\nZeile 1: länger als 65536 Zeichen\nAl=100\t3\n"
+        "Zeile 3: Nullbytes; erwartet wird Text in UTF-8\nzerna-cli: 2 Fehler\n");
+    EXPECT_EQ(line.status, 1);
+}
+
+TEST_F(cliTest, ListsEndWithTheirOutput)
+{
+    const std::string endless = "formel 1 >/dev/null; yes Al=100 | zerna-cli groessen --stapel --groessen 0";
+    EXPECT_EQ(run(endless + " >/dev/full").text, "zerna-cli: Die Standardausgabe kann nicht geschrieben werden\n");
+    EXPECT_EQ(run(endless + " | head -2").text, "Legierung\tmittlere Valenz [e/a]\nAl=100\t3\n");
+}
+
+TEST_F(cliTest, ListsAnswerEachLineBeforeTheNextOneComes)
+{
+    const Answer answer = run("formel 1 >/dev/null; mkfifo in out; zerna-cli groessen --stapel --groessen 0 <in >out & "
+                              "exec 5>in 6<out; read -r x <&6; for al in 100 50; do echo Al=$al >&5; read -r x <&6; "
+                              "echo \"$x\"; done");
+    EXPECT_EQ(answer.text, "Al=100\t3\nAl=50\t1.5\n");
+}
+
 } // namespace zerna

@@ -1,0 +1,133 @@
+#include "programm/Stapelrechner.h"
+
+#include <random>
+#include <typeinfo>
+
+#include "core/ElementCsv.h"
+#include "core/Elementdatei.h"
+#include "model/Ergebnislage.h"
+#include "model/Groessenauswahl.h"
+#include "model/Groessentabelle.h"
+#include "model/Legierungsliste.h"
+#include "support/FilesTest.h"
+
+namespace {
+
+int exceptions = 0;
+
+} // namespace
+
+// The linker calls the original __real_NAME and this __wrap_NAME.
+extern "C" [[noreturn]] void __real___cxa_throw(void* object, std::type_info* type, void (*destructor)(void*));
+extern "C" [[noreturn]] void __wrap___cxa_throw(void* object, std::type_info* type, void (*destructor)(void*))
+{
+    ++exceptions;
+    __real___cxa_throw(object, type, destructor);
+}
+
+namespace zerna {
+
+struct StapelrechnerTest : FilesTest {
+    StapelrechnerTest()
+    {
+        saveElements(folder / "e.dat", readElementCsv(bytesOf(ZERNA_DATA_DIR "/elemente.csv")));
+        kern.loadFile(folder / "e.dat");
+        einzeln.loadFile(folder / "e.dat");
+    }
+
+    /// All quantities of an alloy and what is to be said about it, or why there are none.
+    std::string amStueck(Stapelrechner& welcher, const std::string& legierung)
+    {
+        if (!welcher.rechne(legierung))
+            return welcher.grund();
+        std::string zeile;
+        liste.append(zeile, "", welcher.calc());
+        return zeile + welcher.hinweis();
+    }
+
+    /// The same by way of the command for one alloy.
+    std::string allein(const std::vector<std::string>& komponenten, Anteilseinheit einheit = Anteilseinheit::Atom)
+    try {
+        std::vector<Komponentenangabe> angaben;
+        for (const std::string& text : komponenten)
+            angaben.push_back(komponentenangabe(text, einheit));
+        einzeln.setAlloy(angaben, einheit);
+        const std::vector<std::vector<std::string>> known = groessentabelle(einzeln.calc()).zeilen;
+        std::string zeile;
+        auto next = known.begin();
+        for (const Groesse& groesse : ergebniszeilen()) {
+            zeile += '\t';
+            if (next != known.end() && next->front() == groesse.bezeichnung())
+                zeile += (next++)->at(1);
+        }
+        const Ergebnislage lage = ergebnislage(einzeln.eingabe(), einzeln.eingabe(), einzeln.calc());
+        return zeile + '\n' + (lage.befund ? befundgrund(einzeln.eingabe(), *lage.befund) : "");
+    } catch (const std::runtime_error& error) {
+        return error.what();
+    }
+
+    template <class List>
+    const auto& oneOf(const List& list)
+    {
+        return list[random() % std::size(list)];
+    }
+
+    std::mt19937 random{9};
+    Rechenkern kern{boxes};
+    Rechenkern einzeln{boxes};
+    Stapelrechner rechner{kern};
+    Stapelrechner massenrechner{kern, Anteilseinheit::Masse};
+    Legierungsliste liste{groessenauswahl({}).groessen, Legierungsliste::Form::Text};
+};
+
+TEST_F(StapelrechnerTest, AnswersLikeTheCommandForOneAlloy)
+{
+    const std::string symbole[] = {"Al", "Cu", "Mg", "Fe", "B", "cu", "ZN"};
+    const std::string prozente[] = {"0", "12,5", "33.3", "1e1", "60", "0.5", "100", "-3", "120"};
+    const std::string dichten[] = {"", "", ":dichte=kristallin", ":dichte=2,7", ":dichte=fluessig", ":dichte=-1"};
+    const std::string valenzen[] = {
+        "", "", ":valenz=2", ":valenz=s", ":valenz=3/2", ":valenz=z_Cu", ":valenz=0-3", ":valenz=0"};
+    const std::string faults[] = {"", "At=5", "Al", "=5", "Xx=5", "Al=x", "Al=1e999", "Al=1:", "Al=1:dichte=amorph",
+        "B=1:valenz=d", "Al=1:valenz=1/0", "Al=1:valenz=foo(1)", "Al=1:dichte=0", "Al=1:farbe=2",
+        "Al=1:dichte=2:valenz=1:dichte=2"};
+    int failures = 0;
+    for (int i = 0; i < 2000; ++i) {
+        std::vector<std::string> komponenten(1 + random() % 5);
+        for (std::string& k : komponenten)
+            k = oneOf(symbole) + "=" + oneOf(prozente) + oneOf(dichten) + oneOf(valenzen);
+        if (const std::string& fault = oneOf(faults); i % 3 == 0 && !fault.empty())
+            komponenten.back() = fault;
+        std::string legierung = oneOf(std::array<std::string, 2>{"", " \t"});
+        for (const std::string& k : komponenten)
+            legierung += k + (random() % 2 == 0 ? " " : "\t ");
+        ASSERT_EQ(amStueck(rechner, legierung), allein(komponenten)) << legierung;
+        ASSERT_EQ(amStueck(massenrechner, legierung), allein(komponenten, Anteilseinheit::Masse)) << legierung;
+        failures += rechner.grund().empty() ? 0 : 1;
+    }
+    EXPECT_GT(failures, 400);
+    EXPECT_LT(failures, 1000);
+    EXPECT_EQ(amStueck(rechner, ""), allein({}));
+    EXPECT_EQ(amStueck(rechner, "Al=1 Al=1 Al=1 Al=1 Al=1 Al=1"), allein(std::vector<std::string>(6, "Al=1")));
+}
+
+TEST_F(StapelrechnerTest, ThrowsNothingForWrongTextsAndForgetsOldOnes)
+{
+    const auto thrown = [this](const std::string& legierung) {
+        const int before = exceptions;
+        amStueck(rechner, legierung);
+        return exceptions - before;
+    };
+    for (const char* const wrong : {"", "Al", "Al=60 Xx=40", "Al=x", "Al=1e999", "Al=1:dichte=amorph", "B=1:valenz=d",
+             "Al=1:dichte=0", "Al=1 Al=1 Al=1 Al=1 Al=1 Al=1"})
+        EXPECT_EQ(thrown(wrong), 0) << wrong;
+    for (const std::string wrong : {"1/0", "1e39"}) { // ends with an exception when it is read, once
+        thrown("Al=5:valenz=" + wrong);
+        EXPECT_EQ(thrown("Al=7:valenz=" + wrong), 0) << wrong;
+    }
+    const std::string sound = amStueck(rechner, "Al=60 Cu=40");
+    for (int i = 1; i < 20000; ++i)
+        ASSERT_TRUE(rechner.rechne("Al=100:dichte=" + std::to_string(i))) << i << rechner.grund();
+    EXPECT_EQ(amStueck(rechner, "Al=60 Cu=40"), sound);
+}
+
+} // namespace zerna
