@@ -138,6 +138,26 @@ std::optional<Befund> mittelbefund(const Eingabe& eingabe, const clsCalc& calc)
             + " e/a), es gibt keine Leitungselektronen. Valenzen prüfen."};
 }
 
+Anteilssumme anteilssumme(const Eingabe& eingabe, std::span<const Befund> alle)
+{
+    double sum = 0;
+    for (int i = 0; i < eingabe.anzahl(); ++i) {
+        const Eingabefeld& anteil = eingabe.anteilInKraft(i);
+        if (anteil.fehler)
+            return {"Σ ?", {}};
+        sum += anteil.wert;
+    }
+    constexpr int Digits = 6; // singles do not add up to 100 in more
+    const std::string text = "Σ " + textWithDigits(sum, Digits) + " %";
+    for (const Befund& befund : alle) {
+        const float wert = eingabe.anteilInKraft(befund.zeile).wert;
+        const bool isPart = befund.ort == Eingabeort::Prozent && befund.schwere == Schwere::Bedenken;
+        if (isPart && (wert < 0 || wert > 100))
+            return {text + ": " + befund.text.substr(0, befund.text.find(". ")), befund.text};
+    }
+    return {text, {}};
+}
+
 const Befund* wichtigster(std::span<const Befund> alle)
 {
     const auto fault = std::ranges::find(alle, Schwere::Fehler, &Befund::schwere);

@@ -34,6 +34,13 @@ std::vector<Befund> befunde(const Eingabe& eingabe);
 /// What there is to say of an alloy whose rows are all right by themselves: its means must be positive.
 std::optional<Befund> mittelbefund(const Eingabe& eingabe, const clsCalc& calc);
 
+/// The sum of the parts as it is shown, and what is odd about them; empty if nothing is.
+struct Anteilssumme {
+    std::string text; ///< "Σ 100 %", with the reason behind it; "Σ ?" while a part has no value
+    std::string bedenken;
+};
+Anteilssumme anteilssumme(const Eingabe& eingabe, std::span<const Befund> alle);
+
 /// The first fault, else the first of the others; null if there are none.
 const Befund* wichtigster(std::span<const Befund> alle);
 

@@ -365,7 +365,7 @@ void Diagrammbereich::drawPSE()
     }
 }
 
-/// Each row has its label; the balance row's cannot be stepped.
+/// Each row has its label; the balance row's cannot be stepped, and none can while mass % are typed.
 void Diagrammbereich::refreshLabels()
 {
     constexpr float Shown = 1e6F; // what no label has room for is left as it was
@@ -376,7 +376,7 @@ void Diagrammbereich::refreshLabels()
             continue;
         const Eingabefeld& prozent = m_eingabe.prozentInKraft(row);
         label.setLabel(symbolOf(m_eingabe.zeile(row)) + QLatin1Char(' '));
-        label.setEnabled(!m_eingabe.istAusgleich(row));
+        label.setEnabled(!m_eingabe.istAusgleich(row) && m_eingabe.einheit() == Anteilseinheit::Atom);
         if (!prozent.fehler && std::abs(prozent.wert) < Shown)
             label.setValue(static_cast<int>(std::lround(prozent.wert)));
     }

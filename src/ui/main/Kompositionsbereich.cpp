@@ -13,6 +13,7 @@
 #include "ui/button/StyledButton.h"
 #include "ui/controls/Knopfzeile.h"
 #include "ui/controls/Menue.h"
+#include "ui/main/Anteilskoepfe.h"
 #include "ui/main/Dichteschalter.h"
 #include "ui/main/Kompositionszeile.h"
 #include "ui/platform/QtText.h"
@@ -47,9 +48,10 @@ void Kompositionsbereich::createControls()
     m_dichteschalter = new Dichteschalter(this);
     connect(
         m_dichteschalter, &Dichteschalter::chosen, this, [this](const auto& wahl) { dichteartChosen(fromQt(wahl)); });
-    const std::array<std::pair<const char*, QString>, 4> heads{
-        {{"Label5", QStringLiteral("Komponente")}, {"Label2", QStringLiteral("at %")},
-            {"Label3", QStringLiteral("Dichte [g/cm³]")}, {"Label4", QStringLiteral("Valenz")}}};
+    m_anteilskoepfe = new Anteilskoepfe(this);
+    connect(m_anteilskoepfe, &Anteilskoepfe::chosen, this, &Kompositionsbereich::setEinheit);
+    const std::array<std::pair<const char*, QString>, 3> heads{{{"Label5", QStringLiteral("Komponente")},
+        {"Label3", QStringLiteral("Dichte [g/cm³]")}, {"Label4", QStringLiteral("Valenz")}}};
     for (std::size_t i = 0; i < heads.size(); ++i) {
         m_heads.at(i) = new QLabel(heads.at(i).second, this);
         m_heads.at(i)->setObjectName(QLatin1String(heads.at(i).first));
@@ -67,6 +69,11 @@ void Kompositionsbereich::addBefehle(Menue& menue)
         menue.add(Menue::Abschnitt::Legierung,
             {.text = text, .name = name, .tun = [this, step = step] { stepAnzahl(step); }});
     }
+    menue.add(Menue::Abschnitt::Legierung,
+        {.text = QStringLiteral("&Anteile in Masse % eintippen"),
+            .name = "mnuMasse",
+            .tun = [this] { setEinheit(andere(eingabe().einheit())); },
+            .gewaehlt = [this] { return eingabe().einheit() == Anteilseinheit::Masse; }});
 }
 
 /// Each edit becomes one operation on the entered alloy.
@@ -76,7 +83,7 @@ void Kompositionsbereich::connectRow(int row)
     const Zeile* const zeile = &at(row);
     connect(zeile, &Zeile::elementChosen, this, [this, row](const auto& key) { elementChosen(row, fromQt(key)); });
     connect(zeile, &Zeile::prozentEntered, this, [this, row](const QString& text) {
-        taken(eingabe().setProzent(row, fromQt(text)), schritt("at% von", row, "txtProzent"));
+        taken(eingabe().setProzent(row, fromQt(text)), schritt(anteilVon(), row, "txtProzent"));
     });
     connect(zeile, &Zeile::dichteChosen, this, [this, row](const QString& wahl) {
         taken(eingabe().waehleDichte(row, fromQt(wahl)), schritt("Dichte von", row));
@@ -96,7 +103,7 @@ void Kompositionsbereich::connectRow(int row)
         if (!eingabe().istAusgleich(row))
             return;
         eingabe().gleicheAus(); // what was typed there must not pass for the at% in force
-        taken({}, schritt("at% von", row, "txtProzent"));
+        taken({}, schritt(anteilVon(), row, "txtProzent"));
     });
 }
 
@@ -111,16 +118,18 @@ void Kompositionsbereich::layOut()
         setZeichenknopf(button);
         top->addWidget(button);
     }
-    top->addStretch();
+    top->addSpacing(12);
+    top->addWidget(m_anteilskoepfe->summe(), 1);
     top->addWidget(m_dichteschalter);
 
     auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(6);
+    grid->setHorizontalSpacing(4);
     grid->setVerticalSpacing(4); // the toolkit drops the spacing of hidden rows, so what is below moves up
     grid->addWidget(m_heads[0], 0, 0, 1, 2);
-    grid->addWidget(m_heads[1], 0, 2);
-    grid->addWidget(m_heads[2], 0, 3, 1, 2);
-    grid->addWidget(m_heads[3], 0, 5, 1, 2);
+    grid->addWidget(m_anteilskoepfe->kopf(Anteilseinheit::Atom), 0, 2);
+    grid->addWidget(m_anteilskoepfe->kopf(Anteilseinheit::Masse), 0, 3);
+    grid->addWidget(m_heads[1], 0, 4, 1, 2);
+    grid->addWidget(m_heads[2], 0, 6, 1, 2);
     for (int row = 0; row < MaxKomponenten; ++row)
         at(row).layOut(*grid, row + 1);
     grid->setColumnStretch(1, 1);
@@ -173,10 +182,17 @@ void Kompositionsbereich::gehZu(int row, Eingabeort ort) { at(row).gehZu(ort); }
 
 void Kompositionsbereich::enterProzent(int row, int prozent)
 {
-    taken(eingabe().setProzent(row, textOfSingle(static_cast<float>(prozent))), schritt("at% von", row, "conLabel"));
+    taken(eingabe().setProzent(row, textOfSingle(static_cast<float>(prozent))), schritt(anteilVon(), row, "conLabel"));
 }
 
 void Kompositionsbereich::stepAnzahl(int step) { setAnzahl(naechsteKomponentenzahl(eingabe().anzahl(), step)); }
+
+void Kompositionsbereich::setEinheit(Anteilseinheit einheit)
+{
+    eingabe().setEinheit(einheit);
+    taken({}, {QStringLiteral("Einheit der Anteile")});
+    emit einheitGeaendert();
+}
 
 void Kompositionsbereich::setEingabe(const zerna::Eingabe& eingabe, const Schritt& schritt)
 {
@@ -256,6 +272,11 @@ void Kompositionsbereich::taken(const Aenderung& aenderung, const Schritt& schri
     emit geschehen(schritt);
 }
 
+const char* Kompositionsbereich::anteilVon()
+{
+    return eingabe().einheit() == Anteilseinheit::Masse ? "Masse % von" : "at% von";
+}
+
 /// The step that does something to a row, typing in one of its fields where that is named.
 Schritt Kompositionsbereich::schritt(const char* was, int row, const char* feld)
 {
@@ -278,8 +299,10 @@ void Kompositionsbereich::zeigeDokument()
 void Kompositionsbereich::zeige()
 {
     const std::vector<Befund> alle = befunde(eingabe());
+    const std::array anteile{eingabe().anteile(Anteilseinheit::Atom), eingabe().anteile(Anteilseinheit::Masse)};
     for (Kompositionszeile* const zeile : m_zeilen)
-        zeile->zeige(eingabe(), alle);
+        zeile->zeige(eingabe(), anteile, alle);
+    m_anteilskoepfe->zeige(eingabe(), alle);
     m_dichteschalter->zeige(eingabe());
     m_lblAnzahl->setText(QString::number(eingabe().anzahl()));
 }

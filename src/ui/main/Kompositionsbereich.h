@@ -13,6 +13,7 @@ class QLabel;
 
 namespace zerna {
 
+class Anteilskoepfe;
 class Dichteschalter;
 class Kompositionszeile;
 class Menue;
@@ -65,12 +66,15 @@ signals:
     void befundGeaendert();
     /// The user has done something to the entered alloy, and all who follow it have followed.
     void geschehen(const Schritt& schritt);
+    /// Parts are typed in the other unit now.
+    void einheitGeaendert();
 
 private:
     void createControls();
     void layOut();
     void connectRow(int row);
     void stepAnzahl(int step);
+    void setEinheit(Anteilseinheit einheit);
     void elementChosen(int row, std::string_view key);
     void valenzEdited(const Aenderung& aenderung, const Schritt& schritt);
     void speichereAnzahl();
@@ -78,6 +82,7 @@ private:
     void valenzLeft(int row);
     void dichteartChosen(std::string_view wahl);
     void taken(const Aenderung& aenderung, const Schritt& schritt);
+    const char* anteilVon();
     Schritt schritt(const char* was, int row, const char* feld = nullptr);
     void zeige();
 
@@ -90,7 +95,8 @@ private:
     QLabel* m_lblAnzahl = nullptr;
     std::array<StyledButton*, 2> m_cmdKom{};
     Dichteschalter* m_dichteschalter = nullptr;
-    std::array<QLabel*, 4> m_heads{};
+    Anteilskoepfe* m_anteilskoepfe = nullptr;
+    std::array<QLabel*, 3> m_heads{};
     std::array<Kompositionszeile*, MaxKomponenten> m_zeilen{};
     std::string m_gemeldet; // the formula whose unknown functions have been spoken of
 };

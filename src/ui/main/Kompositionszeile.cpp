@@ -2,12 +2,14 @@
 
 #include <QComboBox>
 #include <QGridLayout>
-#include <QLabel>
 
 #include <algorithm>
+#include <cmath>
 
+#include "core/Zahlentext.h"
 #include "model/Herkunft.h"
 #include "ui/controls/Elementliste.h"
+#include "ui/controls/Kurzlabel.h"
 #include "ui/controls/Masse.h"
 #include "ui/controls/Wertfeld.h"
 #include "ui/platform/QtText.h"
@@ -27,6 +29,15 @@ Widget* make(QWidget* panel, const char* name, int row, const QString& accessibl
     return widget;
 }
 
+/// A part with digits enough to go by; the tool tip has all.
+QString kurzerAnteil(float wert)
+{
+    constexpr int Digits = 4;
+    const float amount = std::abs(wert);
+    const int fewer = amount < 0.1F ? 2 : 1; // so many leading zeros take room
+    return toQt(textWithDigits(wert, amount < 1 ? Digits - fewer : Digits));
+}
+
 /// Shows an entered text.
 void write(Wertfeld& feld, const Eingabefeld& eingabe)
 {
@@ -41,8 +52,9 @@ Kompositionszeile::Kompositionszeile(int row, QWidget* panel)
     : QObject(panel)
     , m_row(row)
     , m_cmbElement(make<Elementliste>(panel, "cmbElement", row, QStringLiteral("Element")))
-    , m_lblElement(make<QLabel>(panel, "lblElement", row, QStringLiteral("Elementname")))
+    , m_lblElement(make<Kurzlabel>(panel, "lblElement", row, QStringLiteral("Elementname")))
     , m_txtProzent(make<Wertfeld>(panel, "txtProzent", row, QStringLiteral("Atomprozent")))
+    , m_txtMasse(make<Wertfeld>(panel, "txtMasse", row, QStringLiteral("Massenprozent")))
     , m_cmdDichte(make<QComboBox>(panel, "cmdDichte", row, QStringLiteral("Auswahl der Dichte")))
     , m_txtDichte(make<Wertfeld>(panel, "txtDichte", row, QStringLiteral("Dichte in Gramm je Kubikzentimeter")))
     , m_cmbValenz(make<QComboBox>(panel, "cmbValenz", row, QStringLiteral("Auswahl der Valenz")))
@@ -51,9 +63,9 @@ Kompositionszeile::Kompositionszeile(int row, QWidget* panel)
     connectControls();
 }
 
-std::array<QWidget*, 7> Kompositionszeile::widgets() const
+std::array<QWidget*, 8> Kompositionszeile::widgets() const
 {
-    return {m_cmbElement, m_lblElement, m_txtProzent, m_cmdDichte, m_txtDichte, m_cmbValenz, m_txtValenz};
+    return {m_cmbElement, m_lblElement, m_txtProzent, m_txtMasse, m_cmdDichte, m_txtDichte, m_cmbValenz, m_txtValenz};
 }
 
 void Kompositionszeile::connectControls()
@@ -62,12 +74,14 @@ void Kompositionszeile::connectControls()
     connect(m_cmdDichte, &QComboBox::textActivated, this, &Kompositionszeile::dichteChosen);
     connect(m_cmbValenz, &QComboBox::activated, this,
         [this](int position) { emit valenzChosen(m_cmbValenz->itemData(position).toInt()); });
-    connect(m_txtProzent, &Wertfeld::textChanged, this, &Kompositionszeile::prozentEntered);
+    for (const Wertfeld* const anteil : {m_txtProzent, m_txtMasse}) {
+        connect(anteil, &Wertfeld::textChanged, this, &Kompositionszeile::prozentEntered);
+        connect(anteil, &Wertfeld::focusLeft, this, &Kompositionszeile::prozentLeft);
+    }
     connect(m_txtDichte, &Wertfeld::textChanged, this, &Kompositionszeile::dichteEntered);
     connect(m_txtValenz, &Wertfeld::textChanged, this, &Kompositionszeile::valenzEntered);
     connect(m_txtDichte, &Wertfeld::focusEntered, this, &Kompositionszeile::valueFocused);
     connect(m_txtValenz, &Wertfeld::focusEntered, this, &Kompositionszeile::valueFocused);
-    connect(m_txtProzent, &Wertfeld::focusLeft, this, &Kompositionszeile::prozentLeft);
     connect(m_txtValenz, &Wertfeld::verlassen, this, &Kompositionszeile::valenzLeft);
 }
 
@@ -88,10 +102,11 @@ void Kompositionszeile::measure()
     for (QWidget* const widget : widgets())
         widget->setFixedHeight(feldhoehe(*widget));
     m_cmbElement->setFixedWidth(listenbreite(*m_cmbElement, QStringLiteral("Mm")));
-    m_lblElement->setMinimumWidth(m_lblElement->fontMetrics().horizontalAdvance(QStringLiteral("Rutherfordium")));
-    m_txtProzent->setFixedWidth(feldbreite(*m_txtProzent, QStringLiteral("33,33333")));
+    m_lblElement->setMinimumWidth(m_lblElement->fontMetrics().horizontalAdvance(QStringLiteral("Aluminium")));
+    typed().setFixedWidth(feldbreite(typed(), QStringLiteral("33,33333")));
+    computed().setFixedWidth(feldbreite(computed(), QStringLiteral("-99,99")));
     m_cmdDichte->setFixedWidth(listenbreite(*m_cmdDichte, QStringLiteral("<andere>")));
-    m_txtDichte->setFixedWidth(feldbreite(*m_txtDichte, QStringLiteral("22,587000")));
+    m_txtDichte->setFixedWidth(feldbreite(*m_txtDichte, QStringLiteral("22,5870")));
     m_cmbValenz->setFixedWidth(listenbreite(*m_cmbValenz, QStringLiteral("d-Elektronen")));
     m_txtValenz->setFixedWidth(feldbreite(*m_txtValenz, QStringLiteral("<unbekannt>")));
 }
@@ -120,11 +135,12 @@ void Kompositionszeile::nenneElemente(const ElementCollection& elements)
 
 void Kompositionszeile::focusProzent()
 {
-    m_txtProzent->setFocus(Qt::TabFocusReason);
-    m_txtProzent->selectAll(); // also while the window is not active yet
+    typed().setFocus(Qt::TabFocusReason);
+    typed().selectAll(); // also while the window is not active yet
 }
 
-void Kompositionszeile::zeige(const Eingabe& eingabe, std::span<const Befund> befunde)
+void Kompositionszeile::zeige(
+    const Eingabe& eingabe, const std::array<std::vector<Eingabefeld>, 2>& anteile, std::span<const Befund> befunde)
 {
     const Eingabe::Zeile& zeile = eingabe.zeile(m_row);
     for (QWidget* const widget : widgets())
@@ -134,14 +150,47 @@ void Kompositionszeile::zeige(const Eingabe& eingabe, std::span<const Befund> be
         fillChoices(zeile.element);
     m_cmdDichte->setCurrentIndex(m_cmdDichte->findText(toQt(zeile.dichtewahl)));
     m_cmbValenz->setCurrentIndex(m_cmbValenz->findData(zeile.valenzwahl));
-    m_txtProzent->setHinweis(eingabe.istAusgleich(m_row) ? QStringLiteral("Rest auf 100 at%") : QString());
-    m_txtProzent->setBerechnet(eingabe.istAusgleich(m_row));
-    write(*m_txtProzent, zeile.prozent);
+    zeigeAnteile(eingabe, anteile);
     write(*m_txtDichte, zeile.dichte);
     m_txtDichte->setEnabled(zeile.dichtewahl == AndereWahl);
     write(*m_txtValenz, zeile.valenz);
     m_txtValenz->setEnabled(zeile.element && zeile.valenzwahl == ValenzAndere);
     mark(eingabe, befunde);
+}
+
+/// One of the two columns is typed, the other one follows.
+void Kompositionszeile::zeigeAnteile(const Eingabe& eingabe, const std::array<std::vector<Eingabefeld>, 2>& anteile)
+{
+    const bool movesFocus = m_einheit != eingabe.einheit() && typed().hasFocus();
+    if (m_einheit != eingabe.einheit()) {
+        m_einheit = eingabe.einheit();
+        measure();
+        computed().setFehler({});
+        computed().setBedenken({});
+    }
+    typed().setReadOnly(false);
+    typed().setFocusPolicy(Qt::StrongFocus);
+    if (movesFocus)
+        typed().setFocus(Qt::OtherFocusReason);
+    computed().setReadOnly(true);
+    computed().setFocusPolicy(Qt::NoFocus);
+    computed().setBerechnet(true);
+    typed().setBerechnet(eingabe.istAusgleich(m_row));
+    typed().setHinweis({});
+    const auto row = static_cast<std::size_t>(m_row);
+    if (m_row >= eingabe.anzahl())
+        return write(typed(), eingabe.zeile(m_row).prozent);
+    const QString einheit = toQt(einheitenname(m_einheit));
+    if (eingabe.istAusgleich(m_row))
+        typed().setHinweis(QStringLiteral("Rest auf 100 %1").arg(einheit));
+    write(typed(), anteile.at(static_cast<std::size_t>(m_einheit))[row]);
+    if (movesFocus)
+        typed().selectAll();
+    const Eingabefeld& other = anteile.at(static_cast<std::size_t>(andere(m_einheit)))[row];
+    if (const QString kurz = other.fehler ? QString() : kurzerAnteil(other.wert); computed().text() != kurz)
+        computed().setWert(kurz, false);
+    const QString full = toQt(other.text + " " + std::string(einheitenname(andere(m_einheit))));
+    computed().setHinweis(other.fehler ? toQt(other.fehler->text()) : full);
 }
 
 void Kompositionszeile::mark(const Eingabe& eingabe, std::span<const Befund> befunde)
@@ -152,7 +201,7 @@ void Kompositionszeile::mark(const Eingabe& eingabe, std::span<const Befund> bef
         });
         return m_row < eingabe.anzahl() && found != befunde.end() ? toQt(found->text) : QString();
     };
-    for (const auto& [feld, ort] : {std::pair(m_txtProzent, Eingabeort::Prozent), {m_txtDichte, Eingabeort::Dichte},
+    for (const auto& [feld, ort] : {std::pair(&typed(), Eingabeort::Prozent), {m_txtDichte, Eingabeort::Dichte},
              {m_txtValenz, Eingabeort::Valenz}}) {
         feld->setFehler(textOf(ort, Schwere::Fehler));
         feld->setBedenken(textOf(ort, Schwere::Bedenken));
@@ -164,7 +213,7 @@ void Kompositionszeile::gehZu(Eingabeort ort)
     const auto firstEnabled = [](QWidget* feld, QWidget* liste) { return feld->isEnabled() ? feld : liste; };
     QWidget* target = m_cmbElement;
     if (ort == Eingabeort::Prozent)
-        target = m_txtProzent;
+        target = &typed();
     else if (ort == Eingabeort::Dichte)
         target = firstEnabled(m_txtDichte, m_cmdDichte);
     else if (ort == Eingabeort::Valenz)

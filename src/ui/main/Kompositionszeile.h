@@ -7,20 +7,21 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "model/Befund.h"
 #include "model/Eingabe.h"
 
 class QComboBox;
 class QGridLayout;
-class QLabel;
 
 namespace zerna {
 
 class Elementliste;
+class Kurzlabel;
 class Wertfeld;
 
-/// The seven controls of one row of the composition grid: shows the row of an entered alloy and tells what the user
+/// The controls of one row of the composition grid: shows the row of an entered alloy and tells what the user
 /// chooses and types in it.
 class Kompositionszeile : public QObject {
     Q_OBJECT
@@ -43,7 +44,8 @@ public:
 
     /// Writes what the row holds and marks what is wrong with it; what is shown already is left alone, so that the
     /// cursor of a field stays in its place.
-    void zeige(const Eingabe& eingabe, std::span<const Befund> befunde);
+    void zeige(const Eingabe& eingabe, const std::array<std::vector<Eingabefeld>, 2>& anteile,
+        std::span<const Befund> befunde);
 
     /// Puts the keyboard focus there; a field that cannot be typed into gives it to the list of its choices.
     void gehZu(Eingabeort ort);
@@ -60,17 +62,22 @@ signals:
     void valenzLeft(); ///< the user is done with the valence
 
 private:
-    std::array<QWidget*, 7> widgets() const;
+    std::array<QWidget*, 8> widgets() const;
     void connectControls();
     void measure();
+    void zeigeAnteile(const Eingabe& eingabe, const std::array<std::vector<Eingabefeld>, 2>& anteile);
+    Wertfeld& typed() const { return m_einheit == Anteilseinheit::Atom ? *m_txtProzent : *m_txtMasse; }
+    Wertfeld& computed() const { return m_einheit == Anteilseinheit::Atom ? *m_txtMasse : *m_txtProzent; }
     void mark(const Eingabe& eingabe, std::span<const Befund> befunde);
     void fillChoices(const std::shared_ptr<clsElement>& element);
     void showHerkunft(const Eingabe::Zeile& zeile);
 
     int m_row;
     Elementliste* m_cmbElement = nullptr;
-    QLabel* m_lblElement = nullptr;
+    Kurzlabel* m_lblElement = nullptr;
     Wertfeld* m_txtProzent = nullptr;
+    Wertfeld* m_txtMasse = nullptr;
+    Anteilseinheit m_einheit = Anteilseinheit::Atom; // of the part that is typed
     QComboBox* m_cmdDichte = nullptr;
     Wertfeld* m_txtDichte = nullptr;
     QComboBox* m_cmbValenz = nullptr;

@@ -208,6 +208,8 @@ void frmMain::connectPanels()
     connect(m_komposition, &Kompositionsbereich::geaendert, this, &frmMain::uebernehmen);
     connect(m_komposition, &Kompositionsbereich::befundGeaendert, this,
         [this] { m_ergebnisse->zeigeLage(m_programm.Eingabe()); });
+    connect(m_komposition, &Kompositionsbereich::einheitGeaendert, this,
+        [this] { m_diagramm->zeige(m_programm.Eingabe(), {}); });
     connect(m_ergebnisse, &Ergebnisbereich::befundGewaehlt, m_komposition, &Kompositionsbereich::gehZu);
     connect(m_pse, &PSEbereich::componentChosen, this,
         [this](int row, const QString& symbol) { ComboElementListIndex(row, findElementEntry(row, fromQt(symbol))); });
