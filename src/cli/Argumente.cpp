@@ -55,7 +55,8 @@ CLI::Option* Komponenten::define(CLI::App& befehl)
     return befehl
         .add_option("komponenten", texte,
             "SYMBOL=ATPROZENT[:dichte=ZAHL|amorph|fluessig|kristallin][:valenz=s|p|d|f|TEXT], eine bis fünf; oder eine "
-            "Datei *.zerna, *.png, *.svg, *.pdf, die eine Legierung enthält")
+            "Legierung wie Al60Cu40, Cu2MgAl oder \"Al-4Cu-1Mg wt%\"; oder eine Datei *.zerna, *.png, *.svg, *.pdf, "
+            "die eine Legierung enthält")
         ->required()
         ->option_text("KOMPONENTE ...");
 }

@@ -13,6 +13,7 @@
 #include "core/Zahlentext.h"
 #include "core/Zeichensatz.h"
 #include "model/Ergebnislage.h"
+#include "model/Legierungsformel.h"
 #include "programm/Dokumentoeffnung.h"
 
 namespace zerna {
@@ -59,11 +60,33 @@ void Umgebung::loadAlloy(std::span<const std::string> komponenten, Anteilseinhei
             throw Aufruffehler("--massenprozent gibt es nicht mit einer Datei, in der steht, was eingetragen ist");
         return loadDocument(*file);
     }
+    const auto hasPart = [](const std::string& text) { return text.find('=') != std::string::npos; };
+    if (std::ranges::none_of(komponenten, hasPart))
+        return loadFormel(komponenten, einheit);
     std::vector<Komponentenangabe> angaben;
     for (const std::string& text : komponenten)
         angaben.push_back(komponentenangabe(text, einheit));
     load();
     m_kern.setAlloy(angaben, einheit);
+}
+
+void Umgebung::loadFormel(std::span<const std::string> worte, Anteilseinheit einheit)
+{
+    std::string text;
+    for (const std::string& wort : worte)
+        text += (text.empty() ? "" : " ") + wort;
+    load();
+    const auto [formel, fehler] = legierungsformel(text, m_kern.elements(), einheit);
+    if (fehler)
+        throw Aufruffehler("Legierung " + zitiert(text) + ": " + fehler->text());
+    std::vector<Komponentenangabe> angaben;
+    for (std::size_t i = 0; i < formel.komponenten().size(); ++i) {
+        const std::string& symbol = formel.komponenten()[i].element->symbol();
+        angaben.push_back({symbol, symbol, formel.prozenttext(i), {}, {}});
+    }
+    m_kern.setAlloy(angaben, formel.einheit());
+    if (formel.istUmgerechnet())
+        std::cerr << "zerna-cli: " << UmgerechnetHinweis << '\n';
 }
 
 /// Values that the table gives otherwise stay those of the file, which is said.

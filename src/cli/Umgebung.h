@@ -26,8 +26,9 @@ public:
     /// Datenfehler.
     void load();
 
-    /// Reads the elements and makes the alloy of these component texts, their parts in that unit, the calculator's, or
-    /// that of the document in the one file that they name. Throws Aufruffehler or Datenfehler.
+    /// Reads the elements and makes the alloy of these component texts, or of the formula that they are the words of,
+    /// the calculator's, their parts in that unit unless the formula names another; or that of the document in the one
+    /// file that they name. Says on standard error if amounts were scaled. Throws Aufruffehler or Datenfehler.
     void loadAlloy(std::span<const std::string> komponenten, Anteilseinheit einheit);
 
     /// Says on standard error what makes the results of the alloy doubtful.
@@ -39,6 +40,7 @@ public:
 
 private:
     void loadDocument(const std::string& file);
+    void loadFormel(std::span<const std::string> worte, Anteilseinheit einheit);
 
     StandardErrorBoxes m_boxes;
     Rechenkern m_kern{m_boxes};

@@ -17,20 +17,20 @@ constexpr std::array Blanks{" "sv, "\t"sv, "\r"sv, "\n"sv, "\u00a0"sv, "\u2009"s
 constexpr std::array Dashes{"-"sv, "\u2013"sv, "\u2212"sv, "\u2010"sv, "\u2011"sv};
 constexpr std::array Commas{","sv, ";"sv};
 
-constexpr std::array<std::pair<std::string_view, Mengeneinheit>, 13> Einheiten{{
-    {"at", Mengeneinheit::Atomprozent},
-    {"atom", Mengeneinheit::Atomprozent},
-    {"mol", Mengeneinheit::Atomprozent},
-    {"wt", Mengeneinheit::Massenprozent},
-    {"w", Mengeneinheit::Massenprozent},
-    {"weight", Mengeneinheit::Massenprozent},
-    {"gew", Mengeneinheit::Massenprozent},
-    {"gewichts", Mengeneinheit::Massenprozent},
-    {"m", Mengeneinheit::Massenprozent},
-    {"ma", Mengeneinheit::Massenprozent},
-    {"mass", Mengeneinheit::Massenprozent},
-    {"masse", Mengeneinheit::Massenprozent},
-    {"massen", Mengeneinheit::Massenprozent},
+constexpr std::array<std::pair<std::string_view, Anteilseinheit>, 13> Einheiten{{
+    {"at", Anteilseinheit::Atom},
+    {"atom", Anteilseinheit::Atom},
+    {"mol", Anteilseinheit::Atom},
+    {"wt", Anteilseinheit::Masse},
+    {"w", Anteilseinheit::Masse},
+    {"weight", Anteilseinheit::Masse},
+    {"gew", Anteilseinheit::Masse},
+    {"gewichts", Anteilseinheit::Masse},
+    {"m", Anteilseinheit::Masse},
+    {"ma", Anteilseinheit::Masse},
+    {"mass", Anteilseinheit::Masse},
+    {"masse", Anteilseinheit::Masse},
+    {"massen", Anteilseinheit::Masse},
 }};
 
 constexpr bool isUpper(char c) { return c >= 'A' && c <= 'Z'; }

@@ -26,7 +26,7 @@ struct Mengenwort {
 Mengenwort mengenwort(std::string_view text);
 
 struct Einheitswort {
-    std::optional<Mengeneinheit> einheit = {}; ///< no value for a word that is none
+    std::optional<Anteilseinheit> einheit = {}; ///< no value for a word that is none
     std::size_t length = 0; ///< 0 if the text does not begin with letters and a percent sign
 };
 

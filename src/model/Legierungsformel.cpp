@@ -14,11 +14,12 @@ namespace zerna {
 /// Reads one formula from left to right, then decides to which elements the amounts belong.
 class Formelleser {
 public:
-    Formelleser(std::string_view text, const ElementCollection& elements)
+    Formelleser(std::string_view text, const ElementCollection& elements, Anteilseinheit einheit)
         : m_text(text)
         , m_rest(text)
         , m_elements(elements)
     {
+        m_lesung.formel.m_einheit = einheit;
     }
 
     Formellesung lies()
@@ -288,16 +289,24 @@ private:
     bool m_hasEinheit = false;
 };
 
-Formellesung legierungsformel(std::string_view text, const ElementCollection& elements)
+Formellesung legierungsformel(std::string_view text, const ElementCollection& elements, Anteilseinheit einheit)
 {
-    return Formelleser(text, elements).lies();
+    return Formelleser(text, elements, einheit).lies();
 }
 
 std::string Legierungsformel::prozenttext(std::size_t komponente) const
 {
     const Formelkomponente& found = komponenten()[komponente];
     const bool isTyped = !found.menge.empty() && !m_umgerechnet;
-    return isTyped ? found.menge : textOfSingle(static_cast<float>(found.prozent));
+    return isTyped ? found.menge : textWithDigits(found.prozent, 7);
+}
+
+std::string Legierungsformel::text() const
+{
+    std::string text;
+    for (std::size_t i = 0; i < m_anzahl; ++i)
+        text += m_komponenten.at(i).element->symbol() + " " + prozenttext(i) + "  ";
+    return text + std::string(einheitenname(m_einheit));
 }
 
 } // namespace zerna

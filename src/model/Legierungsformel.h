@@ -9,13 +9,11 @@
 #include <string_view>
 
 #include "core/ElementCollection.h"
+#include "model/Anteilseinheit.h"
 #include "model/Eingabefeld.h"
 #include "model/Legierung.h"
 
 namespace zerna {
-
-/// What the amounts of an alloy count.
-enum class Mengeneinheit { Atomprozent, Massenprozent };
 
 /// One component of an alloy that is written as a formula.
 struct Formelkomponente {
@@ -31,12 +29,12 @@ struct Formelkomponente {
 /// Amounts stand behind their elements or in front of them. In front of them, or with a unit, one element may go
 /// without an amount and takes the rest to 100 %; behind them without a unit, an amount that is not there is 1. Amounts
 /// that have no rest and do not sum to 100 are parts, which are scaled to 100 %. Decimals have a comma or a point; a
-/// unit is written like at%, wt%, Gew.-% or Ma% and means at% if there is none; blanks, a dash, a comma or a semicolon
+/// unit is written like at%, wt%, Gew.-% or Ma%; blanks, a dash, a comma or a semicolon
 /// part what would run together. What formeltext writes is read, too.
 class Legierungsformel {
 public:
     std::span<const Formelkomponente> komponenten() const { return std::span(m_komponenten).first(m_anzahl); }
-    Mengeneinheit einheit() const { return m_einheit; }
+    Anteilseinheit einheit() const { return m_einheit; }
 
     /// Whether the percentages are not what was typed, but scaled to a sum of 100.
     bool istUmgerechnet() const { return m_umgerechnet; }
@@ -44,12 +42,15 @@ public:
     /// The percentage of a component (from 0) as a text for an input field: as typed if it was, with a comma otherwise.
     std::string prozenttext(std::size_t komponente) const;
 
+    /// How it was understood, for showing: "Al 66,66667  Cu 33,33333  at%".
+    std::string text() const;
+
 private:
     friend class Formelleser;
 
     std::array<Formelkomponente, MaxKomponenten> m_komponenten;
     std::size_t m_anzahl = 0;
-    Mengeneinheit m_einheit = Mengeneinheit::Atomprozent;
+    Anteilseinheit m_einheit = Anteilseinheit::Atom;
     bool m_umgerechnet = false;
 };
 
@@ -61,7 +62,9 @@ struct Formellesung {
     std::optional<Eingabefehler> fehler; ///< names the character
 };
 
-/// Reads a formula of one to five different elements. Never throws, whatever the text.
-Formellesung legierungsformel(std::string_view text, const ElementCollection& elements);
+/// Reads a formula of one to five different elements, its amounts in `einheit` if it names none. Never throws, whatever
+/// the text.
+Formellesung legierungsformel(
+    std::string_view text, const ElementCollection& elements, Anteilseinheit einheit = Anteilseinheit::Atom);
 
 } // namespace zerna

@@ -5,6 +5,7 @@
 #include <random>
 
 #include "EingabeFixture.h"
+#include "model/Formeleingabe.h"
 #include "model/Formeltext.h"
 
 namespace zerna {
@@ -23,7 +24,7 @@ struct LegierungsformelTest : EingabeFixture {
         std::string result;
         for (std::size_t i = 0; i < formel.komponenten().size(); ++i)
             result += (i == 0 ? "" : " ") + formel.komponenten()[i].element->symbol() + " " + formel.prozenttext(i);
-        result += formel.einheit() == Mengeneinheit::Massenprozent ? " Masse" : "";
+        result += formel.einheit() == Anteilseinheit::Masse ? " Masse" : "";
         return result + (formel.istUmgerechnet() ? " umgerechnet" : "");
     }
 };
@@ -45,9 +46,9 @@ TEST_F(LegierungsformelTest, FormulasAreReadAsTheyAreWritten)
         {"Al", "Al 100"},
         // Parts
         {"Cu2MgAl", "Cu 50 Mg 25 Al 25 umgerechnet"},
-        {"Al2Cu", "Al 66,666664 Cu 33,333332 umgerechnet"},
+        {"Al2Cu", "Al 66,66667 Cu 33,33333 umgerechnet"},
         {"CoCrFeNi", "Co 25 Cr 25 Fe 25 Ni 25 umgerechnet"},
-        {"Al33,3Cu33,3Mg33,3", "Al 33,333332 Cu 33,333332 Mg 33,333332 umgerechnet"},
+        {"Al33,3Cu33,3Mg33,3", "Al 33,33333 Cu 33,33333 Mg 33,33333 umgerechnet"},
         {"Al60,1Cu20,2Mg19,7", "Al 60,1 Cu 20,2 Mg 19,7"}, // a sum of 100 only in decimals
         // One element takes the rest
         {"Al-4Cu-1Mg wt%", "Al 95 Cu 4 Mg 1 Masse"},
@@ -158,6 +159,36 @@ TEST_F(LegierungsformelTest, WhatIsWrittenIsReadBack)
     EXPECT_EQ(formeltext(eingabe, Formelschrift::LaTeX, Dezimaltrenner::Punkt), "Al$_{60.5}$Cu$_{39.5}$");
     eingabe.waehleElement(1, "Al");
     EXPECT_EQ(formeltext(eingabe, Formelschrift::Einfach), "");
+}
+
+TEST_F(LegierungsformelTest, EnteringKeepsWhatWasChosenForAnElement)
+{
+    dichte(0, "3")(eingabe);
+    eingabe.waehleDichte(1, "flüssig");
+    valenz(1, "5/2")(eingabe);
+    const struct {
+        const char* text;
+        Aenderung aenderung;
+        const char* zeilen;
+    } rows[]{
+        {"Al60.50Cu39.5", {.anteil = true}, "Al 60,5 <andere> 3, Cu 39,5 flüssig 5/2"},
+        {"Cu60Al40", {.element = true, .anteil = true, .dichte = true, .valenz = true},
+            "Cu 60 flüssig 5/2, Al 40 <andere> 3"},
+        {"Cu", {.anzahl = true, .anteil = true}, "Cu 100 flüssig 5/2"},
+        {"Cu2Mg", {.anzahl = true, .element = true, .anteil = true, .dichte = true, .valenz = true},
+            "Cu 66,66667 flüssig 5/2, Mg 33,33333 flüssig 2"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.text);
+        EXPECT_EQ(setLegierung(eingabe, lies(row.text).formel), row.aenderung);
+        std::string zeilen;
+        for (const Komponentenzeile& zeile : eingabe.komponentenzeilen())
+            zeilen += (zeilen.empty() ? "" : ", ") + zeile.symbol + " " + zeile.prozent + " " + zeile.dichtewahl + " "
+                + zeile.valenz;
+        EXPECT_EQ(zeilen, row.zeilen);
+    }
+    setLegierung(eingabe, lies("Al60.50Cu39.50").formel);
+    EXPECT_EQ(eingabe.zeile(0).prozent.text, "60.50"); // as typed
 }
 
 TEST_F(LegierungsformelTest, RandomTextGivesAnAlloyOrAReasonWithItsPlace)

@@ -1,0 +1,53 @@
+#include "model/Formeleingabe.h"
+
+namespace zerna {
+
+namespace {
+
+/// The row in use that has the element; null if there is none.
+const Eingabe::Zeile* rowOf(const Eingabe& eingabe, const std::shared_ptr<clsElement>& element)
+{
+    for (int i = 0; i < eingabe.anzahl(); ++i) {
+        if (eingabe.zeile(i).element == element)
+            return &eingabe.zeile(i);
+    }
+    return nullptr;
+}
+
+/// Gives a row the density and the valence that another row has.
+void copyChoices(Eingabe& eingabe, int zeile, const Eingabe::Zeile& from)
+{
+    eingabe.waehleDichte(zeile, from.dichtewahl);
+    if (from.dichtewahl == AndereWahl)
+        eingabe.setDichte(zeile, from.dichte.text);
+    eingabe.waehleValenz(zeile, from.valenzwahl);
+    if (from.valenzwahl == ValenzAndere)
+        eingabe.setValenz(zeile, from.valenz.text);
+}
+
+} // namespace
+
+Aenderung setLegierung(Eingabe& eingabe, const Legierungsformel& formel)
+{
+    const Eingabe before = eingabe;
+    Aenderung aenderung{.anteil = true};
+    const int anzahl = static_cast<int>(formel.komponenten().size());
+    aenderung.anzahl = anzahl != before.anzahl();
+    eingabe.setAnzahl(anzahl);
+    for (int zeile = 0; const Formelkomponente& komponente : formel.komponenten()) {
+        if (eingabe.zeile(zeile).element != komponente.element) {
+            eingabe.waehleElement(zeile, komponente.element->symbol());
+            if (const Eingabe::Zeile* const from = rowOf(before, komponente.element))
+                copyChoices(eingabe, zeile, *from);
+            aenderung.element = aenderung.dichte = aenderung.valenz = true;
+        }
+        ++zeile;
+    }
+    eingabe.setEinheit(formel.einheit());
+    for (int zeile = 0; zeile < anzahl; ++zeile)
+        eingabe.setProzentOhneAusgleich(zeile, formel.prozenttext(static_cast<std::size_t>(zeile)));
+    eingabe.gleicheAus();
+    return aenderung;
+}
+
+} // namespace zerna
