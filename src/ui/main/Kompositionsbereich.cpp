@@ -9,12 +9,14 @@
 #include <utility>
 
 #include "core/Zahlentext.h"
+#include "model/Formeleingabe.h"
 #include "parser/Formelwert.h"
 #include "ui/button/StyledButton.h"
 #include "ui/controls/Knopfzeile.h"
 #include "ui/controls/Menue.h"
 #include "ui/main/Anteilskoepfe.h"
 #include "ui/main/Dichteschalter.h"
+#include "ui/main/Formelfeld.h"
 #include "ui/main/Kompositionszeile.h"
 #include "ui/platform/QtText.h"
 
@@ -30,6 +32,8 @@ Kompositionsbereich::Kompositionsbereich(Programm& programm, QWidget* parent)
 
 void Kompositionsbereich::createControls()
 {
+    m_formelfeld = new Formelfeld(m_programm, this);
+    connect(m_formelfeld, &Formelfeld::legierungEntered, this, &Kompositionsbereich::setLegierung);
     m_label1 = new QLabel(QStringLiteral("Ko&mponenten:"), this);
     m_label1->setObjectName(QStringLiteral("Label1"));
     m_lblAnzahl = new QLabel(this);
@@ -74,6 +78,7 @@ void Kompositionsbereich::addBefehle(Menue& menue)
             .name = "mnuMasse",
             .tun = [this] { setEinheit(andere(eingabe().einheit())); },
             .gewaehlt = [this] { return eingabe().einheit() == Anteilseinheit::Masse; }});
+    m_formelfeld->addKopien(*menue.addUntermenue(Menue::Abschnitt::Kopieren, QStringLiteral("Als &Formel kopieren")));
 }
 
 /// Each edit becomes one operation on the entered alloy.
@@ -84,7 +89,9 @@ void Kompositionsbereich::connectRow(int row)
     connect(zeile, &Zeile::elementChosen, this, [this, row](const auto& key) { elementChosen(row, fromQt(key)); });
     connect(zeile, &Zeile::prozentEntered, this, [this, row](const QString& text) {
         taken(eingabe().setProzent(row, fromQt(text)), schritt(anteilVon(), row, "txtProzent"));
+        offerLegierung(row);
     });
+    connect(zeile, &Zeile::prozentConfirmed, m_formelfeld, &Formelfeld::nimmAngebot);
     connect(zeile, &Zeile::dichteChosen, this, [this, row](const QString& wahl) {
         taken(eingabe().waehleDichte(row, fromQt(wahl)), schritt("Dichte von", row));
     });
@@ -137,6 +144,7 @@ void Kompositionsbereich::layOut()
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(4);
+    column->addWidget(m_formelfeld);
     column->addLayout(top);
     column->addLayout(grid);
     column->addWidget(m_dichteschalter->meldung());
@@ -237,6 +245,27 @@ void Kompositionsbereich::elementChosen(int row, std::string_view key)
     emit geschehen(schritt("Element", row));
 }
 
+void Kompositionsbereich::setLegierung(const Legierungsformel& formel)
+{
+    Aenderung aenderung;
+    {
+        const Programm::Fuellung fuellung(m_programm); // nothing is computed while the rows are refilled
+        aenderung = zerna::setLegierung(eingabe(), formel);
+        speichereAnzahl();
+        for (int row = 0; row < eingabe().anzahl(); ++row)
+            speichereElement(row, eingabe().zeile(row).element->symbol());
+        zeige();
+    }
+    taken(aenderung, {QStringLiteral("Legierung eintippen")});
+}
+
+/// A formula in an at% field is no number, but may be meant for all rows.
+void Kompositionsbereich::offerLegierung(int row)
+{
+    const Eingabefeld& prozent = eingabe().zeile(row).prozent;
+    m_formelfeld->biete(prozent.fehler ? prozent.text : std::string());
+}
+
 void Kompositionsbereich::dichteartChosen(std::string_view wahl)
 {
     taken(eingabe().waehleDichteart(wahl), {QStringLiteral("Dichte aller: %1").arg(toQt(wahl))});
@@ -265,10 +294,12 @@ void Kompositionsbereich::valenzLeft(int row)
 void Kompositionsbereich::taken(const Aenderung& aenderung, const Schritt& schritt)
 {
     zeige();
-    if (aenderung == Aenderung())
+    if (aenderung == Aenderung()) {
         emit befundGeaendert();
-    else
+    } else {
+        m_formelfeld->biete({}); // what is on offer is for the alloy before
         emit geaendert(aenderung);
+    }
     emit geschehen(schritt);
 }
 
@@ -288,6 +319,7 @@ Schritt Kompositionsbereich::schritt(const char* was, int row, const char* feld)
 
 void Kompositionsbereich::zeigeDokument()
 {
+    m_formelfeld->biete({});
     zeige();
     speichereAnzahl();
     for (int row = 0; row < MaxKomponenten; ++row) {

@@ -15,8 +15,10 @@ namespace zerna {
 
 class Anteilskoepfe;
 class Dichteschalter;
+class Formelfeld;
 class Kompositionszeile;
 class Menue;
+class Legierungsformel;
 class StyledButton;
 
 /// The composition grid: up to five rows of element, at%, density and valence. Every edit is taken at once: it becomes
@@ -76,6 +78,8 @@ private:
     void stepAnzahl(int step);
     void setEinheit(Anteilseinheit einheit);
     void elementChosen(int row, std::string_view key);
+    void setLegierung(const Legierungsformel& formel);
+    void offerLegierung(int row);
     void valenzEdited(const Aenderung& aenderung, const Schritt& schritt);
     void speichereAnzahl();
     void speichereElement(int row, std::string_view key);
@@ -91,6 +95,7 @@ private:
     const Kompositionszeile& at(int row) const { return *m_zeilen.at(static_cast<std::size_t>(row)); }
 
     Programm& m_programm;
+    Formelfeld* m_formelfeld = nullptr;
     QLabel* m_label1 = nullptr;
     QLabel* m_lblAnzahl = nullptr;
     std::array<StyledButton*, 2> m_cmdKom{};

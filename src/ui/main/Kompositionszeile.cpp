@@ -76,6 +76,7 @@ void Kompositionszeile::connectControls()
         [this](int position) { emit valenzChosen(m_cmbValenz->itemData(position).toInt()); });
     for (const Wertfeld* const anteil : {m_txtProzent, m_txtMasse}) {
         connect(anteil, &Wertfeld::textChanged, this, &Kompositionszeile::prozentEntered);
+        connect(anteil, &Wertfeld::returnPressed, this, &Kompositionszeile::prozentConfirmed);
         connect(anteil, &Wertfeld::focusLeft, this, &Kompositionszeile::prozentLeft);
     }
     connect(m_txtDichte, &Wertfeld::textChanged, this, &Kompositionszeile::dichteEntered);

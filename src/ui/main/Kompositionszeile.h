@@ -55,6 +55,7 @@ signals:
     void dichteChosen(const QString& wahl);
     void valenzChosen(int wahl);
     void prozentEntered(const QString& text);
+    void prozentConfirmed(); ///< by Enter
     void dichteEntered(const QString& text);
     void valenzEntered(const QString& text);
     void valueFocused(); ///< the keyboard focus has entered the density or the valence
