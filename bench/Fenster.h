@@ -25,7 +25,7 @@ public:
         for (std::size_t i = 0; i < Aufbau::Symbole.size(); ++i)
             m_settings["Element_" + std::to_string(i)] = Aufbau::Symbole.at(i);
         m_programm.start([this]() -> Hauptfenster& {
-            m_window = std::make_unique<frmMain>(m_programm, Dialoge{m_saveDialog, m_inputBox});
+            m_window = std::make_unique<frmMain>(m_programm, Dialoge{m_saveDialog, m_inputBox, m_openDialog});
             return *m_window;
         });
         auto& quantities = find<QComboBox>("cmbDiagramm");
@@ -45,6 +45,7 @@ private:
     FakeSettings m_settings;
     FakeSaveDialog m_saveDialog;
     FakeInputBox m_inputBox;
+    FakeOpenDialog m_openDialog;
     Programm m_programm;
     std::unique_ptr<frmMain> m_window;
 };

@@ -11,6 +11,7 @@
 #include "ui/platform/Lesbarkeit.h"
 #include "ui/platform/QtInputBox.h"
 #include "ui/platform/QtMessageBoxes.h"
+#include "ui/platform/QtOpenFileDialog.h"
 #include "ui/platform/QtSaveFileDialog.h"
 #include "ui/platform/QtSettingsStore.h"
 
@@ -30,10 +31,11 @@ int main(int argc, char** argv)
     zerna::QtSettingsStore settings;
     zerna::QtSaveFileDialog saveDialog;
     zerna::QtInputBox inputBox;
+    zerna::QtOpenFileDialog openDialog;
     zerna::Programm programm(boxes, settings, zerna::executableFolder());
     std::unique_ptr<zerna::frmMain> window;
     const auto createWindow = [&]() -> zerna::Hauptfenster& {
-        window = std::make_unique<zerna::frmMain>(programm, zerna::Dialoge{saveDialog, inputBox});
+        window = std::make_unique<zerna::frmMain>(programm, zerna::Dialoge{saveDialog, inputBox, openDialog});
         return *window;
     };
     try {

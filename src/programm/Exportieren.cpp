@@ -12,12 +12,6 @@ namespace zerna {
 
 namespace {
 
-void showSaveFailure(MessageBoxes& boxes, const std::string& name, const std::string& reason)
-{
-    boxes.show(Icon::Exclamation, Programmtitel,
-        "Die Datei \"" + name + "\" konnte nicht gespeichert werden:\r\n" + reason + ".");
-}
-
 /// Writes the file, or shows why not.
 bool isWritten(MessageBoxes& boxes, const std::string& name, std::string_view bytes)
 {
@@ -25,7 +19,7 @@ bool isWritten(MessageBoxes& boxes, const std::string& name, std::string_view by
         writeExport(pathFromUtf8(name), bytes);
         return true;
     } catch (const Laufzeitfehler& error) {
-        showSaveFailure(boxes, name, error.what());
+        zeigeSpeicherfehler(boxes, name, error.what());
         return false;
     }
 }
@@ -44,6 +38,12 @@ struct Inhalt {
 
 } // namespace
 
+void zeigeSpeicherfehler(MessageBoxes& boxes, const std::string& name, const std::string& grund)
+{
+    boxes.show(Icon::Exclamation, Programmtitel,
+        "Die Datei \"" + name + "\" konnte nicht gespeichert werden:\r\n" + grund + ".");
+}
+
 void zeigeNichtsZuSpeichern(MessageBoxes& boxes, std::string_view grund)
 {
     boxes.show(Icon::Exclamation, Programmtitel, "Es gibt nichts zu speichern: " + std::string(grund));
@@ -51,31 +51,36 @@ void zeigeNichtsZuSpeichern(MessageBoxes& boxes, std::string_view grund)
 
 bool exportieren(MessageBoxes& boxes, SaveFileDialog& dialog, std::string_view titel, std::span<const Exportart> arten)
 {
-    if (arten.empty()) {
+    if (arten.empty())
         zeigeNichtsZuSpeichern(boxes, "Es ist kein Wert bekannt.");
-        return false;
-    }
+    return !arten.empty() && speichereAls(boxes, dialog, titel, arten, {});
+}
+
+std::optional<std::filesystem::path> speichereAls(MessageBoxes& boxes, SaveFileDialog& dialog, std::string_view titel,
+    std::span<const Exportart> arten, std::optional<SaveFileDialog::Choice> vorschlag)
+{
     int filterIndex = 1;
     Inhalt inhalt;
-    std::optional<SaveFileDialog::Choice> refused;
+    std::optional<SaveFileDialog::Choice> refused = std::move(vorschlag);
     while (true) {
         const std::string name = ExportFileDialog(dialog, boxes, filterIndex, titel, arten, refused);
         if (name.empty())
-            return false;
+            return std::nullopt;
         try {
             inhalt.make(filterIndex, arten);
         } catch (const Laufzeitfehler& error) {
-            showSaveFailure(boxes, name, error.what());
-            return false;
+            zeigeSpeicherfehler(boxes, name, error.what());
+            return std::nullopt;
         }
         if (!inhalt.bytes)
-            return false;
+            return std::nullopt;
+        std::error_code unknown;
+        const std::filesystem::path file = std::filesystem::current_path(unknown) / pathFromUtf8(name);
         if (inhalt.bytes->empty())
             zeigeNichtsZuSpeichern(boxes, "Für diese Dateiart ist kein Wert bekannt.");
         else if (isWritten(boxes, name, *inhalt.bytes))
-            return true;
-        std::error_code unknown;
-        refused = {utf8FromPath(std::filesystem::current_path(unknown) / pathFromUtf8(name)), filterIndex};
+            return file;
+        refused = {utf8FromPath(file), filterIndex};
     }
 }
 

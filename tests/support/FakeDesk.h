@@ -45,7 +45,7 @@ struct FakeDesk : testing::Test {
         window.reset();
         programm.emplace(boxes, settings, folder.path());
         ASSERT_TRUE(programm->start([this]() -> Hauptfenster& {
-            window = std::make_unique<frmMain>(*programm, Dialoge{saveDialog, inputBox});
+            window = std::make_unique<frmMain>(*programm, Dialoge{saveDialog, inputBox, openDialog});
             return *window;
         }));
         window->activateWindow();
@@ -123,6 +123,7 @@ struct FakeDesk : testing::Test {
     FakeSettings settings;
     FakeSaveDialog saveDialog;
     FakeInputBox inputBox;
+    FakeOpenDialog openDialog;
     std::optional<Programm> programm;
     std::unique_ptr<frmMain> window;
 };

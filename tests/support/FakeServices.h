@@ -10,6 +10,7 @@
 #include "core/Settings.h"
 #include "programm/ExportFileDialog.h"
 #include "programm/InputBox.h"
+#include "programm/OpenFileDialog.h"
 
 namespace zerna {
 
@@ -67,6 +68,14 @@ public:
     std::vector<std::string> offeredAgain; ///< path and kind
     std::string offered; ///< title and types of the last question
     std::vector<std::string> asked; ///< names of files to replace
+};
+
+/// A dialog that gives its answer at once; no answer is a cancel.
+class FakeOpenDialog : public OpenFileDialog {
+public:
+    std::optional<std::string> choose() override { return answer; }
+
+    std::optional<std::string> answer;
 };
 
 /// An input box that gives its answer at once; no answer is a cancel.

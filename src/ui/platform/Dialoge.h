@@ -2,6 +2,7 @@
 
 #include "programm/ExportFileDialog.h"
 #include "programm/InputBox.h"
+#include "programm/OpenFileDialog.h"
 
 namespace zerna {
 
@@ -9,6 +10,7 @@ namespace zerna {
 struct Dialoge {
     SaveFileDialog& save;
     InputBox& input;
+    OpenFileDialog& open;
 };
 
 } // namespace zerna

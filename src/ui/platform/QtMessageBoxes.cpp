@@ -4,57 +4,67 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <algorithm>
+#include <vector>
+
 #include "ui/platform/QtText.h"
 
 namespace zerna {
 
 namespace {
 
-void fill(QMessageBox& box, QMessageBox::Icon icon, std::string_view caption, std::string_view text)
-{
-    box.setIcon(icon);
-    box.setWindowTitle(toQt(caption));
-    box.setTextFormat(Qt::PlainText);
-    box.setText(toQt(text).remove(QLatin1Char('\r')));
-}
+/// A question that can be cancelled.
+class Frage : public QMessageBox {
+public:
+    Frage(std::string_view caption, std::string_view text)
+        : QMessageBox(QApplication::activeWindow())
+        , m_cancel(addButton(QStringLiteral("&Abbrechen"), RejectRole))
+    {
+        setIcon(Question);
+        setWindowTitle(toQt(caption));
+        setTextFormat(Qt::PlainText);
+        setText(toQt(text).remove(QLatin1Char('\r')));
+        setEscapeButton(m_cancel);
+    }
+
+    QPushButton* cancel() const { return m_cancel; }
+
+private:
+    QPushButton* m_cancel;
+};
 
 } // namespace
 
 void QtMessageBoxes::show(Icon icon, std::string_view caption, std::string_view text)
 {
     QMessageBox box(QApplication::activeWindow());
-    fill(box, icon == Icon::Exclamation ? QMessageBox::Warning : QMessageBox::NoIcon, caption, text);
+    box.setIcon(icon == Icon::Exclamation ? QMessageBox::Warning : QMessageBox::NoIcon);
+    box.setWindowTitle(toQt(caption));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(toQt(text).remove(QLatin1Char('\r')));
     box.exec();
 }
 
 bool QtMessageBoxes::ask(std::string_view caption, std::string_view text, std::string_view go)
 {
-    QMessageBox box(QApplication::activeWindow());
-    fill(box, QMessageBox::Question, caption, text);
+    Frage box(caption, text);
     const QAbstractButton* const goOn = box.addButton(toQt(go), QMessageBox::AcceptRole);
-    QPushButton* const cancel = box.addButton(QStringLiteral("&Abbrechen"), QMessageBox::RejectRole);
-    box.setDefaultButton(cancel);
-    box.setEscapeButton(cancel);
+    box.setDefaultButton(box.cancel());
     box.exec();
     return box.clickedButton() == goOn;
 }
 
-std::size_t QtMessageBoxes::choose(
-    std::string_view caption, std::string_view text, std::span<const std::string_view> ways)
+std::optional<std::size_t> QtMessageBoxes::choose(
+    std::string_view caption, std::string_view text, std::span<const std::string_view> buttons)
 {
-    QMessageBox box(QApplication::activeWindow());
-    fill(box, QMessageBox::Question, caption, text);
-    QList<QAbstractButton*> buttons;
-    for (std::size_t i = 0; i < ways.size(); ++i) {
-        const auto role = i == 0   ? QMessageBox::AcceptRole
-            : i + 1 == ways.size() ? QMessageBox::RejectRole
-                                   : QMessageBox::DestructiveRole;
-        buttons.append(box.addButton(toQt(ways[i]), role));
-    }
-    box.setDefaultButton(qobject_cast<QPushButton*>(buttons.first()));
-    box.setEscapeButton(buttons.last());
+    Frage box(caption, text);
+    std::vector<QPushButton*> made;
+    for (const std::string_view button : buttons) // all of one role, which keeps their order
+        made.push_back(box.addButton(toQt(button), QMessageBox::AcceptRole));
+    box.setDefaultButton(made.front());
     box.exec();
-    return static_cast<std::size_t>(buttons.indexOf(box.clickedButton()));
+    const auto clicked = std::ranges::find(made, box.clickedButton());
+    return clicked == made.end() ? std::nullopt : std::optional<std::size_t>(clicked - made.begin());
 }
 
 } // namespace zerna

@@ -97,7 +97,8 @@ std::optional<SaveFileDialog::Choice> QtSaveFileDialog::choose(
     QStringList filters;
     for (const Exportart& art : arten)
         filters << toQt(art.beschreibung);
-    Speicherdialog dialog(toQt(title), filters);
+    m_title = toQt(title);
+    Speicherdialog dialog(m_title, filters);
     if (refused) {
         dialog.selectNameFilter(filters.value(refused->filterIndex - 1));
         dialog.offer(toQt(refused->path));
@@ -111,8 +112,8 @@ std::optional<SaveFileDialog::Choice> QtSaveFileDialog::choose(
 bool QtSaveFileDialog::confirmReplace(std::string_view name)
 {
     const QString question = QStringLiteral("Die Datei \"%1\" ist schon vorhanden.\nSoll sie ersetzt werden?");
-    QMessageBox box(QMessageBox::Question, toQt(Exporttitel), question.arg(toQt(name)),
-        QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
+    QMessageBox box(QMessageBox::Question, m_title, question.arg(toQt(name)), QMessageBox::Yes | QMessageBox::No,
+        QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText); // a file may be called "<b>"
     box.setDefaultButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "programm/ExportFileDialog.h"
+#include "ui/platform/QtText.h"
 
 namespace zerna {
 
@@ -10,6 +11,9 @@ public:
     std::optional<Choice> choose(
         std::string_view title, std::span<const Exportart> arten, const std::optional<Choice>& refused) override;
     bool confirmReplace(std::string_view name) override;
+
+private:
+    QString m_title = toQt(Exporttitel); // of the last question
 };
 
 } // namespace zerna

@@ -11,7 +11,7 @@ struct conDisplayTest : FakeDesk {
     conDisplayTest()
     {
         openAluminiumCopper();
-        display.emplace(*programm, Dialoge{saveDialog, inputBox});
+        display.emplace(*programm, Dialoge{saveDialog, inputBox, openDialog});
         display->resize(460, 330);
         display->setKompositionBereit(true);
         display->Element_Add(1, "Cu", -100);

@@ -1,0 +1,197 @@
+#include "programm/Dokumentverwaltung.h"
+
+#include <algorithm>
+#include <array>
+#include <system_error>
+#include <utility>
+
+#include "core/Datei.h"
+#include "core/Exportdatei.h"
+#include "core/Kuerzung.h"
+#include "programm/Exportieren.h"
+
+namespace zerna {
+
+namespace {
+
+constexpr std::string_view Endung = ".zerna";
+
+std::string zitierterName(const std::filesystem::path& file)
+{
+    return zitiert(utf8FromPath(file.filename()), Dateinamenlaenge);
+}
+
+/// The message about values that the table gives otherwise, some of them by name.
+std::string unterschiedsfrage(const std::filesystem::path& file, const Lesung& lesung)
+{
+    constexpr std::size_t Named = 12;
+    std::string text = "In der Datei " + zitierterName(file) + " stehen andere Werte als in der Elementtabelle:\r\n";
+    const std::size_t count = lesung.unterschiede.size();
+    for (std::size_t i = 0; i < std::min(count, Named); ++i)
+        text += "\r\n" + unterschiedstext(lesung.unterschiede[i], *lesung.dokument);
+    if (count > Named)
+        text += "\r\nund " + std::to_string(count - Named) + " weitere";
+    return text + "\r\n\r\nMit welchen soll gerechnet werden?";
+}
+
+std::string einstellung(int i) { return "Datei_" + std::to_string(i); }
+
+} // namespace
+
+bool Dokumentverwaltung::neu()
+{
+    if (!darfGehen())
+        return false;
+    const Eingabe& now = m_programm.Eingabe();
+    Dokument dokument(m_programm.ElementCollection());
+    dokument.eingabe.setAnzahl(now.anzahl());
+    for (int i = 0; i < MaxKomponenten; ++i) {
+        if (now.zeile(i).element)
+            dokument.eingabe.waehleElement(i, now.zeile(i).element->symbol());
+    }
+    m_programm.Dokument() = std::move(dokument);
+    m_datei.clear();
+    m_gespeichert.reset();
+    m_nurLesen = false;
+    return true;
+}
+
+bool Dokumentverwaltung::oeffne()
+{
+    if (!darfGehen())
+        return false;
+    const auto file = m_open.choose();
+    return file && lade(pathFromUtf8(*file));
+}
+
+bool Dokumentverwaltung::oeffne(const std::filesystem::path& file) { return darfGehen() && lade(file); }
+
+bool Dokumentverwaltung::lade(const std::filesystem::path& file)
+{
+    std::error_code unknown;
+    const std::filesystem::path whole = std::filesystem::absolute(file, unknown);
+    Dokumentoeffnung oeffnung = oeffneDokument(whole, m_programm.ElementCollection());
+    Lesung& lesung = oeffnung.lesung;
+    if (!lesung.dokument) {
+        const bool isForgotten = !std::filesystem::exists(whole, unknown) && merke(whole, false);
+        m_programm.boxes().show(Icon::Exclamation, Programmtitel,
+            "Die Datei " + zitierterName(whole) + " konnte nicht geöffnet werden:\r\n" + oeffnung.grund
+                + (isForgotten ? "\r\nSie steht nicht mehr in der Liste der zuletzt geöffneten." : ""));
+        return false;
+    }
+    Dokument gespeichert = *lesung.dokument;
+    if (!lesung.unterschiede.empty() && !entscheide(whole, lesung, gespeichert))
+        return false;
+    if (!lesung.nurLesen.empty())
+        m_programm.boxes().show(Icon::Exclamation, Programmtitel,
+            "Die Datei " + zitierterName(whole) + " wird nur zum Lesen geöffnet. " + lesung.nurLesen
+                + "\r\nSpeichern fragt nach einem neuen Namen.");
+    m_programm.Dokument() = *std::move(lesung.dokument);
+    nimmAn(whole, std::move(gespeichert));
+    m_nurLesen = oeffnung.istBild || !lesung.nurLesen.empty();
+    return true;
+}
+
+/// Lets the user say which values are to count; kept ones are no change of the file.
+bool Dokumentverwaltung::entscheide(const std::filesystem::path& file, Lesung& lesung, Dokument& gespeichert)
+{
+    const auto& elements = m_programm.ElementCollection();
+    const auto answer = m_programm.boxes().choose(Programmtitel, unterschiedsfrage(file, lesung),
+        std::array<std::string_view, 2>{"Werte der &Datei behalten", "Werte dieser &Tabelle übernehmen"});
+    if (answer == 0) {
+        behalteDateiwerte(*lesung.dokument, lesung.unterschiede, elements);
+        gespeichert = *lesung.dokument;
+    } else if (answer == 1) {
+        uebernehmeTabelle(*lesung.dokument, lesung.unterschiede, elements);
+    }
+    return answer.has_value();
+}
+
+bool Dokumentverwaltung::speichere()
+{
+    if (m_datei.empty() || m_nurLesen)
+        return speichereUnter();
+    if (istUeberholt()
+        && !m_programm.boxes().ask(Programmtitel,
+            "Die Datei " + zitierterName(m_datei)
+                + " hat inzwischen ein anderes Programm geändert.\r\nSoll sie überschrieben werden?",
+            "&Überschreiben"))
+        return false;
+    try {
+        writeExport(m_datei, schreibe(m_programm.Dokument()));
+    } catch (const Laufzeitfehler& error) {
+        zeigeSpeicherfehler(m_programm.boxes(), utf8FromPath(m_datei.filename()), error.what());
+        return speichereUnter();
+    }
+    nimmAn(m_datei, m_programm.Dokument());
+    return true;
+}
+
+bool Dokumentverwaltung::speichereUnter()
+{
+    const std::array arten{Exportart{"Zerna-Legierung (*.zerna)", "*.zerna", Endung,
+        [this] { return std::optional(schreibe(m_programm.Dokument())); }}};
+    std::optional<SaveFileDialog::Choice> suggested;
+    if (!m_datei.empty())
+        suggested = {utf8FromPath(std::filesystem::path(m_datei).replace_extension(Endung)), 1};
+    const auto file = speichereAls(m_programm.boxes(), m_save, "Legierung speichern unter", arten, suggested);
+    if (!file)
+        return false;
+    nimmAn(*file, m_programm.Dokument());
+    m_nurLesen = false;
+    return true;
+}
+
+bool Dokumentverwaltung::darfGehen()
+{
+    if (!istGeaendert())
+        return true;
+    const auto answer = m_programm.boxes().choose(Programmtitel,
+        "Die Legierung " + zitierterName(m_datei) + " ist geändert. Sollen die Änderungen gespeichert werden?",
+        std::array<std::string_view, 2>{"&Speichern", "&Verwerfen"});
+    return answer && (*answer == 1 || speichere());
+}
+
+/// Whether the file is another one than the document was read from.
+bool Dokumentverwaltung::istUeberholt() const
+{
+    std::error_code gone;
+    const auto now = std::filesystem::last_write_time(m_datei, gone);
+    return !gone && now != m_stand;
+}
+
+/// From now on the document belongs to that file.
+void Dokumentverwaltung::nimmAn(const std::filesystem::path& file, Dokument gespeichert)
+{
+    std::error_code unknown;
+    m_datei = file;
+    m_gespeichert = std::move(gespeichert);
+    m_stand = std::filesystem::last_write_time(file, unknown);
+    merke(file, true);
+}
+
+std::vector<std::string> Dokumentverwaltung::zuletzt() const
+{
+    std::vector<std::string> files;
+    for (int i = 0; i < MostRecent; ++i) {
+        if (std::string file = m_programm.settings().LoadSetting(einstellung(i), ""); !file.empty())
+            files.push_back(std::move(file));
+    }
+    return files;
+}
+
+/// Puts a file at the head of those opened last, or drops it; whether it was one of them.
+bool Dokumentverwaltung::merke(const std::filesystem::path& file, bool dabei)
+{
+    const std::string name = utf8FromPath(file);
+    std::vector<std::string> files = zuletzt();
+    const bool wasThere = std::erase(files, name) > 0;
+    if (dabei)
+        files.insert(files.begin(), name);
+    files.resize(MostRecent);
+    for (int i = 0; i < MostRecent; ++i)
+        m_programm.settings().SaveSetting(einstellung(i), files[static_cast<std::size_t>(i)]);
+    return wasThere;
+}
+
+} // namespace zerna

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/Datei.h"
+#include "programm/Dokumentoeffnung.h"
+#include "programm/ExportFileDialog.h"
+#include "programm/OpenFileDialog.h"
+#include "programm/Programm.h"
+
+namespace zerna {
+
+/// The file that the program's document is kept in, if any. Where an answer is a bool it says whether it was done:
+/// false after a cancel or a failure, which has been shown and has changed nothing. What replaces the document asks
+/// first what is to become of unsaved changes, as long as a file is open.
+class Dokumentverwaltung {
+public:
+    static constexpr int MostRecent = 8;
+
+    Dokumentverwaltung(Programm& programm, SaveFileDialog& save, OpenFileDialog& open)
+        : m_programm(programm)
+        , m_save(save)
+        , m_open(open)
+    {
+    }
+
+    /// The open file's name without its folder; empty without a file.
+    std::string name() const { return m_datei.empty() ? "" : utf8FromPath(m_datei.filename()); }
+
+    /// Whether a file is open that does not hold what the document is now.
+    bool istGeaendert() const { return m_gespeichert && !(*m_gespeichert == m_programm.Dokument()); }
+
+    /// A document without a file: the rows and elements of now with the values of a start.
+    bool neu();
+
+    bool oeffne();
+    bool oeffne(const std::filesystem::path& file);
+
+    bool speichere();
+    bool speichereUnter();
+
+    /// Asks what is to become of unsaved changes; true if the document may go.
+    bool darfGehen();
+
+    /// The files that were opened or saved last, the last one first; absolute paths.
+    std::vector<std::string> zuletzt() const;
+
+private:
+    bool lade(const std::filesystem::path& file);
+    bool entscheide(const std::filesystem::path& file, Lesung& lesung, Dokument& gespeichert);
+    bool istUeberholt() const;
+    void nimmAn(const std::filesystem::path& file, Dokument gespeichert);
+    bool merke(const std::filesystem::path& file, bool dabei);
+
+    Programm& m_programm;
+    SaveFileDialog& m_save;
+    OpenFileDialog& m_open;
+    std::filesystem::path m_datei; // absolute; empty for none
+    bool m_nurLesen = false; // must not be written over
+    std::optional<Dokument> m_gespeichert; // as the file has it
+    std::filesystem::file_time_type m_stand; // of the file then
+};
+
+} // namespace zerna

@@ -1,0 +1,194 @@
+#include "programm/Dokumentverwaltung.h"
+
+#include <gmock/gmock.h>
+
+#include "support/FakeServices.h"
+#include "support/FullDisk.h"
+#include "support/RechnerTest.h"
+#include "support/Traegerbilder.h"
+#include "traeger/Png.h"
+
+namespace zerna {
+
+using testing::HasSubstr;
+
+/// The program's document and the files that the user chooses for it.
+struct DokumentverwaltungTest : RechnerTest {
+    DokumentverwaltungTest()
+    {
+        addElements();
+        for (const auto& element : elements)
+            programm.ElementCollection().Add(element, element->symbol());
+        programm.Eingabe().setAnzahl(2);
+        programm.Eingabe().waehleElement(0, "Al");
+        programm.Eingabe().waehleElement(1, "Cu");
+    }
+
+    void enter(const char* prozent) { programm.Eingabe().setProzent(0, prozent); }
+    std::string entered() { return programm.Eingabe().zeile(0).prozent.text; }
+
+    /// Saves under a new name.
+    bool saveAs(const std::string& name)
+    {
+        save.answer = save.next = {{(folder / name).string(), 1}};
+        save.replace = true;
+        const bool isSaved = dateien.speichereUnter();
+        save.next.reset();
+        return isSaved;
+    }
+
+    Dokument stored(const std::string& name)
+    {
+        return lies(bytesOf(folder / name), programm.ElementCollection()).dokument.value();
+    }
+
+    KeptCurrentFolder kept;
+    FakeSettings settings;
+    Programm programm{boxes, settings, folder.path()};
+    FakeSaveDialog save;
+    FakeOpenDialog open;
+    Dokumentverwaltung dateien{programm, save, open};
+};
+
+TEST_F(DokumentverwaltungTest, KnowsItsFileAndWhetherItIsChanged)
+{
+    EXPECT_EQ(dateien.name(), "");
+    enter("60");
+    EXPECT_FALSE(dateien.istGeaendert()) << "without a file";
+    EXPECT_FALSE(dateien.speichere()) << "cancelled";
+    save.answer = {(folder / "Größe").string(), 1};
+    ASSERT_TRUE(dateien.speichere());
+    EXPECT_EQ(dateien.name(), "Größe.zerna");
+    EXPECT_EQ(stored("Größe.zerna"), programm.Dokument());
+    enter("61");
+    EXPECT_TRUE(dateien.istGeaendert());
+    enter("60");
+    EXPECT_FALSE(dateien.istGeaendert());
+    enter("62");
+    ASSERT_TRUE(dateien.speichere());
+    EXPECT_EQ(stored("Größe.zerna"), programm.Dokument());
+    ASSERT_TRUE(dateien.neu());
+    EXPECT_EQ(dateien.name() + entered(), "50");
+    EXPECT_EQ(programm.Eingabe().zeile(1).element->symbol(), "Cu");
+    open.answer = (folder / "Größe.zerna").string();
+    ASSERT_TRUE(dateien.oeffne());
+    EXPECT_EQ(dateien.name() + entered(), "Größe.zerna62");
+    EXPECT_THAT(boxes.asked, testing::IsEmpty());
+}
+
+TEST_F(DokumentverwaltungTest, AsksBeforeChangesOfAnOpenFileGo)
+{
+    struct Row {
+        std::optional<std::size_t> answer;
+        bool goes;
+        const char* stored;
+    };
+    for (const auto& [answer, goes, in] : {Row{0, true, "70"}, Row{1, true, "60"}, Row{std::nullopt, false, "60"}}) {
+        enter("60");
+        ASSERT_TRUE(saveAs("a.zerna"));
+        enter("70");
+        boxes.chosen = answer;
+        EXPECT_EQ(dateien.neu(), goes);
+        EXPECT_EQ(entered(), goes ? "50" : "70");
+        EXPECT_EQ(stored("a.zerna").eingabe.zeile(0).prozent.text, in);
+        EXPECT_EQ(boxes.asked.back(),
+            "Zerna: Die Legierung \"a.zerna\" ist geändert. Sollen die Änderungen gespeichert werden? "
+            "[&Speichern|&Verwerfen]");
+    }
+}
+
+TEST_F(DokumentverwaltungTest, RefusesWhatIsNoDocumentAndChangesNothing)
+{
+    enter("60");
+    ASSERT_TRUE(saveAs("a.zerna"));
+    writeBytes(folder / "b.zerna", "{\n  \"format\": }");
+    const Dokument before = programm.Dokument();
+    for (const auto& [name, reason] : {std::tuple("b.zerna", "Zeile 2, Spalte 13: Das ist kein gültiges JSON."),
+             {"fehlt.zerna", "Datei nicht gefunden."}}) {
+        EXPECT_FALSE(dateien.oeffne(folder / name));
+        EXPECT_EQ(boxes.shown.back().text,
+            "Die Datei \"" + std::string(name) + "\" konnte nicht geöffnet werden:\r\n" + reason);
+        EXPECT_EQ(programm.Dokument(), before);
+        EXPECT_EQ(dateien.name(), "a.zerna");
+    }
+    std::filesystem::remove(folder / "a.zerna");
+    EXPECT_FALSE(dateien.oeffne(folder / "a.zerna"));
+    EXPECT_THAT(boxes.shown.back().text, HasSubstr("nicht mehr in der Liste"));
+    EXPECT_THAT(dateien.zuletzt(), testing::IsEmpty());
+}
+
+TEST_F(DokumentverwaltungTest, WritesOverNoPictureAndNoNewerFile)
+{
+    std::string newer = schreibe(programm.Dokument());
+    const std::string picture = pngMitDokument(Pngbild, newer);
+    newer.replace(newer.find(": 1"), 3, ": 2");
+    for (const auto& [name, bytes, messages] : {std::tuple("a.png", picture, 0), {"b.zerna", newer, 1}}) {
+        boxes.shown.clear();
+        writeBytes(folder / name, bytes);
+        ASSERT_TRUE(dateien.oeffne(folder / name));
+        EXPECT_EQ(boxes.shown.size(), static_cast<std::size_t>(messages));
+        save.next = {{(folder / "c").string(), 1}};
+        ASSERT_TRUE(dateien.speichere());
+        EXPECT_EQ(dateien.name(), "c.zerna");
+        EXPECT_EQ(bytesOf(folder / name), bytes);
+        save.replace = true; // c.zerna is there now
+    }
+    EXPECT_THAT(save.offeredAgain.front(), testing::EndsWith("a.zerna|1"));
+    EXPECT_TRUE(dateien.speichere()) << "the new file is no longer read-only";
+}
+
+TEST_F(DokumentverwaltungTest, LetsTheUserDecideAboutOtherValues)
+{
+    ASSERT_TRUE(saveAs("a.zerna"));
+    elements.Item("Cu")->setValenz(2);
+    struct Row {
+        std::optional<std::size_t> answer;
+        float valenz;
+        bool changed;
+    };
+    for (const auto& [answer, valenz, changed] : {Row{0, 1, false}, Row{1, 2, true}, Row{std::nullopt, 2, true}}) {
+        boxes.chosen = answer;
+        EXPECT_EQ(dateien.oeffne(folder / "a.zerna"), answer.has_value());
+        EXPECT_EQ(programm.Eingabe().zeile(1).inKraft.valenz, valenz);
+        EXPECT_EQ(dateien.istGeaendert(), changed);
+        boxes.chosen = 1;
+        if (answer == 1U) {
+            EXPECT_THAT(boxes.asked.back(), HasSubstr("Zeile 2: Valenz (Standard) von Cu: 1 in der Datei, 2 hier"));
+        }
+    }
+}
+
+TEST_F(DokumentverwaltungTest, KeepsTheFileWhenSavingFails)
+{
+    ASSERT_TRUE(saveAs("a.zerna"));
+    const std::string before = bytesOf(folder / "a.zerna");
+    enter("70");
+    {
+        const FullDisk full(100);
+        EXPECT_FALSE(dateien.speichere());
+    }
+    EXPECT_THAT(boxes.shown.back().text, HasSubstr("konnte nicht gespeichert werden:\r\nDatenträger voll"));
+    EXPECT_EQ(save.offeredAgain.size(), 1U) << "the dialog came";
+    EXPECT_EQ(bytesOf(folder / "a.zerna"), before);
+    EXPECT_TRUE(dateien.istGeaendert());
+
+    writeBytes(folder / "a.zerna", "another program's");
+    std::filesystem::last_write_time(
+        folder / "a.zerna", std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
+    boxes.answer = false;
+    EXPECT_FALSE(dateien.speichere());
+    EXPECT_EQ(bytesOf(folder / "a.zerna"), "another program's");
+}
+
+TEST_F(DokumentverwaltungTest, RemembersTheFilesOfLast)
+{
+    for (int i = 0; i < 10; ++i)
+        ASSERT_TRUE(saveAs(std::to_string(i)));
+    ASSERT_TRUE(dateien.oeffne(folder / "5.zerna"));
+    std::string names;
+    for (const std::string& file : dateien.zuletzt())
+        names += std::filesystem::path(file).stem().string();
+    EXPECT_EQ(names, "59876432");
+}
+
+} // namespace zerna
