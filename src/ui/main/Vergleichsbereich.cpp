@@ -49,6 +49,7 @@ Vergleichsbereich::Vergleichsbereich(Programm& programm, Dialoge dialoge, QWidge
     m_ansicht->setObjectName(QStringLiteral("tblVergleich"));
     createActions();
     createControls();
+    createSeiten();
     layOut();
     connect(m_ansicht, &Vergleichsansicht::legierungGewaehlt, this, &Vergleichsbereich::showState);
     connect(m_ansicht, &Vergleichsansicht::doppelklick, this, &Vergleichsbereich::lade);
@@ -137,34 +138,34 @@ void Vergleichsbereich::createControls()
     connect(m_cmdSpeichern, &StyledButton::clicked, this, &Vergleichsbereich::save);
 }
 
-void Vergleichsbereich::layOut()
+/// The buttons above the table, in their order.
+std::vector<StyledButton*> Vergleichsbereich::createBar()
 {
     auto* const merken = new StyledButton(QStringLiteral("&Merken"), this);
     merken->setObjectName(QStringLiteral("cmdVergleich_Merken"));
     merken->setToolTipText(QStringLiteral("Die Legierung im Rechner als Spalte merken (Strg+D)"));
     connect(merken, &StyledButton::clicked, this, &Vergleichsbereich::merke);
+    std::vector<StyledButton*> buttons{merken, makeButton(QStringLiteral("La&den"), "cmdVergleich_Laden", m_laden),
+        makeButton(QStringLiteral("Als Re&ferenz"), "cmdVergleich_Referenz", m_referenz),
+        makeButton(QStringLiteral("&Umbenennen"), "cmdVergleich_Umbenennen", m_umbenennen),
+        makeButton(QStringLiteral("Lös&chen"), "cmdVergleich_Loeschen", m_loeschen)};
+    for (StyledButton* const button : buttons)
+        setKnopfgroesse(button, 90);
     StyledButton* const left = makeButton(QStringLiteral("◀"), "cmdVergleich_Links", m_links);
     StyledButton* const right = makeButton(QStringLiteral("▶"), "cmdVergleich_Rechts", m_rechts);
     for (const auto& [button, hint] : {std::pair(left, QStringLiteral("Spalte nach links (Strg+Umschalt+Pfeil)")),
              {right, QStringLiteral("Spalte nach rechts (Strg+Umschalt+Pfeil)")}}) {
+        setZeichenknopf(button);
         button->setAccessibleName(hint);
         button->setToolTipText(hint);
     }
-    std::vector<QWidget*> order{merken, makeButton(QStringLiteral("La&den"), "cmdVergleich_Laden", m_laden),
-        makeButton(QStringLiteral("Als Re&ferenz"), "cmdVergleich_Referenz", m_referenz),
-        makeButton(QStringLiteral("&Umbenennen"), "cmdVergleich_Umbenennen", m_umbenennen), left, right,
-        makeButton(QStringLiteral("Lös&chen"), "cmdVergleich_Loeschen", m_loeschen)};
-    auto* const bar = new QHBoxLayout;
-    bar->setSpacing(6);
-    for (QWidget* const widget : order) {
-        auto* const button = static_cast<StyledButton*>(widget);
-        if (button == left || button == right)
-            setZeichenknopf(button);
-        else
-            setKnopfgroesse(button, 90);
-        bar->addWidget(button);
-    }
-    bar->addStretch();
+    buttons.insert(buttons.end() - 1, {left, right});
+    return buttons;
+}
+
+/// What the panel is for, and in place of it the table once there is one.
+void Vergleichsbereich::createSeiten()
+{
     auto* const guide = new QLabel(QString::fromUtf8(Anleitung), this);
     guide->setObjectName(QStringLiteral("lblVergleich_Anleitung"));
     guide->setWordWrap(true);
@@ -173,6 +174,19 @@ void Vergleichsbereich::layOut()
     m_seiten = new QStackedWidget(this);
     m_seiten->addWidget(guide);
     m_seiten->addWidget(m_ansicht);
+    setFocusProxy(m_ansicht);
+}
+
+void Vergleichsbereich::layOut()
+{
+    auto* const above = new QHBoxLayout;
+    above->setSpacing(6);
+    std::vector<QWidget*> order;
+    for (StyledButton* const button : createBar()) {
+        above->addWidget(button);
+        order.push_back(button);
+    }
+    above->addStretch();
     auto* const caption = new QLabel(QStringLiteral("An&zeigen:"), this);
     caption->setBuddy(m_cmbArt);
     QHBoxLayout* const below = knopfzeile({m_cmdSpeichern});
@@ -182,14 +196,13 @@ void Vergleichsbereich::layOut()
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(4, 4, 8, 8);
     column->setSpacing(8);
-    column->addLayout(bar);
+    column->addLayout(above);
     column->addWidget(m_seiten, 1);
     column->addLayout(below);
     order.insert(order.end(), {m_ansicht, m_cmbArt});
     std::ranges::copy(m_tabellenknopf->tabOrder(), std::back_inserter(order));
     order.push_back(m_cmdSpeichern);
     setTabReihenfolge(order);
-    setFocusProxy(m_ansicht);
 }
 
 void Vergleichsbereich::zeige()

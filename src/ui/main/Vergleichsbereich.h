@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <vector>
 
 #include "core/Zahlentext.h"
 #include "programm/Programm.h"
@@ -59,6 +60,8 @@ private:
     StyledButton* makeButton(const QString& caption, const char* name, QAction* action);
     void createActions();
     void createControls();
+    void createSeiten();
+    std::vector<StyledButton*> createBar();
     void layOut();
     void showState();
 
