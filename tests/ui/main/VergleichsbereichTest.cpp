@@ -4,6 +4,8 @@
 #include <QMimeData>
 #include <QTableView>
 
+#include <functional>
+
 #include "support/FakeDesk.h"
 
 namespace zerna {
@@ -114,6 +116,32 @@ TEST_F(VergleichsbereichTest, AnAlloyGoesBackIntoTheCalculator)
     QTest::mouseDClick(table().horizontalHeader()->viewport(), Qt::LeftButton, {}, header(0).center());
     EXPECT_EQ(text("txtProzent_0"), "50");
     EXPECT_EQ(text("lblMeldung"), "✓  „Al50Cu50“ geladen");
+}
+
+TEST_F(VergleichsbereichTest, EachStepIsUndoneByItsName)
+{
+    const std::string before = namen();
+    inputBox.answer = "Probe";
+    for (const auto& [name, act] :
+        {std::pair<const char*, std::function<void()>>{"merken", [this] { key(Qt::Key_D, Qt::ControlModifier); }},
+            {"umbenennen", [this] { key(Qt::Key_F2); }}, {"löschen", [this] { key(Qt::Key_Delete); }},
+            {"verschieben", [this] { key(Qt::Key_Left, Qt::ControlModifier | Qt::ShiftModifier); }}}) {
+        SCOPED_TRACE(name);
+        table().setCurrentIndex(table().model()->index(0, 2));
+        table().setFocus();
+        act();
+        EXPECT_NE(namen(), before);
+        EXPECT_EQ(find<QAction>("mnuRueckgaengig").text().remove('&').toStdString(),
+            std::string("Rückgängig: Variante ") + name);
+        key(Qt::Key_Z, Qt::ControlModifier);
+        table().setCurrentIndex(table().model()->index(0, 2));
+        EXPECT_EQ(namen(), before);
+    }
+    table().setCurrentIndex(table().model()->index(0, 0));
+    key(Qt::Key_Return);
+    EXPECT_EQ(text("txtProzent_0"), "50");
+    QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(text("txtProzent_0"), "75");
 }
 
 TEST_F(VergleichsbereichTest, CopiesAndSavesWhatIsShown)
