@@ -89,7 +89,7 @@ Eingabe Eingabe::aus(const ElementCollection& elements, const Rohlegierung& roh)
     for (std::size_t i = 0; i < roh.zeilen.size(); ++i)
         eingabe.m_zeilen.at(i) = zeileAus(elements, roh.zeilen.at(i));
     eingabe.m_rest = zahlenfeld(roh.rest);
-    eingabe.m_current = elements.find(roh.nachgeschlagen);
+    eingabe.m_nachgeschlagen.element = elements.find(roh.nachgeschlagen);
     eingabe.m_einheit = roh.einheit;
     eingabe.m_quelle = roh.quelle;
     eingabe.convert();
@@ -98,7 +98,8 @@ Eingabe Eingabe::aus(const ElementCollection& elements, const Rohlegierung& roh)
 
 Rohlegierung Eingabe::roh() const
 {
-    Rohlegierung roh{m_anzahl, {}, m_rest.text, m_current ? m_current->symbol() : "", m_einheit, m_quelle};
+    Rohlegierung roh{m_anzahl, {}, m_rest.text, m_nachgeschlagen.element ? m_nachgeschlagen.element->symbol() : "",
+        m_einheit, m_quelle};
     for (std::size_t i = 0; i < m_zeilen.size(); ++i) {
         const Zeile& row = m_zeilen.at(i);
         roh.zeilen.at(i) = {row.element ? row.element->symbol() : "", row.prozent.text, row.dichtewahl, row.dichte.text,
@@ -227,7 +228,7 @@ Aenderung Eingabe::waehleDichte(int zeile, std::string_view wahl)
         return {};
     nachschlagen(zeile);
     at(zeile).dichtewahl = wahl;
-    writeDichte(zeile, wertfeld(dichteFor(*m_current, wahl)));
+    writeDichte(zeile, wertfeld(dichteFor(*m_nachgeschlagen.element, wahl)));
     return {.dichte = true};
 }
 
@@ -263,7 +264,7 @@ Aenderung Eingabe::waehleValenz(int zeile, int wahl)
         return {};
     nachschlagen(zeile);
     at(zeile).valenzwahl = wahl;
-    writeValenz(zeile, valenzfeld(feldtext(valenzFor(*m_current, wahl)), *m_elements));
+    writeValenz(zeile, valenzfeld(feldtext(valenzFor(*m_nachgeschlagen.element, wahl)), *m_elements));
     return {.valenz = true};
 }
 
@@ -283,7 +284,7 @@ void Eingabe::writeDichte(int zeile, Eingabefeld feld)
 {
     const Eingabefeld& dichte = at(zeile).dichte = std::move(feld);
     for (Zeile& row : m_zeilen) {
-        if (row.element == m_current && !dichte.fehler)
+        if (row.element == m_nachgeschlagen.element && !dichte.fehler)
             row.inKraft.dichte = dichte.wert;
     }
     mirror(zeile);
@@ -293,7 +294,7 @@ void Eingabe::writeValenz(int zeile, Eingabefeld feld)
 {
     const Eingabefeld& valenz = at(zeile).valenz = std::move(feld);
     for (Zeile& row : m_zeilen) {
-        if (row.element == m_current) {
+        if (row.element == m_nachgeschlagen.element) {
             row.inKraft.valenztext = valenz.text;
             row.inKraft.valenz = valenz.wert;
         }
@@ -304,7 +305,7 @@ void Eingabe::writeValenz(int zeile, Eingabefeld feld)
 void Eingabe::nachschlagen(int zeile)
 {
     if (at(zeile).element)
-        m_current = at(zeile).element;
+        m_nachgeschlagen.element = at(zeile).element;
 }
 
 /// All rows of the row's element show what it shows.

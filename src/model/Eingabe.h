@@ -120,8 +120,8 @@ public:
 
     /// Looks the row's element up, so that entered densities and valences go to it; choosing anything does so, too.
     void nachschlagen(int zeile);
-    const std::shared_ptr<clsElement>& CurrentElement() const { return m_current; }
-    void setCurrentElement(std::shared_ptr<clsElement> element) { m_current = std::move(element); }
+    const std::shared_ptr<clsElement>& CurrentElement() const { return m_nachgeschlagen.element; }
+    void setCurrentElement(std::shared_ptr<clsElement> element) { m_nachgeschlagen.element = std::move(element); }
 
     int anzahl() const { return m_anzahl; }
     const Zeile& zeile(int zeile) const { return m_zeilen.at(static_cast<std::size_t>(zeile)); }
@@ -163,13 +163,16 @@ public:
     /// Gives the elements of all rows the density and the valence text that are in force for them.
     void elementeSetzen();
 
-    /// Whether the same is entered; what was looked up last only says where the next text goes.
-    bool operator==(const Eingabe& other) const
-    {
-        return m_anzahl == other.m_anzahl && m_zeilen == other.m_zeilen && m_rest == other.m_rest;
-    }
+    /// Whether the same is entered.
+    bool operator==(const Eingabe&) const = default;
 
 private:
+    /// The element looked up last, maybe null. It only says where the next text goes, so it makes no difference.
+    struct Nachgeschlagen {
+        std::shared_ptr<clsElement> element;
+        bool operator==(const Nachgeschlagen&) const { return true; }
+    };
+
     std::span<const Zeile> zeilen() const { return std::span(m_zeilen).first(static_cast<std::size_t>(m_anzahl)); }
     Zeile& at(int zeile) { return m_zeilen.at(static_cast<std::size_t>(zeile)); }
     std::vector<Eingabefeld> converted(Anteilseinheit einheit) const;
@@ -188,7 +191,7 @@ private:
     Anteilseinheit m_einheit = Anteilseinheit::Atom;
     Anteilseinheit m_quelle = Anteilseinheit::Atom;
     std::vector<Eingabefeld> m_atomprozente; // of the rows in use, while mass % were typed
-    std::shared_ptr<clsElement> m_current; // maybe null
+    Nachgeschlagen m_nachgeschlagen;
 };
 
 } // namespace zerna

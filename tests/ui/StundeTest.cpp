@@ -58,6 +58,8 @@ struct StundeTest : FakeDesk {
         });
         open();
         QCoreApplication::processEvents();
+        window->activateWindow(); // as it is on a screen once the menu has gone
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
     }
 
     void rightClick(const std::string& name) const

@@ -1,6 +1,7 @@
 #include "ui/controls/Elementliste.h"
 
 #include <QElapsedTimer>
+#include <QKeyEvent>
 #include <QListView>
 #include <QPainter>
 #include <QScrollBar>
@@ -101,6 +102,13 @@ void Elementliste::setName(int position, const QString& name)
 {
     setItemData(position, name, NameRole);
     setItemData(position, itemText(position) + QLatin1Char(' ') + name, Qt::AccessibleTextRole);
+}
+
+void Elementliste::keyPressEvent(QKeyEvent* event)
+{
+    m_isTyping = !event->text().trimmed().isEmpty();
+    QComboBox::keyPressEvent(event);
+    m_isTyping = false;
 }
 
 void Elementliste::showPopup()

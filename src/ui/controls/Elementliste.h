@@ -15,6 +15,15 @@ public:
     void setName(int position, const QString& name);
 
     void showPopup() override;
+
+    /// Whether an entry is being chosen by typing its letters, of which each chooses.
+    bool istBeimTippen() const { return m_isTyping; }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    bool m_isTyping = false;
 };
 
 } // namespace zerna

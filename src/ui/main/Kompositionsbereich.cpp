@@ -242,7 +242,7 @@ void Kompositionsbereich::elementChosen(int row, std::string_view key)
     if (!aenderung.element)
         return;
     emit geaendert(aenderung);
-    emit geschehen(schritt("Element", row));
+    emit geschehen(schritt("Element", row, at(row).istElementBeimTippen() ? "cmbElement" : nullptr));
 }
 
 void Kompositionsbereich::setLegierung(const Legierungsformel& formel)
@@ -325,6 +325,8 @@ void Kompositionsbereich::zeigeDokument()
     for (int row = 0; row < MaxKomponenten; ++row) {
         if (const auto& element = eingabe().zeile(row).element)
             speichereElement(row, element->symbol());
+        if (at(row).hatWertfokus())
+            eingabe().nachschlagen(row); // typing goes on there
     }
 }
 

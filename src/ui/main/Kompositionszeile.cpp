@@ -134,6 +134,10 @@ void Kompositionszeile::nenneElemente(const ElementCollection& elements)
     }
 }
 
+bool Kompositionszeile::istElementBeimTippen() const { return m_cmbElement->istBeimTippen(); }
+
+bool Kompositionszeile::hatWertfokus() const { return m_txtDichte->hasFocus() || m_txtValenz->hasFocus(); }
+
 void Kompositionszeile::focusProzent()
 {
     typed().setFocus(Qt::TabFocusReason);

@@ -40,6 +40,12 @@ public:
     /// Shows the elements' names in the list.
     void nenneElemente(const ElementCollection& elements);
 
+    /// Whether the element is being chosen letter by letter.
+    bool istElementBeimTippen() const;
+
+    /// Whether the keyboard focus is in the density or the valence.
+    bool hatWertfokus() const;
+
     void focusProzent();
 
     /// Writes what the row holds and marks what is wrong with it; what is shown already is left alone, so that the

@@ -35,6 +35,7 @@ public:
         if (next.m_geste != m_geste)
             return false;
         m_nach = next.m_nach;
+        setText(next.text());
         setObsolete(m_nach->dokument == m_von->dokument);
         return true;
     }

@@ -118,6 +118,33 @@ TEST_F(FensterverlaufTest, AnElementChosenByMistakeComesBackWithWhatWasTypedForI
     EXPECT_EQ(text("Istmasse_0"), "100");
 }
 
+/// The field keeps the focus, and its row the typing, whatever was looked up in the state that comes back.
+TEST_F(FensterverlaufTest, TypingGoesOnInTheRowOfTheField)
+{
+    openAluminiumCopper();
+    choose("cmdDichte_1", "<andere>");
+    choose("cmbValenz_0", "<andere>");
+    type("txtDichte_1", "5");
+    press(Qt::Key_Z);
+    QTest::keyClicks(QApplication::focusWidget(), "6");
+    const std::string dichte = text("lblMFE_2");
+    type("txtDichte_1", "6");
+    EXPECT_EQ(text("lblMFE_2"), dichte);
+    EXPECT_NE(dichte, "");
+}
+
+TEST_F(FensterverlaufTest, AnElementTypedLetterByLetterIsOneStep)
+{
+    openAluminiumCopper();
+    window->verlauf().beginne();
+    find("cmbElement_0").setFocus();
+    QTest::keyClicks(&find("cmbElement_0"), "zn");
+    EXPECT_EQ(text("lblElement_0"), "Zink");
+    EXPECT_EQ(stapel().undoText(), QStringLiteral("Element Zn"));
+    press(Qt::Key_Z);
+    EXPECT_EQ(texts({"cmbElement_0", "lblElement_0"}), "Al|Aluminium");
+}
+
 TEST_F(FensterverlaufTest, TheBalanceRowLeavesNoStepAndOneButtonMakesOne)
 {
     openAluminiumCopper();
