@@ -39,7 +39,10 @@ int main(int argc, char** argv)
         return *window;
     };
     try {
-        return programm.start(createWindow) ? QApplication::exec() : 1;
+        if (!programm.start(createWindow))
+            return 1;
+        window->oeffneArgumente(QCoreApplication::arguments().mid(1));
+        return QApplication::exec();
     } catch (const std::exception& error) { // of the start: later ones the application shows
         zerna::showUnexpected(boxes, error, "Das Programm wird beendet.");
         return 1;

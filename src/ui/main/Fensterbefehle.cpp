@@ -3,6 +3,7 @@
 #include <tuple>
 
 #include "ui/controls/Menue.h"
+#include "ui/main/Dateibefehle.h"
 #include "ui/main/Diagrammbereich.h"
 #include "ui/main/Ergebnisbereich.h"
 #include "ui/main/Kompositionsbereich.h"
@@ -18,6 +19,7 @@ void frmMain::fillMenu()
 {
     using enum Menue::Abschnitt;
     addSchritte();
+    m_dateien->addBefehle(*m_menue);
     m_ergebnisse->addBefehle(*m_menue);
     m_conWiegen1->addBefehle(*m_menue);
     m_diagramm->addBefehle(*m_menue);
@@ -84,6 +86,8 @@ void frmMain::drucke()
     else
         m_diagramm->drucke();
 }
+
+void frmMain::oeffneArgumente(const QStringList& argumente) { m_dateien->oeffneArgumente(argumente); }
 
 void frmMain::showAbout() { frmAbout(m_programm.Loader(), this).exec(); }
 

@@ -5,6 +5,7 @@
 
 #include "ui/controls/Kurzmeldung.h"
 #include "ui/controls/Menue.h"
+#include "ui/main/Dateibefehle.h"
 #include "ui/main/Diagrammbereich.h"
 #include "ui/main/Ergebnisbereich.h"
 #include "ui/main/Kompositionsbereich.h"
@@ -22,6 +23,10 @@ void frmMain::connectVerlauf()
     connect(m_conWiegen1, &conWiegen::geschehen, this, &frmMain::geschehen);
     connect(m_diagramm, &Diagrammbereich::geschehen, this, &frmMain::geschehen);
     connect(m_vergleich, &Vergleichsbereich::geschehen, this, [this](const QString& name) { geschehen({name}); });
+    connect(m_dateien, &Dateibefehle::geschehen, this, &frmMain::geschehen);
+    connect(m_dateien, &Dateibefehle::ersetzt, this, &frmMain::beginneDokument);
+    connect(m_dateien, &Dateibefehle::gespeichert, &m_verlauf, &Verlauf::trenne);
+    connect(&m_verlauf.stapel(), &QUndoStack::indexChanged, m_dateien, &Dateibefehle::zeigeTitel);
     connect(&m_verlauf, &Verlauf::zurueckgekehrt, this, &frmMain::zeigeStand);
     connect(qApp, &QApplication::focusChanged, &m_verlauf, [this](const QWidget*, const QWidget* now) {
         if (now != nullptr && isAncestorOf(now))

@@ -16,6 +16,7 @@
 #include "ui/controls/Kurzmeldung.h"
 #include "ui/controls/Menue.h"
 #include "ui/controls/Radsperre.h"
+#include "ui/main/Dateibefehle.h"
 #include "ui/main/Diagrammbereich.h"
 #include "ui/main/Ergebnisbereich.h"
 #include "ui/main/Fensterplatz.h"
@@ -78,6 +79,7 @@ frmMain::frmMain(Programm& programm, Dialoge dialoge)
     setWindowIcon(QIcon(QStringLiteral(":/zerna.svg")));
     createControls();
     createCalculatorPanel(dialoge);
+    m_dateien = new Dateibefehle(programm, dialoge, *this);
     layOut();
     connectPanels();
     connectVerlauf();
@@ -297,6 +299,10 @@ void frmMain::show()
 
 void frmMain::closeEvent(QCloseEvent* event)
 {
+    if (!m_dateien->darfSchliessen()) {
+        event->ignore();
+        return;
+    }
     m_programm.shutdown();
     QWidget::closeEvent(event);
 }

@@ -12,6 +12,7 @@ class QStackedWidget;
 
 namespace zerna {
 
+class Dateibefehle;
 class Diagrammbereich;
 class Ergebnisbereich;
 class Kompositionsbereich;
@@ -49,6 +50,9 @@ public:
     /// Shows a document that the program has just been given: no way leads back from it.
     void beginneDokument();
 
+    /// Opens what the program was called with.
+    void oeffneArgumente(const QStringList& argumente);
+
     /// Ends every user's change of the document, after all that follows from it.
     void geschehen(const Schritt& schritt) { m_verlauf.geschehen(schritt); }
     Verlauf& verlauf() { return m_verlauf; }
@@ -80,6 +84,7 @@ private:
     Programm& m_programm;
     Verlauf m_verlauf;
     Menue* m_menue = nullptr;
+    Dateibefehle* m_dateien = nullptr;
     std::array<StyledButton*, 3> m_optButton1{};
     Kurzmeldung* m_meldung = nullptr; // beside the switches
     StyledButton* m_cmdAbout = nullptr;

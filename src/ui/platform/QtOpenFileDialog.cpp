@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFileDialog>
 
+#include "ui/platform/Dateispalten.h"
 #include "ui/platform/QtText.h"
 
 namespace zerna {
@@ -15,8 +16,7 @@ std::optional<std::string> QtOpenFileDialog::choose()
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setNameFilters({QStringLiteral("Legierungen und Bilder (*.zerna *.png *.svg *.svgz *.pdf)"),
         QStringLiteral("Alle Dateien (*)")});
-    constexpr QSize Roomy(760, 480);
-    dialog.resize(dialog.size().expandedTo(Roomy));
+    zeigeGanzeSpalten(dialog);
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return fromQt(dialog.selectedFiles().constFirst());

@@ -5,15 +5,14 @@
 #include <QDir>
 #include <QEvent>
 #include <QFileDialog>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStringList>
-#include <QTreeView>
 
 #include "core/Datei.h"
 #include "programm/Exportziel.h"
+#include "ui/platform/Dateispalten.h"
 #include "ui/platform/QtText.h"
 
 namespace zerna {
@@ -31,7 +30,7 @@ public:
         setAcceptMode(AcceptSave);
         setFileMode(AnyFile);
         setNameFilters(filters);
-        showWholeColumns();
+        zeigeGanzeSpalten(*this);
         saveButton().installEventFilter(this);
         saveButton().setEnabled(true);
     }
@@ -71,17 +70,6 @@ protected:
     }
 
 private:
-    /// The toolkit cuts size, type and date off.
-    void showWholeColumns()
-    {
-        constexpr QSize Roomy(760, 480);
-        resize(size().expandedTo(Roomy));
-        QHeaderView& header = *findChild<QTreeView*>(QStringLiteral("treeView"))->header();
-        header.setSectionResizeMode(QHeaderView::ResizeToContents);
-        header.setSectionResizeMode(0, QHeaderView::Stretch);
-        header.setStretchLastSection(false);
-    }
-
     QLineEdit& name() const { return *findChild<QLineEdit*>(QStringLiteral("fileNameEdit")); }
     QPushButton& saveButton() const
     {

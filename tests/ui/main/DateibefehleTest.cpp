@@ -1,0 +1,114 @@
+#include "ui/main/Dateibefehle.h"
+
+#include <QDropEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QUrl>
+
+#include <gmock/gmock.h>
+
+#include "support/FakeDesk.h"
+#include "support/ModalDialog.h"
+#include "support/Traegerbilder.h"
+#include "traeger/Svg.h"
+#include "ui/main/Titeldialog.h"
+
+namespace zerna {
+
+struct DateibefehleTest : FakeDesk {
+    DateibefehleTest()
+    {
+        openAluminiumCopper();
+        type("txtProzent_0", "60");
+        saveDialog.answer = {(folder / "Al-Cu").string(), 1};
+        QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier);
+    }
+
+    /// The title bar: its text, and "*" if it shows that something is changed.
+    std::string title() const { return window->windowTitle().toStdString() + (window->isWindowModified() ? " *" : ""); }
+
+    /// Drops files on a control.
+    void drop(const char* name, const QList<QUrl>& urls) const
+    {
+        QMimeData data;
+        data.setUrls(urls);
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&find(name), &enter);
+        EXPECT_TRUE(enter.isAccepted());
+        QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&find(name), &event);
+        QTest::qWait(20);
+    }
+};
+
+TEST_F(DateibefehleTest, TitleBarTellsFileAndChanges)
+{
+    EXPECT_EQ(title(), "Al-Cu.zerna[*] – Zerna");
+    type("txtProzent_0", "70");
+    EXPECT_EQ(title(), "Al-Cu.zerna[*] – Zerna *");
+    QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(text("txtProzent_0") + title(), "60Al-Cu.zerna[*] – Zerna");
+    QTest::keyClick(window.get(), Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(text("txtProzent_0") + title(), "50Zerna");
+    auto& recent = find<QMenu>("mnuZuletzt");
+    emit recent.aboutToShow();
+    ASSERT_EQ(recent.actions().size(), 1);
+    recent.actions().constFirst()->trigger();
+    EXPECT_EQ(text("txtProzent_0") + title(), "60Al-Cu.zerna[*] – Zerna");
+}
+
+TEST_F(DateibefehleTest, ClosingAsksOnlyForAChangedFile)
+{
+    type("txtProzent_0", "70");
+    boxes.way = 2;
+    EXPECT_FALSE(window->close());
+    EXPECT_EQ(boxes.asked.size(), 1U);
+    boxes.way = 0;
+    EXPECT_TRUE(window->close());
+    EXPECT_EQ(boxes.asked.size(), 2U);
+    EXPECT_THAT(bytesOf(folder / "Al-Cu.zerna"), testing::HasSubstr("\"prozent\": \"70\""));
+}
+
+TEST_F(DateibefehleTest, DroppedAndNamedFilesAreOpened)
+{
+    writeBytes(folder / "b.svg", svgMitDokument(Svgbild, bytesOf(folder / "Al-Cu.zerna")));
+    type("txtProzent_0", "70");
+    boxes.way = 1;
+    const QUrl picture = QUrl::fromLocalFile(QString::fromStdString((folder / "b.svg").string()));
+    drop("txtProzent_0", {picture});
+    EXPECT_EQ(text("txtProzent_0") + title(), "60b.svg[*] – Zerna");
+    drop("Pic_1_0", {picture, picture});
+    window->oeffneArgumente({"a", "b"});
+    window->oeffneArgumente({"-x"});
+    window->oeffneArgumente({});
+    std::string said;
+    for (const auto& box : boxes.shown)
+        said += box.text + '\n';
+    EXPECT_EQ(said,
+        "Zerna öffnet eine Datei auf einmal. Bitte nur eine hierher ziehen.\n"
+        "Zerna öffnet eine Datei auf einmal; im Aufruf stehen 2.\r\nAufruf: zerna [DATEI]\n"
+        "Die Option \"-x\" gibt es nicht.\r\nAufruf: zerna [DATEI]\n");
+    window->oeffneArgumente({QString::fromStdString((folder / "Al-Cu.zerna").string())});
+    EXPECT_EQ(title(), "Al-Cu.zerna[*] – Zerna");
+}
+
+TEST_F(DateibefehleTest, TitleAndRemarkAreAStep)
+{
+    const auto answer = [](Titeldialog& dialog) {
+        typeText("Größe");
+        press(Qt::Key_Tab);
+        typeText("x");
+        press(Qt::Key_Tab);
+        press(Qt::Key_Return);
+        EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    };
+    inDialog<Titeldialog>(answer, [this] { find<QAction>("mnuTitel").trigger(); });
+    EXPECT_EQ(programm->Dokument().titel + programm->Dokument().bemerkung, "Größex");
+    EXPECT_EQ(title(), "Al-Cu.zerna[*] – Zerna *");
+    find<QAction>("mnuRueckgaengig").trigger();
+    EXPECT_EQ(programm->Dokument().titel + title(), "Al-Cu.zerna[*] – Zerna");
+}
+
+} // namespace zerna
