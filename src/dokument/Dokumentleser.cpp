@@ -145,7 +145,7 @@ private:
     {
         const auto kennung = root.is_object() ? root.find("format") : root.end();
         if (kennung == root.end() || *kennung != Dateikennung)
-            m_leser.ablehnen(root, "Das ist keine Zerna-Datei: Die Angabe \"format\": \"Zerna-Legierung\" fehlt");
+            m_leser.ablehnen(root, R"(Das ist keine Zerna-Datei: Die Angabe "format": "Zerna-Legierung" fehlt)");
         m_version = m_leser.ganzzahl(root, "version", 1, std::numeric_limits<int>::max());
         dokument.titel = m_leser.text(root, "titel", LongestField);
         dokument.bemerkung = m_leser.text(root, "bemerkung", LongestRemark);
