@@ -88,7 +88,7 @@ void Kompositionsbereich::connectRow(int row)
     const Zeile* const zeile = &at(row);
     connect(zeile, &Zeile::elementChosen, this, [this, row](const auto& key) { elementChosen(row, fromQt(key)); });
     connect(zeile, &Zeile::prozentEntered, this, [this, row](const QString& text) {
-        taken(eingabe().setProzent(row, fromQt(text)), schritt(anteilVon(), row, "txtProzent"));
+        taken(eingabe().setProzent(row, fromQt(text)), anteilsschritt(row));
         offerLegierung(row);
     });
     connect(zeile, &Zeile::prozentConfirmed, m_formelfeld, &Formelfeld::nimmAngebot);
@@ -110,7 +110,7 @@ void Kompositionsbereich::connectRow(int row)
         if (!eingabe().istAusgleich(row))
             return;
         eingabe().gleicheAus(); // what was typed there must not pass for the at% in force
-        taken({}, schritt(anteilVon(), row, "txtProzent"));
+        taken({}, anteilsschritt(row));
     });
 }
 
@@ -190,16 +190,18 @@ void Kompositionsbereich::gehZu(int row, Eingabeort ort) { at(row).gehZu(ort); }
 
 void Kompositionsbereich::enterProzent(int row, int prozent)
 {
-    taken(eingabe().setProzent(row, textOfSingle(static_cast<float>(prozent))), schritt(anteilVon(), row, "conLabel"));
+    taken(eingabe().setProzent(row, textOfSingle(static_cast<float>(prozent))), schritt("at% von", row, "conLabel"));
 }
 
 void Kompositionsbereich::stepAnzahl(int step) { setAnzahl(naechsteKomponentenzahl(eingabe().anzahl(), step)); }
 
 void Kompositionsbereich::setEinheit(Anteilseinheit einheit)
 {
+    if (einheit == eingabe().einheit())
+        return;
     eingabe().setEinheit(einheit);
-    taken({}, {QStringLiteral("Einheit der Anteile")});
     emit einheitGeaendert();
+    taken({}, {QStringLiteral("Anteile in %1").arg(toQt(einheitenname(einheit)))});
 }
 
 void Kompositionsbereich::setEingabe(const zerna::Eingabe& eingabe, const Schritt& schritt)
@@ -303,11 +305,6 @@ void Kompositionsbereich::taken(const Aenderung& aenderung, const Schritt& schri
     emit geschehen(schritt);
 }
 
-const char* Kompositionsbereich::anteilVon()
-{
-    return eingabe().einheit() == Anteilseinheit::Masse ? "Masse % von" : "at% von";
-}
-
 /// The step that does something to a row, typing in one of its fields where that is named.
 Schritt Kompositionsbereich::schritt(const char* was, int row, const char* feld)
 {
@@ -315,6 +312,12 @@ Schritt Kompositionsbereich::schritt(const char* was, int row, const char* feld)
     const QString wovon = element ? toQt(element->symbol()) : QStringLiteral("Komponente %1").arg(row + 1);
     return {
         QStringLiteral("%1 %2").arg(QLatin1String(was), wovon), feld != nullptr ? numberedName(feld, row) : QString()};
+}
+
+Schritt Kompositionsbereich::anteilsschritt(int row)
+{
+    const bool isAtom = eingabe().einheit() == Anteilseinheit::Atom;
+    return schritt(isAtom ? "at% von" : "Masse % von", row, isAtom ? "txtProzent" : "txtMasse");
 }
 
 void Kompositionsbereich::zeigeDokument()

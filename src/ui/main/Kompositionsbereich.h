@@ -66,10 +66,10 @@ signals:
     void geaendert(const Aenderung& aenderung);
     /// What is wrong with the entered alloy may be something else now.
     void befundGeaendert();
-    /// The user has done something to the entered alloy, and all who follow it have followed.
-    void geschehen(const Schritt& schritt);
     /// Parts are typed in the other unit now.
     void einheitGeaendert();
+    /// The user has done something to the entered alloy, and all who follow it have followed.
+    void geschehen(const Schritt& schritt);
 
 private:
     void createControls();
@@ -86,8 +86,8 @@ private:
     void valenzLeft(int row);
     void dichteartChosen(std::string_view wahl);
     void taken(const Aenderung& aenderung, const Schritt& schritt);
-    const char* anteilVon();
     Schritt schritt(const char* was, int row, const char* feld = nullptr);
+    Schritt anteilsschritt(int row);
     void zeige();
 
     Eingabe& eingabe() { return m_programm.Eingabe(); }

@@ -21,6 +21,10 @@ TEST_F(AnteilskoepfeTest, MassPercentAreShownTypedAndLeftAgain)
     EXPECT_EQ(texts({"txtProzent_0", "txtMasse_0"}), "60|38,908833");
     EXPECT_FALSE(find("conLabel_0").isEnabled() && find("conLabel_0").findChild<StyledButton*>()->isEnabled());
     EXPECT_EQ(text("lblMFE_7"), fermi);
+    QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(texts({"txtProzent_0", "txtMasse_0"}), "60,0|38,91") << "undone";
+    QTest::keyClick(window.get(), Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(texts({"txtProzent_0", "txtMasse_0"}), "60|38,908833");
     click("Label2");
     EXPECT_EQ(texts({"txtProzent_0", "txtMasse_0"}), "60,0|38,91");
 
