@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <span>
 #include <string_view>
 
@@ -23,12 +22,12 @@ public:
     /// Asks whether to go on all the same; `go` is the caption of the button for it. Yes where nobody can be asked.
     virtual bool ask(std::string_view /*caption*/, std::string_view /*text*/, std::string_view /*go*/) { return true; }
 
-    /// Asks which of several things to do; each has a button, of which the first is the usual one. No value on cancel,
-    /// and where nobody can be asked.
-    virtual std::optional<std::size_t> choose(
-        std::string_view /*caption*/, std::string_view /*text*/, std::span<const std::string_view> /*buttons*/)
+    /// Asks which way to go, and answers with its position; `ways` are the captions of the buttons: first the usual
+    /// one, last the one that leaves everything as it is. The first one where nobody can be asked.
+    virtual std::size_t choose(
+        std::string_view /*caption*/, std::string_view /*text*/, std::span<const std::string_view> /*ways*/)
     {
-        return std::nullopt;
+        return 0;
     }
 };
 

@@ -96,15 +96,15 @@ bool Dokumentverwaltung::lade(const std::filesystem::path& file)
 bool Dokumentverwaltung::entscheide(const std::filesystem::path& file, Lesung& lesung, Dokument& gespeichert)
 {
     const auto& elements = m_programm.ElementCollection();
-    const auto answer = m_programm.boxes().choose(Programmtitel, unterschiedsfrage(file, lesung),
-        std::array<std::string_view, 2>{"Werte der &Datei behalten", "Werte dieser &Tabelle übernehmen"});
+    const std::size_t answer = m_programm.boxes().choose(Programmtitel, unterschiedsfrage(file, lesung),
+        std::array<std::string_view, 3>{"Werte der &Datei behalten", "Werte dieser &Tabelle übernehmen", "&Abbrechen"});
     if (answer == 0) {
         behalteDateiwerte(*lesung.dokument, lesung.unterschiede, elements);
         gespeichert = *lesung.dokument;
     } else if (answer == 1) {
         uebernehmeTabelle(*lesung.dokument, lesung.unterschiede, elements);
     }
-    return answer.has_value();
+    return answer < 2;
 }
 
 bool Dokumentverwaltung::speichere()
@@ -146,10 +146,10 @@ bool Dokumentverwaltung::darfGehen()
 {
     if (!istGeaendert())
         return true;
-    const auto answer = m_programm.boxes().choose(Programmtitel,
+    const std::size_t answer = m_programm.boxes().choose(Programmtitel,
         "Die Legierung " + zitierterName(m_datei) + " ist geändert. Sollen die Änderungen gespeichert werden?",
-        std::array<std::string_view, 2>{"&Speichern", "&Verwerfen"});
-    return answer && (*answer == 1 || speichere());
+        std::array<std::string_view, 3>{"&Speichern", "&Verwerfen", "&Abbrechen"});
+    return answer == 1 || (answer == 0 && speichere());
 }
 
 /// Whether the file is another one than the document was read from.

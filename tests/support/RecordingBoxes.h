@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -28,18 +29,19 @@ public:
         return answer;
     }
 
-    std::optional<std::size_t> choose(
-        std::string_view caption, std::string_view text, std::span<const std::string_view> buttons) override
+    std::size_t choose(std::string_view caption, std::string_view text, std::span<const std::string_view> ways) override
     {
-        asked.push_back(std::string(caption) + ": " + std::string(text) + " [" + std::string(buttons[0]) + '|'
-            + std::string(buttons[1]) + ']');
-        return chosen;
+        std::string question = std::string(caption) + ": " + std::string(text) + " [";
+        for (const std::string_view button : ways)
+            question += std::string(button) + (button == ways.back() ? "]" : "|");
+        asked.push_back(question);
+        return std::min(way, ways.size() - 1);
     }
 
     std::vector<Box> shown;
     std::vector<std::string> asked;
-    bool answer = true; ///< to all questions
-    std::optional<std::size_t> chosen = 0; ///< of all questions that offer several things
+    bool answer = true; ///< to all questions whether to go on
+    std::size_t way = 0; ///< chosen in all questions which way to go
 };
 
 } // namespace zerna

@@ -4,67 +4,57 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-#include <algorithm>
-#include <vector>
-
 #include "ui/platform/QtText.h"
 
 namespace zerna {
 
 namespace {
 
-/// A question that can be cancelled.
-class Frage : public QMessageBox {
-public:
-    Frage(std::string_view caption, std::string_view text)
-        : QMessageBox(QApplication::activeWindow())
-        , m_cancel(addButton(QStringLiteral("&Abbrechen"), RejectRole))
-    {
-        setIcon(Question);
-        setWindowTitle(toQt(caption));
-        setTextFormat(Qt::PlainText);
-        setText(toQt(text).remove(QLatin1Char('\r')));
-        setEscapeButton(m_cancel);
-    }
-
-    QPushButton* cancel() const { return m_cancel; }
-
-private:
-    QPushButton* m_cancel;
-};
+void fill(QMessageBox& box, QMessageBox::Icon icon, std::string_view caption, std::string_view text)
+{
+    box.setIcon(icon);
+    box.setWindowTitle(toQt(caption));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(toQt(text).remove(QLatin1Char('\r')));
+}
 
 } // namespace
 
 void QtMessageBoxes::show(Icon icon, std::string_view caption, std::string_view text)
 {
     QMessageBox box(QApplication::activeWindow());
-    box.setIcon(icon == Icon::Exclamation ? QMessageBox::Warning : QMessageBox::NoIcon);
-    box.setWindowTitle(toQt(caption));
-    box.setTextFormat(Qt::PlainText);
-    box.setText(toQt(text).remove(QLatin1Char('\r')));
+    fill(box, icon == Icon::Exclamation ? QMessageBox::Warning : QMessageBox::NoIcon, caption, text);
     box.exec();
 }
 
 bool QtMessageBoxes::ask(std::string_view caption, std::string_view text, std::string_view go)
 {
-    Frage box(caption, text);
+    QMessageBox box(QApplication::activeWindow());
+    fill(box, QMessageBox::Question, caption, text);
     const QAbstractButton* const goOn = box.addButton(toQt(go), QMessageBox::AcceptRole);
-    box.setDefaultButton(box.cancel());
+    QPushButton* const cancel = box.addButton(QStringLiteral("&Abbrechen"), QMessageBox::RejectRole);
+    box.setDefaultButton(cancel);
+    box.setEscapeButton(cancel);
     box.exec();
     return box.clickedButton() == goOn;
 }
 
-std::optional<std::size_t> QtMessageBoxes::choose(
-    std::string_view caption, std::string_view text, std::span<const std::string_view> buttons)
+std::size_t QtMessageBoxes::choose(
+    std::string_view caption, std::string_view text, std::span<const std::string_view> ways)
 {
-    Frage box(caption, text);
-    std::vector<QPushButton*> made;
-    for (const std::string_view button : buttons) // all of one role, which keeps their order
-        made.push_back(box.addButton(toQt(button), QMessageBox::AcceptRole));
-    box.setDefaultButton(made.front());
+    QMessageBox box(QApplication::activeWindow());
+    fill(box, QMessageBox::Question, caption, text);
+    QList<QAbstractButton*> buttons;
+    for (std::size_t i = 0; i < ways.size(); ++i) {
+        const auto role = i == 0   ? QMessageBox::AcceptRole
+            : i + 1 == ways.size() ? QMessageBox::RejectRole
+                                   : QMessageBox::DestructiveRole;
+        buttons.append(box.addButton(toQt(ways[i]), role));
+    }
+    box.setDefaultButton(qobject_cast<QPushButton*>(buttons.first()));
+    box.setEscapeButton(buttons.last());
     box.exec();
-    const auto clicked = std::ranges::find(made, box.clickedButton());
-    return clicked == made.end() ? std::nullopt : std::optional<std::size_t>(clicked - made.begin());
+    return static_cast<std::size_t>(buttons.indexOf(box.clickedButton()));
 }
 
 } // namespace zerna

@@ -9,8 +9,8 @@ class QtMessageBoxes : public MessageBoxes {
 public:
     void show(Icon icon, std::string_view caption, std::string_view text) override;
     bool ask(std::string_view caption, std::string_view text, std::string_view go) override;
-    std::optional<std::size_t> choose(
-        std::string_view caption, std::string_view text, std::span<const std::string_view> buttons) override;
+    std::size_t choose(
+        std::string_view caption, std::string_view text, std::span<const std::string_view> ways) override;
 };
 
 } // namespace zerna

@@ -91,6 +91,7 @@ TEST_F(DiagrammbereichTest, RandomEditsLeaveNoTrace)
             {"cmdDichte_1", "kristallin"}, {"cmbValenz_0", "Standard"}, {"cmbValenz_1", "Standard"},
             {"cmbDiagramm_Typ", "2 D"}, {"cmbDiagramm", "Valenz"}, {"cmbDiagramm_Element", "Al"}})
         choose(list, entry);
+    click("Label2");
     type("txtProzent_0", "50");
     EXPECT_EQ(picture(), before);
     EXPECT_EQ(text("lblMFE_7"), "9,8778 eV");

@@ -25,14 +25,13 @@ TEST(QtMessageBoxesTest, TextIsShownAsItIsUntilAKeyIsPressed)
     }
 }
 
-TEST(QtMessageBoxesTest, AQuestionIsAnsweredByAButtonOrCancelled)
+TEST(QtMessageBoxesTest, TheFirstWayIsTheUsualOneAndTheLastTheWayOut)
 {
-    constexpr std::array<std::string_view, 2> Buttons{"&Speichern", "&Verwerfen"};
-    using Answer = std::optional<std::size_t>;
-    for (const auto& [key, modifiers, answer] : {std::tuple(Qt::Key_Return, Qt::NoModifier, Answer(0)),
-             {Qt::Key_V, Qt::AltModifier, Answer(1)}, {Qt::Key_Escape, Qt::NoModifier, Answer()}}) {
+    constexpr std::array<std::string_view, 3> Ways{"&Speichern", "&Verwerfen", "&Abbrechen"};
+    for (const auto& [key, modifiers, way] :
+        {std::tuple(Qt::Key_Return, Qt::NoModifier, 0U), {Qt::Key_V, Qt::AltModifier, 1U}, {Qt::Key_Escape, {}, 2U}}) {
         inDialog<QMessageBox>([key = key, modifiers = modifiers](const QMessageBox&) { press(key, modifiers); },
-            [answer = answer, &Buttons] { EXPECT_EQ(QtMessageBoxes().choose("Zerna", "Wohin?", Buttons), answer); });
+            [way = way, &Ways] { EXPECT_EQ(QtMessageBoxes().choose("Zerna", "Wohin?", Ways), way); });
     }
 }
 
