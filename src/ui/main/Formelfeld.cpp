@@ -32,6 +32,7 @@ void Formelfeld::createControls()
     m_txtFormel->setAccessibleName(QStringLiteral("Legierung als Formel"));
     m_txtFormel->setPlaceholderText(QStringLiteral("Legierung eintippen, z. B. Al60Cu40 oder Al-4Cu-1Mg wt%"));
     m_txtFormel->setHinweis(QStringLiteral("Eingabetaste übernimmt, Esc leert das Feld"));
+    m_txtFormel->setEigenerVerlauf(true); // what is typed here belongs to the document once it is taken
     m_txtFormel->installEventFilter(this);
     connect(m_txtFormel, &Wertfeld::textChanged, this, &Formelfeld::edited);
     connect(m_txtFormel, &Wertfeld::returnPressed, this, &Formelfeld::take);

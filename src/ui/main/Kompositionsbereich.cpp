@@ -249,6 +249,7 @@ void Kompositionsbereich::elementChosen(int row, std::string_view key)
 
 void Kompositionsbereich::setLegierung(const Legierungsformel& formel)
 {
+    const Anteilseinheit einheit = eingabe().einheit();
     Aenderung aenderung;
     {
         const Programm::Fuellung fuellung(m_programm); // nothing is computed while the rows are refilled
@@ -259,6 +260,8 @@ void Kompositionsbereich::setLegierung(const Legierungsformel& formel)
         zeige();
     }
     taken(aenderung, {QStringLiteral("Legierung eintippen")});
+    if (eingabe().einheit() != einheit)
+        emit einheitGeaendert();
 }
 
 /// A formula in an at% field is no number, but may be meant for all rows.

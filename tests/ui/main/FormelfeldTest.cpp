@@ -34,6 +34,12 @@ TEST_F(FormelfeldTest, EnterTakesTheWholeAlloy)
     enter("Cu2MgAl");
     EXPECT_EQ(zusammensetzung(), "3|Cu|50|Mg|25");
     EXPECT_EQ(zeile(), "Mengen auf 100 % umgerechnet");
+    window->findChild<QAction*>(QStringLiteral("mnuRueckgaengig"))->trigger();
+    EXPECT_EQ(zusammensetzung() + zeile(), "4|Zr|55|Cu|30"); // one step
+    enter("Cu2MgAl");
+    QTest::keyClicks(&find("txtFormel"), QStringLiteral("Al"));
+    QTest::keyClick(&find("txtFormel"), Qt::Key_Z, Qt::ControlModifier); // takes the typing back, not the alloy
+    EXPECT_EQ(text("txtFormel") + zusammensetzung(), "3|Cu|50|Mg|25");
     type("txtProzent_0", "40");
     EXPECT_EQ(zeile(), "");
     start(); // begins with the elements that were taken
