@@ -9,7 +9,7 @@ namespace {
 /// A formula has no exponents; what is that small has a dozen decimals.
 std::string menge(float prozent, Dezimaltrenner trenner)
 {
-    std::string text = textOfSingle(prozent, trenner);
+    std::string text = textWithDigits(prozent, 7, trenner);
     if (text.find('E') == std::string::npos)
         return text;
     text = fixedText(prozent, 12, trenner);

@@ -238,7 +238,7 @@ private:
             komponente.prozent *= 100 / sum;
     }
 
-    static constexpr double Rounding = 1e-9; // of a sum of typed decimals
+    static constexpr double Rounding = 5e-5; // of five parts in seven digits
     static constexpr std::string_view EinheitNennen = "At% oder wt% schreiben.";
 
     Luecke& gap() { return m_luecken.at(m_lesung.formel.m_anzahl); }

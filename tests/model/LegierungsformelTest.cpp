@@ -50,6 +50,7 @@ TEST_F(LegierungsformelTest, FormulasAreReadAsTheyAreWritten)
         {"CoCrFeNi", "Co 25 Cr 25 Fe 25 Ni 25 umgerechnet"},
         {"Al33,3Cu33,3Mg33,3", "Al 33,33333 Cu 33,33333 Mg 33,33333 umgerechnet"},
         {"Al60,1Cu20,2Mg19,7", "Al 60,1 Cu 20,2 Mg 19,7"}, // a sum of 100 only in decimals
+        {"Al97,12856Cu1,736448Mg1,134996", "Al 97,12856 Cu 1,736448 Mg 1,134996"}, // as it was written out
         // One element takes the rest
         {"Al-4Cu-1Mg wt%", "Al 95 Cu 4 Mg 1 Masse"},
         {"Al–4,4Cu–1.5Mg", "Al 94,1 Cu 4,4 Mg 1.5"},
@@ -210,7 +211,7 @@ TEST_F(LegierungsformelTest, RandomTextGivesAnAlloyOrAReasonWithItsPlace)
         double sum = 0;
         for (const Formelkomponente& komponente : formel.komponenten())
             sum += komponente.prozent;
-        EXPECT_NEAR(sum, 100, 1e-6);
+        EXPECT_NEAR(sum, 100, 1e-4);
     }
 }
 
