@@ -1,4 +1,5 @@
 #include <QLocale>
+#include <QStandardPaths>
 #include <QTranslator>
 
 #include <exception>
@@ -6,6 +7,7 @@
 
 #include "core/Plattform.h"
 #include "programm/Programm.h"
+#include "ui/main/Sitzung.h"
 #include "ui/main/frmMain.h"
 #include "ui/platform/Anwendung.h"
 #include "ui/platform/Lesbarkeit.h"
@@ -14,6 +16,31 @@
 #include "ui/platform/QtOpenFileDialog.h"
 #include "ui/platform/QtSaveFileDialog.h"
 #include "ui/platform/QtSettingsStore.h"
+#include "ui/platform/QtText.h"
+
+namespace {
+
+/// The user's own folder for what outlasts a run.
+std::filesystem::path sessionFolder()
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return zerna::pathFromUtf8(zerna::fromQt(folder)) / zerna::clsLoader::ApplicationName();
+}
+
+int run(zerna::Programm& programm, zerna::frmMain& window)
+{
+    zerna::Sitzung session(programm, sessionFolder(), [&window] { return window.datei(); });
+    QObject::connect(&window.verlauf().stapel(), &QUndoStack::indexChanged, &session, &zerna::Sitzung::geaendert);
+    QObject::connect(&window, &zerna::frmMain::schliesst, &session, &zerna::Sitzung::ende);
+    if (programm.StartupDone()) { // else the window is locked
+        if (const auto last = session.beginn())
+            window.setzeFort(last->dokument, last->datei);
+    }
+    window.oeffneArgumente(QCoreApplication::arguments().mid(1));
+    return QApplication::exec();
+}
+
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -41,8 +68,7 @@ int main(int argc, char** argv)
     try {
         if (!programm.start(createWindow))
             return 1;
-        window->oeffneArgumente(QCoreApplication::arguments().mid(1));
-        return QApplication::exec();
+        return run(programm, *window);
     } catch (const std::exception& error) { // of the start: later ones the application shows
         zerna::showUnexpected(boxes, error, "Das Programm wird beendet.");
         return 1;

@@ -40,7 +40,7 @@ std::string einstellung(int i) { return "Datei_" + std::to_string(i); }
 
 bool Dokumentverwaltung::neu()
 {
-    if (!darfGehen())
+    if (!darfErsetzen())
         return false;
     const Eingabe& now = m_programm.Eingabe();
     Dokument dokument(m_programm.ElementCollection());
@@ -53,18 +53,28 @@ bool Dokumentverwaltung::neu()
     m_datei.clear();
     m_gespeichert.reset();
     m_nurLesen = false;
+    beginne();
     return true;
 }
 
 bool Dokumentverwaltung::oeffne()
 {
-    if (!darfGehen())
+    if (!darfErsetzen())
         return false;
     const auto file = m_open.choose();
     return file && lade(pathFromUtf8(*file));
 }
 
-bool Dokumentverwaltung::oeffne(const std::filesystem::path& file) { return darfGehen() && lade(file); }
+bool Dokumentverwaltung::oeffne(const std::filesystem::path& file) { return darfErsetzen() && lade(file); }
+
+void Dokumentverwaltung::setzeFort(const std::filesystem::path& file)
+{
+    Dokumentoeffnung oeffnung = oeffneDokument(file, m_programm.ElementCollection());
+    if (!oeffnung.lesung.dokument)
+        return;
+    nimmAn(file, *std::move(oeffnung.lesung.dokument));
+    m_nurLesen = oeffnung.istBild || !oeffnung.lesung.nurLesen.empty();
+}
 
 bool Dokumentverwaltung::lade(const std::filesystem::path& file)
 {
@@ -144,11 +154,24 @@ bool Dokumentverwaltung::speichereUnter()
 
 bool Dokumentverwaltung::darfGehen()
 {
-    if (!istGeaendert())
-        return true;
-    const std::size_t answer = m_programm.boxes().choose(Programmtitel,
-        "Die Legierung " + zitierterName(m_datei) + " ist geändert. Sollen die Änderungen gespeichert werden?",
-        std::array<std::string_view, 3>{"&Speichern", "&Verwerfen", "&Abbrechen"});
+    return !istGeaendert()
+        || frage(
+            "Die Legierung " + zitierterName(m_datei) + " ist geändert. Sollen die Änderungen gespeichert werden?");
+}
+
+/// The same for a document that no file has yet: replacing it takes its undo steps and kept alloys along.
+bool Dokumentverwaltung::darfErsetzen()
+{
+    if (!m_datei.empty())
+        return darfGehen();
+    return !m_anfang || *m_anfang == m_programm.Dokument()
+        || frage("Die jetzige Legierung steht in keiner Datei. Soll sie gespeichert werden?");
+}
+
+bool Dokumentverwaltung::frage(const std::string& satz)
+{
+    const std::size_t answer = m_programm.boxes().choose(
+        Programmtitel, satz, std::array<std::string_view, 3>{"&Speichern", "&Verwerfen", "&Abbrechen"});
     return answer == 1 || (answer == 0 && speichere());
 }
 

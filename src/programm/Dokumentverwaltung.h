@@ -15,7 +15,7 @@ namespace zerna {
 
 /// The file that the program's document is kept in, if any. Where an answer is a bool it says whether it was done:
 /// false after a cancel or a failure, which has been shown and has changed nothing. What replaces the document asks
-/// first what is to become of unsaved changes, as long as a file is open.
+/// first what is to become of unsaved changes.
 class Dokumentverwaltung {
 public:
     static constexpr int MostRecent = 8;
@@ -30,6 +30,15 @@ public:
     /// The open file's name without its folder; empty without a file.
     std::string name() const { return m_datei.empty() ? "" : utf8FromPath(m_datei.filename()); }
 
+    /// The open file; empty for none.
+    const std::filesystem::path& datei() const { return m_datei; }
+
+    /// The document as it is now begins without a file: it may be replaced unasked as long as it stays so.
+    void beginne() { m_anfang = m_programm.Dokument(); }
+
+    /// Goes on with a document that was restored and had been opened from that file, if it can still be read.
+    void setzeFort(const std::filesystem::path& file);
+
     /// Whether a file is open that does not hold what the document is now.
     bool istGeaendert() const { return m_gespeichert && !(*m_gespeichert == m_programm.Dokument()); }
 
@@ -42,13 +51,15 @@ public:
     bool speichere();
     bool speichereUnter();
 
-    /// Asks what is to become of unsaved changes; true if the document may go.
+    /// Asks what is to become of changes that the open file does not have; true if the window may close.
     bool darfGehen();
 
     /// The files that were opened or saved last, the last one first; absolute paths.
     std::vector<std::string> zuletzt() const;
 
 private:
+    bool darfErsetzen();
+    bool frage(const std::string& satz);
     bool lade(const std::filesystem::path& file);
     bool entscheide(const std::filesystem::path& file, Lesung& lesung, Dokument& gespeichert);
     bool istUeberholt() const;
@@ -60,6 +71,7 @@ private:
     OpenFileDialog& m_open;
     std::filesystem::path m_datei; // absolute; empty for none
     bool m_nurLesen = false; // must not be written over
+    std::optional<Dokument> m_anfang; // of a document without a file
     std::optional<Dokument> m_gespeichert; // as the file has it
     std::filesystem::file_time_type m_stand; // of the file then
 };

@@ -115,6 +115,13 @@ void Dateibefehle::oeffneArgumente(const QStringList& argumente)
         oeffne(first);
 }
 
+void Dateibefehle::setzeFort(const std::string& datei)
+{
+    if (!datei.empty())
+        m_dateien.setzeFort(pathFromUtf8(datei));
+    zeigeErsetztes(true);
+}
+
 void Dateibefehle::zeigeErsetztes(bool istErsetzt)
 {
     if (istErsetzt)

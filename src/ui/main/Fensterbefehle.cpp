@@ -9,6 +9,7 @@
 #include "ui/main/Kompositionsbereich.h"
 #include "ui/main/Vergleichsbereich.h"
 #include "ui/main/frmAbout.h"
+#include "ui/main/frmEinstellungen.h"
 #include "ui/main/frmMain.h"
 #include "ui/weighing/conWiegen.h"
 
@@ -37,6 +38,10 @@ void frmMain::fillMenu()
                     return istEinwaageDran() ? QStringLiteral("Wiegezettel d&rucken ...")
                                              : QStringLiteral("Diagramm d&rucken ...");
                 }});
+    m_menue->add(
+        Einstellungen, {.text = QStringLiteral("Ein&stellungen ..."), .name = "mnuEinstellungen", .tun = [this] {
+                            frmEinstellungen(m_programm.settings(), this).exec();
+                        }});
     m_menue->add(Ende,
         {.text = QStringLiteral("&Beenden"),
             .name = "mnuBeenden",

@@ -249,6 +249,7 @@ void frmMain::compute()
 {
     uebernehmen({.anzahl = true, .element = true, .anteil = true, .dichte = true, .valenz = true});
     m_verlauf.beginne();
+    m_dateien->beginne();
 }
 
 /// The way of every edit: the calculator gets the alloy once, then the panels that show it get it.
@@ -297,12 +298,22 @@ void frmMain::show()
     m_komposition->focusFirstField();
 }
 
+std::string frmMain::datei() const { return m_dateien->datei(); }
+
+void frmMain::setzeFort(const zerna::Dokument& dokument, const std::string& datei)
+{
+    m_programm.Dokument() = dokument;
+    m_dateien->setzeFort(datei);
+    m_meldung->zeige(QStringLiteral("✓  letzte Legierung wiederhergestellt"));
+}
+
 void frmMain::closeEvent(QCloseEvent* event)
 {
     if (!m_dateien->darfSchliessen()) {
         event->ignore();
         return;
     }
+    emit schliesst();
     m_programm.shutdown();
     QWidget::closeEvent(event);
 }

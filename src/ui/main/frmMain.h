@@ -53,9 +53,19 @@ public:
     /// Opens what the program was called with.
     void oeffneArgumente(const QStringList& argumente);
 
+    /// The open file, UTF-8; empty for none.
+    std::string datei() const;
+
+    /// Shows a document that was restored, which had been opened from that file if there is one.
+    void setzeFort(const zerna::Dokument& dokument, const std::string& datei);
+
     /// Ends every user's change of the document, after all that follows from it.
     void geschehen(const Schritt& schritt) { m_verlauf.geschehen(schritt); }
     Verlauf& verlauf() { return m_verlauf; }
+
+signals:
+    /// The window goes, and the document with it.
+    void schliesst();
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -1,0 +1,122 @@
+#include "ui/main/Sitzung.h"
+
+#include <array>
+#include <utility>
+
+#include "core/Datei.h"
+#include "core/Exportdatei.h"
+#include "dokument/Dokumentdatei.h"
+
+namespace zerna {
+
+namespace {
+
+constexpr int Bald = 300; // milliseconds until an edit is kept
+constexpr int Pruefzeit = 1000; // milliseconds in which it should be written
+constexpr const char* Schluessel = "LegierungWiederherstellen";
+constexpr char Trenner = '\0'; // between the name of the file, which cannot hold it, and the document
+
+} // namespace
+
+Sitzung::Sitzung(Programm& programm, std::filesystem::path ordner, std::function<std::string()> datei)
+    : m_programm(programm)
+    , m_ordner(std::move(ordner))
+    , m_datei(std::move(datei))
+    , m_sicherung(m_ordner)
+{
+    m_bald.setSingleShot(true);
+    m_bald.setInterval(Bald);
+    connect(&m_bald, &QTimer::timeout, this, &Sitzung::sichere);
+}
+
+void Sitzung::geaendert()
+{
+    if (!m_bald.isActive()) // while one goes on typing, the first edit does not wait for the last
+        m_bald.start();
+}
+
+std::string Sitzung::text() const { return m_datei() + Trenner + schreibe(m_programm.Dokument()); }
+
+void Sitzung::sichere()
+{
+    m_sicherung.schreibe(text());
+    QTimer::singleShot(Pruefzeit, this, &Sitzung::pruefe);
+}
+
+/// Says once in a run that nothing is kept.
+void Sitzung::pruefe()
+{
+    const auto fehler = m_sicherung.nimmFehler();
+    if (!fehler || std::exchange(m_hatGewarnt, true))
+        return;
+    m_programm.boxes().show(Icon::Exclamation, Programmtitel,
+        "Die laufende Arbeit lässt sich nicht sichern: " + std::string(fehler->what())
+            + ".\r\n\r\nOrdner: " + utf8FromPath(m_ordner)
+            + "\r\n\r\nNach einem Absturz wäre sie verloren. Bitte die Legierung als Datei speichern.");
+}
+
+std::optional<Sitzung::Stand> Sitzung::beginn()
+{
+    if (m_sicherung.hinterlassen())
+        return nachAbbruch();
+    return stelltWiederHer(m_programm.settings()) ? letzterStand() : std::nullopt;
+}
+
+std::optional<Sitzung::Stand> Sitzung::nachAbbruch()
+{
+    auto stand = gelesen(*m_sicherung.hinterlassen());
+    if (!stand) { // of a newer program perhaps
+        m_sicherung.lasseLiegen();
+        return std::nullopt;
+    }
+    const std::string datei = stand->datei.empty() ? std::string() : "\r\n\r\nGeöffnet war: " + stand->datei;
+    const std::size_t answer = m_programm.boxes().choose(Programmtitel,
+        "Zerna ist das letzte Mal nicht ordentlich beendet worden. Soll die Legierung von damals wiederhergestellt "
+        "werden?"
+            + datei,
+        std::array<std::string_view, 3>{"&Wiederherstellen", "&Verwerfen", "&Später fragen"});
+    if (answer == 2)
+        m_sicherung.lasseLiegen();
+    return answer == 0 ? stand : std::nullopt;
+}
+
+std::optional<Sitzung::Stand> Sitzung::letzterStand() const
+{
+    try {
+        return gelesen(readFile(letzte()));
+    } catch (const Laufzeitfehler&) { // there is none yet, or it is gone
+        return std::nullopt;
+    }
+}
+
+std::optional<Sitzung::Stand> Sitzung::gelesen(const std::string& text) const
+{
+    const std::size_t end = text.find(Trenner);
+    if (end == std::string::npos)
+        return std::nullopt;
+    Lesung lesung = lies(std::string_view(text).substr(end + 1), m_programm.ElementCollection());
+    if (!lesung.dokument)
+        return std::nullopt;
+    behalteDateiwerte(*lesung.dokument, lesung.unterschiede, m_programm.ElementCollection());
+    return Stand{*std::move(lesung.dokument), text.substr(0, end)};
+}
+
+void Sitzung::ende()
+{
+    m_bald.stop();
+    if (!stelltWiederHer(m_programm.settings()))
+        return;
+    try {
+        writeExport(letzte(), text());
+    } catch (const Laufzeitfehler& error) {
+        m_programm.boxes().show(Icon::Exclamation, Programmtitel,
+            "Der nächste Start kann die Legierung nicht wiederherstellen: " + std::string(error.what()) + ".\r\n\r\n"
+                + utf8FromPath(letzte()));
+    }
+}
+
+bool Sitzung::stelltWiederHer(const Settings& settings) { return settings.LoadSetting(Schluessel, "0") == "1"; }
+
+void Sitzung::setWiederherstellen(Settings& settings, bool yes) { settings.SaveSetting(Schluessel, yes ? "1" : "0"); }
+
+} // namespace zerna
