@@ -163,13 +163,13 @@ void Stapel::define(CLI::App& befehl)
 
 void Stapel::run(Umgebung& umgebung, std::span<const std::string> dateien, Anteilseinheit einheit) const
 {
-    Groessenauswahl auswahl = groessenauswahl(groessen);
+    const Groessenauswahl auswahl = groessenauswahl(groessen);
     if (!auswahl.unbekannt.empty())
         throw Aufruffehler("--groessen " + gekuerzt(auswahl.unbekannt) + ": erwartet werden Kennzahlen ("
             + reihenkennzahlen() + ") oder Namen von Größen, durch Komma getrennt");
     const auto form = jsonzeilen ? Legierungsliste::Form::Json : Legierungsliste::Form::Text;
     umgebung.load();
-    Stapellauf lauf(umgebung.kern(), einheit, Legierungsliste(std::move(auswahl.groessen), form), dateien.size() > 1);
+    Stapellauf lauf(umgebung.kern(), einheit, Legierungsliste(auswahl.groessen, form), dateien.size() > 1);
     const std::string standardeingabe(Standardeingabe);
     for (const std::string& datei : dateien.empty() ? std::span(&standardeingabe, 1) : dateien)
         lauf.read(datei);

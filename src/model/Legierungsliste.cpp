@@ -27,7 +27,7 @@ void appendInQuotes(std::string& text, std::string_view value)
 
 } // namespace
 
-Legierungsliste::Legierungsliste(std::vector<const Groesse*> groessen, Form form)
+Legierungsliste::Legierungsliste(std::span<const Groesse* const> groessen, Form form)
     : m_form(form)
 {
     for (const Groesse* const groesse : groessen)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,7 +15,7 @@ class Legierungsliste {
 public:
     enum class Form { Text, Json };
 
-    Legierungsliste(std::vector<const Groesse*> groessen, Form form);
+    Legierungsliste(std::span<const Groesse* const> groessen, Form form);
 
     /// The heading; empty in JSON, whose objects name each value.
     std::string kopf() const;
