@@ -1,8 +1,9 @@
 #include "programm/Stapelrechner.h"
 
 #include <algorithm>
-#include <vector>
+#include <utility>
 
+#include "core/Kuerzung.h"
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
 #include "model/Ergebnislage.h"
@@ -21,22 +22,19 @@ bool hasSoundPart(const Legierungskomponente& komponente)
 Stapelrechner::Stapelrechner(Rechenkern& kern, Anteilseinheit einheit)
     : m_kern(kern)
     , m_einheit(einheit)
+    , m_einheitDerTeile(einheit)
 {
 }
 
 bool Stapelrechner::rechne(std::string_view legierung)
 {
-    split(legierung);
-    m_grund = anzahlgrund(m_anzahl);
-    if (!m_grund.empty())
+    m_grund.clear();
+    m_isFormula = !legierung.empty() && legierung.find('=') == std::string_view::npos;
+    if (!(m_isFormula ? readFormula(legierung) : readComponents(legierung)))
         return false;
-    for (std::size_t i = 0; i < m_anzahl; ++i) {
-        if (!read(m_texte.at(i), m_komponenten.at(i)))
-            return false;
-    }
     shareValues();
     m_typedPartsSound = std::ranges::all_of(komponenten(), hasSoundPart);
-    if (m_einheit == Anteilseinheit::Masse && !convertParts())
+    if (m_einheitDerTeile == Anteilseinheit::Masse && !convertParts())
         return false;
     m_kern.calc().Legierung_Setzen(komponenten());
     if (istUnbekannt(calc().Valenz()))
@@ -46,14 +44,57 @@ bool Stapelrechner::rechne(std::string_view legierung)
 
 std::string Stapelrechner::hinweis()
 {
+    const std::string scaled(m_isFormula && m_formel.istUmgerechnet() ? UmgerechnetHinweis : "");
     if (looksSound())
-        return {};
-    std::vector<Komponentenangabe> angaben;
-    for (const std::string_view text : std::span(m_texte).first(m_anzahl))
-        angaben.push_back(komponentenangabe(text, m_einheit));
-    m_kern.setAlloy(angaben, m_einheit);
+        return scaled;
+    m_kern.setAlloy(angaben(), m_einheitDerTeile);
     const Ergebnislage lage = ergebnislage(m_kern.eingabe(), m_kern.eingabe(), calc());
-    return lage.befund ? befundgrund(m_kern.eingabe(), *lage.befund) : std::string();
+    const std::string doubt = lage.befund ? befundgrund(m_kern.eingabe(), *lage.befund) : std::string();
+    return scaled + (scaled.empty() || doubt.empty() ? "" : "; ") + doubt;
+}
+
+/// The last alloy as the command for one alloy takes it.
+std::vector<Komponentenangabe> Stapelrechner::angaben() const
+{
+    std::vector<Komponentenangabe> result;
+    for (std::size_t i = 0; i < m_anzahl; ++i) {
+        const std::string text(m_texte.at(i));
+        result.push_back(m_isFormula ? Komponentenangabe{text, text, m_formel.prozenttext(i), {}, {}}
+                                     : komponentenangabe(text, m_einheit));
+    }
+    return result;
+}
+
+bool Stapelrechner::readComponents(std::string_view legierung)
+{
+    m_einheitDerTeile = m_einheit;
+    split(legierung);
+    m_grund = anzahlgrund(m_anzahl);
+    for (std::size_t i = 0; m_grund.empty() && i < m_anzahl; ++i)
+        read(m_texte.at(i), m_komponenten.at(i));
+    return m_grund.empty();
+}
+
+bool Stapelrechner::readFormula(std::string_view legierung)
+{
+    Formellesung lesung = legierungsformel(legierung, m_kern.elements(), m_einheit);
+    if (lesung.fehler) {
+        m_grund = "Legierung " + zitiert(legierung) + ": " + lesung.fehler->text();
+        return false;
+    }
+    m_formel = std::move(lesung.formel);
+    m_einheitDerTeile = m_formel.einheit();
+    m_anzahl = m_formel.komponenten().size();
+    for (std::size_t i = 0; i < m_anzahl; ++i) {
+        const std::string_view symbol = m_texte.at(i) = m_formel.komponenten()[i].element->symbol();
+        const Bedeutung& meaning = bedeutung(symbol, {});
+        if (!meaning.grund.empty() || !readSingle(m_formel.prozenttext(i), m_komponenten.at(i).prozent)) {
+            m_grund = komponentengrund(symbol, meaning.grund);
+            return false;
+        }
+        take(meaning, m_komponenten.at(i));
+    }
+    return true;
 }
 
 /// Puts the parts between blanks into m_texte.
@@ -76,15 +117,20 @@ bool Stapelrechner::read(std::string_view text, Legierungskomponente& komponente
     const std::size_t equals = text.substr(0, colon).find('=');
     if (equals == std::string_view::npos)
         return fail(text, {});
-    const Bedeutung& meaning = bedeutung(text, text.substr(0, equals), text.substr(colon));
+    const Bedeutung& meaning = bedeutung(text.substr(0, equals), text.substr(colon));
     const std::string_view prozent = text.substr(equals + 1, colon - equals - 1);
     if (!meaning.grund.empty() || !readSingle(prozent, komponente.prozent))
         return fail(text, meaning.grund);
+    take(meaning, komponente);
+    return true;
+}
+
+void Stapelrechner::take(const Bedeutung& meaning, Legierungskomponente& komponente)
+{
     if (komponente.element != meaning.element) // a list seldom brings another one
         komponente.element = meaning.element;
     komponente.dichte = meaning.dichte;
     komponente.valenz = meaning.valenz;
-    return true;
 }
 
 /// How it is written comes first, then its at%, then what it means.
@@ -98,8 +144,7 @@ bool Stapelrechner::fail(std::string_view text, std::string_view grund)
     return false;
 }
 
-const Stapelrechner::Bedeutung& Stapelrechner::bedeutung(
-    std::string_view text, std::string_view symbol, std::string_view zusatz)
+const Stapelrechner::Bedeutung& Stapelrechner::bedeutung(std::string_view symbol, std::string_view zusatz)
 {
     constexpr std::size_t Most = 4096; // of a list in which every density is another one
     m_key.assign(symbol).append(zusatz);
@@ -107,15 +152,15 @@ const Stapelrechner::Bedeutung& Stapelrechner::bedeutung(
         return found->second;
     if (m_bedeutungen.size() == Most)
         m_bedeutungen.clear();
-    return m_bedeutungen.emplace(m_key, lookUp(text)).first->second;
+    return m_bedeutungen.emplace(m_key, lookUp(symbol, zusatz)).first->second;
 }
 
-Stapelrechner::Bedeutung Stapelrechner::lookUp(std::string_view text) const
+Stapelrechner::Bedeutung Stapelrechner::lookUp(std::string_view symbol, std::string_view zusatz) const
 {
     Komponentenangabe angabe;
     Komponentenwahl wahl;
     Bedeutung meaning;
-    meaning.grund = liesAngabe(text, angabe);
+    meaning.grund = liesAngabe(std::string(symbol) + "=" + std::string(zusatz), angabe);
     if (meaning.grund.empty())
         meaning.grund = liesWahl(m_kern.elements(), angabe, wahl);
     if (!meaning.grund.empty())

@@ -6,8 +6,10 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 #include "model/Legierung.h"
+#include "model/Legierungsformel.h"
 #include "programm/Rechenkern.h"
 
 namespace zerna {
@@ -44,18 +46,25 @@ private:
         std::size_t operator()(std::string_view key) const { return std::hash<std::string_view>()(key); }
     };
 
+    bool readComponents(std::string_view legierung);
+    bool readFormula(std::string_view legierung);
     void split(std::string_view legierung);
     bool read(std::string_view text, Legierungskomponente& komponente);
+    static void take(const Bedeutung& meaning, Legierungskomponente& komponente);
     bool fail(std::string_view text, std::string_view grund);
-    const Bedeutung& bedeutung(std::string_view text, std::string_view symbol, std::string_view zusatz);
-    Bedeutung lookUp(std::string_view text) const;
+    const Bedeutung& bedeutung(std::string_view symbol, std::string_view zusatz);
+    Bedeutung lookUp(std::string_view symbol, std::string_view zusatz) const;
+    std::vector<Komponentenangabe> angaben() const;
     void shareValues();
     bool convertParts();
     bool looksSound() const;
     std::span<Legierungskomponente> komponenten() { return std::span(m_komponenten).first(m_anzahl); }
 
     Rechenkern& m_kern;
-    Anteilseinheit m_einheit;
+    const Anteilseinheit m_einheit; // where a formula names no other
+    Anteilseinheit m_einheitDerTeile;
+    Legierungsformel m_formel; // the last alloy if m_isFormula
+    bool m_isFormula = false;
     std::array<std::string_view, MaxKomponenten> m_texte; // of the components
     std::array<Legierungskomponente, MaxKomponenten> m_komponenten;
     std::size_t m_anzahl = 0; // may be more than there is room for

@@ -87,7 +87,7 @@ TEST_F(StapelrechnerTest, AnswersLikeTheCommandForOneAlloy)
     const std::string dichten[] = {"", "", ":dichte=kristallin", ":dichte=2,7", ":dichte=fluessig", ":dichte=-1"};
     const std::string valenzen[] = {
         "", "", ":valenz=2", ":valenz=s", ":valenz=3/2", ":valenz=z_Cu", ":valenz=0-3", ":valenz=0"};
-    const std::string faults[] = {"", "At=5", "Al", "=5", "Xx=5", "Al=x", "Al=1e999", "Al=1:", "Al=1:dichte=amorph",
+    const std::string faults[] = {"", "At=5", "=5", "Xx=5", "Al=x", "Al=1e999", "Al=1:", "Al=1:dichte=amorph",
         "B=1:valenz=d", "Al=1:valenz=1/0", "Al=1:valenz=foo(1)", "Al=1:dichte=0", "Al=1:farbe=2",
         "Al=1:dichte=2:valenz=1:dichte=2"};
     int failures = 0;
@@ -110,6 +110,29 @@ TEST_F(StapelrechnerTest, AnswersLikeTheCommandForOneAlloy)
     EXPECT_EQ(amStueck(rechner, "Al=1 Al=1 Al=1 Al=1 Al=1 Al=1"), allein(std::vector<std::string>(6, "Al=1")));
 }
 
+TEST_F(StapelrechnerTest, TakesFormulas)
+{
+    const struct {
+        const char* name;
+        std::string formula;
+        std::vector<std::string> komponenten;
+        Anteilseinheit einheit;
+        std::string hinweis;
+    } rows[] = {{"at%", "Al60Cu40", {"Al=60", "Cu=40"}, Anteilseinheit::Atom, ""},
+        {"blanks", "Al60 Cu40", {"Al=60", "Cu=40"}, Anteilseinheit::Atom, ""},
+        {"scaled", "CuAl", {"Cu=50", "Al=50"}, Anteilseinheit::Atom, "Mengen auf 100 % umgerechnet"},
+        {"mass %", "Al-4Cu-1,5Mg wt%", {"Al=94,5", "Cu=4", "Mg=1,5"}, Anteilseinheit::Masse, ""},
+        {"doubtful", "He", {"He=100"}, Anteilseinheit::Atom, ""}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(amStueck(rechner, row.formula), allein(row.komponenten, row.einheit) + row.hinweis);
+        EXPECT_EQ(amStueck(rechner, "Al=10"), allein({"Al=10"})) << "its unit goes with it";
+    }
+    EXPECT_EQ(amStueck(massenrechner, "Al60Cu40"), allein({"Al=60", "Cu=40"}, Anteilseinheit::Masse));
+    EXPECT_EQ(amStueck(rechner, "Al60Qx40"), "Legierung \"Al60Qx40\": Element \"Qx\" ist nicht bekannt (Zeichen 5)");
+    EXPECT_EQ(amStueck(rechner, "At50Al50"), "Komponente \"At\": keine Dichte bekannt, dichte=ZAHL angeben");
+}
+
 TEST_F(StapelrechnerTest, ThrowsNothingForWrongTextsAndForgetsOldOnes)
 {
     const auto thrown = [this](const std::string& legierung) {
@@ -117,8 +140,8 @@ TEST_F(StapelrechnerTest, ThrowsNothingForWrongTextsAndForgetsOldOnes)
         amStueck(rechner, legierung);
         return exceptions - before;
     };
-    for (const char* const wrong : {"", "Al", "Al=60 Xx=40", "Al=x", "Al=1e999", "Al=1:dichte=amorph", "B=1:valenz=d",
-             "Al=1:dichte=0", "Al=1 Al=1 Al=1 Al=1 Al=1 Al=1"})
+    for (const char* const wrong : {"", "Qx", "Al60Qx40", "Al=60 Xx=40", "Al=x", "Al=1e999", "Al=1:dichte=amorph",
+             "B=1:valenz=d", "Al=1:dichte=0", "Al=1 Al=1 Al=1 Al=1 Al=1 Al=1"})
         EXPECT_EQ(thrown(wrong), 0) << wrong;
     for (const std::string wrong : {"1/0", "1e39"}) { // ends with an exception when it is read, once
         thrown("Al=5:valenz=" + wrong);
