@@ -207,6 +207,8 @@ void Vergleichsbereich::layOut()
 
 void Vergleichsbereich::zeige()
 {
+    if (std::exchange(m_gezeigt, m_programm.Dokument().vergleich) == m_programm.Dokument().vergleich)
+        return;
     const int chosen = m_ansicht->legierung();
     m_modell->setze(vergleich(), m_programm.Calc());
     m_ansicht->passeBreitenAn();

@@ -89,6 +89,8 @@ void Verlauf::kehreZurueck(const Standzeiger& stand)
     trenne();
     emit zurueckgekehrt(*stand, *vorher);
     --m_gesperrt;
+    if (m_dokument != stand->dokument)
+        m_letzter = jetzt(); // the focus had to leave the balance row, which then forgets what was typed there
 }
 
 Verlauf::Handlung::Handlung(Verlauf& verlauf, Schritt schritt)
