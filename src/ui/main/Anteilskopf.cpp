@@ -24,7 +24,7 @@ Anteilskopf::Anteilskopf(const QString& einheit, QWidget* parent)
     setToolTip(accessibleName());
 }
 
-QSize Anteilskopf::sizeHint() const { return fontMetrics().size(Qt::TextSingleLine, text()) + QSize(2, Bar); }
+QSize Anteilskopf::sizeHint() const { return fontMetrics().size(Qt::TextSingleLine, text()) + QSize(0, Bar); }
 
 /// The pointer tells what can be clicked.
 bool Anteilskopf::event(QEvent* event)
