@@ -40,7 +40,9 @@ protected:
     {
         QStyledItemDelegate::initStyleOption(option, index);
         const bool isResult = index.data(Vergleichsmodell::ErgebnisRolle).toBool();
-        QColor ground = option->palette.color(isResult ? QPalette::Base : QPalette::AlternateBase);
+        QColor ground = option->palette.color(QPalette::Base);
+        if (!isResult) // mixed here: not every theme's alternate ground goes with its texts
+            ground = gemischt(ground, option->palette.color(QPalette::Text), EntryTint);
         if (index.data(Vergleichsmodell::ReferenzRolle).toBool())
             ground = gemischt(ground, option->palette.color(QPalette::Active, QPalette::Highlight), ReferenceTint);
         option->backgroundBrush = ground;
@@ -48,6 +50,7 @@ protected:
     }
 
 private:
+    static constexpr double EntryTint = 0.05;
     static constexpr double ReferenceTint = 0.16;
 };
 
