@@ -166,7 +166,8 @@ void Kompositionszeile::zeige(
 /// One of the two columns is typed, the other one follows.
 void Kompositionszeile::zeigeAnteile(const Eingabe& eingabe, const std::array<std::vector<Eingabefeld>, 2>& anteile)
 {
-    const bool movesFocus = m_einheit != eingabe.einheit() && typed().hasFocus();
+    // Also in a window that is not active at the moment.
+    const bool movesFocus = m_einheit != eingabe.einheit() && typed().window()->focusWidget() == &typed();
     if (m_einheit != eingabe.einheit()) {
         m_einheit = eingabe.einheit();
         measure();
