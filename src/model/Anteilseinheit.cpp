@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/Unbekannt.h"
+#include "core/Zahlentext.h"
 #include "model/Massenprozent.h"
 
 namespace zerna {
@@ -54,6 +55,7 @@ std::vector<Eingabefeld> umgerechnet(std::span<const Anteilsangabe> angaben, Ant
         anteile.push_back(anteil->wert);
         massen.push_back(element->Masse());
     }
+    constexpr int Stellen = 7;
     const bool toAtoms = einheit == Anteilseinheit::Atom;
     for (const double prozent : toAtoms ? atomprozente(anteile, massen) : massenprozente(anteile, massen)) {
         const auto wert = static_cast<float>(prozent);
@@ -61,7 +63,7 @@ std::vector<Eingabefeld> umgerechnet(std::span<const Anteilsangabe> angaben, Ant
             return ohneWert(angaben.size(),
                 {"Zusammen ergeben die Anteile keine Legierung", 0,
                     std::string(einheitenname(andere(einheit))) + " ändern."});
-        felder.push_back({feldtext(wert), wert});
+        felder.push_back({textWithDigits(wert, Stellen), wert});
     }
     return felder;
 }

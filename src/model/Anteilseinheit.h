@@ -26,8 +26,8 @@ struct Anteilsangabe {
     const clsElement* element = nullptr; ///< null until one is chosen
 };
 
-/// The parts, which are in the other unit, in this one, as fields with the shortest text of the single. Where that is
-/// not possible all are empty and say why; those that are to blame say what to do.
+/// The parts, which are in the other unit, in this one, as fields with a text of at most seven significant digits.
+/// Where that is not possible all are empty and say why; those that are to blame say what to do.
 std::vector<Eingabefeld> umgerechnet(std::span<const Anteilsangabe> angaben, Anteilseinheit einheit);
 
 } // namespace zerna
