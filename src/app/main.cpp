@@ -29,13 +29,13 @@ std::filesystem::path sessionFolder()
 
 int run(zerna::Programm& programm, zerna::frmMain& window)
 {
-    zerna::Sitzung session(programm, sessionFolder(), [&window] { return window.datei(); });
+    if (!programm.StartupDone()) // the window is locked, and what a killed run has left waits for a better start
+        return QApplication::exec();
+    zerna::Sitzung session(programm, sessionFolder(), [&window] { return window.offeneDatei(); });
     QObject::connect(&window.verlauf().stapel(), &QUndoStack::indexChanged, &session, &zerna::Sitzung::geaendert);
     QObject::connect(&window, &zerna::frmMain::schliesst, &session, &zerna::Sitzung::ende);
-    if (programm.StartupDone()) { // else the window is locked
-        if (const auto last = session.beginn())
-            window.setzeFort(last->dokument, last->datei);
-    }
+    if (const auto last = session.beginn())
+        window.setzeFort(*last);
     window.oeffneArgumente(QCoreApplication::arguments().mid(1));
     return QApplication::exec();
 }

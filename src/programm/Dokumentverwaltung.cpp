@@ -67,19 +67,23 @@ bool Dokumentverwaltung::oeffne()
 
 bool Dokumentverwaltung::oeffne(const std::filesystem::path& file) { return darfErsetzen() && lade(file); }
 
-void Dokumentverwaltung::setzeFort(const std::filesystem::path& file)
+void Dokumentverwaltung::setzeFort(const OffeneDatei& datei)
 {
+    const std::filesystem::path file = pathFromUtf8(datei.name);
     Dokumentoeffnung oeffnung = oeffneDokument(file, m_programm.ElementCollection());
-    if (!oeffnung.lesung.dokument)
-        return;
-    nimmAn(file, *std::move(oeffnung.lesung.dokument));
-    m_nurLesen = oeffnung.istBild || !oeffnung.lesung.nurLesen.empty();
+    Lesung& lesung = oeffnung.lesung;
+    const bool isRead = lesung.dokument.has_value();
+    if (isRead)
+        behalteDateiwerte(*lesung.dokument, lesung.unterschiede, m_programm.ElementCollection());
+    nimmAn(file, isRead ? *std::move(lesung.dokument) : Dokument(m_programm.ElementCollection()));
+    m_stand = std::filesystem::file_time_type(std::filesystem::file_time_type::duration(datei.stand));
+    m_nurLesen = !isRead || oeffnung.istBild || !lesung.nurLesen.empty();
 }
 
 bool Dokumentverwaltung::lade(const std::filesystem::path& file)
 {
     std::error_code unknown;
-    const std::filesystem::path whole = std::filesystem::absolute(file, unknown);
+    const std::filesystem::path whole = std::filesystem::absolute(file, unknown).lexically_normal();
     Dokumentoeffnung oeffnung = oeffneDokument(whole, m_programm.ElementCollection());
     Lesung& lesung = oeffnung.lesung;
     if (!lesung.dokument) {
@@ -143,13 +147,23 @@ bool Dokumentverwaltung::speichereUnter()
         [this] { return std::optional(schreibe(m_programm.Dokument())); }}};
     std::optional<SaveFileDialog::Choice> suggested;
     if (!m_datei.empty())
-        suggested = {utf8FromPath(std::filesystem::path(m_datei).replace_extension(Endung)), 1};
+        suggested = {utf8FromPath(vorschlag()), 1};
     const auto file = speichereAls(m_programm.boxes(), m_save, "Legierung speichern unter", arten, suggested);
     if (!file)
         return false;
     nimmAn(*file, m_programm.Dokument());
     m_nurLesen = false;
     return true;
+}
+
+/// The name to save under: never that of a file that must not be written over.
+std::filesystem::path Dokumentverwaltung::vorschlag() const
+{
+    std::filesystem::path name = m_datei;
+    name.replace_extension(Endung);
+    if (m_nurLesen && name == m_datei)
+        name.replace_filename(pathFromUtf8(utf8FromPath(name.stem()) + " (Kopie)" + std::string(Endung)));
+    return name;
 }
 
 bool Dokumentverwaltung::darfGehen()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -12,6 +13,14 @@
 #include "programm/Programm.h"
 
 namespace zerna {
+
+/// The open file, for a later run.
+struct OffeneDatei {
+    std::string name; ///< absolute path, UTF-8; empty for none
+    std::int64_t stand = 0; ///< when it was written last, as far as the document knows it
+
+    bool operator==(const OffeneDatei&) const = default;
+};
 
 /// The file that the program's document is kept in, if any. Where an answer is a bool it says whether it was done:
 /// false after a cancel or a failure, which has been shown and has changed nothing. What replaces the document asks
@@ -30,14 +39,14 @@ public:
     /// The open file's name without its folder; empty without a file.
     std::string name() const { return m_datei.empty() ? "" : utf8FromPath(m_datei.filename()); }
 
-    /// The open file; empty for none.
-    const std::filesystem::path& datei() const { return m_datei; }
+    OffeneDatei offen() const { return {utf8FromPath(m_datei), m_stand.time_since_epoch().count()}; }
 
     /// The document as it is now begins without a file: it may be replaced unasked as long as it stays so.
     void beginne() { m_anfang = m_programm.Dokument(); }
 
-    /// Goes on with a document that was restored and had been opened from that file, if it can still be read.
-    void setzeFort(const std::filesystem::path& file);
+    /// Goes on with a document that was restored and belongs to that file. What others have written since is asked
+    /// about when it is saved; where the file cannot be read, saving asks for a name.
+    void setzeFort(const OffeneDatei& datei);
 
     /// Whether a file is open that does not hold what the document is now.
     bool istGeaendert() const { return m_gespeichert && !(*m_gespeichert == m_programm.Dokument()); }
@@ -58,6 +67,7 @@ public:
     std::vector<std::string> zuletzt() const;
 
 private:
+    std::filesystem::path vorschlag() const;
     bool darfErsetzen();
     bool frage(const std::string& satz);
     bool lade(const std::filesystem::path& file);

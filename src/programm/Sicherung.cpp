@@ -1,5 +1,6 @@
 #include "programm/Sicherung.h"
 
+#include <exception>
 #include <system_error>
 #include <utility>
 
@@ -92,6 +93,8 @@ void Sicherung::arbeite(const std::stop_token& ende)
             writeExport(datei(m_nummer), bytes);
         } catch (const Laufzeitfehler& error) {
             fehler = error;
+        } catch (const std::exception&) { // memory, say: nobody else could catch it in this thread
+            fehler = Laufzeitfehler(Fehler::ZugriffVerweigert);
         }
         lock.lock();
         m_schreibt = false;

@@ -44,7 +44,7 @@ bool Stapelrechner::rechne(std::string_view legierung)
 
 std::string Stapelrechner::hinweis()
 {
-    const std::string scaled(m_isFormula && m_formel.istUmgerechnet() ? UmgerechnetHinweis : "");
+    std::string scaled(m_isFormula && m_formel.istUmgerechnet() ? UmgerechnetHinweis : "");
     if (looksSound())
         return scaled;
     m_kern.setAlloy(angaben(), m_einheitDerTeile);

@@ -134,7 +134,26 @@ TEST_F(DokumentverwaltungTest, WritesOverNoPictureAndNoNewerFile)
         save.replace = true; // c.zerna is there now
     }
     EXPECT_THAT(save.offeredAgain.front(), testing::EndsWith("a.zerna|1"));
+    EXPECT_THAT(save.offeredAgain.back(), testing::EndsWith("b (Kopie).zerna|1"));
     EXPECT_TRUE(dateien.speichere()) << "the new file is no longer read-only";
+}
+
+TEST_F(DokumentverwaltungTest, ARestoredDocumentDoesNotGoOverWhatOthersHaveSavedSince)
+{
+    ASSERT_TRUE(saveAs("a.zerna"));
+    OffeneDatei datei = dateien.offen();
+    enter("60");
+    datei.stand -= 1;
+    dateien.setzeFort(datei);
+    EXPECT_TRUE(dateien.istGeaendert());
+    boxes.answer = false;
+    EXPECT_FALSE(dateien.speichere());
+    EXPECT_EQ(boxes.asked.size(), 1U);
+    std::filesystem::remove(folder / "a.zerna");
+    dateien.setzeFort(datei);
+    save.next = {{(folder / "b").string(), 1}};
+    EXPECT_TRUE(dateien.speichere()) << "under a name that is asked for";
+    EXPECT_EQ(dateien.name(), "b.zerna");
 }
 
 TEST_F(DokumentverwaltungTest, LetsTheUserDecideAboutOtherValues)

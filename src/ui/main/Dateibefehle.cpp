@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QFileInfo>
 #include <QMenu>
 #include <QMimeData>
 #include <QTimer>
@@ -19,7 +20,7 @@ namespace {
 /// A file's name as a menu entry.
 QString menutext(int number, const QString& file)
 {
-    QString name = file.section(QLatin1Char('/'), -1);
+    QString name = QFileInfo(file).fileName();
     name.replace(QLatin1Char('&'), QLatin1String("&&"));
     return QStringLiteral("&%1  %2").arg(number).arg(name);
 }
@@ -115,10 +116,10 @@ void Dateibefehle::oeffneArgumente(const QStringList& argumente)
         oeffne(first);
 }
 
-void Dateibefehle::setzeFort(const std::string& datei)
+void Dateibefehle::setzeFort(const OffeneDatei& datei)
 {
-    if (!datei.empty())
-        m_dateien.setzeFort(pathFromUtf8(datei));
+    if (!datei.name.empty())
+        m_dateien.setzeFort(datei);
     zeigeErsetztes(true);
 }
 
@@ -164,7 +165,8 @@ bool Dateibefehle::eventFilter(QObject* watched, QEvent* event)
     auto& drop = *static_cast<QDropEvent*>(event);
     if (!drop.mimeData()->hasUrls())
         return QObject::eventFilter(watched, event);
-    drop.acceptProposedAction();
+    drop.setDropAction(Qt::CopyAction); // moving would let the other program remove its file
+    drop.accept();
     if (event->type() == QEvent::Drop)
         droppe(*drop.mimeData());
     return true;

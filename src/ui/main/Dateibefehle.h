@@ -28,13 +28,12 @@ public:
     /// Opens what the program was called with: nothing or one file; anything else is refused with a message.
     void oeffneArgumente(const QStringList& argumente);
 
-    /// The open file, UTF-8; empty for none.
-    std::string datei() const { return utf8FromPath(m_dateien.datei()); }
+    OffeneDatei offen() const { return m_dateien.offen(); }
 
     void beginne() { m_dateien.beginne(); }
 
-    /// Goes on with a document that was restored, which had been opened from that file if there is one.
-    void setzeFort(const std::string& datei);
+    /// Goes on with a document that was restored, which belongs to that file if there is one.
+    void setzeFort(const OffeneDatei& datei);
 
     /// Asks what is to become of unsaved changes; true if the window may close.
     bool darfSchliessen() { return m_dateien.darfGehen(); }

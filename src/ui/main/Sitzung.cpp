@@ -1,6 +1,7 @@
 #include "ui/main/Sitzung.h"
 
 #include <array>
+#include <charconv>
 #include <utility>
 
 #include "core/Datei.h"
@@ -14,11 +15,24 @@ namespace {
 constexpr int Bald = 300; // milliseconds until an edit is kept
 constexpr int Pruefzeit = 1000; // milliseconds in which it should be written
 constexpr const char* Schluessel = "LegierungWiederherstellen";
-constexpr char Trenner = '\0'; // between the name of the file, which cannot hold it, and the document
+constexpr char Trenner = '\0'; // behind the name of the file, which cannot hold it, and behind its time
+
+/// What differs from the table, which the document keeps as typed values.
+std::string abweichungen(const Lesung& lesung)
+{
+    std::string text = lesung.nurLesen;
+    if (!lesung.unterschiede.empty())
+        text += (text.empty() ? "" : "\r\n\r\n")
+            + std::string(
+                "Diese Werte sind in der Elementtabelle inzwischen andere und wurden als getippte behalten:\r\n");
+    for (const Tabellenunterschied& unterschied : lesung.unterschiede)
+        text += "\r\n" + unterschiedstext(unterschied, *lesung.dokument);
+    return text;
+}
 
 } // namespace
 
-Sitzung::Sitzung(Programm& programm, std::filesystem::path ordner, std::function<std::string()> datei)
+Sitzung::Sitzung(Programm& programm, std::filesystem::path ordner, std::function<OffeneDatei()> datei)
     : m_programm(programm)
     , m_ordner(std::move(ordner))
     , m_datei(std::move(datei))
@@ -35,7 +49,11 @@ void Sitzung::geaendert()
         m_bald.start();
 }
 
-std::string Sitzung::text() const { return m_datei() + Trenner + schreibe(m_programm.Dokument()); }
+std::string Sitzung::text() const
+{
+    const OffeneDatei datei = m_datei();
+    return datei.name + Trenner + std::to_string(datei.stand) + Trenner + schreibe(m_programm.Dokument());
+}
 
 void Sitzung::sichere()
 {
@@ -69,7 +87,7 @@ std::optional<Sitzung::Stand> Sitzung::nachAbbruch()
         m_sicherung.lasseLiegen();
         return std::nullopt;
     }
-    const std::string datei = stand->datei.empty() ? std::string() : "\r\n\r\nGeöffnet war: " + stand->datei;
+    const std::string datei = stand->datei.name.empty() ? std::string() : "\r\n\r\nGeöffnet war: " + stand->datei.name;
     const std::size_t answer = m_programm.boxes().choose(Programmtitel,
         "Zerna ist das letzte Mal nicht ordentlich beendet worden. Soll die Legierung von damals wiederhergestellt "
         "werden?"
@@ -91,14 +109,18 @@ std::optional<Sitzung::Stand> Sitzung::letzterStand() const
 
 std::optional<Sitzung::Stand> Sitzung::gelesen(const std::string& text) const
 {
-    const std::size_t end = text.find(Trenner);
-    if (end == std::string::npos)
+    const std::size_t name = text.find(Trenner);
+    const std::size_t time = name == std::string::npos ? name : text.find(Trenner, name + 1);
+    if (time == std::string::npos)
         return std::nullopt;
-    Lesung lesung = lies(std::string_view(text).substr(end + 1), m_programm.ElementCollection());
+    Lesung lesung = lies(std::string_view(text).substr(time + 1), m_programm.ElementCollection());
     if (!lesung.dokument)
         return std::nullopt;
+    OffeneDatei datei{text.substr(0, name)};
+    std::from_chars(text.data() + name + 1, text.data() + time, datei.stand);
+    std::string hinweis = abweichungen(lesung);
     behalteDateiwerte(*lesung.dokument, lesung.unterschiede, m_programm.ElementCollection());
-    return Stand{*std::move(lesung.dokument), text.substr(0, end)};
+    return Stand{*std::move(lesung.dokument), std::move(datei), std::move(hinweis)};
 }
 
 void Sitzung::ende()

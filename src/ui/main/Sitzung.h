@@ -8,7 +8,7 @@
 #include <optional>
 #include <string>
 
-#include "programm/Programm.h"
+#include "programm/Dokumentverwaltung.h"
 #include "programm/Sicherung.h"
 
 namespace zerna {
@@ -23,11 +23,12 @@ public:
     /// A document, and the file that it was opened from or saved to.
     struct Stand {
         zerna::Dokument dokument;
-        std::string datei; ///< UTF-8; empty for none
+        OffeneDatei datei;
+        std::string hinweis = {}; ///< what is to be said about it, in sentences; empty for nothing
     };
 
     /// `datei` names the open file. The folder is the user's own.
-    Sitzung(Programm& programm, std::filesystem::path ordner, std::function<std::string()> datei);
+    Sitzung(Programm& programm, std::filesystem::path ordner, std::function<OffeneDatei()> datei);
 
     /// The document is another one than it was.
     void geaendert();
@@ -53,7 +54,7 @@ private:
 
     Programm& m_programm;
     std::filesystem::path m_ordner;
-    std::function<std::string()> m_datei;
+    std::function<OffeneDatei()> m_datei;
     Sicherung m_sicherung;
     QTimer m_bald;
     bool m_hatGewarnt = false;

@@ -150,7 +150,7 @@ QString Vergleichsansicht::auswahl(Dezimaltrenner trenner) const
     const QItemSelection selected = selectionModel()->selection();
     if (selected.isEmpty())
         return {};
-    const QItemSelectionRange cells = selected.first(); // there is but one
+    const QItemSelectionRange& cells = selected.first(); // there is but one
     if (cells.width() == m_modell.columnCount() && cells.height() == m_modell.rowCount())
         return {};
     QString text;

@@ -40,7 +40,7 @@ QVariant Vergleichsmodell::data(const QModelIndex& index, int role) const
     case Qt::DisplayRole:
         return toQt(m_tabelle.anzeige(row, column, m_art));
     case Qt::TextAlignmentRole:
-        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+        return {Qt::AlignRight | Qt::AlignVCenter};
     case Qt::AccessibleTextRole:
         return spoken(row, column);
     case ReferenzRolle:
@@ -79,7 +79,7 @@ QVariant Vergleichsmodell::alloyData(std::size_t column, int role) const
     case Qt::AccessibleTextRole:
         return isReference ? name + QStringLiteral(", Referenz") : name;
     case Qt::TextAlignmentRole:
-        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+        return {Qt::AlignRight | Qt::AlignVCenter};
     case Qt::FontRole: {
         QFont font;
         font.setBold(isReference);
@@ -98,7 +98,7 @@ QVariant Vergleichsmodell::lineData(std::size_t row, int role) const
     case Qt::AccessibleTextRole:
         return toQt(line.name + " [" + line.einheit + ']');
     case Qt::TextAlignmentRole:
-        return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+        return {Qt::AlignLeft | Qt::AlignVCenter};
     default:
         return {};
     }

@@ -298,13 +298,15 @@ void frmMain::show()
     m_komposition->focusFirstField();
 }
 
-std::string frmMain::datei() const { return m_dateien->datei(); }
+OffeneDatei frmMain::offeneDatei() const { return m_dateien->offen(); }
 
-void frmMain::setzeFort(const zerna::Dokument& dokument, const std::string& datei)
+void frmMain::setzeFort(const Sitzung::Stand& stand)
 {
-    m_programm.Dokument() = dokument;
-    m_dateien->setzeFort(datei);
+    m_programm.Dokument() = stand.dokument;
+    m_dateien->setzeFort(stand.datei);
     m_meldung->zeige(QStringLiteral("✓  letzte Legierung wiederhergestellt"));
+    if (!stand.hinweis.empty())
+        m_programm.boxes().show(Icon::Exclamation, Programmtitel, stand.hinweis);
 }
 
 void frmMain::closeEvent(QCloseEvent* event)

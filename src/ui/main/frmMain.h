@@ -5,6 +5,7 @@
 #include <array>
 
 #include "programm/Programm.h"
+#include "ui/main/Sitzung.h"
 #include "ui/main/Verlauf.h"
 #include "ui/platform/Dialoge.h"
 
@@ -53,11 +54,10 @@ public:
     /// Opens what the program was called with.
     void oeffneArgumente(const QStringList& argumente);
 
-    /// The open file, UTF-8; empty for none.
-    std::string datei() const;
+    OffeneDatei offeneDatei() const;
 
-    /// Shows a document that was restored, which had been opened from that file if there is one.
-    void setzeFort(const zerna::Dokument& dokument, const std::string& datei);
+    /// Shows a document that was restored.
+    void setzeFort(const Sitzung::Stand& stand);
 
     /// Ends every user's change of the document, after all that follows from it.
     void geschehen(const Schritt& schritt) { m_verlauf.geschehen(schritt); }

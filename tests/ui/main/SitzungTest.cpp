@@ -14,7 +14,7 @@ struct SitzungTest : FakeDesk {
 
     std::filesystem::path kept() const { return folder / "sitzung-0.zerna"; }
 
-    const std::function<std::string()> datei = [] { return std::string("/tmp/ä.zerna"); };
+    const std::function<OffeneDatei()> datei = [] { return OffeneDatei{"/nirgends/ä.zerna", 7}; };
 };
 
 TEST_F(SitzungTest, AnEditIsKeptWithinASecondAndOfferedAfterACrash)
@@ -40,9 +40,10 @@ TEST_F(SitzungTest, AnEditIsKeptWithinASecondAndOfferedAfterACrash)
     const auto stand = next.beginn();
     ASSERT_TRUE(stand);
     EXPECT_EQ(schreibe(stand->dokument), schreibe(before));
-    EXPECT_EQ(stand->datei, "/tmp/ä.zerna");
-    window->setzeFort(stand->dokument, stand->datei);
+    EXPECT_EQ(stand->datei, datei());
+    window->setzeFort(*stand);
     EXPECT_EQ(text("txtProzent_0") + "|" + text("lblMFE_7"), "60|" + fermi);
+    EXPECT_TRUE(window->isWindowModified()) << "its file cannot be read";
 }
 
 TEST_F(SitzungTest, TheLastAlloyComesBackIfTheUserWantsThat)
