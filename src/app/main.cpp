@@ -33,6 +33,7 @@ int run(zerna::Programm& programm, zerna::frmMain& window)
         return QApplication::exec();
     zerna::Sitzung session(programm, sessionFolder(), [&window] { return window.offeneDatei(); });
     QObject::connect(&window.verlauf().stapel(), &QUndoStack::indexChanged, &session, &zerna::Sitzung::geaendert);
+    QObject::connect(&window, &zerna::frmMain::begonnen, &session, &zerna::Sitzung::geaendert);
     QObject::connect(&window, &zerna::frmMain::schliesst, &session, &zerna::Sitzung::ende);
     if (const auto last = session.beginn())
         window.setzeFort(*last);

@@ -191,7 +191,8 @@ private:
     void assign(bool before)
     {
         auto& formel = m_lesung.formel;
-        const bool takesRest = before || m_hasEinheit;
+        const bool isMass = m_lesung.formel.m_einheit == Anteilseinheit::Masse; // stated or agreed on
+        const bool takesRest = before || m_hasEinheit || isMass;
         std::size_t rest = NoPlace;
         double sum = 0;
         for (std::size_t i = 0; i < formel.m_anzahl; ++i) {

@@ -50,6 +50,14 @@ Sicherung::~Sicherung()
     gibFrei();
 }
 
+void Sicherung::verwerfe()
+{
+    std::error_code noneIsFine;
+    m_hinterlassen.reset();
+    if (m_nummer >= 0)
+        std::filesystem::remove(datei(m_nummer), noneIsFine);
+}
+
 void Sicherung::lasseLiegen()
 {
     warte();

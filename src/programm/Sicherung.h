@@ -30,6 +30,9 @@ public:
     /// What a killed run has left in this run's place; it stays until it is written over or the run ends.
     const std::optional<std::string>& hinterlassen() const { return m_hinterlassen; }
 
+    /// Removes what a killed run has left.
+    void verwerfe();
+
     /// Leaves what a killed run has left for a later run, and takes an empty place.
     void lasseLiegen();
 

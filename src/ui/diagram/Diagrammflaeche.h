@@ -51,6 +51,7 @@ public:
 
     /// Asks for a name and saves the values or the bitmap of what is shown.
     void save();
+    void savePicture(); ///< as PNG, SVG or PDF, with the alloy inside
 
     void print();
 
@@ -83,7 +84,6 @@ private:
     void addOutputs(QMenu& menu);
     void nenneAnsicht(const QString& geste);
     void copyValues();
-    void savePicture();
 
     Programm& m_programm;
     Dialoge m_dialoge;

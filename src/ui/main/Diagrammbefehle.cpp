@@ -14,6 +14,11 @@ void Diagrammbereich::addBefehle(Menue& menue)
             .name = "mnuDiagramm_Speichern",
             .tun = [this] { m_picDiagramm->save(); },
             .moeglich = [this] { return istDruckbar(); }});
+    menue.add(Ausgabe,
+        {.text = QStringLiteral("&Bild speichern ..."),
+            .name = "mnuBild_Speichern",
+            .tun = [this] { m_picDiagramm->savePicture(); },
+            .moeglich = [this] { return istDruckbar(); }});
     menue.add(Menue::Abschnitt::Kopieren,
         {.text = QStringLiteral("&Diagramm kopieren"), .name = "mnuDiagramm_Kopieren", .tun = [this] {
              m_picDiagramm->copyPicture();

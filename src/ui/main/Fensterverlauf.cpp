@@ -54,6 +54,7 @@ void frmMain::beginneDokument()
     zeigeDokument();
     m_conWiegen1->vergissAbgelegte();
     m_verlauf.beginne();
+    emit begonnen();
 }
 
 /// Shows where the document has gone back to, and the panel in which something is different now.

@@ -124,7 +124,7 @@ void Formelfeld::take()
     if (m_refused)
         return showLine();
     const Legierungsformel formel = std::exchange(m_lesung, {}).formel;
-    m_txtFormel->clear();
+    m_txtFormel->setText({}); // the field's own steps go, too: undo takes back the alloy
     taken(formel);
 }
 

@@ -199,6 +199,12 @@ void Kompositionsbereich::setEinheit(Anteilseinheit einheit)
 {
     if (einheit == eingabe().einheit())
         return;
+    for (int row = 0; row + 1 < eingabe().anzahl(); ++row) {
+        if (eingabe().zeile(row).prozent.fehler) { // nothing could be turned into the other unit
+            zeige();
+            return at(row).focusProzent();
+        }
+    }
     eingabe().setEinheit(einheit);
     emit einheitGeaendert();
     taken({}, {QStringLiteral("Anteile in %1").arg(toQt(einheitenname(einheit)))});

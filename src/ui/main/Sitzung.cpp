@@ -87,15 +87,30 @@ std::optional<Sitzung::Stand> Sitzung::nachAbbruch()
         m_sicherung.lasseLiegen();
         return std::nullopt;
     }
+    if (istGespeichert(*stand)) {
+        m_sicherung.verwerfe();
+        return std::nullopt;
+    }
     const std::string datei = stand->datei.name.empty() ? std::string() : "\r\n\r\nGeöffnet war: " + stand->datei.name;
     const std::size_t answer = m_programm.boxes().choose(Programmtitel,
         "Zerna ist das letzte Mal nicht ordentlich beendet worden. Soll die Legierung von damals wiederhergestellt "
         "werden?"
             + datei,
         std::array<std::string_view, 3>{"&Wiederherstellen", "&Verwerfen", "&Später fragen"});
-    if (answer == 2)
+    if (answer == 1)
+        m_sicherung.verwerfe();
+    else if (answer == 2)
         m_sicherung.lasseLiegen();
     return answer == 0 ? stand : std::nullopt;
+}
+
+/// Whether its file holds it all.
+bool Sitzung::istGespeichert(const Stand& stand) const
+{
+    if (stand.datei.name.empty())
+        return false;
+    const Dokumentoeffnung file = oeffneDokument(pathFromUtf8(stand.datei.name), m_programm.ElementCollection());
+    return file.lesung.dokument && *file.lesung.dokument == stand.dokument;
 }
 
 std::optional<Sitzung::Stand> Sitzung::letzterStand() const

@@ -48,6 +48,7 @@ private:
     std::optional<Stand> gelesen(const std::string& text) const;
     std::optional<Stand> nachAbbruch();
     std::optional<Stand> letzterStand() const;
+    bool istGespeichert(const Stand& stand) const;
     std::filesystem::path letzte() const { return m_ordner / "letzte.zerna"; }
     void sichere();
     void pruefe();

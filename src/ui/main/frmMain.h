@@ -64,6 +64,9 @@ public:
     Verlauf& verlauf() { return m_verlauf; }
 
 signals:
+    /// A document has been opened, begun or restored.
+    void begonnen();
+
     /// The window goes, and the document with it.
     void schliesst();
 

@@ -36,6 +36,12 @@ TEST_F(SitzungTest, AnEditIsKeptWithinASecondAndOfferedAfterACrash)
     boxes.way = 2; // later
     EXPECT_FALSE(Sitzung(*programm, crashed, datei).beginn());
     boxes.way = 0;
+    {
+        Sitzung undecided(*programm, crashed, datei);
+        EXPECT_TRUE(undecided.beginn());
+        std::filesystem::copy(crashed / "sitzung-0.zerna", folder / "wieder");
+    }
+    std::filesystem::copy(folder / "wieder", crashed / "sitzung-0.zerna"); // killed once more
     Sitzung next(*programm, crashed, datei);
     const auto stand = next.beginn();
     ASSERT_TRUE(stand);
@@ -44,6 +50,15 @@ TEST_F(SitzungTest, AnEditIsKeptWithinASecondAndOfferedAfterACrash)
     window->setzeFort(*stand);
     EXPECT_EQ(text("txtProzent_0") + "|" + text("lblMFE_7"), "60|" + fermi);
     EXPECT_TRUE(window->isWindowModified()) << "its file cannot be read";
+    writeBytes(folder / "ä.zerna", schreibe(before));
+    Sitzung saved(*programm, folder / "neu", [this] { return OffeneDatei{(folder / "ä.zerna").string(), 0}; });
+    saved.geaendert();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return std::filesystem::exists(folder / "neu" / "sitzung-0.zerna"); }, 900));
+    std::filesystem::create_directory(folder / "gesichert");
+    std::filesystem::copy(folder / "neu" / "sitzung-0.zerna", folder / "gesichert" / "sitzung-0.zerna");
+    boxes.asked.clear();
+    EXPECT_FALSE(Sitzung(*programm, folder / "gesichert", datei).beginn());
+    EXPECT_TRUE(boxes.asked.empty()) << "all is in the file";
 }
 
 TEST_F(SitzungTest, TheLastAlloyComesBackIfTheUserWantsThat)
