@@ -147,6 +147,9 @@ bool Stapelrechner::fail(std::string_view text, std::string_view grund)
 const Stapelrechner::Bedeutung& Stapelrechner::bedeutung(std::string_view symbol, std::string_view zusatz)
 {
     constexpr std::size_t Most = 4096; // of a list in which every density is another one
+    constexpr std::size_t LongestKey = 64; // what is longer is rare, and many of them would take much memory
+    if (symbol.size() + zusatz.size() > LongestKey)
+        return m_langeBedeutung = lookUp(symbol, zusatz);
     m_key.assign(symbol).append(zusatz);
     if (const auto found = m_bedeutungen.find(m_key); found != m_bedeutungen.end())
         return found->second;

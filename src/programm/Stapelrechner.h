@@ -15,8 +15,8 @@
 namespace zerna {
 
 /// Computes one alloy after the other from texts: the same numbers and reasons as Rechenkern::setAlloy. What a
-/// component means is remembered without its at%, so that an alloy of components met before needs no memory, and a text
-/// that is wrong throws nothing.
+/// component means is remembered without its at% unless it is long, so that an alloy of components met before needs no
+/// memory, and a text that is wrong throws nothing.
 class Stapelrechner {
 public:
     /// Computes with the elements and the calculator of that core; parts of alloys are in that unit.
@@ -71,6 +71,7 @@ private:
     bool m_typedPartsSound = true;
     std::string m_grund;
     std::string m_key;
+    Bedeutung m_langeBedeutung; // the last one that is not remembered
     std::unordered_map<std::string, Bedeutung, Hash, std::equal_to<>> m_bedeutungen;
 };
 

@@ -147,6 +147,10 @@ TEST_F(StapelrechnerTest, ThrowsNothingForWrongTextsAndForgetsOldOnes)
         thrown("Al=5:valenz=" + wrong);
         EXPECT_EQ(thrown("Al=7:valenz=" + wrong), 0) << wrong;
     }
+    const std::string tooLong = "Al=5:valenz=1/" + std::string(60, '0'); // to be remembered
+    EXPECT_GT(thrown(tooLong), 0);
+    EXPECT_GT(thrown(tooLong), 0);
+    EXPECT_EQ(amStueck(rechner, tooLong), allein({tooLong}));
     const std::string sound = amStueck(rechner, "Al=60 Cu=40");
     for (int i = 1; i < 20000; ++i)
         ASSERT_TRUE(rechner.rechne("Al=100:dichte=" + std::to_string(i))) << i << rechner.grund();
