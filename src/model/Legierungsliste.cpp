@@ -54,8 +54,8 @@ void Legierungsliste::append(std::string& text, std::string_view legierung, cons
     } else {
         text += legierung;
     }
-    for (std::size_t i = begin; i < text.size(); ++i) { // tabs between components are no columns
-        if (text[i] == '\t')
+    for (std::size_t i = begin; i < text.size(); ++i) { // what is between components makes no columns, no lines
+        if (static_cast<unsigned char>(text[i]) < ' ')
             text[i] = ' ';
     }
     for (const Spalte& spalte : m_spalten) {

@@ -157,4 +157,17 @@ TEST_F(StapelrechnerTest, ThrowsNothingForWrongTextsAndForgetsOldOnes)
     EXPECT_EQ(amStueck(rechner, "Al=60 Cu=40"), sound);
 }
 
+TEST_F(StapelrechnerTest, AnAlloyIsOneLineAndOneColumnWhateverIsBetweenItsComponents)
+{
+    const auto begin = [this](Legierungsliste::Form form, std::string_view legierung) {
+        std::string zeile;
+        Legierungsliste({}, form).append(zeile, legierung, rechner.calc());
+        return zeile;
+    };
+    ASSERT_TRUE(rechner.rechne("Al60\rCu40")) << rechner.grund();
+    EXPECT_EQ(begin(Legierungsliste::Form::Text, "Al60\r\t\v\n\x1FµCu40"), "Al60     µCu40\n");
+    EXPECT_EQ(
+        begin(Legierungsliste::Form::Json, "\"Al60\r\t\v\n\x1FµCu40"), "{\"Legierung\": \"\\\"Al60     µCu40\"}\n");
+}
+
 } // namespace zerna
