@@ -48,15 +48,26 @@ bool isDocument(std::string_view begin)
     return begin.starts_with('{') && second != std::string_view::npos && begin[second] == '"';
 }
 
-/// The data of the last stream that looks like a document, with all that follows it; empty if there is none.
+/// Whether a JSON object says that it is ours, as each that we write does in its first member.
+bool isMarked(std::string_view begin)
+{
+    const std::size_t key = begin.find("\"format\"");
+    return key != std::string_view::npos && begin.find("\"Zerna-Legierung\"", key) != std::string_view::npos;
+}
+
+/// The data of the last stream that is marked as ours, else of the last that looks like a document, with all that
+/// follows it; empty if there is none.
 std::string_view lastDocument(std::string_view rest)
 {
-    constexpr std::size_t Enough = 64; // to see what it is
-    std::string_view found;
-    for (int i = 0; i < MostStreams && takeToStream(rest); ++i)
-        if (isDocument(isPacked(rest) ? entpackt(rest, Enough).bytes : rest.substr(0, Enough)))
-            found = rest;
-    return found;
+    constexpr std::size_t Enough = 256; // to see what it is
+    std::string_view marked;
+    std::string_view other;
+    for (int i = 0; i < MostStreams && takeToStream(rest); ++i) {
+        const std::string begin = isPacked(rest) ? entpackt(rest, Enough).bytes : std::string(rest.substr(0, Enough));
+        if (isDocument(begin))
+            (isMarked(begin) ? marked : other) = rest;
+    }
+    return marked.empty() ? other : marked;
 }
 
 } // namespace

@@ -12,8 +12,9 @@ inline constexpr std::string_view Anhangart = "application/vnd.zerna+json";
 
 bool istPdf(std::string_view bytes);
 
-/// The document attached to a PDF document; the last one if a change was appended. It is found by what it looks like,
-/// not through tables and lengths: programs that write the file anew build those their own way.
+/// The document attached to a PDF document; the last one if a change was appended, whatever other programs attached. It
+/// is found by what it looks like, not through tables and lengths: programs that write the file anew build those their
+/// own way.
 Dokumentfund dokumentImPdf(std::string_view pdf);
 
 } // namespace zerna

@@ -22,7 +22,7 @@ TEST_F(DokumentoeffnungTest, OpensTheSameDocumentFromFilesAndPictures)
         const std::string text = schreibe(dokument);
         for (const auto& [name, bytes, isPicture] :
             {std::tuple("a.zerna", text, false), {"a.png", pngMitDokument(Pngbild, text), true},
-                {"a.svg", svgMitDokument(Svgbild, text), true}, {"a.pdf", pdfMit(text), true}}) {
+                {"a.svg", svgMitDokument(Svgbild, text), true}, {"a.pdf", pdfMit(text) + pdfMit("{\"b\": 1}"), true}}) {
             SCOPED_TRACE(name);
             writeBytes(folder / name, bytes);
             const Dokumentoeffnung oeffnung = oeffneDokument(folder / name, elements);

@@ -31,6 +31,8 @@ std::string replaced(std::string text, std::string_view what, std::string_view b
     return text.replace(at, what.size(), by);
 }
 
+const std::string Marked = R"({"version": 1, "format": "Zerna-Legierung"})";
+
 /// An SVG picture that writes the document its own way.
 std::string svgWith(std::string_view inside) { return replaced(Svgbild, "<g/>", inside); }
 
@@ -77,6 +79,8 @@ TEST(DokumentfundTest, ADocumentComesBackFromEveryCarrierAsItWas)
         {"PDF with lines in front", Dateiart::Pdf, "\r\n\r\n" + pdfMit(gepackt(Dokumenttext)), Dokumenttext},
         {"PDF written anew unpacked", Dateiart::Pdf, pdfMit(Dokumenttext), Dokumenttext},
         {"PDF with a later change", Dateiart::Pdf, pdfMit(Dokumenttext) + pdfMit(gepackt("{\"b\"}")), "{\"b\"}"},
+        {"PDF with another program's attachments", Dateiart::Pdf,
+            pdfMit("{\"a\"}") + pdfMit(gepackt(Marked)) + pdfMit("{\"b\"}") + pdfMit(gepackt("{\"c\"}")), Marked},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
