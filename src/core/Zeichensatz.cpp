@@ -102,6 +102,14 @@ std::optional<Fremdzeichen> fremdzeichen(std::string_view utf8)
     return std::nullopt;
 }
 
+bool istUtf8(std::string_view text)
+{
+    for (std::size_t position = 0; position < text.size();)
+        if (nextCodePoint(text, position) == Damaged)
+            return false;
+    return true;
+}
+
 std::string fromWindows1252(std::string_view bytes)
 {
     std::string text;

@@ -20,6 +20,9 @@ struct Fremdzeichen {
 /// The first such character of a text.
 std::optional<Fremdzeichen> fremdzeichen(std::string_view utf8);
 
+/// Whether no sequence of a text is damaged.
+bool istUtf8(std::string_view text);
+
 /// Windows-1252 to UTF-8. The five bytes without a character (81, 8D, 8F, 90, 9D) become the control characters of
 /// the same number, so that every byte text survives there and back.
 std::string fromWindows1252(std::string_view bytes);

@@ -7,6 +7,7 @@
 #include <zlib.h>
 
 #include "core/Laufzeitfehler.h"
+#include "core/Zeichensatz.h"
 #include "traeger/Entpacken.h"
 
 namespace zerna {
@@ -74,8 +75,8 @@ bool isOurs(const Chunk& chunk)
     return isText && chunk.data.starts_with(Keyword) && chunk.data.substr(Keyword.size()).starts_with('\0');
 }
 
-/// The text of one of our chunks; no value if it is damaged.
-std::optional<std::string> textOf(const Chunk& chunk)
+/// The text of one of our chunks, byte by byte; no value if it is damaged.
+std::optional<std::string> bytesIn(const Chunk& chunk)
 {
     std::string_view rest = chunk.data;
     takeText(rest);
@@ -94,10 +95,11 @@ std::optional<std::string> textOf(const Chunk& chunk)
     return text.vollstaendig ? std::optional(std::move(text.bytes)) : std::nullopt;
 }
 
+/// Intended: only iTXt is UTF-8 by definition. The others are Latin-1, yet some programs put UTF-8 into them unchanged.
 Dokumentfund fundIn(const Chunk& chunk)
 {
-    if (auto text = chunk.intact ? textOf(chunk) : std::nullopt)
-        return {Dateiart::Png, std::move(text), {}};
+    if (auto text = chunk.intact ? bytesIn(chunk) : std::nullopt)
+        return {Dateiart::Png, chunk.type == "iTXt" || istUtf8(*text) ? std::move(text) : fromWindows1252(*text), {}};
     return {Dateiart::Png, {}, "Die Legierung in dem PNG-Bild ist beschädigt."};
 }
 

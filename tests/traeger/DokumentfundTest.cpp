@@ -68,6 +68,8 @@ TEST(DokumentfundTest, ADocumentComesBackFromEveryCarrierAsItWas)
         {"PNG with something behind it", Dateiart::Png, pngMitDokument(Pngbild, Dokumenttext) + "mehr", Dokumenttext},
         {"PNG, text stored plainly", Dateiart::Png, pngWith("tEXt", "zerna\0{}"s), "{}"},
         {"PNG, text stored packed", Dateiart::Png, pngWith("zTXt", "zerna\0\0"s + gepackt(Dokumenttext)), Dokumenttext},
+        {"PNG, text stored in Latin-1", Dateiart::Png, pngWith("tEXt", "zerna\0{\"\xB5\xDF\"}"s), R"({"µß"})"},
+        {"PNG, the same packed", Dateiart::Png, pngWith("zTXt", "zerna\0\0"s + gepackt("{\"Ω\xB5\"}")), R"({"Î©µ"})"},
         {"PNG, plain iTXt with a language", Dateiart::Png, pngWith("iTXt", "zerna\0\0\0de\0Legierung\0{}"s), "{}"},
         {"SVG", Dateiart::Svg, svgMitDokument(Svgbild, Dokumenttext), Dokumenttext},
         {"SVG that speaks of another kind", Dateiart::Svg, svgMitDokument(Svgbild, R"({"%PDF-1.4"})"),
