@@ -15,7 +15,7 @@ void Diagrammbereich::addBefehle(Menue& menue)
             .tun = [this] { m_picDiagramm->save(); },
             .moeglich = [this] { return istDruckbar(); }});
     menue.add(Ausgabe,
-        {.text = QStringLiteral("&Bild speichern ..."),
+        {.text = QStringLiteral("B&ild speichern ..."),
             .name = "mnuBild_Speichern",
             .tun = [this] { m_picDiagramm->savePicture(); },
             .moeglich = [this] { return istDruckbar(); }});

@@ -91,6 +91,8 @@ TEST_F(DiagrammbereichTest, RandomEditsLeaveNoTrace)
             {"cmdDichte_1", "kristallin"}, {"cmbValenz_0", "Standard"}, {"cmbValenz_1", "Standard"},
             {"cmbDiagramm_Typ", "2 D"}, {"cmbDiagramm", "Valenz"}, {"cmbDiagramm_Element", "Al"}})
         choose(list, entry);
+    for (const char* const part : {"txtProzent_0", "txtMasse_0"}) // whichever is typed
+        type(part, "50");
     click("Label2");
     type("txtProzent_0", "50");
     EXPECT_EQ(picture(), before);
