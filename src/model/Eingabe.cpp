@@ -280,6 +280,20 @@ Aenderung Eingabe::setValenz(int zeile, std::string_view text)
     return {.valenz = true};
 }
 
+void Eingabe::setDichteUndValenz(int zeile, const Zeile& from)
+{
+    for (Zeile& row : m_zeilen) {
+        if (row.element == from.element)
+            row.inKraft = from.inKraft;
+    }
+    Zeile& to = at(zeile);
+    to.dichtewahl = from.dichtewahl;
+    to.dichte = from.dichte;
+    to.valenzwahl = from.valenzwahl;
+    to.valenz = from.valenz;
+    mirror(zeile);
+}
+
 void Eingabe::writeDichte(int zeile, Eingabefeld feld)
 {
     const Eingabefeld& dichte = at(zeile).dichte = std::move(feld);

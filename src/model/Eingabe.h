@@ -118,6 +118,10 @@ public:
     /// Enters a valence, a number or a formula; goes to the element looked up last, like a density.
     Aenderung setValenz(int zeile, std::string_view text);
 
+    /// Gives a row the density and the valence of another one of the same element: choices, texts and what is in force,
+    /// which an unreadable text does not tell.
+    void setDichteUndValenz(int zeile, const Zeile& from);
+
     /// Looks the row's element up, so that entered densities and valences go to it; choosing anything does so, too.
     void nachschlagen(int zeile);
     const std::shared_ptr<clsElement>& CurrentElement() const { return m_nachgeschlagen.element; }

@@ -14,17 +14,6 @@ const Eingabe::Zeile* rowOf(const Eingabe& eingabe, const std::shared_ptr<clsEle
     return nullptr;
 }
 
-/// Gives a row the density and the valence that another row has.
-void copyChoices(Eingabe& eingabe, int zeile, const Eingabe::Zeile& from)
-{
-    eingabe.waehleDichte(zeile, from.dichtewahl);
-    if (from.dichtewahl == AndereWahl)
-        eingabe.setDichte(zeile, from.dichte.text);
-    eingabe.waehleValenz(zeile, from.valenzwahl);
-    if (from.valenzwahl == ValenzAndere)
-        eingabe.setValenz(zeile, from.valenz.text);
-}
-
 } // namespace
 
 Aenderung setLegierung(Eingabe& eingabe, const Legierungsformel& formel)
@@ -38,7 +27,7 @@ Aenderung setLegierung(Eingabe& eingabe, const Legierungsformel& formel)
         if (eingabe.zeile(zeile).element != komponente.element) {
             eingabe.waehleElement(zeile, komponente.element->symbol());
             if (const Eingabe::Zeile* const from = rowOf(before, komponente.element))
-                copyChoices(eingabe, zeile, *from);
+                eingabe.setDichteUndValenz(zeile, *from);
             aenderung.element = aenderung.dichte = aenderung.valenz = true;
         }
         ++zeile;

@@ -190,6 +190,11 @@ TEST_F(LegierungsformelTest, EnteringKeepsWhatWasChosenForAnElement)
     }
     setLegierung(eingabe, lies("Al60.50Cu39.50").formel);
     EXPECT_EQ(eingabe.zeile(0).prozent.text, "60.50"); // as typed
+    dichte(0, "2,7")(eingabe);
+    eingabe.setDichte(0, "2,7x");
+    setLegierung(eingabe, lies("Cu40Al60").formel);
+    EXPECT_EQ(eingabe.zeile(1).dichte.text, "2,7x");
+    EXPECT_EQ(eingabe.zeile(1).inKraft.dichte, 2.7F); // goes on
 }
 
 TEST_F(LegierungsformelTest, RandomTextGivesAnAlloyOrAReasonWithItsPlace)
