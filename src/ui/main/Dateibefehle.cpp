@@ -18,11 +18,9 @@ namespace zerna {
 namespace {
 
 /// A file's name as a menu entry.
-QString menutext(int number, const QString& file)
+QString dateieintrag(int number, const QString& file)
 {
-    QString name = QFileInfo(file).fileName();
-    name.replace(QLatin1Char('&'), QLatin1String("&&"));
-    return QStringLiteral("&%1  %2").arg(number).arg(name);
+    return QStringLiteral("&%1  %2").arg(number).arg(menuetext(QFileInfo(file).fileName()));
 }
 
 bool isDrop(const QEvent& event)
@@ -86,7 +84,7 @@ void Dateibefehle::fillZuletzt(QMenu& menu)
     int number = 0;
     for (const std::string& file : m_dateien.zuletzt()) {
         const QString path = toQt(file);
-        QAction* const action = menu.addAction(menutext(++number, path));
+        QAction* const action = menu.addAction(dateieintrag(++number, path));
         action->setToolTip(path);
         connect(action, &QAction::triggered, this, [this, path] { oeffne(path); });
     }

@@ -12,6 +12,7 @@
 #include "ui/main/PSEbereich.h"
 #include "ui/main/Vergleichsbereich.h"
 #include "ui/main/frmMain.h"
+#include "ui/platform/QtText.h"
 #include "ui/weighing/conWiegen.h"
 
 namespace zerna {
@@ -97,7 +98,7 @@ void frmMain::addSchritte()
 {
     const auto names = [](QAction* action, const QString& caption) {
         return [action, caption](const QString& step) {
-            action->setText(step.isEmpty() ? caption : QStringLiteral("%1: %2").arg(caption, step));
+            action->setText(step.isEmpty() ? caption : QStringLiteral("%1: %2").arg(caption, menuetext(step)));
         };
     };
     const QString back = QStringLiteral("&Rückgängig");

@@ -15,6 +15,9 @@ inline QString toQt(std::string_view text)
 
 inline std::string fromQt(const QString& text) { return text.toStdString(); }
 
+/// A text as it is to be read in a menu, where a single '&' would mark a key.
+inline QString menuetext(QString text) { return text.replace(QLatin1Char('&'), QLatin1String("&&")); }
+
 /// The object name of one of a row of controls: "lblMFE" and 3 make "lblMFE_3".
 inline QString numberedName(const char* name, int index)
 {

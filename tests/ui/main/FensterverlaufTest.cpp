@@ -238,6 +238,14 @@ TEST_F(FensterverlaufTest, AFieldOffersTheStepsOfTheDocumentInItsMenu)
     EXPECT_EQ(text("txtProzent_0"), "9");
 }
 
+TEST_F(FensterverlaufTest, AnAmpersandInANameMarksNoKey)
+{
+    open();
+    programm->Dokument().titel = "x";
+    window->verlauf().geschehen({QStringLiteral("„A&B“ laden")});
+    EXPECT_EQ(action("mnuRueckgaengig").text(), QStringLiteral("&Rückgängig: „A&&B“ laden"));
+}
+
 /// Every state on the way back and forth is one that was seen, in the document and on the screen.
 TEST_F(FensterverlaufTest, FiveThousandRandomCommandsLeadBackAndForth)
 {
