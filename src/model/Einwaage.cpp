@@ -24,10 +24,18 @@ double atommasse(const clsCalc& calc, int i)
     return calc.Element_Masse(i);
 }
 
+/// Whether component i of an incomplete alloy has no element or no at%.
+bool fehltAnteil(const clsCalc& calc, int i)
+{
+    return istUnbekannt(calc.Element_Prozente(i)) || calc.Element_Symbol(i).empty();
+}
+
 /// Share of component i times its mass: the mass of i in one mole of the alloy, in g.
 double massOf(const clsCalc& calc, int i)
 {
     const double prozent = calc.Element_Prozente(i);
+    if (fehltAnteil(calc, i))
+        throw Laufzeitfehler(Fehler::UngueltigesArgument);
     return prozent == 0 ? 0 : prozent / 100 * atommasse(calc, i);
 }
 
@@ -105,6 +113,10 @@ std::vector<float> gewogeneAtomprozente(const clsCalc& calc, std::span<const flo
 std::optional<Wiegehindernis> sollmassenHindernis(const clsCalc& calc, int komponentenzahl)
 {
     for (int i = 0; i < komponentenzahl; ++i) {
+        if (calc.Element_Symbol(i).empty())
+            return Wiegehindernis{i, "Komponente " + std::to_string(i + 1) + " hat kein Element"};
+        if (istUnbekannt(calc.Element_Prozente(i)))
+            return Wiegehindernis{i, "hat keine lesbaren at%"};
         if (calc.Element_Prozente(i) < 0)
             return Wiegehindernis{i, "hat weniger als 0 at%, das lässt sich nicht einwiegen"};
     }

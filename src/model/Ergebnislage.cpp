@@ -43,7 +43,7 @@ Ergebnislage ergebnislage(const Eingabe& eingabe, const Eingabe& gerechnet, cons
     if (const Befund* const found = wichtigster(alle))
         lage.befund = *found;
     if (!eingabe.istVollstaendig())
-        lage.gehoertZu = zusammensetzung(gerechnet);
+        lage.gehoertZu = gerechnet.istVollstaendig() ? zusammensetzung(gerechnet) : ""; // else there are no results
     else if (!lage.istFehler()) {
         if (const auto mittel = mittelbefund(eingabe, calc)) {
             lage.befund = mittel;

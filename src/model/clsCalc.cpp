@@ -195,6 +195,8 @@ void clsCalc::berechne(std::span<const Legierungskomponente> komponenten)
         float molvolumen = 0; // cm³/mol, times 100
         float dichte = 0;
         for (const Legierungskomponente& k : komponenten) {
+            if (!k.element || istUnbekannt(k.prozent))
+                return berechnungGescheitert();
             const double prozent = k.prozent;
             const float masse = k.element->Masse();
             // A missing density or mass weighed by a small at% would pass for a plausible one.

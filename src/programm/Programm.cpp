@@ -165,14 +165,26 @@ std::string Programm::dokumenttext() const { return schreibe(m_dokument); }
 
 bool Programm::uebernehmen()
 {
-    const auto legierung = m_dokument.eingabe.legierung();
-    if (!m_dokument.eingabe.istVollstaendig() || !legierung)
+    if (!m_dokument.eingabe.istVollstaendig())
         return false;
-    m_dokument.eingabe.elementeSetzen();
-    m_komponentenzahl = m_dokument.eingabe.anzahl();
-    Calc().Legierung_Setzen(legierung->komponenten());
-    m_gerechnet = m_dokument.eingabe;
+    uebernehmeWieEingetragen();
     return true;
+}
+
+void Programm::uebernehmeWieEingetragen()
+{
+    zerna::Eingabe& eingabe = m_dokument.eingabe;
+    Legierung legierung;
+    for (int i = 0; i < eingabe.anzahl(); ++i) {
+        const zerna::Eingabe::Zeile& zeile = eingabe.zeile(i);
+        legierung.add({zeile.element, eingabe.prozentInKraft(i).wert, zeile.inKraft.dichte, zeile.inKraft.valenz});
+    }
+    eingabe.elementeSetzen();
+    m_komponentenzahl = eingabe.anzahl();
+    if (!eingabe.istVollstaendig())
+        Calc().setKf_2(Unbekannt); // outlasts an alloy that cannot be computed
+    Calc().Legierung_Setzen(legierung.komponenten());
+    m_gerechnet = eingabe;
 }
 
 void Programm::shutdown() noexcept

@@ -83,6 +83,10 @@ public:
     /// readable at%.
     bool uebernehmen();
 
+    /// Hands the entered alloy to Calc as it stands, with unknown results where something is missing, so that nothing
+    /// of another alloy remains.
+    void uebernehmeWieEingetragen();
+
     /// Components of the alloy in Calc.
     int Komponentenzahl() const { return m_komponentenzahl; }
 

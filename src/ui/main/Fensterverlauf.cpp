@@ -50,9 +50,19 @@ void frmMain::zeigeDokument()
     m_meldung->zeige({});
 }
 
+/// Shows the document with results of its own: none while its alloy is incomplete.
+void frmMain::zeigeEigenes()
+{
+    if (!m_programm.Eingabe().istVollstaendig()) {
+        m_programm.uebernehmeWieEingetragen();
+        m_ergebnisse->zeige(m_programm.gerechneteEingabe());
+    }
+    zeigeDokument();
+}
+
 void frmMain::beginneDokument()
 {
-    zeigeDokument();
+    zeigeEigenes();
     m_conWiegen1->vergissAbgelegte();
     m_verlauf.beginne();
     emit begonnen();
@@ -65,7 +75,7 @@ void frmMain::zeigeStand(const Verlauf::Stand& stand, const Verlauf::Stand& vorh
     const QString text = field != nullptr ? field->text() : QString();
     if (stand.gerechnet && *stand.gerechnet != m_programm.gerechneteEingabe()) {
         m_programm.Eingabe() = *stand.gerechnet; // an incomplete alloy is seen with the results of the one before
-        zeigeDokument();
+        zeigeEigenes();
         m_programm.Dokument() = stand.dokument;
     }
     zeigeDokument();

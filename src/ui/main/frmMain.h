@@ -79,6 +79,7 @@ private:
     void createCalculatorPanel(Dialoge dialoge);
     void connectPanels();
     void connectVerlauf();
+    void zeigeEigenes();
     void zeigeStand(const Verlauf::Stand& stand, const Verlauf::Stand& vorher);
     void fillMenu();
     QAction* addSchritt(const QString& text, const char* name, const QList<QKeySequence>& tasten);

@@ -19,7 +19,7 @@ QString ursache(const Laufzeitfehler& error)
 /// The sentence about the component that is to blame.
 QString satz(const clsCalc& calc, const Wiegehindernis& hindernis)
 {
-    return toQt(calc.Element_Name(hindernis.komponente) + " " + hindernis.grund);
+    return toQt(calc.Element_Name(hindernis.komponente) + " " + hindernis.grund).trimmed(); // maybe no element
 }
 
 } // namespace

@@ -135,7 +135,7 @@ void Wiegezeile::layOut(QGridLayout& grid, int gridRow)
 
 std::optional<AbgelegteMasse> Wiegezeile::zeige(const std::string& symbol, const QString& name)
 {
-    auto taken = symbol == m_symbol ? std::nullopt : takeMasse();
+    auto taken = symbol == m_symbol || m_symbol.empty() ? std::nullopt : takeMasse(); // maybe of no element yet
     m_symbol = symbol;
     for (QWidget* const widget : widgets())
         widget->show();

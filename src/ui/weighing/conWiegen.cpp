@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "core/CheckedArithmetic.h"
 #include "core/Fehlermeldung.h"
 #include "core/Zahlentext.h"
 #include "model/Einwaage.h"
@@ -51,6 +50,7 @@ void conWiegen::createTarget()
     m_txtSollMasse->setMasse(QStringLiteral("1000"));
     m_sollMasseCaption->setBuddy(m_txtSollMasse);
     connect(m_txtSollMasse, &Massenfeld::textChanged, this, [this](const QString& text) {
+        m_offenerBezug.reset();
         daten().gewuenscht = fromQt(text);
         computeTargets();
         showAuskunft();
@@ -133,18 +133,24 @@ void conWiegen::Aktualisieren(const Eingabe& eingabe)
         if (auto taken = zeigeKomponente(row)) {
             m_ablage->legeAb(row, *std::move(taken));
             gewogen(row).clear();
+            if (m_offenerBezug && m_offenerBezug->komponente == row)
+                m_offenerBezug.reset();
         }
     }
     m_meldung->merke(std::nullopt);
     computeTargets();
+    bezieheOffenes();
     weigh(); // the same masses mean other at% now
 }
 
 /// Shows the component of a row, or none; a mass that was weighed of another one is taken out and returned.
 std::optional<AbgelegteMasse> conWiegen::zeigeKomponente(int row)
 {
+    if (row >= m_anzahl)
+        return at(row).hide();
     const clsCalc& calc = m_programm.Calc();
-    return row < m_anzahl ? at(row).zeige(calc.Element_Symbol(row), toQt(calc.Element_Name(row))) : at(row).hide();
+    const QString name = toQt(calc.Element_Name(row));
+    return at(row).zeige(calc.Element_Symbol(row), name.isEmpty() ? QStringLiteral("(kein Element)") : name);
 }
 
 /// A mass that is there again is no longer offered to be put back, one that is not there any more is.
@@ -166,7 +172,9 @@ void conWiegen::zeigeDokument()
     if (m_anzahl == 0)
         return;
     computeTargets();
-    if (shown.bezug && shown.bezug->komponente < m_anzahl)
+    m_offenerBezug = m_programm.gerechneteEingabe().istVollstaendig() ? std::nullopt : shown.bezug;
+    bezieheOffenes();
+    if (!m_offenerBezug && shown.bezug && shown.bezug->komponente < m_anzahl)
         reporting(m_programm.boxes(), "zeigeDokument", Wiegesteuerelement, [&] { beziehe(*shown.bezug); });
     weigh();
 }
@@ -175,45 +183,6 @@ void conWiegen::vergissAbgelegte()
 {
     m_ablage->leere();
     m_ablage->zeige(m_anzahl);
-}
-
-/// Target masses for the wanted total.
-void conWiegen::computeTargets()
-{
-    m_sollFehler.reset();
-    m_sollmassen.clear();
-    setBezug(std::nullopt);
-    try {
-        const float wanted = wiegezahl(m_txtSollMasse->masse());
-        m_sollmassen = sollmassen(m_programm.Calc(), m_anzahl, wanted);
-        showTargets(wanted);
-    } catch (const Laufzeitfehler& error) {
-        m_sollFehler = error;
-        for (Wiegezeile* const zeile : m_zeilen) {
-            zeile->zeigeSollmasse({});
-            zeile->zeigeSollanteil({});
-        }
-    }
-}
-
-void conWiegen::showTargets(float wanted)
-{
-    for (int row = 0; const float masse : m_sollmassen) {
-        const QString share = wanted == 0 ? QString() : toQt(fixedText(quotient(masse, wanted) * 100, 2));
-        at(row).zeigeSollmasse(toQt(massentext(masse)));
-        at(row++).zeigeSollanteil(share);
-    }
-}
-
-void conWiegen::setBezug(const std::optional<Wiegebezug>& bezug)
-{
-    daten().bezug = bezug;
-    for (int row = 0; row < MaxKomponenten; ++row) {
-        const bool isReference = bezug && bezug->komponente == row;
-        at(row).zeigeBezug(isReference
-                ? QStringLiteral("Die übrigen Sollmassen beziehen sich auf %1 mg").arg(toQt(textOfSingle(bezug->masse)))
-                : QString());
-    }
 }
 
 std::vector<float> conWiegen::massen() const
@@ -233,7 +202,8 @@ bool conWiegen::isAnythingWeighed() const
 bool conWiegen::isEverythingWeighed() const
 {
     for (int row = 0; row < m_anzahl; ++row) {
-        if (!at(row).istGewogen() && m_programm.Calc().Element_Prozente(row) != 0)
+        const float prozent = m_programm.Calc().Element_Prozente(row);
+        if (istUnbekannt(prozent) || (!at(row).istGewogen() && prozent != 0))
             return false;
     }
     return true;
@@ -258,8 +228,10 @@ std::optional<Laufzeitfehler> conWiegen::weigh()
     try {
         if (isAnythingWeighed())
             showWeighed();
-        else if (daten().bezug)
+        else if (daten().bezug) {
+            m_offenerBezug.reset();
             computeTargets();
+        }
     } catch (const Laufzeitfehler& error) {
         m_istFehler = error;
         for (Wiegezeile* const zeile : m_zeilen)
@@ -288,39 +260,6 @@ void conWiegen::showWeighed()
         at(row).zeigeAtomprozent(prozente[k], isComplete ? std::optional(deviation) : std::nullopt);
         at(row).zeigeMassenanteil(toQt(fixedText(shares[k], 2)));
     }
-}
-
-/// The mass weighed in this row becomes the reference for the others' target masses.
-void conWiegen::Istmasse_KeyDown(int row)
-{
-    m_meldung->zeige();
-    const clsCalc& calc = m_programm.Calc();
-    if (calc.Element_Prozente(row) == 0) {
-        m_programm.boxes().show(Icon::Exclamation, "Zerna @ Marra",
-            "Atomprozente von " + calc.Element_Name(row) + " sind nicht angegeben!");
-        return;
-    }
-    if (!at(row).istGewogen()) {
-        m_programm.boxes().show(
-            Icon::Exclamation, Programmtitel, "Masse von " + calc.Element_Name(row) + " ist nicht angegeben!");
-        return;
-    }
-    reporting(m_programm.boxes(), "Istmasse_KeyDown", Wiegesteuerelement, [&] {
-        beziehe({row, wiegezahl(at(row).istmasse())});
-        emit geschehen({QStringLiteral("Bezug auf %1").arg(symbol(row))});
-    });
-}
-
-void conWiegen::beziehe(const Wiegebezug& bezug)
-{
-    m_sollmassen = sollmassenZu(m_programm.Calc(), m_anzahl, bezug.komponente, bezug.masse);
-    m_sollFehler.reset();
-    for (int other = 0; other < m_anzahl; ++other) {
-        if (other != bezug.komponente)
-            at(other).zeigeSollmasse(toQt(massentext(m_sollmassen[static_cast<std::size_t>(other)])));
-    }
-    setBezug(bezug);
-    showAuskunft();
 }
 
 /// Says in the fields and below them what is missing.
@@ -370,8 +309,7 @@ Wiegeprotokoll conWiegen::protokoll() const
     protokoll.datum = fromQt(QDate::currentDate().toString(QStringLiteral("d.M.yyyy")));
     const clsCalc& calc = m_programm.Calc();
     for (int row = 0; row < m_anzahl; ++row)
-        protokoll.zeilen.push_back(
-            at(row).einwaage(calc.Element_Symbol(row), textOfSingle(calc.Element_Prozente(row))));
+        protokoll.zeilen.push_back(at(row).einwaage(calc.Element_Symbol(row), feldtext(calc.Element_Prozente(row))));
     if (isAnythingWeighed() && !m_gesamt->text().isEmpty())
         protokoll.gewogen = textWithDigits(gesamtmasse(massen()), 7); // all that a single holds
     const std::optional<Wiegebezug>& bezug = m_programm.Dokument().wiegen.bezug;

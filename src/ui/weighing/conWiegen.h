@@ -77,6 +77,7 @@ private:
     std::vector<float> massen() const;
     bool isAnythingWeighed() const;
     bool isEverythingWeighed() const;
+    void bezieheOffenes();
     Wiegeprotokoll protokoll() const;
 
     Wiegedaten& daten() { return m_programm.Dokument().wiegen; }
@@ -85,6 +86,7 @@ private:
     Wiegezeile& at(int row) const { return *m_zeilen.at(static_cast<std::size_t>(row)); }
 
     Programm& m_programm;
+    std::optional<Wiegebezug> m_offenerBezug; // waits for the at% of a document that came without
     int m_anzahl = 0; // components of the alloy that is weighed
     std::vector<float> m_sollmassen; // mg, one per component; none if they cannot be computed
     std::optional<Laufzeitfehler> m_sollFehler; // why not

@@ -13,6 +13,7 @@
 #include "support/ModalDialog.h"
 #include "support/Traegerbilder.h"
 #include "traeger/Svg.h"
+#include "ui/controls/Befundzeile.h"
 #include "ui/main/Titeldialog.h"
 
 namespace zerna {
@@ -92,6 +93,40 @@ TEST_F(DateibefehleTest, DroppedAndNamedFilesAreOpened)
         "Die Option \"-x\" gibt es nicht.\r\nAufruf: zerna [DATEI]\n");
     window->oeffneArgumente({QString::fromStdString((folder / "Al-Cu.zerna").string())});
     EXPECT_EQ(title(), "Al-Cu.zerna[*] – Zerna");
+}
+
+/// Nothing of the document before is seen, and nothing of the file is lost when its at% come.
+TEST_F(DateibefehleTest, AnIncompleteAlloyIsShownWithWhatBelongsToIt)
+{
+    click("cmdKnopf1_1");
+    type("Istmasse_0", "100");
+    type("Istmasse_1", "200,5");
+    QTest::keyClick(&find("Istmasse_1"), Qt::Key_Return);
+    type("txtProzent_0", "");
+    QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier);
+    const Dokument saved = programm->Dokument();
+    ASSERT_TRUE(saved.wiegen.bezug);
+    QTest::keyClick(window.get(), Qt::Key_N, Qt::ControlModifier);
+    choose("cmbElement_0", "Zn");
+    find<QAction>("mnuKom_1").trigger();
+    ASSERT_EQ(programm->Eingabe().anzahl(), 1);
+    boxes.way = 1;
+    window->oeffneArgumente({QString::fromStdString((folder / "Al-Cu.zerna").string())});
+    const char* const incomplete = "Aluminium|Kupfer|100|200,5|||Bezug|Gesamtmasse = 300,5 mg|"
+                                   "Sollmassen nicht berechenbar: Aluminium hat keine lesbaren at%.|||";
+    const std::vector<const char*> seen{"Label_0", "Label_1", "Istmasse_0", "Istmasse_1", "Sollmasse_0", "Abweichung_0",
+        "Bezug_1", "lblGesamtmasse", "lblHinweis", "txtMFE_1", "txtMFE_2", "lblMFE_3"};
+    EXPECT_EQ(texts(seen), incomplete);
+    EXPECT_EQ(
+        find<Befundzeile>("lblBefund").befund(), QStringLiteral("Komponente 1 (Al): at% fehlt. Eine Zahl eintragen."));
+    EXPECT_EQ(title(), "Al-Cu.zerna[*] – Zerna");
+    type("txtProzent_0", "60");
+    EXPECT_EQ(texts({"Istmasse_0", "Istmasse_1", "Sollmasse_0", "Bezug_1"}), "100|200,5|127,698|Bezug");
+    EXPECT_EQ(programm->Dokument().wiegen, saved.wiegen);
+    QTest::keyClick(&find("txtProzent_0"), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(texts(seen), incomplete);
+    EXPECT_EQ(title(), "Al-Cu.zerna[*] – Zerna");
+    EXPECT_TRUE(boxes.shown.empty());
 }
 
 TEST_F(DateibefehleTest, TitleAndRemarkAreAStep)
