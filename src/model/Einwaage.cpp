@@ -114,7 +114,7 @@ std::optional<Wiegehindernis> sollmassenHindernis(const clsCalc& calc, int kompo
 {
     for (int i = 0; i < komponentenzahl; ++i) {
         if (calc.Element_Symbol(i).empty())
-            return Wiegehindernis{i, "Komponente " + std::to_string(i + 1) + " hat kein Element"};
+            return Wiegehindernis{i, "hat kein Element"};
         if (istUnbekannt(calc.Element_Prozente(i)))
             return Wiegehindernis{i, "hat keine lesbaren at%"};
         if (calc.Element_Prozente(i) < 0)

@@ -19,7 +19,9 @@ QString ursache(const Laufzeitfehler& error)
 /// The sentence about the component that is to blame.
 QString satz(const clsCalc& calc, const Wiegehindernis& hindernis)
 {
-    return toQt(calc.Element_Name(hindernis.komponente) + " " + hindernis.grund).trimmed(); // maybe no element
+    const std::string name = calc.Element_Name(hindernis.komponente); // empty without an element
+    return toQt(
+        (name.empty() ? "Komponente " + std::to_string(hindernis.komponente + 1) : name) + " " + hindernis.grund);
 }
 
 } // namespace

@@ -129,6 +129,21 @@ TEST_F(DateibefehleTest, AnIncompleteAlloyIsShownWithWhatBelongsToIt)
     EXPECT_TRUE(boxes.shown.empty());
 }
 
+TEST_F(DateibefehleTest, AMassWaitsForItsElement)
+{
+    type("Istmasse_0", "100");
+    QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier);
+    std::string bytes = bytesOf(folder / "Al-Cu.zerna");
+    bytes.replace(bytes.find("\"Al\""), 4, "\"\"");
+    writeBytes(folder / "x.zerna", bytes);
+    window->oeffneArgumente({QString::fromStdString((folder / "x.zerna").string())});
+    EXPECT_EQ(texts({"Label_0", "Istmasse_0", "Sollmasse_1", "lblHinweis"}),
+        "(kein Element)|100||Sollmassen nicht berechenbar: Komponente 1 hat kein Element.\n"
+        "Atomprozente nicht berechenbar: Komponente 1 hat keine bekannte Atommasse.");
+    choose("cmbElement_0", "Al");
+    EXPECT_EQ(texts({"Label_0", "Istmasse_0", "IstProzent_0"}), "Aluminium|100|100");
+}
+
 TEST_F(DateibefehleTest, TitleAndRemarkAreAStep)
 {
     const auto answer = [](Titeldialog& dialog) {
