@@ -91,6 +91,9 @@ TEST_F(DiagrammbereichTest, RandomEditsLeaveNoTrace)
             {"cmdDichte_1", "kristallin"}, {"cmbValenz_0", "Standard"}, {"cmbValenz_1", "Standard"},
             {"cmbDiagramm_Typ", "2 D"}, {"cmbDiagramm", "Valenz"}, {"cmbDiagramm_Element", "Al"}})
         choose(list, entry);
+    click("cmdKnopf1_1");
+    type("txtSollMasse", "1000"); // larger ones widen the column
+    click("cmdKnopf1_0");
     for (const char* const part : {"txtProzent_0", "txtMasse_0"}) // whichever is typed
         type(part, "50");
     click("Label2");
