@@ -40,8 +40,53 @@ std::string dichtewahlIn(Feldleser& leser, const Json& object)
     return wahl;
 }
 
+/// A value chosen from the table stands in the file as text and as number, which must be the same.
+void checkGewaehlt(Feldleser& leser, const Json& object, std::string_view key, const std::string& text, bool isSame)
+{
+    if (!isSame)
+        leser.ablehnen(leser.feld(object, key),
+            "Das passt nicht zum Text " + zitiert(text) + R"(; für einen eigenen Wert "wahl" auf "<andere>" setzen)");
+}
+
+/// A typed density that can be read is the one in force, whatever the file says besides.
+void readDichte(Feldleser& leser, const Json& json, Rohzeile& zeile)
+{
+    zeile.dichtewahl = dichtewahlIn(leser, json);
+    zeile.dichte = leser.text(json, "text", LongestField);
+    zeile.dichteInKraft = leser.wert(json, "wert");
+    const Eingabefeld typed = zahlenfeld(zeile.dichte);
+    if (zeile.dichtewahl != AndereWahl)
+        checkGewaehlt(leser, json, "wert", zeile.dichte, typed.wert == zeile.dichteInKraft);
+    else if (!typed.fehler)
+        zeile.dichteInKraft = typed.wert;
+}
+
+/// The same for the valence. What a formula came to in the file is kept to be compared with what it comes to here.
+void readValenz(
+    Feldleser& leser, const Json& json, Rohzeile& zeile, float& valenzwert, const ElementCollection& elements)
+{
+    zeile.valenzwahl = codeFor(leser, json, "wahl", Valenzworte);
+    zeile.valenz = leser.text(json, "text", LongestField);
+    zeile.valenzInKraft = leser.text(json, "inKraft", LongestField);
+    valenzwert = leser.wert(json, "wert");
+    if (leser.fehler())
+        return;
+    const Eingabefeld typed = valenzfeld(zeile.valenz, elements);
+    if (zeile.valenzwahl != ValenzAndere) {
+        const float inKraft = valenzfeld(zeile.valenzInKraft, elements).wert;
+        checkGewaehlt(leser, json, "inKraft", zeile.valenz, typed.wert == inKraft);
+        checkGewaehlt(leser, json, "wert", zeile.valenz, typed.wert == valenzwert);
+    } else if (!typed.fehler) {
+        const bool isFormula = !typed.echo.empty();
+        if (!isFormula || zeile.valenz != zeile.valenzInKraft)
+            valenzwert = typed.wert;
+        zeile.valenzInKraft = zeile.valenz;
+    }
+}
+
 /// Rows of a file, one after the other.
-void readZeile(Feldleser& leser, const Json& json, Rohzeile& zeile, float& valenzwert)
+void readZeile(
+    Feldleser& leser, const Json& json, Rohzeile& zeile, float& valenzwert, const ElementCollection& elements)
 {
     if (!json.is_object())
         leser.ablehnen(json, "Eine Zeile muss ein Objekt sein");
@@ -49,15 +94,8 @@ void readZeile(Feldleser& leser, const Json& json, Rohzeile& zeile, float& valen
     zeile.prozent = leser.text(json, "prozent", LongestField);
     if (zeile.element.empty())
         return;
-    const Json& dichte = leser.objekt(json, "dichte");
-    zeile.dichtewahl = dichtewahlIn(leser, dichte);
-    zeile.dichte = leser.text(dichte, "text", LongestField);
-    zeile.dichteInKraft = leser.wert(dichte, "wert");
-    const Json& valenz = leser.objekt(json, "valenz");
-    zeile.valenzwahl = codeFor(leser, valenz, "wahl", Valenzworte);
-    zeile.valenz = leser.text(valenz, "text", LongestField);
-    zeile.valenzInKraft = leser.text(valenz, "inKraft", LongestField);
-    valenzwert = leser.wert(valenz, "wert");
+    readDichte(leser, leser.objekt(json, "dichte"), zeile);
+    readValenz(leser, leser.objekt(json, "valenz"), zeile, valenzwert, elements);
 }
 
 /// The rows that a file leaves out hold what they hold at the start.
@@ -66,7 +104,7 @@ Dateilegierung readLegierung(Feldleser& leser, const Json& json, const ElementCo
     Dateilegierung legierung{Eingabe(elements).roh(), {}};
     const Json& zeilen = leser.liste(json, "zeilen", 1, MaxKomponenten);
     for (std::size_t i = 0; i < zeilen.size() && !leser.fehler(); ++i)
-        readZeile(leser, zeilen.at(i), legierung.roh.zeilen.at(i), legierung.valenzen.at(i));
+        readZeile(leser, zeilen.at(i), legierung.roh.zeilen.at(i), legierung.valenzen.at(i), elements);
     legierung.roh.anzahl = leser.ganzzahl(json, "anzahl", 1, std::max(1, static_cast<int>(zeilen.size())));
     legierung.roh.einheit = codeFor(leser, json, "einheit", Einheitenworte);
     legierung.roh.quelle = codeFor(leser, json, "getipptIn", Einheitenworte);

@@ -88,7 +88,7 @@ Eingabe Eingabe::aus(const ElementCollection& elements, const Rohlegierung& roh)
     eingabe.setAnzahl(roh.anzahl);
     for (std::size_t i = 0; i < roh.zeilen.size(); ++i)
         eingabe.m_zeilen.at(i) = zeileAus(elements, roh.zeilen.at(i));
-    eingabe.m_rest = zahlenfeld(roh.rest);
+    eingabe.takeRest(roh.rest);
     eingabe.m_nachgeschlagen.element = elements.find(roh.nachgeschlagen);
     eingabe.m_einheit = roh.einheit;
     eingabe.m_quelle = roh.quelle;
@@ -220,6 +220,15 @@ bool Eingabe::writeRest()
     } catch (const Laufzeitfehler&) {
         return false;
     }
+}
+
+/// Takes a kept rest, but only what the rows above leave counts; an entry in the balance row stays beside a right one.
+void Eingabe::takeRest(std::string_view text)
+{
+    const Eingabefeld entry = at(m_anzahl - 1).prozent;
+    const float kept = (m_rest = zahlenfeld(text)).wert;
+    if (writeRest() && m_rest.wert == kept)
+        at(m_anzahl - 1).prozent = entry;
 }
 
 Aenderung Eingabe::waehleDichte(int zeile, std::string_view wahl)

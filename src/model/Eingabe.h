@@ -71,8 +71,8 @@ public:
     /// One row of 100 at%, without an element; the others prepared with their first at%.
     explicit Eingabe(const ElementCollection& elements);
 
-    /// The alloy as it was kept, each text read again; 1 to 5 rows (error 9 outside). A row whose element the table
-    /// does not have has its at% only.
+    /// The alloy as it was kept, each text read again and balanced; 1 to 5 rows (error 9 outside). A row whose element
+    /// the table does not have has its at% only.
     static Eingabe aus(const ElementCollection& elements, const Rohlegierung& roh);
 
     /// What is to be kept of it: aus() makes an equal one of that.
@@ -184,6 +184,7 @@ private:
     void convert();
     bool balance();
     bool writeRest();
+    void takeRest(std::string_view text);
     void writeDichte(int zeile, Eingabefeld feld);
     void writeValenz(int zeile, Eingabefeld feld);
     void mirror(int zeile);

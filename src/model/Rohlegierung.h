@@ -25,7 +25,7 @@ struct Rohzeile {
 struct Rohlegierung {
     int anzahl = 1; ///< rows in use
     std::array<Rohzeile, MaxKomponenten> zeilen;
-    std::string rest; ///< part of the balance row
+    std::string rest; ///< part of the balance row; counts while a row above is unreadable
     std::string nachgeschlagen; ///< symbol of the element looked up last; empty for none
     Anteilseinheit einheit = Anteilseinheit::Atom; ///< that parts are typed in
     Anteilseinheit quelle = Anteilseinheit::Atom; ///< that those here were typed in

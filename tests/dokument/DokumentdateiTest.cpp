@@ -100,6 +100,15 @@ TEST_F(DokumentdateiTest, SaysWhereAndWhyAFileIsBroken)
         {"\"wert\": ", "\"wert\": 1e39, \"x\":",
             "Zeile 17, Spalte 29: \"wert\" muss eine Zahl von "
             "-3,40282346638529E+38 bis 3,40282346638529E+38 sein."},
+        {"\"text\": \"7,997\"", "\"text\": \"2,7\"",
+            "Zeile 32, Spalte 29: Das passt nicht zum Text \"2,7\"; für einen eigenen Wert \"wahl\" auf \"<andere>\" "
+            "setzen."},
+        {"\"inKraft\": \"1\"", "\"inKraft\": \"7\"",
+            "Zeile 37, Spalte 32: Das passt nicht zum Text \"1\"; für einen eigenen Wert \"wahl\" auf \"<andere>\" "
+            "setzen."},
+        {"\"inKraft\": \"1\",\n                    \"wert\": 1", "\"inKraft\": \"1\", \"wert\": 2",
+            "Zeile 37, Spalte 45: Das passt nicht zum Text \"1\"; für einen eigenen Wert \"wahl\" auf \"<andere>\" "
+            "setzen."},
         {"\"groesse\": 0", "\"groesse\": 99", "Zeile 77, Spalte 20: Eine Größe mit dieser Kennzahl gibt es nicht."},
         {"\"zoom\": 1.0", "\"zoom\": 1e9", "Zeile 83, Spalte 21: \"zoom\" muss eine Zahl von 0,5 bis 3 sein."},
         {"\"zoom\": 1.0", "\"zoom\": " + std::string(100, '['),
@@ -118,6 +127,47 @@ TEST_F(DokumentdateiTest, SaysWhereAndWhyAFileIsBroken)
     const std::string whole = schreibe(dokument);
     for (std::size_t length = 0; length < whole.size() - 2; length += 3)
         ASSERT_FALSE(read(whole.substr(0, length)).dokument) << length;
+}
+
+TEST_F(DokumentdateiTest, ComputesWithTheTextsThatItShows)
+{
+    Eingabe& eingabe = dokument.eingabe;
+    eingabe.waehleDichte(0, AndereWahl);
+    eingabe.setDichte(0, "9,9");
+    struct Row {
+        std::string before, after, dichte, valenz, shown;
+        std::array<float, 4> values; // density and valence of the first row, at% of both
+    };
+    const std::vector<Row> rows{
+        {"\"wert\": 9.9", "\"wert\": 2.7", "9,9", "2", "50", {9.9F, 2, 50, 50}},
+        {"\"wert\": 9.9", "\"wert\": null", "9,9", "2", "50", {9.9F, 2, 50, 50}},
+        {"\"text\": \"9,9\"", "\"text\": \"9,9 g\"", "9,9 g", "2", "50", {9.9F, 2, 50, 50}},
+        {"\"inKraft\": \"2\"", "\"inKraft\": \"7\"", "9,9", "2", "50", {9.9F, 2, 50, 50}},
+        {"\"text\": \"2\"", "\"text\": \"3\"", "9,9", "3", "50", {9.9F, 3, 50, 50}},
+        {"\"text\": \"2\"", "\"text\": \"z_Cu*4\"", "9,9", "z_Cu*4", "50", {9.9F, 4, 50, 50}},
+        {"\"prozent\": \"50\"", "\"prozent\": \"10\"", "9,9", "2", "90", {9.9F, 2, 10, 90}},
+        {"\"prozent\": \"50\"", "\"prozent\": \"x\"", "9,9", "2", "50", {9.9F, 2, Unbekannt, 50}},
+        {"\"rest\": \"50\"", "\"rest\": \"7\"", "9,9", "2", "50", {9.9F, 2, 50, 50}},
+    };
+    eingabe.setValenz(0, "2");
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.after);
+        const Lesung lesung = read(with(row.before, row.after));
+        ASSERT_TRUE(lesung.dokument) << lesung.fehler.text();
+        EXPECT_THAT(differences(lesung), testing::IsEmpty());
+        const Eingabe& got = lesung.dokument->eingabe;
+        EXPECT_EQ(got.zeile(0).dichte.text, row.dichte);
+        EXPECT_EQ(got.zeile(0).valenz.text, row.valenz);
+        EXPECT_EQ(got.zeile(1).prozent.text, row.shown);
+        const Legierung alloy = got.legierung().value();
+        const auto& all = alloy.komponenten();
+        EXPECT_THAT((std::array{all[0].dichte, all[0].valenz, all[0].prozent, all[1].prozent}),
+            testing::ElementsAreArray(row.values));
+        const std::string written = schreibe(*lesung.dokument);
+        EXPECT_EQ(schreibe(*read(written).dokument), written);
+    }
+    eingabe.setProzent(1, "7"); // does not count, but is still being typed
+    EXPECT_EQ(*read(schreibe(dokument)).dokument, dokument);
 }
 
 TEST_F(DokumentdateiTest, KeepsWhatANewerProgramLeft)

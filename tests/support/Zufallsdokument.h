@@ -62,6 +62,7 @@ public:
             break;
         case 3:
             eingabe.setProzentOhneAusgleich(zeile, text());
+            eingabe.gleicheAus();
             break;
         case 4:
             eingabe.nachschlagen(zeile);
