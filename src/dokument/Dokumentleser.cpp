@@ -124,7 +124,9 @@ Wiegedaten readWiegen(Feldleser& leser, const Json& json)
     if (leser.feld(json, "bezug").is_null())
         return wiegen;
     const Json& bezug = leser.objekt(json, "bezug");
-    wiegen.bezug = Wiegebezug{leser.ganzzahl(bezug, "zeile", 1, MaxKomponenten) - 1, leser.wert(bezug, "masse")};
+    const int zeile = leser.ganzzahl(bezug, "zeile", 1, MaxKomponenten) - 1;
+    const double masse = leser.zahl(bezug, "masse", 0, std::numeric_limits<float>::max());
+    wiegen.bezug = Wiegebezug{zeile, static_cast<float>(masse)};
     return wiegen;
 }
 

@@ -109,6 +109,10 @@ TEST_F(DokumentdateiTest, SaysWhereAndWhyAFileIsBroken)
         {"\"inKraft\": \"1\",\n                    \"wert\": 1", "\"inKraft\": \"1\", \"wert\": 2",
             "Zeile 37, Spalte 45: Das passt nicht zum Text \"1\"; für einen eigenen Wert \"wahl\" auf \"<andere>\" "
             "setzen."},
+        {"\"bezug\": null", "\"bezug\": {\"zeile\": 1, \"masse\": null}",
+            "Zeile 73, Spalte 40: \"masse\" muss eine Zahl von 0 bis 3,40282346638529E+38 sein."},
+        {"\"bezug\": null", "\"bezug\": {\"zeile\": 1, \"masse\": -1}",
+            "Zeile 73, Spalte 40: \"masse\" muss eine Zahl von 0 bis 3,40282346638529E+38 sein."},
         {"\"groesse\": 0", "\"groesse\": 99", "Zeile 77, Spalte 20: Eine Größe mit dieser Kennzahl gibt es nicht."},
         {"\"zoom\": 1.0", "\"zoom\": 1e9", "Zeile 83, Spalte 21: \"zoom\" muss eine Zahl von 0,5 bis 3 sein."},
         {"\"zoom\": 1.0", "\"zoom\": " + std::string(100, '['),

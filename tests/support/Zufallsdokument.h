@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cmath>
 #include <memory>
 #include <random>
 #include <string>
@@ -30,7 +31,7 @@ public:
             gewogen = text();
         dokument.wiegen.verlust = text();
         if (below(3) == 0)
-            dokument.wiegen.bezug = Wiegebezug{below(MaxKomponenten), single()};
+            dokument.wiegen.bezug = Wiegebezug{below(MaxKomponenten), std::abs(single())};
         dokument.diagramm = {static_cast<Diagrammtyp>(below(3)), below(11), below(MaxKomponenten), 1 + below(10),
             {real(-90, 90), real(-180, 180), real(0.5, 3), below(2) == 0}};
         dokument.vergleich = vergleich();
