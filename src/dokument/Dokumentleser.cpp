@@ -165,7 +165,8 @@ public:
         readKopf(root, dokument);
         dokument.eingabe = eingabe(m_leser.objekt(root, "legierung"), std::nullopt);
         dokument.wiegen = readWiegen(m_leser, m_leser.objekt(root, "einwaage"));
-        dokument.diagramm = readDiagramm(m_leser, m_leser.objekt(root, "diagramm"));
+        dokument.diagramm =
+            passendeWahl(readDiagramm(m_leser, m_leser.objekt(root, "diagramm")), dokument.eingabe.anzahl());
         dokument.vergleich = vergleich(m_leser.objekt(root, "vergleich"));
         if (m_leser.fehler()) {
             lesung.fehler = *m_leser.fehler();

@@ -24,4 +24,8 @@ struct Diagrammwahl {
     bool operator==(const Diagrammwahl&) const = default;
 };
 
+/// The choice as it can be shown of an alloy of so many rows: type, quantity or row that there is not become the first
+/// one.
+Diagrammwahl passendeWahl(Diagrammwahl wahl, int anzahl);
+
 } // namespace zerna

@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include "model/Groessen.h"
 #include "support/RechnerTest.h"
 #include "support/Zufallsdokument.h"
 
@@ -172,6 +173,31 @@ TEST_F(DokumentdateiTest, ComputesWithTheTextsThatItShows)
     }
     eingabe.setProzent(1, "7"); // does not count, but is still being typed
     EXPECT_EQ(*read(schreibe(dokument)).dokument, dokument);
+}
+
+TEST_F(DokumentdateiTest, ReadsADiagramThatCanBeShown)
+{
+    using enum Diagrammtyp;
+    const auto wahl = [](Diagrammtyp typ, int groesse, int komponente) {
+        return Diagrammwahl{.typ = typ, .groesse = groesse, .komponente = komponente, .aufloesung = 7, .ansicht = {}};
+    };
+    struct Row {
+        int rows;
+        Diagrammwahl written, read;
+    };
+    const std::vector<Row> rows{
+        {2, wahl(Ternaer, 5, 1), wahl(Konzentration, 5, 1)},
+        {3, wahl(Ternaer, 5, 2), wahl(Ternaer, 5, 2)},
+        {2, wahl(Konzentration, 5, 2), wahl(Konzentration, 5, 0)},
+        {2, wahl(Konzentration, 11, 1), wahl(Konzentration, 0, 1)},
+        {2, wahl(PSE, 11, 1), wahl(PSE, 11, 1)},
+        {2, wahl(PSE, GroesseDichte, 1), wahl(PSE, 0, 1)},
+    };
+    for (const Row& row : rows) {
+        dokument.eingabe.setAnzahl(row.rows);
+        dokument.diagramm = row.written;
+        EXPECT_EQ(read(schreibe(dokument)).dokument->diagramm, row.read) << schreibe(dokument);
+    }
 }
 
 TEST_F(DokumentdateiTest, KeepsWhatANewerProgramLeft)

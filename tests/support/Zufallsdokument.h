@@ -32,8 +32,9 @@ public:
         dokument.wiegen.verlust = text();
         if (below(3) == 0)
             dokument.wiegen.bezug = Wiegebezug{below(MaxKomponenten), std::abs(single())};
-        dokument.diagramm = {static_cast<Diagrammtyp>(below(3)), below(11), below(MaxKomponenten), 1 + below(10),
+        const Diagrammwahl wahl{static_cast<Diagrammtyp>(below(3)), below(11), below(MaxKomponenten), 1 + below(10),
             {real(-90, 90), real(-180, 180), real(0.5, 3), below(2) == 0}};
+        dokument.diagramm = passendeWahl(wahl, dokument.eingabe.anzahl());
         dokument.vergleich = vergleich();
         if (below(4) == 0)
             dokument.fremd = R"({"diagramm":{"farbe":"grün"},"neu":[1,null,{"a":-2.5}]})";
