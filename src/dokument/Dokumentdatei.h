@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,7 +16,13 @@ namespace zerna {
 
 inline constexpr int Dateiversion = 1;
 
-/// The file of a document. Keys that a newer program has left in it come along.
+/// What a file may hold besides being no larger than GroessteDatei; none beyond is read.
+inline constexpr std::size_t LaengstesFeld = 32767; // characters, as in a field of the window
+inline constexpr std::size_t LaengsteBemerkung = 1'000'000; // characters
+inline constexpr std::size_t MeistFremdes = 1'000'000; // bytes of keys that the program does not know
+
+/// The file of a document. Keys that a newer program has left in it come along. A file that would be too large for its
+/// line breaks goes without them.
 std::string schreibe(const Dokument& dokument);
 
 /// What became of a file.

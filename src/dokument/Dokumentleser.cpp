@@ -3,6 +3,7 @@
 #include <span>
 #include <utility>
 
+#include "core/Datei.h"
 #include "core/Kuerzung.h"
 #include "dokument/Dokumentdatei.h"
 #include "dokument/Dokumentjson.h"
@@ -16,14 +17,10 @@ namespace zerna {
 
 namespace {
 
-constexpr std::size_t LargestFile = 64UL << 20U; // bytes
-constexpr std::size_t LongestField = 32767; // characters, as in a field of the window
-constexpr std::size_t LongestRemark = 1'000'000;
-
 template <class Code, std::size_t Count>
 Code codeFor(Feldleser& leser, const Json& object, std::string_view key, const std::array<Wort<Code>, Count>& worte)
 {
-    const std::string text = leser.text(object, key, LongestField);
+    const std::string text = leser.text(object, key, LaengstesFeld);
     const auto found = std::ranges::find(worte, text, &Wort<Code>::wort);
     if (found != worte.end())
         return found->code;
@@ -33,7 +30,7 @@ Code codeFor(Feldleser& leser, const Json& object, std::string_view key, const s
 
 std::string dichtewahlIn(Feldleser& leser, const Json& object)
 {
-    std::string wahl = leser.text(object, "wahl", LongestField);
+    std::string wahl = leser.text(object, "wahl", LaengstesFeld);
     const auto known = dichtearten();
     if (wahl != AndereWahl && std::ranges::find(known, wahl) == known.end())
         leser.ablehnen(leser.feld(object, "wahl"), zitiert(wahl) + " ist hier nicht bekannt");
@@ -52,7 +49,7 @@ void checkGewaehlt(Feldleser& leser, const Json& object, std::string_view key, c
 void readDichte(Feldleser& leser, const Json& json, Rohzeile& zeile)
 {
     zeile.dichtewahl = dichtewahlIn(leser, json);
-    zeile.dichte = leser.text(json, "text", LongestField);
+    zeile.dichte = leser.text(json, "text", LaengstesFeld);
     zeile.dichteInKraft = leser.wert(json, "wert");
     const Eingabefeld typed = zahlenfeld(zeile.dichte);
     if (zeile.dichtewahl != AndereWahl)
@@ -66,8 +63,8 @@ void readValenz(
     Feldleser& leser, const Json& json, Rohzeile& zeile, float& valenzwert, const ElementCollection& elements)
 {
     zeile.valenzwahl = codeFor(leser, json, "wahl", Valenzworte);
-    zeile.valenz = leser.text(json, "text", LongestField);
-    zeile.valenzInKraft = leser.text(json, "inKraft", LongestField);
+    zeile.valenz = leser.text(json, "text", LaengstesFeld);
+    zeile.valenzInKraft = leser.text(json, "inKraft", LaengstesFeld);
     valenzwert = leser.wert(json, "wert");
     if (leser.fehler())
         return;
@@ -90,8 +87,8 @@ void readZeile(
 {
     if (!json.is_object())
         leser.ablehnen(json, "Eine Zeile muss ein Objekt sein");
-    zeile.element = leser.textOderNull(json, "element", LongestField);
-    zeile.prozent = leser.text(json, "prozent", LongestField);
+    zeile.element = leser.textOderNull(json, "element", LaengstesFeld);
+    zeile.prozent = leser.text(json, "prozent", LaengstesFeld);
     if (zeile.element.empty())
         return;
     readDichte(leser, leser.objekt(json, "dichte"), zeile);
@@ -108,19 +105,19 @@ Dateilegierung readLegierung(Feldleser& leser, const Json& json, const ElementCo
     legierung.roh.anzahl = leser.ganzzahl(json, "anzahl", 1, std::max(1, static_cast<int>(zeilen.size())));
     legierung.roh.einheit = codeFor(leser, json, "einheit", Einheitenworte);
     legierung.roh.quelle = codeFor(leser, json, "getipptIn", Einheitenworte);
-    legierung.roh.rest = leser.text(json, "rest", LongestField);
-    legierung.roh.nachgeschlagen = leser.textOderNull(json, "nachgeschlagen", LongestField);
+    legierung.roh.rest = leser.text(json, "rest", LaengstesFeld);
+    legierung.roh.nachgeschlagen = leser.textOderNull(json, "nachgeschlagen", LaengstesFeld);
     return legierung;
 }
 
 Wiegedaten readWiegen(Feldleser& leser, const Json& json)
 {
     Wiegedaten wiegen;
-    wiegen.gewuenscht = leser.text(json, "gewuenscht", LongestField);
+    wiegen.gewuenscht = leser.text(json, "gewuenscht", LaengstesFeld);
     const Json& gewogen = leser.liste(json, "gewogen", 0, MaxKomponenten);
     for (std::size_t i = 0; i < gewogen.size(); ++i)
-        wiegen.gewogen.at(i) = leser.text(gewogen.at(i), LongestField);
-    wiegen.verlust = leser.text(json, "verlust", LongestField);
+        wiegen.gewogen.at(i) = leser.text(gewogen.at(i), LaengstesFeld);
+    wiegen.verlust = leser.text(json, "verlust", LaengstesFeld);
     if (leser.feld(json, "bezug").is_null())
         return wiegen;
     const Json& bezug = leser.objekt(json, "bezug");
@@ -168,13 +165,13 @@ public:
         dokument.diagramm =
             passendeWahl(readDiagramm(m_leser, m_leser.objekt(root, "diagramm")), dokument.eingabe.anzahl());
         dokument.vergleich = vergleich(m_leser.objekt(root, "vergleich"));
+        dokument.fremd = fremdes(root, [&] { return dokumentjson(dokument); });
         if (m_leser.fehler()) {
             lesung.fehler = *m_leser.fehler();
             if (m_version > Dateiversion)
                 lesung.fehler.grund += "; die Datei stammt von einer neueren Version von Zerna";
             return lesung;
         }
-        dokument.fremd = fremdtext(root, dokumentjson(dokument));
         lesung.nurLesen = nurLesen();
         lesung.unterschiede = std::move(m_unterschiede);
         lesung.dokument = std::move(dokument);
@@ -188,8 +185,8 @@ private:
         if (kennung == root.end() || *kennung != Dateikennung)
             m_leser.ablehnen(root, R"(Das ist keine Zerna-Datei: Die Angabe "format": "Zerna-Legierung" fehlt)");
         m_version = m_leser.ganzzahl(root, "version", 1, std::numeric_limits<int>::max());
-        dokument.titel = m_leser.text(root, "titel", LongestField);
-        dokument.bemerkung = m_leser.text(root, "bemerkung", LongestRemark);
+        dokument.titel = m_leser.text(root, "titel", LaengstesFeld);
+        dokument.bemerkung = m_leser.text(root, "bemerkung", LaengsteBemerkung);
     }
 
     Eingabe eingabe(const Json& json, std::optional<std::size_t> variante)
@@ -213,15 +210,25 @@ private:
         for (std::size_t i = 0; i < varianten.size() && !m_leser.fehler(); ++i) {
             if (!varianten.at(i).is_object())
                 m_leser.ablehnen(varianten.at(i), "Eine Variante muss ein Objekt sein");
-            std::string name = m_leser.text(varianten.at(i), "name", LongestField);
+            std::string name = m_leser.text(varianten.at(i), "name", LaengstesFeld);
             Variante variante{std::move(name), eingabe(m_leser.objekt(varianten.at(i), "legierung"), i), {}};
-            if (!m_leser.fehler())
-                variante.fremd = fremdtext(varianten.at(i), variantenjson(variante));
+            variante.fremd = fremdes(varianten.at(i), [&] { return variantenjson(variante); });
             vergleich->varianten.push_back(std::move(variante));
         }
         const int most = std::max(1, static_cast<int>(varianten.size()));
         vergleich->referenz = static_cast<std::size_t>(m_leser.ganzzahl(json, "referenz", 1, most)) - 1;
         return vergleich;
+    }
+
+    /// The keys of a value that the program does not know, as long as all of them together are not too many.
+    template <class Known>
+    std::string fremdes(const Json& value, Known known)
+    {
+        std::string text = m_leser.fehler() ? "" : fremdtext(value, known());
+        m_fremdes += text.size();
+        if (m_fremdes > MeistFremdes)
+            m_leser.ablehnen(value, "Hier stehen mehr als 1 MB Angaben, die Zerna nicht kennt");
+        return text;
     }
 
     std::string nurLesen() const
@@ -243,6 +250,7 @@ private:
     const ElementCollection& m_elements;
     Feldleser m_leser;
     int m_version = Dateiversion;
+    std::size_t m_fremdes = 0; // bytes
     std::vector<Tabellenunterschied> m_unterschiede;
     std::vector<std::string> m_missing; // elements
 };
@@ -252,7 +260,7 @@ private:
 Lesung lies(std::string_view text, const ElementCollection& elements)
 {
     Lesung lesung;
-    if (text.size() > LargestFile) {
+    if (text.size() > GroessteDatei) {
         lesung.fehler.grund = "Die Datei ist größer als 64 MB";
         return lesung;
     }

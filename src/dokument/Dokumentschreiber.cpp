@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/Datei.h"
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
 #include "dokument/Dokumentdatei.h"
@@ -95,7 +96,9 @@ std::string schreibe(const Dokument& dokument)
     Json json = dokumentjson(dokument);
     fuegeEin(json, fremdesAus(dokument.fremd));
     json["vergleich"]["varianten"] = variantenliste(*dokument.vergleich);
-    return json.dump(4, ' ', false, Json::error_handler_t::replace) + '\n';
+    const auto text = [&](int indent) { return json.dump(indent, ' ', false, Json::error_handler_t::replace) + '\n'; };
+    std::string indented = text(4);
+    return indented.size() <= GroessteDatei ? indented : text(-1);
 }
 
 } // namespace zerna

@@ -107,8 +107,13 @@ private:
         return start;
     }
 
+    /// Null if there are too many values.
     Json* add(Json value)
     {
+        if (m_offsets.size() == Jsontext::MostValues) {
+            fail(nextToken(), "Die Datei hat zu viele Angaben");
+            return nullptr;
+        }
         m_offsets.push_back(nextToken());
         m_end = read();
         if (m_open.empty()) {
@@ -123,7 +128,8 @@ private:
 
     bool addNumber(Json value)
     {
-        add(std::move(value));
+        if (add(std::move(value)) == nullptr)
+            return false;
         if (m_end > 0 && (m_text[m_end - 1] < '0' || m_text[m_end - 1] > '9'))
             --m_end; // a number is read one character too far to see its end
         return true;
@@ -131,7 +137,10 @@ private:
 
     bool open(Json container)
     {
-        m_open.push_back(add(std::move(container)));
+        Json* const added = add(std::move(container));
+        if (added == nullptr)
+            return false;
+        m_open.push_back(added);
         return m_open.size() <= Jsontext::Deepest || fail(m_offsets.back(), "Die Datei ist zu tief verschachtelt");
     }
 

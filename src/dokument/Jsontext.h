@@ -16,11 +16,12 @@ namespace zerna {
 using Json = nlohmann::ordered_json;
 
 /// A JSON text with its value, which knows where each part of it stands. Refused are, besides what is no JSON in UTF-8:
-/// a key given twice, more than MostKeys keys in one object, deeper nesting than Deepest.
+/// a key given twice, more than MostKeys keys in one object, more than MostValues values, deeper nesting than Deepest.
 class Jsontext {
 public:
     static constexpr std::size_t Deepest = 64;
     static constexpr std::size_t MostKeys = 100;
+    static constexpr std::size_t MostValues = 200'000;
 
     explicit Jsontext(std::string_view text);
 

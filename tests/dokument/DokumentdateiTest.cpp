@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include "core/Datei.h"
 #include "model/Groessen.h"
 #include "support/RechnerTest.h"
 #include "support/Zufallsdokument.h"
@@ -218,6 +219,27 @@ TEST_F(DokumentdateiTest, KeepsWhatANewerProgramLeft)
     for (int key = 1; key <= keys; ++key)
         EXPECT_THAT(written, testing::HasSubstr("\"neu" + std::to_string(key) + "\": {"));
     EXPECT_EQ(schreibe(*read(written).dokument), written);
+}
+
+TEST_F(DokumentdateiTest, LimitsWhatAFileHolds)
+{
+    const auto error = [&](const std::string& foreign) {
+        return read(with("\"version\"", "\"neu\": " + foreign + ", \"version\"")).fehler.grund;
+    };
+    std::string values = "[0";
+    while (values.size() < MeistFremdes)
+        values += ",0";
+    EXPECT_EQ(error(values + "]"), "Die Datei hat zu viele Angaben");
+    EXPECT_EQ(
+        error('"' + std::string(MeistFremdes, 'x') + '"'), "Hier stehen mehr als 1 MB Angaben, die Zerna nicht kennt");
+    EXPECT_EQ(error('"' + std::string(MeistFremdes - 100, 'x') + '"'), "");
+    EXPECT_EQ(error('"' + std::string(GroessteDatei, 'x') + '"'), "Die Datei ist größer als 64 MB");
+
+    dokument.titel = std::string(LaengstesFeld, 'x');
+    dokument.bemerkung = std::string(LaengsteBemerkung, 'x');
+    EXPECT_EQ(*read(schreibe(dokument)).dokument, dokument);
+    dokument.bemerkung = std::string(GroessteDatei - LaengstesFeld - 4000, 'x');
+    EXPECT_LE(schreibe(dokument).size(), GroessteDatei);
 }
 
 TEST_F(DokumentdateiTest, TellsDifferencesToTheTableForKeepingOrTakingOver)
