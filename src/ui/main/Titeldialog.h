@@ -6,10 +6,14 @@
 
 class QLineEdit;
 class QPlainTextEdit;
+class QPushButton;
 
 namespace zerna {
 
-/// Asks for the title and the remark of a document.
+class Befundzeile;
+
+/// Asks for the title and the remark of a document. There is no OK while one is too long for a file, and a line says
+/// so: nothing is cut.
 class Titeldialog : public QDialog {
     Q_OBJECT
 
@@ -20,8 +24,13 @@ public:
     std::string bemerkung() const;
 
 private:
+    void pruefe();
+
     QLineEdit* m_txtTitel = nullptr;
     QPlainTextEdit* m_txtBemerkung = nullptr;
+    Befundzeile* m_lblZuLang = nullptr;
+    QWidget* m_zuLang = nullptr; // the field that the line is about
+    QPushButton* m_cmdOK = nullptr;
 };
 
 } // namespace zerna

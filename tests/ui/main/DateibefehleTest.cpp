@@ -1,20 +1,24 @@
 #include "ui/main/Dateibefehle.h"
 
+#include <QDialogButtonBox>
 #include <QDropEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QUrl>
 
 #include <gmock/gmock.h>
 
+#include "dokument/Dokumentdatei.h"
 #include "support/FakeDesk.h"
 #include "support/ModalDialog.h"
 #include "support/Traegerbilder.h"
 #include "traeger/Svg.h"
 #include "ui/controls/Befundzeile.h"
 #include "ui/main/Titeldialog.h"
+#include "ui/platform/QtText.h"
 
 namespace zerna {
 
@@ -159,6 +163,15 @@ TEST_F(DateibefehleTest, TitleAndRemarkAreAStep)
     EXPECT_EQ(title(), "Al-Cu.zerna[*] – Zerna *");
     find<QAction>("mnuRueckgaengig").trigger();
     EXPECT_EQ(programm->Dokument().titel + title(), "Al-Cu.zerna[*] – Zerna");
+
+    const std::string longest = "😀" + std::string(LaengstesFeld - 1, 'x'); // takes a place more there
+    for (const bool isTooLong : {false, true}) {
+        Titeldialog dialog(longest + (isTooLong ? "x" : ""), {}, nullptr);
+        EXPECT_EQ(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled(), !isTooLong);
+        EXPECT_EQ(fromQt(dialog.findChild<Befundzeile*>("lblZuLang")->befund()),
+            isTooLong ? "Der Titel hat 32768 Zeichen, höchstens 32767 sind möglich." : "");
+        EXPECT_EQ(dialog.titel().size(), longest.size() + (isTooLong ? 1 : 0));
+    }
 }
 
 } // namespace zerna
