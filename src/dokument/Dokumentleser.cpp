@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <limits>
 #include <span>
+#include <tuple>
 #include <utility>
 
 #include "core/Datei.h"
@@ -95,6 +96,21 @@ void readZeile(
     readValenz(leser, leser.objekt(json, "valenz"), zeile, valenzwert, elements);
 }
 
+/// Rows of the same element share density and valence, so what a file says of it must be the same in each.
+void checkGleiche(Feldleser& leser, const Json& zeilen, std::span<const Rohzeile> read)
+{
+    const auto values = [](const Rohzeile& zeile) {
+        return std::tie(
+            zeile.dichtewahl, zeile.dichte, zeile.dichteInKraft, zeile.valenzwahl, zeile.valenz, zeile.valenzInKraft);
+    };
+    for (std::size_t i = 0; i < zeilen.size() && !leser.fehler(); ++i) {
+        const auto first = std::ranges::find(read, read[i].element, &Rohzeile::element);
+        if (values(*first) != values(read[i]))
+            leser.ablehnen(zeilen.at(i),
+                "Die Zeilen von " + zitiert(read[i].element) + " müssen dieselbe Dichte und Valenz haben");
+    }
+}
+
 /// The rows that a file leaves out hold what they hold at the start.
 Dateilegierung readLegierung(Feldleser& leser, const Json& json, const ElementCollection& elements)
 {
@@ -102,6 +118,7 @@ Dateilegierung readLegierung(Feldleser& leser, const Json& json, const ElementCo
     const Json& zeilen = leser.liste(json, "zeilen", 1, MaxKomponenten);
     for (std::size_t i = 0; i < zeilen.size() && !leser.fehler(); ++i)
         readZeile(leser, zeilen.at(i), legierung.roh.zeilen.at(i), legierung.valenzen.at(i), elements);
+    checkGleiche(leser, zeilen, legierung.roh.zeilen);
     legierung.roh.anzahl = leser.ganzzahl(json, "anzahl", 1, std::max(1, static_cast<int>(zeilen.size())));
     legierung.roh.einheit = codeFor(leser, json, "einheit", Einheitenworte);
     legierung.roh.quelle = codeFor(leser, json, "getipptIn", Einheitenworte);

@@ -172,6 +172,8 @@ TEST_F(DokumentdateiTest, ComputesWithTheTextsThatItShows)
         const std::string written = schreibe(*lesung.dokument);
         EXPECT_EQ(schreibe(*read(written).dokument), written);
     }
+    EXPECT_EQ(read(with("\"element\": \"Cu\"", "\"element\": \"Al\"")).fehler.text(),
+        "Zeile 26, Spalte 13: Die Zeilen von \"Al\" müssen dieselbe Dichte und Valenz haben.");
     eingabe.setProzent(1, "7"); // does not count, but is still being typed
     EXPECT_EQ(*read(schreibe(dokument)).dokument, dokument);
 }
