@@ -293,8 +293,11 @@ void Diagrammbereich::drawConcentration(bool keepSelection)
     if (showObstacle())
         return;
     m_picDiagramm->display().setKompositionBereit(m_eingabe.istVollstaendig());
-    if (!m_eingabe.istVollstaendig()) // while an at% is being typed the diagram stays, as the results do
+    if (!m_eingabe.istVollstaendig()) { // while an at% is being typed the diagram stays, as the results do
+        if (!m_programm.gerechneteEingabe().istVollstaendig())
+            m_picDiagramm->showFehler(QStringLiteral("Es sind nicht alle Anteile eingetragen!"));
         return;
+    }
     try {
         drawSeries();
         m_picDiagramm->showKonzentration();

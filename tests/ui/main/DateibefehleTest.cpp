@@ -124,7 +124,9 @@ TEST_F(DateibefehleTest, AnIncompleteAlloyIsShownWithWhatBelongsToIt)
     EXPECT_EQ(
         find<Befundzeile>("lblBefund").befund(), QStringLiteral("Komponente 1 (Al): at% fehlt. Eine Zahl eintragen."));
     EXPECT_EQ(title(), "Al-Cu.zerna[*] – Zerna");
+    EXPECT_FALSE(find("conDisplay1").isVisible()); // it says why there is no diagram
     type("txtProzent_0", "60");
+    EXPECT_TRUE(find("conDisplay1").isVisible());
     EXPECT_EQ(texts({"Istmasse_0", "Istmasse_1", "Sollmasse_0", "Bezug_1"}), "100|200,5|127,698|Bezug");
     EXPECT_EQ(programm->Dokument().wiegen, saved.wiegen);
     QTest::keyClick(&find("txtProzent_0"), Qt::Key_Z, Qt::ControlModifier);
