@@ -98,6 +98,7 @@ TEST_F(DiagrammbereichTest, RandomEditsLeaveNoTrace)
         type(part, "50");
     click("Label2");
     type("txtProzent_0", "50");
+    QCoreApplication::processEvents(); // the layout follows
     EXPECT_EQ(picture(), before);
     EXPECT_EQ(text("lblMFE_7"), "9,8778 eV");
 }
