@@ -34,6 +34,12 @@ void Massenablage::legeAb(int row, AbgelegteMasse masse)
     m_massen.at(static_cast<std::size_t>(row)) = std::move(masse);
 }
 
+QString Massenablage::komponente(int row) const
+{
+    const auto& masse = m_massen.at(static_cast<std::size_t>(row));
+    return masse ? masse->komponente : QString();
+}
+
 std::optional<AbgelegteMasse> Massenablage::nimm(int row)
 {
     return std::exchange(m_massen.at(static_cast<std::size_t>(row)), std::nullopt);

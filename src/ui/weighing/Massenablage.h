@@ -29,6 +29,9 @@ public:
 
     void legeAb(int row, AbgelegteMasse masse);
 
+    /// The component whose mass was taken out of a row; empty for none.
+    QString komponente(int row) const;
+
     /// The mass taken out of a row, which is then forgotten; no value if there is none.
     std::optional<AbgelegteMasse> nimm(int row);
 

@@ -160,6 +160,8 @@ std::optional<AbgelegteMasse> Wiegezeile::takeMasse()
     return taken;
 }
 
+QString Wiegezeile::komponente() const { return m_label->text(); }
+
 float Wiegezeile::istmasse() const { return m_istmasse->masse(); }
 
 bool Wiegezeile::istGewogen() const { return !m_istmasse->text().isEmpty(); }

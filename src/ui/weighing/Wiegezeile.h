@@ -42,6 +42,7 @@ public:
 
     /// The mass weighed in mg; Unbekannt while its field holds none.
     float istmasse() const;
+    QString komponente() const; ///< its name
     bool istGewogen() const; ///< something has been typed, be it valid or not
     QString gewogen() const; ///< as typed
     void setIstmasse(const QString& text); ///< without taking it for typing

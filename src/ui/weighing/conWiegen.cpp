@@ -290,13 +290,33 @@ std::string conWiegen::wiegestandText() const
     return wiegestand(m_programm.Calc(), wiegungen, m_programm.Dokument().wiegen.bezug);
 }
 
-void conWiegen::putBack()
+/// The row of a component by its name; -1 if there is none.
+int conWiegen::zeileVon(const QString& komponente) const
 {
     for (int row = 0; row < m_anzahl; ++row) {
-        if (const auto taken = m_ablage->nimm(row))
-            at(row).setIstmasse(taken->masse);
-        gewogen(row) = fromQt(at(row).gewogen());
+        if (at(row).komponente() == komponente)
+            return row;
     }
+    return -1;
+}
+
+/// Puts the mass taken out of one row into another one that has none.
+void conWiegen::setzeIn(int from, int row)
+{
+    if (row < 0 || at(row).istGewogen())
+        return;
+    if (const auto taken = m_ablage->nimm(from))
+        at(row).setIstmasse(taken->masse);
+    gewogen(row) = fromQt(at(row).gewogen());
+}
+
+void conWiegen::putBack()
+{
+    // A mass goes to its component wherever that stands now, else back into its row.
+    for (int from = 0; from < MaxKomponenten; ++from)
+        setzeIn(from, zeileVon(m_ablage->komponente(from)));
+    for (int row = 0; row < m_anzahl; ++row)
+        setzeIn(row, row);
     weigh();
     emit geschehen({QStringLiteral("Istmassen zurückholen")});
 }

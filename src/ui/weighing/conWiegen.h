@@ -63,6 +63,8 @@ private:
     void Istmasse_Change(int row);
     void Istmasse_KeyDown(int row);
     void zeigeVerlust();
+    int zeileVon(const QString& komponente) const;
+    void setzeIn(int from, int row);
     void putBack();
 
     std::optional<AbgelegteMasse> zeigeKomponente(int row);

@@ -30,4 +30,17 @@ TEST_F(conWiegenTest, NothingMovesWhileMassesCome)
     EXPECT_EQ(places(), before);
 }
 
+TEST_F(conWiegenTest, AMassThatWasTakenAwayGoesBackToItsOwnComponent)
+{
+    openAluminiumCopper();
+    click("cmdKnopf1_1");
+    type("Istmasse_0", "300");
+    type("Istmasse_1", "700");
+    choose("cmbElement_0", "Pb");
+    choose("cmbElement_1", "Al");
+    click("cmdZurueckholen");
+    EXPECT_EQ(text("Istmasse_1"), "300") << "of aluminium";
+    EXPECT_EQ(text("Istmasse_0"), "") << "copper is gone, and the place of aluminium is not its";
+}
+
 } // namespace zerna
