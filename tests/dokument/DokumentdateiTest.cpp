@@ -264,7 +264,8 @@ TEST_F(DokumentdateiTest, TellsDifferencesToTheTableForKeepingOrTakingOver)
     const auto values = [&](const Dokument& read) {
         std::vector<float> found;
         for (const Eingabe& eingabe : {read.eingabe, read.vergleich->varianten.front().eingabe}) {
-            for (const Legierungskomponente& komponente : eingabe.legierung()->komponenten())
+            const auto legierung = eingabe.legierung();
+            for (const Legierungskomponente& komponente : legierung->komponenten())
                 found.insert(found.end(), {komponente.dichte, komponente.valenz});
         }
         return found;
