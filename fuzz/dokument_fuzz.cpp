@@ -1,49 +1,23 @@
 #include <cstdint>
-#include <cstdlib>
-#include <memory>
 #include <string>
 
+#include "Elemente.h"
+#include "Pruefung.h"
 #include "dokument/Dokumentdatei.h"
-#include "support/RecordingBoxes.h"
 
 using namespace zerna;
 
 namespace {
 
-void require(bool condition)
+ElementRecord record(const char* symbol, float valenz, float fluessig, float kristallin)
 {
-    if (!condition)
-        std::abort();
+    ElementRecord record;
+    record.symbol = record.Name = symbol;
+    record.Valenz = valenz;
+    record.Dichte_Fluessig = fluessig;
+    record.Dichte_Kristallin = kristallin;
+    return record;
 }
-
-/// Two elements.
-class Tabelle {
-public:
-    Tabelle()
-    {
-        add("Al", 3, 2.377F, 2.7F);
-        add("Cu", 1, 7.997F, 8.93F);
-    }
-
-    const ElementCollection& elements() const { return m_elements; }
-
-private:
-    void add(const char* symbol, float valenz, float fluessig, float kristallin)
-    {
-        const auto element = std::make_shared<clsElement>(m_files, m_boxes);
-        ElementRecord record;
-        record.symbol = record.Name = symbol;
-        record.Valenz = valenz;
-        record.Dichte_Fluessig = fluessig;
-        record.Dichte_Kristallin = kristallin;
-        element->setRecord(record);
-        m_elements.Add(element, symbol);
-    }
-
-    Dateinummern m_files;
-    RecordingBoxes m_boxes;
-    ElementCollection m_elements;
-};
 
 } // namespace
 
@@ -51,8 +25,10 @@ private:
 /// values that the table gives otherwise leaves none.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static const Tabelle Elemente;
-    const ElementCollection& elements = Elemente.elements();
+    Elemente elemente;
+    elemente.add(record("Al", 3, 2.377F, 2.7F));
+    elemente.add(record("Cu", 1, 7.997F, 8.93F));
+    const ElementCollection& elements = *elemente;
     const std::string bytes(data, data + size);
     const Lesung lesung = lies(bytes, elements);
     if (!lesung.dokument) {

@@ -1,8 +1,8 @@
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
+#include "Pruefung.h"
 #include "core/Elementdatei.h"
 #include "support/RecordingBoxes.h"
 #include "support/TemporaryFolder.h"
@@ -20,12 +20,6 @@ std::vector<ElementRecord> recordsOf(const ElementCollection& elements)
     for (const auto& element : elements)
         records.push_back(element->record());
     return records;
-}
-
-void require(bool condition)
-{
-    if (!condition)
-        std::abort();
 }
 
 } // namespace

@@ -1,23 +1,16 @@
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
-#include <memory>
 #include <string>
 
+#include "Elemente.h"
+#include "Pruefung.h"
 #include "core/Zeichensatz.h"
 #include "model/Formeltext.h"
 #include "model/Legierungsformel.h"
-#include "support/RecordingBoxes.h"
 
 using namespace zerna;
 
 namespace {
-
-void require(bool condition)
-{
-    if (!condition)
-        std::abort();
-}
 
 /// What is read can be entered, written out as a formula and read again.
 void readBack(const Legierungsformel& formel, const ElementCollection& elements)
@@ -43,17 +36,12 @@ void readBack(const Legierungsformel& formel, const ElementCollection& elements)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string text(data, data + size);
-    Dateinummern files;
-    RecordingBoxes boxes;
-    ElementCollection elements;
-    for (const char* const symbol : {"Al", "B", "C", "Cu", "Co", "Fe", "Mg"}) {
-        auto element = std::make_shared<clsElement>(files, boxes);
-        element->setsymbol(symbol);
-        elements.Add(element, symbol);
-    }
+    Elemente elements;
+    for (const char* const symbol : {"Al", "B", "C", "Cu", "Co", "Fe", "Mg"})
+        elements.add(symbol, 1);
 
-    const auto [formel, fehler] = legierungsformel(text, elements);
-    require(boxes.shown.empty());
+    const auto [formel, fehler] = legierungsformel(text, *elements);
+    require(elements.boxes.shown.empty());
     if (fehler) {
         require(!fehler->grund.empty() && fehler->stelle <= zeichenzahl(text) + 1);
         return 0;
@@ -62,6 +50,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const Formelkomponente& komponente : formel.komponenten())
         sum += komponente.prozent;
     require(std::abs(sum - 100) <= 1e-4);
-    readBack(formel, elements);
+    readBack(formel, *elements);
     return 0;
 }

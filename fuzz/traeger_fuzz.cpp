@@ -1,7 +1,7 @@
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 
+#include "Pruefung.h"
 #include "support/Traegerbilder.h"
 #include "traeger/Dokumentfund.h"
 #include "traeger/Png.h"
@@ -10,12 +10,6 @@
 using namespace zerna;
 
 namespace {
-
-void require(bool condition)
-{
-    if (!condition)
-        std::abort();
-}
 
 /// What dokumentAus says, which is a document or a reason and never both.
 Dokumentfund foundIn(std::string_view bytes)

@@ -1,11 +1,11 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
 #include <cstring>
 #include <optional>
 #include <string>
 
+#include "Pruefung.h"
 #include "core/Laufzeitfehler.h"
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
@@ -13,12 +13,6 @@
 using namespace zerna;
 
 namespace {
-
-void require(bool condition)
-{
-    if (!condition)
-        std::abort();
-}
 
 /// The C library's reading of a decimal number text; numberIn must agree with it.
 double otherReading(std::string text)

@@ -14,6 +14,7 @@
 #include "core/Zeilenleser.h"
 #include "model/Groessenauswahl.h"
 #include "model/Legierungsliste.h"
+#include "programm/Dokumentoeffnung.h"
 #include "programm/Stapelrechner.h"
 
 namespace zerna {
@@ -71,6 +72,11 @@ public:
         const std::string name =
             datei == Standardeingabe ? "Standardeingabe" : "Datei " + zitiert(datei, Dateinamenlaenge);
         m_place = m_nameFiles ? name + ", " : std::string();
+        if (istDokumentname(datei)) {
+            say(name + ": ist schon eine Legierung; ohne --stapel nennen");
+            ++m_failures;
+            return;
+        }
         try {
             const Eingabestrom strom(datei);
             Zeilenleser zeilen([&](std::span<char> bytes) {

@@ -78,13 +78,8 @@ void Umgebung::loadFormel(std::span<const std::string> worte, Anteilseinheit ein
     load();
     const auto [formel, fehler] = legierungsformel(text, m_kern.elements(), einheit);
     if (fehler)
-        throw Aufruffehler("Legierung " + zitiert(text) + ": " + fehler->text());
-    std::vector<Komponentenangabe> angaben;
-    for (std::size_t i = 0; i < formel.komponenten().size(); ++i) {
-        const std::string& symbol = formel.komponenten()[i].element->symbol();
-        angaben.push_back({symbol, symbol, formel.prozenttext(i), {}, {}});
-    }
-    m_kern.setAlloy(angaben, formel.einheit());
+        throw Aufruffehler(formelgrund(text, *fehler));
+    m_kern.setAlloy(angabenAus(formel), formel.einheit());
     if (formel.istUmgerechnet())
         std::cerr << "zerna-cli: " << UmgerechnetHinweis << '\n';
 }

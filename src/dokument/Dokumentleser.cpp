@@ -220,9 +220,9 @@ private:
         return Eingabe::aus(m_elements, legierung.roh);
     }
 
-    std::shared_ptr<const Vergleich> vergleich(const Json& json)
+    Vergleich vergleich(const Json& json)
     {
-        auto vergleich = std::make_shared<Vergleich>();
+        Vergleich vergleich;
         const Json& varianten = m_leser.liste(json, "varianten", 0, MaxVarianten);
         for (std::size_t i = 0; i < varianten.size() && !m_leser.fehler(); ++i) {
             if (!varianten.at(i).is_object())
@@ -230,10 +230,10 @@ private:
             std::string name = m_leser.text(varianten.at(i), "name", LaengstesFeld);
             Variante variante{std::move(name), eingabe(m_leser.objekt(varianten.at(i), "legierung"), i), {}};
             variante.fremd = fremdes(varianten.at(i), [&] { return variantenjson(variante); });
-            vergleich->varianten.push_back(std::move(variante));
+            vergleich.varianten.push_back(std::move(variante));
         }
         const int most = std::max(1, static_cast<int>(varianten.size()));
-        vergleich->referenz = static_cast<std::size_t>(m_leser.ganzzahl(json, "referenz", 1, most)) - 1;
+        vergleich.referenz = static_cast<std::size_t>(m_leser.ganzzahl(json, "referenz", 1, most)) - 1;
         return vergleich;
     }
 

@@ -86,7 +86,7 @@ Json dokumentjson(const Dokument& dokument)
     const std::size_t referenz = std::clamp<std::size_t>(
         dokument.vergleich->referenz + 1, 1, std::max<std::size_t>(1, dokument.vergleich->varianten.size()));
     return {{"format", Dateikennung}, {"version", Dateiversion}, {"titel", dokument.titel},
-        {"bemerkung", dokument.bemerkung}, {"legierung", legierungsjson(dokument.eingabe)},
+        {"bemerkung", *dokument.bemerkung}, {"legierung", legierungsjson(dokument.eingabe)},
         {"einwaage", wiegejson(dokument.wiegen)}, {"diagramm", diagrammjson(dokument.diagramm)},
         {"vergleich", {{"referenz", referenz}, {"varianten", nullptr}}}};
 }
@@ -94,7 +94,7 @@ Json dokumentjson(const Dokument& dokument)
 std::string schreibe(const Dokument& dokument)
 {
     Json json = dokumentjson(dokument);
-    fuegeEin(json, fremdesAus(dokument.fremd));
+    fuegeEin(json, fremdesAus(*dokument.fremd));
     json["vergleich"]["varianten"] = variantenliste(*dokument.vergleich);
     const auto text = [&](int indent) { return json.dump(indent, ' ', false, Json::error_handler_t::replace) + '\n'; };
     std::string indented = text(4);

@@ -7,6 +7,7 @@
 #include "core/Kuerzung.h"
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
+#include "core/Zeichensatz.h"
 
 namespace zerna {
 
@@ -67,8 +68,7 @@ std::string Feldleser::text(const Json& value, std::size_t longest)
         return {};
     }
     const auto& text = value.get_ref<const std::string&>();
-    const auto isCharacterStart = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; };
-    if (static_cast<std::size_t>(std::ranges::count_if(text, isCharacterStart)) <= longest)
+    if (zeichenzahl(text) <= longest)
         return text;
     ablehnen(value, "Der Text hat mehr als " + std::to_string(longest) + " Zeichen");
     return {};

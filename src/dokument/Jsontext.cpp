@@ -5,6 +5,8 @@
 #include <iterator>
 #include <utility>
 
+#include "core/Zeichensatz.h"
+
 namespace zerna {
 
 namespace {
@@ -201,9 +203,7 @@ Lesefehler Jsontext::fehlerAn(std::size_t offset, std::string grund) const
 {
     const std::string_view before = m_text.substr(0, offset);
     const std::size_t lineStart = before.rfind('\n') + 1; // 0 where there is no line end
-    const auto isCharacterStart = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; };
-    return {1 + static_cast<std::size_t>(std::ranges::count(before, '\n')),
-        1 + static_cast<std::size_t>(std::ranges::count_if(before.substr(lineStart), isCharacterStart)),
+    return {1 + static_cast<std::size_t>(std::ranges::count(before, '\n')), 1 + zeichenzahl(before.substr(lineStart)),
         std::move(grund)};
 }
 

@@ -1,7 +1,7 @@
 #include "dokument/Tabellenunterschied.h"
 
 #include <algorithm>
-#include <memory>
+#include <utility>
 
 #include "core/Kuerzung.h"
 #include "core/Unbekannt.h"
@@ -52,7 +52,7 @@ std::optional<Tabellenunterschied> valenzunterschied(
     return Tabellenunterschied{{}, 0, zeile.element, Wert::Valenz, wahl, datei, hier};
 }
 
-void behalte(Rohzeile& zeile, const Tabellenunterschied& unterschied, const ElementCollection&)
+void behalte(Rohzeile& zeile, const Tabellenunterschied& unterschied)
 {
     if (unterschied.was == Wert::Dichte) {
         zeile.dichtewahl = AndereWahl;
@@ -79,15 +79,15 @@ template <class Decision>
 void decide(Dokument& dokument, std::span<const Tabellenunterschied> unterschiede, const ElementCollection& elements,
     Decision decision)
 {
-    const auto vergleich = std::make_shared<Vergleich>(*dokument.vergleich);
+    Vergleich vergleich = *dokument.vergleich;
     for (const Tabellenunterschied& unterschied : unterschiede) {
         Eingabe& eingabe =
-            unterschied.variante ? vergleich->varianten.at(*unterschied.variante).eingabe : dokument.eingabe;
+            unterschied.variante ? vergleich.varianten.at(*unterschied.variante).eingabe : dokument.eingabe;
         Rohlegierung roh = eingabe.roh();
-        decision(roh.zeilen.at(static_cast<std::size_t>(unterschied.zeile)), unterschied, elements);
+        decision(roh.zeilen.at(static_cast<std::size_t>(unterschied.zeile)), unterschied);
         eingabe = Eingabe::aus(elements, roh);
     }
-    dokument.vergleich = vergleich;
+    dokument.vergleich = std::move(vergleich);
 }
 
 } // namespace
@@ -134,7 +134,9 @@ void behalteDateiwerte(
 void uebernehmeTabelle(
     Dokument& dokument, std::span<const Tabellenunterschied> unterschiede, const ElementCollection& elements)
 {
-    decide(dokument, unterschiede, elements, uebernimm);
+    decide(dokument, unterschiede, elements, [&elements](Rohzeile& zeile, const Tabellenunterschied& unterschied) {
+        uebernimm(zeile, unterschied, elements);
+    });
 }
 
 } // namespace zerna

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <array>
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "core/Geteilt.h"
 #include "model/Diagrammwahl.h"
 #include "model/Eingabe.h"
 #include "model/Wiegeauskunft.h"
@@ -41,8 +41,7 @@ struct Vergleich {
     bool operator==(const Vergleich&) const = default;
 };
 
-/// All that a file keeps and that can be undone. A value: copying it is cheap, because the kept alloys, which change
-/// seldom, are shared until they change.
+/// All that a file keeps and that can be undone. A value: copying it is cheap, because what may be large is shared.
 struct Dokument {
     explicit Dokument(const ElementCollection& elements)
         : eingabe(elements)
@@ -50,19 +49,14 @@ struct Dokument {
     }
 
     std::string titel;
-    std::string bemerkung;
+    Geteilt<std::string> bemerkung;
     Eingabe eingabe;
     Wiegedaten wiegen;
     Diagrammwahl diagramm;
-    std::shared_ptr<const Vergleich> vergleich = std::make_shared<Vergleich>(); ///< never null
-    std::string fremd; ///< keys of a newer program's file, as the text of a JSON object; empty for none
+    Geteilt<Vergleich> vergleich;
+    Geteilt<std::string> fremd; ///< keys of a newer program's file, as the text of a JSON object; empty for none
 
-    bool operator==(const Dokument& other) const
-    {
-        return titel == other.titel && bemerkung == other.bemerkung && eingabe == other.eingabe
-            && wiegen == other.wiegen && diagramm == other.diagramm
-            && (vergleich == other.vergleich || *vergleich == *other.vergleich) && fremd == other.fremd;
-    }
+    bool operator==(const Dokument&) const = default;
 };
 
 } // namespace zerna

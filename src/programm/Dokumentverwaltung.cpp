@@ -166,6 +166,15 @@ std::filesystem::path Dokumentverwaltung::vorschlag() const
     return name;
 }
 
+bool Dokumentverwaltung::darfSchliessen()
+{
+    if (!darfGehen())
+        return false;
+    if (istGeaendert())
+        m_programm.Dokument() = *m_gespeichert;
+    return true;
+}
+
 bool Dokumentverwaltung::darfGehen()
 {
     return !istGeaendert()

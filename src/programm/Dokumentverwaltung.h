@@ -60,14 +60,16 @@ public:
     bool speichere();
     bool speichereUnter();
 
-    /// Asks what is to become of changes that the open file does not have; true if the window may close.
-    bool darfGehen();
+    /// Asks what is to become of changes that the open file does not have; true if the window may close, and what was
+    /// discarded is then gone.
+    bool darfSchliessen();
 
     /// The files that were opened or saved last, the last one first; absolute paths.
     std::vector<std::string> zuletzt() const;
 
 private:
     std::filesystem::path vorschlag() const;
+    bool darfGehen();
     bool darfErsetzen();
     bool frage(const std::string& satz);
     bool lade(const std::filesystem::path& file);

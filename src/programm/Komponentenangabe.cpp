@@ -133,6 +133,21 @@ std::string prozentgrund(std::string_view prozent, Anteilseinheit einheit)
     return std::string(einheitenname(einheit)) + " " + zitiert(prozent) + " ist keine gültige Zahl";
 }
 
+std::vector<Komponentenangabe> angabenAus(const Legierungsformel& formel)
+{
+    std::vector<Komponentenangabe> angaben;
+    for (std::size_t i = 0; i < formel.komponenten().size(); ++i) {
+        const std::string& symbol = formel.komponenten()[i].element->symbol();
+        angaben.push_back({symbol, symbol, formel.prozenttext(i), {}, {}});
+    }
+    return angaben;
+}
+
+std::string formelgrund(std::string_view text, const Eingabefehler& fehler)
+{
+    return "Legierung " + zitiert(text) + ": " + fehler.text();
+}
+
 std::string komponentengrund(std::string_view text, std::string_view grund)
 {
     return "Komponente " + zitiert(text) + ": " + std::string(grund);

@@ -4,11 +4,13 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/ElementCollection.h"
 #include "model/Anteilseinheit.h"
 #include "model/Eingabefeld.h"
 #include "model/Legierung.h"
+#include "model/Legierungsformel.h"
 
 /// Components as they are written on a command line or in a list. Nothing here throws for a text that is wrong: the
 /// reason is the answer, in German, and empty if there is none.
@@ -42,6 +44,10 @@ Eingabefeld valenzfeld(const ElementCollection& elements, const Komponentenangab
 std::string valenzgrund(const Eingabefeld& valenz);
 
 std::string prozentgrund(std::string_view prozent, Anteilseinheit einheit = Anteilseinheit::Atom);
+
+/// The components of an alloy that is written as a formula, in its unit; why a text is none.
+std::vector<Komponentenangabe> angabenAus(const Legierungsformel& formel);
+std::string formelgrund(std::string_view text, const Eingabefehler& fehler);
 
 /// A reason with the component in front that it is about.
 std::string komponentengrund(std::string_view text, std::string_view grund);

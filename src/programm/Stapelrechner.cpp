@@ -56,12 +56,11 @@ std::string Stapelrechner::hinweis()
 /// The last alloy as the command for one alloy takes it.
 std::vector<Komponentenangabe> Stapelrechner::angaben() const
 {
+    if (m_isFormula)
+        return angabenAus(m_formel);
     std::vector<Komponentenangabe> result;
-    for (std::size_t i = 0; i < m_anzahl; ++i) {
-        const std::string text(m_texte.at(i));
-        result.push_back(m_isFormula ? Komponentenangabe{text, text, m_formel.prozenttext(i), {}, {}}
-                                     : komponentenangabe(text, m_einheit));
-    }
+    for (const std::string_view text : std::span(m_texte).first(m_anzahl))
+        result.push_back(komponentenangabe(text, m_einheit));
     return result;
 }
 
@@ -79,7 +78,7 @@ bool Stapelrechner::readFormula(std::string_view legierung)
 {
     Formellesung lesung = legierungsformel(legierung, m_kern.elements(), m_einheit);
     if (lesung.fehler) {
-        m_grund = "Legierung " + zitiert(legierung) + ": " + lesung.fehler->text();
+        m_grund = formelgrund(legierung, *lesung.fehler);
         return false;
     }
     m_formel = std::move(lesung.formel);

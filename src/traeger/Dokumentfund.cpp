@@ -7,20 +7,13 @@
 #include "traeger/Pdf.h"
 #include "traeger/Png.h"
 #include "traeger/Svg.h"
+#include "traeger/Textanfang.h"
 
 namespace zerna {
 
 namespace {
 
 using namespace std::string_view_literals;
-
-bool istDokument(std::string_view bytes)
-{
-    constexpr auto Utf8Mark = "\xEF\xBB\xBF"sv;
-    bytes.remove_prefix(bytes.starts_with(Utf8Mark) ? Utf8Mark.size() : 0);
-    const std::size_t first = bytes.find_first_not_of(" \t\r\n");
-    return first != std::string_view::npos && bytes[first] == '{';
-}
 
 bool istAnderesBild(std::string_view bytes)
 {
@@ -50,7 +43,7 @@ Dokumentfund dokumentInGepacktem(std::string_view bytes)
 
 Dokumentfund dokumentAus(std::string_view bytes)
 {
-    if (istDokument(bytes))
+    if (textanfang(bytes) == '{')
         return {Dateiart::Dokument, std::string(bytes), {}};
     if (istPng(bytes))
         return dokumentImPng(bytes);

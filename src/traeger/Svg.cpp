@@ -8,6 +8,7 @@
 #include <expat.h>
 
 #include "core/Laufzeitfehler.h"
+#include "traeger/Textanfang.h"
 
 namespace zerna {
 
@@ -110,15 +111,7 @@ std::string svgMitDokument(std::string_view svg, std::string_view dokument)
     return result.insert(place, std::string(Begin).append(asCdata(dokument)).append(End));
 }
 
-bool istSvg(std::string_view bytes)
-{
-    constexpr auto Utf8Mark = "\xEF\xBB\xBF"sv;
-    if (bytes.starts_with("\xFE\xFF") || bytes.starts_with("\xFF\xFE"))
-        return true; // UTF-16, which no other kind that matters here is written in
-    bytes.remove_prefix(bytes.starts_with(Utf8Mark) ? Utf8Mark.size() : 0);
-    const std::size_t first = bytes.find_first_not_of(" \t\r\n");
-    return first != std::string_view::npos && bytes[first] == '<';
-}
+bool istSvg(std::string_view bytes) { return textanfang(bytes) == '<'; }
 
 Dokumentfund dokumentImSvg(std::string_view svg)
 {

@@ -23,7 +23,7 @@ struct DokumentdateiTest : RechnerTest {
         eingabe.waehleValenz(0, ValenzAndere);
         eingabe.setValenz(0, "z_Cu+1");
         const Variante variante{"Probe 1", eingabe, {}};
-        dokument.vergleich = std::make_shared<Vergleich>(Vergleich{{variante}, 0});
+        dokument.vergleich = Vergleich{{variante}, 0};
     }
 
     Lesung read(const std::string& text) const { return lies(text, elements); }

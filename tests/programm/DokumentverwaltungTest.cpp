@@ -95,6 +95,11 @@ TEST_F(DokumentverwaltungTest, AsksBeforeChangesOfAnOpenFileGo)
             "Zerna: Die Legierung \"a.zerna\" ist geändert. Sollen die Änderungen gespeichert werden? "
             "[&Speichern|&Verwerfen|&Abbrechen]");
     }
+    ASSERT_TRUE(saveAs("a.zerna"));
+    enter("71");
+    boxes.way = 1;
+    EXPECT_TRUE(dateien.darfSchliessen());
+    EXPECT_FALSE(dateien.istGeaendert()) << "what was discarded does not come back with the next start";
 }
 
 TEST_F(DokumentverwaltungTest, RefusesWhatIsNoDocumentAndChangesNothing)

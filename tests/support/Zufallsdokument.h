@@ -37,7 +37,7 @@ public:
         dokument.diagramm = passendeWahl(wahl, dokument.eingabe.anzahl());
         dokument.vergleich = vergleich();
         if (below(4) == 0)
-            dokument.fremd = R"({"diagramm":{"farbe":"grün"},"neu":[1,null,{"a":-2.5}]})";
+            dokument.fremd = std::string(R"({"diagramm":{"farbe":"grün"},"neu":[1,null,{"a":-2.5}]})");
         return dokument;
     }
 
@@ -106,13 +106,13 @@ private:
 
     std::size_t pick(std::size_t count) { return m_random() % count; }
 
-    std::shared_ptr<const Vergleich> vergleich()
+    Vergleich vergleich()
     {
-        auto vergleich = std::make_shared<Vergleich>();
+        Vergleich vergleich;
         const int count = below(200) == 0 ? static_cast<int>(MaxVarianten) : below(3);
         for (int i = 0; i < count; ++i)
-            vergleich->varianten.push_back({text(), eingabe(), below(4) == 0 ? R"({"note":{"x":"€"}})" : ""});
-        vergleich->referenz = count == 0 ? 0 : static_cast<std::size_t>(below(count));
+            vergleich.varianten.push_back({text(), eingabe(), below(4) == 0 ? R"({"note":{"x":"€"}})" : ""});
+        vergleich.referenz = count == 0 ? 0 : static_cast<std::size_t>(below(count));
         return vergleich;
     }
 

@@ -147,7 +147,7 @@ void Dateibefehle::zeigeTitel()
 void Dateibefehle::editTitel()
 {
     zerna::Dokument& dokument = m_programm.Dokument();
-    Titeldialog dialog(dokument.titel, dokument.bemerkung, &m_window);
+    Titeldialog dialog(dokument.titel, *dokument.bemerkung, &m_window);
     if (dialog.exec() != QDialog::Accepted)
         return;
     dokument.titel = dialog.titel();

@@ -36,7 +36,7 @@ public:
     void setzeFort(const OffeneDatei& datei);
 
     /// Asks what is to become of unsaved changes; true if the window may close.
-    bool darfSchliessen() { return m_dateien.darfGehen(); }
+    bool darfSchliessen() { return m_dateien.darfSchliessen(); }
 
     /// Shows in the title bar which file is open and whether it is changed.
     void zeigeTitel();

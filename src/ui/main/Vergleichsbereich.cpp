@@ -207,8 +207,10 @@ void Vergleichsbereich::layOut()
 
 void Vergleichsbereich::zeige()
 {
-    if (std::exchange(m_gezeigt, m_programm.Dokument().vergleich) == m_programm.Dokument().vergleich)
+    const Geteilt<Vergleich>& now = m_programm.Dokument().vergleich;
+    if (m_gezeigt.istDasselbe(now))
         return;
+    m_gezeigt = now;
     const int chosen = m_ansicht->legierung();
     m_modell->setze(vergleich(), m_programm.Calc());
     m_ansicht->passeBreitenAn();
@@ -250,9 +252,9 @@ std::size_t Vergleichsbereich::gewaehlt() const { return static_cast<std::size_t
 /// Carries an operation out and makes the alloy current that stands at `danach` then.
 void Vergleichsbereich::aendere(const QString& schritt, std::size_t danach, const Operation& operation)
 {
-    auto changed = std::make_shared<Vergleich>(vergleich());
-    operation(*changed);
-    if (*changed == vergleich())
+    Vergleich changed = vergleich();
+    operation(changed);
+    if (changed == vergleich())
         return;
     m_programm.Dokument().vergleich = std::move(changed);
     emit gemeldet({});

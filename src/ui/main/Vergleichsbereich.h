@@ -86,7 +86,7 @@ private:
     Dialoge m_dialoge;
     Vergleichsmodell* m_modell = nullptr;
     Vergleichsansicht* m_ansicht = nullptr;
-    std::shared_ptr<const Vergleich> m_gezeigt; // which does not change
+    Geteilt<Vergleich> m_gezeigt;
     QMenu* m_menu = nullptr;
     QAction *m_laden = nullptr, *m_referenz = nullptr, *m_umbenennen = nullptr, *m_links = nullptr, *m_rechts = nullptr,
             *m_loeschen = nullptr, *m_kopieren = nullptr;

@@ -129,14 +129,18 @@ QGridLayout* conWiegen::table()
 void conWiegen::Aktualisieren(const Eingabe& eingabe)
 {
     m_anzahl = eingabe.anzahl();
+    std::vector<int> moved;
     for (int row = 0; row < MaxKomponenten; ++row) {
         if (auto taken = zeigeKomponente(row)) {
             m_ablage->legeAb(row, *std::move(taken));
+            moved.push_back(row);
             gewogen(row).clear();
             if (m_offenerBezug && m_offenerBezug->komponente == row)
                 m_offenerBezug.reset();
         }
     }
+    for (const int from : moved) // a mass stays with its component; one that comes back later is weighed anew
+        setzeIn(from, zeileVon(m_ablage->komponente(from)));
     m_meldung->merke(std::nullopt);
     computeTargets();
     bezieheOffenes();
@@ -167,6 +171,11 @@ void conWiegen::zeigeDokument()
         else if (taken)
             m_ablage->legeAb(row, *std::move(taken));
         at(row).setIstmasse(toQt(gewogen(row)));
+    }
+    for (int from = 0; from < MaxKomponenten; ++from) {
+        const int row = zeileVon(m_ablage->komponente(from));
+        if (row >= 0 && at(row).istGewogen())
+            m_ablage->nimm(from);
     }
     m_meldung->merke(std::nullopt);
     if (m_anzahl == 0)
@@ -310,9 +319,9 @@ void conWiegen::setzeIn(int from, int row)
     gewogen(row) = fromQt(at(row).gewogen());
 }
 
+/// A mass goes to its component wherever that stands now, else back into its row.
 void conWiegen::putBack()
 {
-    // A mass goes to its component wherever that stands now, else back into its row.
     for (int from = 0; from < MaxKomponenten; ++from)
         setzeIn(from, zeileVon(m_ablage->komponente(from)));
     for (int row = 0; row < m_anzahl; ++row)

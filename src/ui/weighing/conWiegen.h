@@ -36,8 +36,8 @@ class conWiegen : public QWidget {
 public:
     conWiegen(Programm& programm, SaveFileDialog& saveDialog, QWidget* parent = nullptr);
 
-    /// Rebuilds the panel for an alloy that the calculator has just been given. Masses weighed of a component that is
-    /// no longer there are taken out of the rows, with an offer to put them back.
+    /// Rebuilds the panel for an alloy that the calculator has just been given. Masses stay with their components;
+    /// those of components that are no longer there are taken out of the rows, with an offer to put them back.
     void Aktualisieren(const Eingabe& eingabe);
 
     /// Shows the weighing of the document, for the alloy in the calculator.

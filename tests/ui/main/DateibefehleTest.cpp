@@ -161,7 +161,7 @@ TEST_F(DateibefehleTest, TitleAndRemarkAreAStep)
         EXPECT_EQ(dialog.result(), QDialog::Accepted);
     };
     inDialog<Titeldialog>(answer, [this] { find<QAction>("mnuTitel").trigger(); });
-    EXPECT_EQ(programm->Dokument().titel + programm->Dokument().bemerkung, "Größex");
+    EXPECT_EQ(programm->Dokument().titel + *programm->Dokument().bemerkung, "Größex");
     EXPECT_EQ(title(), "Al-Cu.zerna[*] – Zerna *");
     find<QAction>("mnuRueckgaengig").trigger();
     EXPECT_EQ(programm->Dokument().titel + title(), "Al-Cu.zerna[*] – Zerna");
