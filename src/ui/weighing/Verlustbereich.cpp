@@ -10,7 +10,9 @@
 #include "core/Laufzeitfehler.h"
 #include "core/Unbekannt.h"
 #include "model/Einwaage.h"
+#include "ui/controls/Masse.h"
 #include "ui/platform/QtText.h"
+#include "ui/platform/Schriftfolge.h"
 #include "ui/weighing/Massenfeld.h"
 
 namespace zerna {
@@ -25,6 +27,8 @@ Verlustbereich::Verlustbereich(QWidget* parent)
     m_txtVerlust->setAccessibleName(QStringLiteral("Masseverlust in Milligramm"));
     m_lstVerlust->setObjectName(QStringLiteral("lstVerlust"));
     m_lstVerlust->setAccessibleName(QStringLiteral("Zusammensetzung nach dem Masseverlust"));
+    m_lstVerlust->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // takes the room that is left
+    folgeSchrift(m_lstVerlust, [this] { m_lstVerlust->setMinimumHeight(3 * feldhoehe(*m_lstVerlust)); });
     connect(m_txtVerlust, &Massenfeld::textChanged, this, &Verlustbereich::verlustEntered);
     auto* const row = new QHBoxLayout;
     row->addWidget(caption);
