@@ -208,7 +208,8 @@ std::vector<Exportart> Konzentrationsdiagramm::exportarten(const Leinwand& leinw
         return schritt ? std::optional(values(*schritt)) : std::nullopt;
     };
     const auto plotOnly = [this, leinwand](QPainter& painter, const Leinwand&) { paintPlot(painter, leinwand); };
-    return {datDatei(text), bitmap(plotOnly, {plot(leinwand).size(), leinwand.font, leinwand.devicePixelRatio})};
+    return {datDatei(text),
+        bitmap(plotOnly, {plot(leinwand).size(), leinwand.font, leinwand.devicePixelRatio, leinwand.stil})};
 }
 
 QString Konzentrationsdiagramm::positionText(const QPointF& position, const Leinwand& leinwand) const

@@ -7,6 +7,7 @@
 
 #include <functional>
 
+#include "bild/Bildstil.h"
 #include "bild/Geometrie.h"
 #include "ui/platform/QtText.h"
 
@@ -19,6 +20,7 @@ struct Leinwand {
     QSize size; ///< logical pixels
     QFont font;
     double devicePixelRatio = 1; ///< device pixels per logical pixel, for parts that are rendered as images
+    Bildstil stil = {};
     bool operator==(const Leinwand&) const = default;
 };
 

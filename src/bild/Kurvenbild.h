@@ -1,0 +1,52 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "bild/Achsen.h"
+#include "bild/Farbskala.h"
+#include "bild/Geometrie.h"
+
+/// A diagram of curves over one axis as a value: what is drawn, not how. Texts are UTF-8 and shown as they stand.
+namespace zerna {
+
+enum class Linienart { Keine, Durchgezogen, Gestrichelt, Gepunktet, Strichpunkt };
+enum class Punktzeichen { Keines, Kreis, Quadrat, Dreieck, Raute };
+
+/// A line through points, signs at them, or both.
+struct Kurve {
+    std::string name; ///< in the legend; empty: not listed there
+    std::vector<Punkt> punkte; ///< data units, x ascending; a y that is NaN is a gap
+    Farbe farbe;
+    Linienart linie = Linienart::Durchgezogen;
+    Punktzeichen zeichen = Punktzeichen::Keines;
+    bool rechts = false; ///< measured on the right axis
+};
+
+/// A line across the plot at one value of x, such as 2kF over a structure factor or an answer of the search.
+struct Linienmarke {
+    double x = 0; ///< data units
+    std::string text; ///< beside it
+    Farbe farbe;
+};
+
+struct Achse {
+    std::string titel; ///< quantity with unit
+    Bereich bereich; ///< data units
+
+    bool operator==(const Achse&) const = default;
+};
+
+struct Kurvenbild {
+    std::string titel; ///< quantity with unit and component along the axis
+    std::string untertitel; ///< the alloy with densities and valences used
+    Achse x;
+    Achse y;
+    std::optional<Achse> rechts; ///< a second quantity
+    std::vector<Kurve> kurven; ///< drawn in this order
+    std::vector<Linienmarke> marken;
+    std::vector<std::string> hinweise; ///< lines under the picture
+};
+
+} // namespace zerna
