@@ -5,8 +5,9 @@
 
 #include <array>
 
-#include "model/PSEReihe.h"
+#include "model/Groessen.h"
 #include "ui/controls/Masse.h"
+#include "ui/main/Diagrammseite.h"
 #include "ui/main/Lehrbuchmarke.h"
 #include "ui/platform/QtText.h"
 #include "ui/platform/Schriftfolge.h"
@@ -18,19 +19,19 @@ namespace {
 /// Intended: right after the start "Elektronendichte" stands last although its code is 2.
 constexpr std::array AnfangsGroessen{0, 1, 3, 4, 5, 6, 7, 8, 9, 10, 2};
 
-constexpr std::array Legierungsgroessen{0, 1, 3, 4, 2, 5, 6, 7, 8, 9, 10};
-
 } // namespace
 
-Diagrammauswahl::Diagrammauswahl(Programm& programm, QWidget* parent)
+Diagrammauswahl::Diagrammauswahl(Programm& programm, const std::vector<Diagrammseite*>& seiten, QWidget* parent)
     : QWidget(parent)
     , m_programm(programm)
+    , m_seiten(seiten)
     , m_cmbDiagrammTyp(makeList("cmbDiagramm_Typ", QStringLiteral("Diagrammtyp")))
     , m_cmbDiagramm(makeList("cmbDiagramm", QStringLiteral("Größe")))
     , m_lehrbuch(new Lehrbuchmarke(programm, this))
     , m_cmbDiagrammElement(makeList("cmbDiagramm_Element", QStringLiteral("Komponente entlang der Achse")))
 {
-    m_cmbDiagrammTyp->addItems({QStringLiteral("2 D"), QStringLiteral("3 D - ternär"), QStringLiteral("PSE")});
+    for (const Diagrammseite* const seite : m_seiten)
+        m_cmbDiagrammTyp->addItem(seite->titel());
     connect(m_cmbDiagrammTyp, &QComboBox::activated, this, &Diagrammauswahl::typChosen);
     connect(m_cmbDiagramm, &QComboBox::activated, this, [this] {
         wahl().groesse = m_cmbDiagramm->currentData().toInt();
@@ -75,8 +76,9 @@ void Diagrammauswahl::setTyp(Diagrammtyp typ)
 {
     wahl().typ = typ;
     m_cmbDiagrammTyp->setCurrentIndex(static_cast<int>(typ));
-    fillQuantities(typ == Diagrammtyp::PSE ? psegroessen() : std::span<const int>(Legierungsgroessen));
-    m_cmbDiagrammElement->setVisible(typ == Diagrammtyp::Konzentration);
+    const Diagrammseite& seite = *m_seiten.at(static_cast<std::size_t>(typ));
+    fillQuantities(seite.groessen());
+    m_cmbDiagrammElement->setVisible(seite.hatKomponente());
 }
 
 void Diagrammauswahl::fillQuantities(std::span<const int> quantities)

@@ -12,6 +12,7 @@ class QComboBox;
 
 namespace zerna {
 
+class Diagrammseite;
 class Lehrbuchmarke;
 
 /// The lists above the diagram: type, quantity, and component along the axis. What they show is the document's choice.
@@ -19,7 +20,8 @@ class Diagrammauswahl : public QWidget {
     Q_OBJECT
 
 public:
-    explicit Diagrammauswahl(Programm& programm, QWidget* parent = nullptr);
+    /// `seiten` are the kinds of diagram, in the order of their types; the lists offer what these have.
+    Diagrammauswahl(Programm& programm, const std::vector<Diagrammseite*>& seiten, QWidget* parent = nullptr);
 
     /// The quantities right after the window's load.
     void load();
@@ -49,6 +51,7 @@ private:
     Diagrammwahl& wahl() { return m_programm.Dokument().diagramm; }
 
     Programm& m_programm;
+    const std::vector<Diagrammseite*>& m_seiten;
     QComboBox* m_cmbDiagrammTyp = nullptr;
     QComboBox* m_cmbDiagramm = nullptr;
     Lehrbuchmarke* m_lehrbuch = nullptr;

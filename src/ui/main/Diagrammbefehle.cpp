@@ -3,6 +3,7 @@
 #include "ui/controls/Menue.h"
 #include "ui/diagram/Diagrammflaeche.h"
 #include "ui/main/Diagrammbereich.h"
+#include "ui/main/Diagrammseite.h"
 
 namespace zerna {
 
@@ -33,14 +34,8 @@ void Diagrammbereich::addBefehle(Menue& menue)
                 .tun = [this, typ = typ] { waehleTyp(static_cast<int>(typ)); },
                 .gewaehlt = [this, typ = typ] { return wahl().typ == typ; }});
     }
-    for (const auto& [text, name, step] : {std::tuple(QStringLiteral("&Feinere Auflösung"), "mnuSteps_1", 1),
-             {QStringLiteral("&Gröbere Auflösung"), "mnuSteps_0", -1}}) {
-        menue.add(Diagramm,
-            {.text = text,
-                .name = name,
-                .tun = [this, step = step] { stepResolution(step); },
-                .moeglich = [this] { return wahl().typ == zerna::Diagrammtyp::Ternaer; }});
-    }
+    for (Diagrammseite* const seite : m_seiten)
+        seite->addBefehle(menue);
 }
 
 bool Diagrammbereich::istDruckbar() const { return m_picDiagramm->istDiagramm(); }

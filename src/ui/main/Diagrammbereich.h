@@ -2,14 +2,14 @@
 
 #include <QWidget>
 
-#include <array>
+#include <vector>
 
 #include "model/Diagrammwahl.h"
-#include "model/PSEReihe.h"
 #include "programm/Programm.h"
 #include "ui/controls/Schritt.h"
 #include "ui/platform/Dialoge.h"
 
+class QBoxLayout;
 class QLabel;
 
 namespace zerna {
@@ -17,12 +17,13 @@ namespace zerna {
 class Befundzeile;
 class Diagrammauswahl;
 class Diagrammflaeche;
+class Diagrammseite;
+class Konzentrationsseite;
 class Menue;
 class StyledButton;
-class conLabel;
 
-/// The diagram panel: lists for type, quantity and component above the diagram area, value labels and read-outs around
-/// it. It chooses and checks; computing and drawing are the diagrams' own.
+/// The diagram panel: lists for type, quantity and component above the diagram area, controls and read-outs around it.
+/// It chooses a kind of diagram; what is special of a kind is in its Diagrammseite.
 class Diagrammbereich : public QWidget {
     Q_OBJECT
 
@@ -58,36 +59,29 @@ signals:
     void dreiKomponentenRequested();
 
 private:
-    void createControls();
-    void createSteps();
-    void createLabels();
-    void aktualisieren(bool keepSelection);
+    void createSeiten();
+    void createLists();
+    void createReadouts();
+    void createButtons();
     void layOut();
+    QBoxLayout* layOutStrips();
+    QBoxLayout* layOutButtons();
     void orderTabs();
+    void aktualisieren(bool keepSelection);
     void waehleTyp(int position);
     void chooseType(Diagrammtyp typ);
     void setTyp(Diagrammtyp typ);
-    void showSteps();
-    void stepResolution(int step);
-    void drawConcentration(bool keepSelection);
-    void drawSeries();
-    void drawTernary();
-    void showError(const Laufzeitfehler& error);
-    bool showObstacle();
-    void drawPSE();
-    void refreshLabels();
+    Diagrammseite& seite(Diagrammtyp typ) const { return *m_seiten.at(static_cast<std::size_t>(typ)); }
     Diagrammwahl& wahl() { return m_programm.Dokument().diagramm; }
 
     Programm& m_programm;
     Eingabe m_eingabe; // the alloy that is drawn
-    int m_steps = 5; // resolution of the ternary diagram as it is shown, 1 to 10
-    Diagrammauswahl* m_auswahl = nullptr;
-    std::array<StyledButton*, 2> m_cmdSteps{};
-    QLabel* m_lblSteps = nullptr;
-    std::array<conLabel*, MaxKomponenten> m_conLabel{};
     Diagrammflaeche* m_picDiagramm = nullptr;
+    std::vector<Diagrammseite*> m_seiten; // index = type
+    Konzentrationsseite* m_konzentration = nullptr; // one of them
+    Diagrammauswahl* m_auswahl = nullptr;
     QLabel* m_labelPos = nullptr;
-    Befundzeile* m_lblDrei = nullptr; // why there is no ternary diagram
+    Befundzeile* m_lblDrei = nullptr; // why there is no diagram of the chosen kind
     StyledButton* m_cmdKopieren = nullptr;
     StyledButton* m_cmdSpeichern = nullptr;
 };
