@@ -1,6 +1,7 @@
 #include "ui/diagram/Bildausgabe.h"
 
 #include <QBuffer>
+#include <QDate>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
@@ -19,6 +20,7 @@ namespace zerna {
 
 namespace {
 
+constexpr double PixelsPerInch = 96; // of a picture that is seen at its own size
 constexpr double PngRatio = 2;
 constexpr double VectorRatio = 3; // of what vector pictures and paper hold as images
 
@@ -27,6 +29,10 @@ Leinwand withRatio(Leinwand leinwand, double devicePixelRatio)
     leinwand.devicePixelRatio = devicePixelRatio;
     return leinwand;
 }
+
+/// Dots per inch of the devices on which fonts have the sizes in which texts are measured. A device that says otherwise
+/// gets letters of another size in the same picture.
+int fontDotsPerInch() { return QImage(1, 1, QImage::Format_Mono).logicalDpiY(); }
 
 /// Error 5 for a picture without pixels, of which there is no file.
 std::string encoded(const QImage& image, const char* format)
@@ -45,6 +51,7 @@ std::string asSvg(const Bildmaler& maler, const Leinwand& leinwand, const std::s
     QBuffer buffer(&bytes);
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);
+    generator.setResolution(fontDotsPerInch());
     generator.setSize(leinwand.size);
     generator.setViewBox(QRect(QPoint(0, 0), leinwand.size));
     generator.setTitle(QStringLiteral("Zerna"));
@@ -54,23 +61,51 @@ std::string asSvg(const Bildmaler& maler, const Leinwand& leinwand, const std::s
     return svgMitDokument(bytes.toStdString(), dokument);
 }
 
-/// One page of the picture's own size, a logical pixel being 1/96 inch.
+/// One page of the picture's own size.
 std::string asPdf(const Bildmaler& maler, const Leinwand& leinwand, const std::string& dokument)
 {
-    constexpr int PixelsPerInch = 96;
-    constexpr double PointsPerPixel = 72.0 / PixelsPerInch;
+    constexpr double PointsPerPixel = 72 / PixelsPerInch;
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
-    writer.setResolution(PixelsPerInch);
+    writer.setResolution(fontDotsPerInch());
     writer.setPageSize(QPageSize(QSizeF(leinwand.size) * PointsPerPixel, QPageSize::Point));
     writer.setPageMargins(QMarginsF(0, 0, 0, 0));
     haengeAn(writer, dokument);
     QPainter painter(&writer);
+    painter.scale(fontDotsPerInch() / PixelsPerInch, fontDotsPerInch() / PixelsPerInch);
     maler(painter, leinwand);
     painter.end();
     return bytes.toStdString();
+}
+
+/// Where and from what the page comes, below the picture; the room above it.
+QRectF paintFooter(QPainter& painter, const QRectF& page)
+{
+    constexpr double Points = 8;
+    constexpr double Gap = 1.5; // line heights above it
+    QFont font;
+    font.setPointSizeF(Points);
+    painter.setFont(font);
+    painter.setPen(Qt::darkGray);
+    const double height = QFontMetricsF(font).height();
+    painter.drawText(page, Qt::AlignBottom | Qt::AlignRight,
+        QStringLiteral("Zerna, %1").arg(QDate::currentDate().toString(QStringLiteral("d.M.yyyy"))));
+    return page.adjusted(0, 0, 0, -(1 + Gap) * height);
+}
+
+/// The picture as large as the page allows, in the middle of its width.
+void paintPage(QPrinter& printer, const Bildmaler& maler, const Leinwand& leinwand)
+{
+    QPainter painter(&printer);
+    const QRectF page(QPointF(0, 0), printer.pageRect(QPrinter::DevicePixel).size());
+    const QRectF room = paintFooter(painter, page);
+    const QSizeF size = leinwand.size;
+    const double scale = std::min(room.width() / size.width(), room.height() / size.height());
+    painter.translate((room.width() - scale * size.width()) / 2, 0);
+    painter.scale(scale, scale);
+    maler(painter, withRatio(leinwand, VectorRatio));
 }
 
 } // namespace
@@ -107,18 +142,17 @@ std::vector<Exportart> bildarten(const Bildmaler& maler, const Leinwand& leinwan
 
 void printPicture(QWidget* parent, const Bildmaler& maler, const Leinwand& leinwand)
 {
+    constexpr QMarginsF Margins(15, 15, 15, 12); // mm
     const QSize size = leinwand.size;
     QPrinter printer(QPrinter::HighResolution);
+    printer.setResolution(fontDotsPerInch());
+    printer.setDocName(QStringLiteral("Diagramm"));
     printer.setPageOrientation(size.width() > size.height() ? QPageLayout::Landscape : QPageLayout::Portrait);
+    printer.setPageMargins(Margins, QPageLayout::Millimeter);
     QPrintDialog dialog(&printer, parent);
     dialog.setWindowTitle(QStringLiteral("Drucken"));
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    QPainter painter(&printer);
-    const QRectF page = printer.pageRect(QPrinter::DevicePixel);
-    const double scale = std::min(page.width() / size.width(), page.height() / size.height());
-    painter.scale(scale, scale);
-    maler(painter, withRatio(leinwand, VectorRatio));
+    if (dialog.exec() == QDialog::Accepted)
+        paintPage(printer, maler, leinwand);
 }
 
 } // namespace zerna

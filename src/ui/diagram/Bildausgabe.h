@@ -21,7 +21,8 @@ Exportart bitmap(const Bildmaler& maler, const Leinwand& leinwand);
 /// text of a file, from which it opens again.
 std::vector<Exportart> bildarten(const Bildmaler& maler, const Leinwand& leinwand, const std::string& dokument);
 
-/// Asks for a printer and prints the picture as large as the page allows.
+/// Asks for a printer and prints the picture as large as the page allows, laid out as on the screen, with the date
+/// below it.
 void printPicture(QWidget* parent, const Bildmaler& maler, const Leinwand& leinwand);
 
 } // namespace zerna

@@ -47,6 +47,25 @@ TEST_F(BildausgabeTest, ImagesHaveTheirPixelsAndVectorsFineSurfaces)
     EXPECT_THROW(bitmap(maler, {{0, 20}, {}, 1}).bytes(), Laufzeitfehler) << "no pixels, no file";
 }
 
+TEST_F(BildausgabeTest, LettersHaveTheSizeInWhichTheyAreMeasured)
+{
+    QFont font;
+    font.setPointSizeF(9);
+    double letters = 0;
+    const Bildmaler lettered = [&](QPainter& painter, const Leinwand& canvas) {
+        painter.setFont(canvas.font);
+        painter.drawText(QPointF(0, 15), QStringLiteral("E"));
+        letters = painter.fontMetrics().height();
+    };
+    for (const Exportart& art : bildarten(lettered, {leinwand.size, font}, dokument)) {
+        SCOPED_TRACE(art.endung);
+        const std::string bytes = art.bytes().value();
+        EXPECT_NEAR(letters, QFontMetricsF(font).height(), 1);
+        const std::string size = "font-size=\"" + std::to_string(QFontInfo(font).pixelSize()) + "\"";
+        EXPECT_TRUE(art.endung != ".svg" || bytes.find(size) != std::string::npos) << bytes;
+    }
+}
+
 TEST_F(BildausgabeTest, EveryPictureCarriesTheDocument)
 {
     constexpr int Documents = 2000;

@@ -9,7 +9,7 @@
 
 namespace zerna {
 
-TEST(DruckenTest, PictureFillsThePageThatTheUserPrintsToAFile)
+TEST(DruckenTest, PictureFillsThePageThatTheUserPrintsToAFileLaidOutAsOnTheScreen)
 {
     struct Row {
         const char* name;
@@ -33,14 +33,20 @@ TEST(DruckenTest, PictureFillsThePageThatTheUserPrintsToAFile)
         };
         QRectF printed;
         QSizeF page;
+        double letters = 0;
         const auto maler = [&](QPainter& painter, const Leinwand& leinwand) {
             printed = painter.transform().mapRect(QRectF(QPointF(0, 0), leinwand.size));
             page = QSizeF(painter.device()->width(), painter.device()->height());
+            painter.setFont(leinwand.font);
+            letters = painter.fontMetrics().height();
         };
         inDialog<QPrintDialog>(print, [&] { printPicture(nullptr, maler, {row.size, {}}); });
         EXPECT_EQ(page.width() > page.height(), row.landscape);
         EXPECT_DOUBLE_EQ(printed.width() / printed.height(), static_cast<double>(row.size.width()) / row.size.height());
-        EXPECT_DOUBLE_EQ(std::max(printed.width() / page.width(), printed.height() / page.height()), 1);
+        const double filled = std::max(printed.width() / page.width(), printed.height() / page.height());
+        EXPECT_LE(filled, 1);
+        EXPECT_GT(filled, 0.93) << "the date wants a line";
+        EXPECT_NEAR(letters, QFontMetricsF(QFont()).height(), 1) << "as high in the picture as they were measured";
         EXPECT_TRUE(bytesOf(file).starts_with("%PDF-"));
     }
 }
