@@ -8,17 +8,6 @@
 
 namespace zerna {
 
-namespace {
-
-std::size_t checkedIndex(int index, std::size_t count)
-{
-    if (index < 0 || static_cast<std::size_t>(index) >= count || count > MaxKomponenten)
-        throw Laufzeitfehler(Fehler::IndexAusserhalb);
-    return static_cast<std::size_t>(index);
-}
-
-} // namespace
-
 std::string_view reiheneinheit(int groesse)
 {
     const Groesse* const found = findReihengroesse(groesse);
@@ -36,36 +25,29 @@ const Groesse& gerechneteReihengroesse(int groesse)
 Reihe konzentrationsreihe(
     const clsCalc& calc, std::span<const Legierungskomponente> komponenten, int variable, int groesse)
 {
-    const Groesse& gerechnet = gerechneteReihengroesse(groesse);
-    const std::size_t index = checkedIndex(variable, komponenten.size());
-    const auto teile = anteile(komponenten);
-    const auto used = std::span(teile).first(komponenten.size());
-    std::array<double, MaxKomponenten> prozente{};
-    clsCalc scratch = calc;
-    Reihe reihe{};
-    for (int i = 0; i <= 100; ++i) {
-        for (std::size_t j = 0; j < used.size(); ++j)
-            prozente.at(j) = j == index ? i : static_cast<double>(komponenten[j].prozent) * (100 - i) / 100;
-        setComposition(scratch, used, prozente);
-        reihe.at(static_cast<std::size_t>(i)) = wert(gerechnet, scratch);
-    }
-    return reihe;
+    const int gerechnet = gerechneteReihengroesse(groesse).kennzahl;
+    return Mischungsreihe(calc, komponenten, variable, gerechnet, Reihenart::Gegeben).reihe();
+}
+
+float dichtewert(std::span<const float> dichten, int variable, double x)
+{
+    if (variable < 0 || static_cast<std::size_t>(variable) >= dichten.size() || dichten.size() > MaxKomponenten)
+        throw Laufzeitfehler(Fehler::IndexAusserhalb);
+    if (std::ranges::any_of(dichten, istUnbekannt))
+        throw Laufzeitfehler(Fehler::UngueltigesArgument);
+    const auto index = static_cast<std::size_t>(variable);
+    double others = 0;
+    for (std::size_t j = 0; j < dichten.size(); ++j)
+        others += j == index ? 0 : dichten[j];
+    const double share = quotient(100 - x, static_cast<double>(dichten.size()) - 1) / 100;
+    return toSingle(dichten[index] * x / 100 + share * others);
 }
 
 Reihe dichtereihe(std::span<const float> dichten, int variable)
 {
-    const std::size_t index = checkedIndex(variable, dichten.size());
-    if (std::ranges::any_of(dichten, istUnbekannt))
-        throw Laufzeitfehler(Fehler::UngueltigesArgument);
-    double others = 0;
-    for (std::size_t j = 0; j < dichten.size(); ++j)
-        others += j == index ? 0 : dichten[j];
     Reihe reihe{};
-    for (int i = 0; i <= 100; ++i) {
-        const double share = quotient(100 - i, static_cast<double>(dichten.size()) - 1) / 100;
-        reihe.at(static_cast<std::size_t>(i)) =
-            toSingle(dichten[index] * static_cast<double>(i) / 100 + share * others);
-    }
+    for (std::size_t i = 0; i < reihe.size(); ++i)
+        reihe.at(i) = dichtewert(dichten, variable, static_cast<double>(i));
     return reihe;
 }
 

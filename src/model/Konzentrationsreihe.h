@@ -1,18 +1,13 @@
 #pragma once
 
-#include <array>
 #include <span>
 #include <string>
 #include <string_view>
 
-#include "model/Anteile.h"
-#include "model/Groessen.h"
+#include "model/Mischungsreihe.h"
 
 /// A free-electron quantity of an alloy over the at% of one of its components.
 namespace zerna {
-
-/// 101 values, index = at% of the variable component.
-using Reihe = std::array<float, 101>;
 
 /// Unit text of quantity `groesse` over compositions; empty for any other code.
 std::string_view reiheneinheit(int groesse);
@@ -28,9 +23,12 @@ const Groesse& gerechneteReihengroesse(int groesse);
 Reihe konzentrationsreihe(
     const clsCalc& calc, std::span<const Legierungskomponente> komponenten, int variable, int groesse);
 
-/// The density series (g/cm³) from the densities of all components.
+/// The density (g/cm³) of the given series at x at% of component `variable`, from the densities of all components.
 /// Intended: the other components share what is left in equal parts, not in their entered proportions. A single
 /// component is a division by zero, an unknown density error 5.
+float dichtewert(std::span<const float> dichten, int variable, double x);
+
+/// Its values at 0, 1, … 100.
 Reihe dichtereihe(std::span<const float> dichten, int variable);
 
 /// The content of a series file: header with symbol and unit, then a line per `schritt` at%, CR LF. Values that are
