@@ -34,6 +34,7 @@ void Diagrammflaeche::showDiagramm(Diagramm& diagramm, Qt::FocusPolicy focus)
     m_display->setVisible(&diagramm == &m_display->diagramm());
     setFocusPolicy(focus);
     m_dragging = false;
+    setAccessibleDescription({});
     emit positionChanged({});
     update();
 }
@@ -77,6 +78,7 @@ void Diagrammflaeche::showHinweis(const QString& hinweis)
 {
     m_meldung = Diagrammmeldung(hinweis);
     showDiagramm(m_meldung, Qt::NoFocus);
+    setAccessibleDescription(hinweis);
 }
 
 void Diagrammflaeche::copyPicture() { copyToClipboard(imageOf(m_diagramm->maler(), leinwand())); }

@@ -21,9 +21,10 @@ void Diagrammbereich::addBefehle(Menue& menue)
             .tun = [this] { m_picDiagramm->savePicture(); },
             .moeglich = [this] { return istDruckbar(); }});
     menue.add(Menue::Abschnitt::Kopieren,
-        {.text = QStringLiteral("&Diagramm kopieren"), .name = "mnuDiagramm_Kopieren", .tun = [this] {
-             m_picDiagramm->copyPicture();
-         }});
+        {.text = QStringLiteral("&Diagramm kopieren"),
+            .name = "mnuDiagramm_Kopieren",
+            .tun = [this] { m_picDiagramm->copyPicture(); },
+            .moeglich = [this] { return istDruckbar(); }});
     for (const auto& [text, name, typ] :
         {std::tuple(QStringLiteral("Diagramm &2 D"), "mnuTyp_0", zerna::Diagrammtyp::Konzentration),
             {QStringLiteral("Diagramm &3 D - ternär"), "mnuTyp_1", zerna::Diagrammtyp::Ternaer},

@@ -112,6 +112,7 @@ void Diagrammbereich::createButtons()
     m_cmdSpeichern->setToolTipText(QStringLiteral("Werte oder Bild des Diagramms speichern"));
     connect(m_cmdKopieren, &StyledButton::clicked, m_picDiagramm, &Diagrammflaeche::copyPicture);
     connect(m_cmdSpeichern, &StyledButton::clicked, m_picDiagramm, &Diagrammflaeche::save);
+    enableOutputs();
 }
 
 /// At the usual font the rows above and below the area take 150 pixels together, so that the area keeps its fixed
@@ -224,7 +225,7 @@ void Diagrammbereich::chooseType(Diagrammtyp typ)
 {
     setTyp(typ);
     m_lblDrei->zeige(seite(typ).warumKeines(m_eingabe), Befundzeile::Ton::Hinweis);
-    aktualisieren(false);
+    aktualisieren(true);
 }
 
 /// Without such a diagram of the alloy it is the concentration diagram instead.
@@ -253,6 +254,14 @@ void Diagrammbereich::aktualisieren(bool keepSelection)
         seite(wahl().typ).zeichne(m_eingabe);
     else
         chooseType(Diagrammtyp::Konzentration);
+    enableOutputs();
+}
+
+/// An error display is no picture to be kept.
+void Diagrammbereich::enableOutputs()
+{
+    for (StyledButton* const button : {m_cmdKopieren, m_cmdSpeichern})
+        button->setEnabled(istDruckbar());
 }
 
 } // namespace zerna

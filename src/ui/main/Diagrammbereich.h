@@ -68,6 +68,7 @@ private:
     QBoxLayout* layOutButtons();
     void orderTabs();
     void aktualisieren(bool keepSelection);
+    void enableOutputs();
     void waehleTyp(int position);
     void chooseType(Diagrammtyp typ);
     void setTyp(Diagrammtyp typ);

@@ -24,10 +24,11 @@ bool Diagrammseite::zeigeHindernis(const Eingabe& eingabe)
 
 void Diagrammseite::zeigeFehler(const Laufzeitfehler& error)
 {
-    m_flaeche.showFehler(QStringLiteral("%1 (%2)\n\nDie Größe hat hier keinen Wert oder ist an den Enden 0: Werte "
-                                        "der Komponenten prüfen oder eine andere Größe wählen.")
-                             .arg(toQt(error.what()))
-                             .arg(error.Nummer()));
+    m_flaeche.showHinweis(QStringLiteral(
+        "Konnte Diagramm nicht berechnen!\n%1 (%2)\n\nDie Größe hat hier keinen Wert oder ist an den Enden 0: Werte "
+        "der Komponenten prüfen oder eine andere Größe wählen.")
+                              .arg(toQt(error.what()))
+                              .arg(error.Nummer()));
 }
 
 std::span<const int> legierungsgroessen()

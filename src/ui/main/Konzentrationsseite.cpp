@@ -72,23 +72,36 @@ void Konzentrationsseite::zeichne(const Eingabe& eingabe)
     }
     if (zeigeHindernis(eingabe))
         return;
-    flaeche().display().setKompositionBereit(eingabe.istVollstaendig());
-    if (!eingabe.istVollstaendig()) { // while an at% is being typed the diagram stays, as the results do
-        if (!programm().gerechneteEingabe().istVollstaendig())
-            flaeche().showFehler(QStringLiteral("Es sind nicht alle Anteile eingetragen!"));
+    const Eingabe* const drawn = zuZeichnen(eingabe);
+    if (drawn == nullptr) {
+        flaeche().showFehler(QStringLiteral("Es sind nicht alle Anteile eingetragen!"));
         return;
     }
     try {
-        drawSeries(eingabe);
+        drawSeries(*drawn);
         flaeche().showKonzentration();
     } catch (const Laufzeitfehler& error) {
         zeigeFehler(error);
     }
 }
 
+/// While an at% is being typed it is the alloy of the results, as long as it has the components in the list and can be
+/// drawn; null if there is none.
+const Eingabe* Konzentrationsseite::zuZeichnen(const Eingabe& eingabe)
+{
+    if (eingabe.istVollstaendig())
+        return &eingabe;
+    const Eingabe& last = programm().gerechneteEingabe();
+    bool isSame = last.istVollstaendig() && last.anzahl() == eingabe.anzahl() && !last.hindernis();
+    for (int row = 0; isSame && row < eingabe.anzahl(); ++row)
+        isSame = last.zeile(row).element == eingabe.zeile(row).element;
+    return isSame ? &last : nullptr;
+}
+
 void Konzentrationsseite::drawSeries(const Eingabe& eingabe)
 {
     conDisplay& display = flaeche().display();
+    display.setKompositionBereit(true);
     std::array<float, MaxKomponenten> dichten{};
     for (int row = 0; row < eingabe.anzahl(); ++row)
         dichten.at(static_cast<std::size_t>(row)) = eingabe.zeile(row).dichte.wert;

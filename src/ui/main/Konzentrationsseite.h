@@ -28,6 +28,7 @@ signals:
     void prozentStepped(int row, int prozent);
 
 private:
+    const Eingabe* zuZeichnen(const Eingabe& eingabe);
     void drawSeries(const Eingabe& eingabe);
 
     std::array<conLabel*, MaxKomponenten> m_conLabel{};

@@ -1,6 +1,8 @@
 #include "ui/main/Diagrammbereich.h"
 
 #include <QAbstractButton>
+#include <QAction>
+#include <QMenu>
 #include <QTimer>
 
 #include <random>
@@ -38,6 +40,83 @@ TEST_F(DiagrammbereichTest, EveryEditRedrawsAndCalcKeepsTheAlloy)
     }
     EXPECT_EQ(picture(), image) << "copying leaves it as it is";
     EXPECT_FLOAT_EQ(programm->Calc().Valenz(), 1.6F) << "of 60 at% zinc, not of the last step";
+}
+
+/// While an at% cannot be read, lists, picture and values are still those of the same alloy.
+TEST_F(DiagrammbereichTest, ListsPictureAndValuesAgreeWhileAnAtomicPercentIsTyped)
+{
+    auto& display = find<conDisplay>("conDisplay1");
+    type("txtProzent_0", "60");
+    const auto look = [&] {
+        choose("cmbDiagramm", "Fermienergie");
+        choose("cmbDiagramm_Element", "Cu");
+        return std::pair(display.values(1), picture());
+    };
+    const auto complete = look();
+    choose("cmbDiagramm_Element", "Al");
+    choose("cmbDiagramm", "Valenz");
+    type("txtProzent_0", "");
+    EXPECT_EQ(look(), complete);
+    choose("cmbDiagramm_Typ", "PSE");
+    choose("cmbDiagramm", "Masse");
+    choose("cmbDiagramm_Typ", "2 D");
+    EXPECT_EQ(look(), complete);
+    choose("cmbElement_1", "Zn"); // no picture has this component yet
+    EXPECT_FALSE(find("cmdDiagramm_Kopieren").isEnabled());
+    EXPECT_FALSE(display.isVisible());
+    choose("cmbElement_1", "Cu");
+    choose("cmdDichte_1", "kristallin");
+    EXPECT_EQ(look(), complete);
+}
+
+TEST_F(DiagrammbereichTest, WithoutADiagramNothingCanBeCopiedOrSaved)
+{
+    const auto isOffered = [this] {
+        const bool isEnabled = find("cmdDiagramm_Kopieren").isEnabled();
+        for (const char* const name : {"mnuDiagramm_Kopieren", "mnuDiagramm_Speichern", "mnuBild_Speichern"}) {
+            auto* const action = window->findChild<QAction*>(QLatin1String(name));
+            auto* const menu = qobject_cast<QMenu*>(action->associatedObjects().constFirst());
+            emit menu->aboutToShow();
+            EXPECT_EQ(action->isEnabled(), isEnabled) << name;
+            emit menu->aboutToHide();
+        }
+        EXPECT_EQ(find("cmdDiagramm_Speichern").isEnabled(), isEnabled);
+        return isEnabled;
+    };
+    EXPECT_TRUE(isOffered());
+    choose("cmdDichte_0", "<andere>"); // 0
+    EXPECT_FALSE(isOffered());
+    type("txtProzent_0", "");
+    type("txtDichte_0", "2,7"); // the alloy computed last has no density yet
+    EXPECT_FALSE(isOffered());
+    type("txtProzent_0", "30");
+    EXPECT_TRUE(isOffered());
+    click("cmdKom_1"); // one component
+    EXPECT_FALSE(isOffered());
+    choose("cmbDiagramm_Typ", "PSE");
+    EXPECT_TRUE(isOffered());
+}
+
+TEST_F(DiagrammbereichTest, TheAreaSaysWhyThereIsNoDiagram)
+{
+    const auto said = [this] { return find("picDiagramm").accessibleDescription().toStdString(); };
+    EXPECT_EQ(said(), "");
+    choose("cmbDiagramm", "Hall-Koeffizient");
+    for (const char* const list : {"cmbValenz_0", "cmbValenz_1"})
+        choose(list, "<andere>"); // 0
+    EXPECT_EQ(said().find("Konnte Diagramm nicht berechnen!\nUngültiger Prozeduraufruf"), 0U) << said();
+    choose("cmdDichte_0", "<andere>"); // 0
+    EXPECT_EQ(said(), "Konnte Diagramm nicht berechnen!\n\nDichte für Aluminium ist Null!");
+}
+
+TEST_F(DiagrammbereichTest, LeavingAndReturningKeepsTheComponent)
+{
+    choose("cmbDiagramm_Element", "Cu");
+    choose("cmbDiagramm_Typ", "PSE");
+    choose("cmbDiagramm_Typ", "2 D");
+    EXPECT_EQ(text("cmbDiagramm_Element"), "Cu");
+    choose("cmdDichte_0", "<andere>"); // Intended: a density puts the first component along the axis again
+    EXPECT_EQ(text("cmbDiagramm_Element"), "Al");
 }
 
 TEST_F(DiagrammbereichTest, MenuSavesThePicture)
