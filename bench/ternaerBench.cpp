@@ -66,7 +66,7 @@ void frames(benchmark::State& state)
 {
     Aufbau aufbau;
     Ternaerdiagramm diagramm;
-    diagramm.setGitter(ternaergitter(aufbau.calc, komponenten(aufbau), FermienergieCode, Feinste), {});
+    diagramm.setAngaben(ternaerangaben(aufbau.calc, komponenten(aufbau), FermienergieCode, Feinste));
     QImage image(Bildgroesse, QImage::Format_ARGB32_Premultiplied);
     std::vector<double> milliseconds;
     for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)

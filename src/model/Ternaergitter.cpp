@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "core/CheckedArithmetic.h"
 #include "core/Zahlentext.h"
+#include "model/Ternaergroesse.h"
 
 namespace zerna {
 
@@ -21,14 +21,6 @@ void forEachPoint(int n, Point&& point)
     }
 }
 
-float meanDensity(std::span<const Legierungskomponente> komponenten, const std::array<double, 3>& prozente)
-{
-    double sum = 0;
-    for (std::size_t k = 0; k < prozente.size(); ++k)
-        sum += prozente.at(k) * komponenten[k].dichte;
-    return toSingle(sum / 100);
-}
-
 } // namespace
 
 Ternaergitter ternaergitter(
@@ -42,21 +34,8 @@ Ternaergitter ternaergitter(
     std::ranges::transform(
         komponenten, gitter.symbole.begin(), [](const Legierungskomponente& k) { return k.element->symbol(); });
     gitter.werte.reserve(static_cast<std::size_t>((gitter.n + 1) * (gitter.n + 2) / 2));
-    const auto teile = anteile(komponenten);
-    const auto used = std::span(teile).first<3>();
-    if (groesse == GroesseDichte) {
-        forEachPoint(gitter.n,
-            [&](int, int, const auto& prozente) { gitter.werte.push_back(meanDensity(komponenten, prozente)); });
-        return gitter;
-    }
-    const Groesse& gerechnet = gerechneteReihengroesse(groesse);
-    clsCalc scratch = calc;
-    forEachPoint(gitter.n, [&](int, int, const auto& prozente) {
-        gitter.werte.push_back(orUnbekannt([&] {
-            setComposition(scratch, used, prozente);
-            return wert(gerechnet, scratch);
-        }));
-    });
+    Ternaergroesse quantity(calc, komponenten, groesse);
+    forEachPoint(gitter.n, [&](int, int, const auto& prozente) { gitter.werte.push_back(quantity.wert(prozente)); });
     return gitter;
 }
 

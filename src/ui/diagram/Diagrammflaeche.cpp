@@ -50,9 +50,15 @@ void Diagrammflaeche::showPSE(PSEReihe reihe, std::vector<std::string> symbols)
     showDiagramm(m_pse, Qt::StrongFocus);
 }
 
-void Diagrammflaeche::showTernaer(Ternaergitter gitter, const Anteile3& current)
+void Diagrammflaeche::setTernaerziel(std::optional<float> ziel)
 {
-    m_ternaer.setGitter(std::move(gitter), current);
+    m_ternaer.setZiel(ziel);
+    update();
+}
+
+void Diagrammflaeche::showTernaer(Ternaerangaben angaben)
+{
+    m_ternaer.setAngaben(std::move(angaben));
     showDiagramm(m_ternaer, Qt::StrongFocus);
 }
 

@@ -33,8 +33,11 @@ public:
     /// Shows an element property; `symbols` names the elements of the series for the read-out.
     void showPSE(PSEReihe reihe, std::vector<std::string> symbols);
 
-    /// Shows a ternary diagram; `current` is the alloy's own composition.
-    void showTernaer(Ternaergitter gitter, const Anteile3& current);
+    void showTernaer(Ternaerangaben angaben);
+
+    /// Marks where the ternary diagram's quantity has a value, also while another diagram is shown.
+    void setTernaerziel(std::optional<float> ziel);
+    std::string ternaerzielpunkte() const { return m_ternaer.zielpunkte(); } ///< as a table to copy
 
     /// How the ternary diagram is looked at, also while another one is shown.
     const Ansicht& ansicht() const { return m_ternaer.ansicht(); }

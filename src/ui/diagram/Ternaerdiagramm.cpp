@@ -16,9 +16,29 @@ constexpr double ZoomStep = 1.1; // of a key or a notch of the wheel
 
 } // namespace
 
-void Ternaerdiagramm::setGitter(Ternaergitter gitter, const Anteile3& current)
+void Ternaerdiagramm::setAngaben(Ternaerangaben angaben)
 {
-    m_inhalt = std::make_shared<const Ternaerinhalt>(std::move(gitter), current);
+    m_inhalt = std::make_shared<const Ternaerinhalt>(std::move(angaben.gitter), angaben.legierung);
+    m_groesse = std::move(angaben.groesse);
+    findZiellinien();
+}
+
+void Ternaerdiagramm::setZiel(std::optional<float> ziel)
+{
+    m_ziel = ziel;
+    findZiellinien();
+}
+
+std::string Ternaerdiagramm::zielpunkte() const
+{
+    return m_inhalt ? punktetext(m_inhalt->gitter, m_ziellinien) : std::string();
+}
+
+void Ternaerdiagramm::findZiellinien()
+{
+    m_ziellinien.clear();
+    if (m_ziel && m_inhalt)
+        m_ziellinien = hoehenlinien(m_inhalt->gitter, m_inhalt->triangles, *m_ziel, m_groesse);
 }
 
 const Ternaerbild& Ternaerdiagramm::bild(const Leinwand& leinwand) const

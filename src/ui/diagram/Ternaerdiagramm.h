@@ -1,7 +1,10 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <vector>
 
+#include "bild/Ternaerangaben.h"
 #include "ui/diagram/Diagramm.h"
 #include "ui/diagram/LastResult.h"
 #include "ui/ternary/Ternaerbild.h"
@@ -11,8 +14,14 @@ namespace zerna {
 /// The ternary diagram, which mouse and keys turn and zoom. The flat view stands still.
 class Ternaerdiagramm : public Diagramm {
 public:
-    /// Replaces the grid; the view stays. `current` is the alloy's own composition, shown if it lies in the triangle.
-    void setGitter(Ternaergitter gitter, const Anteile3& current);
+    /// Shows another alloy or quantity; view and target stay.
+    void setAngaben(Ternaerangaben angaben);
+
+    /// Marks where the quantity has a value, by a line across the surface; none takes the line away.
+    void setZiel(std::optional<float> ziel);
+
+    /// The points of that line as a table of at% (tabs, CR LF); empty while there are none.
+    std::string zielpunkte() const;
 
     const Ansicht& ansicht() const { return m_ansicht; }
     void setAnsicht(const Ansicht& ansicht) { m_ansicht = ansicht; }
@@ -40,10 +49,14 @@ private:
         bool operator==(const Aufnahme&) const = default;
     };
 
+    void findZiellinien();
     const Ternaerbild& bild(const Leinwand& leinwand) const;
     void turnBy(double tilt, double turn);
 
     std::shared_ptr<const Ternaerinhalt> m_inhalt; // null before the first grid
+    Ternaerwert m_groesse;
+    std::optional<float> m_ziel;
+    std::vector<Ternaerlinie> m_ziellinien; // along which the quantity has that value
     Ansicht m_ansicht;
     LastResult<Aufnahme, Ternaerbild> m_bild;
 };

@@ -3,7 +3,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
-#include <algorithm>
 #include <tuple>
 #include <utility>
 
@@ -65,11 +64,7 @@ void Ternaerseite::zeichne(const Eingabe& eingabe)
         return;
     try {
         const Legierung legierung = eingabe.legierung().value();
-        Anteile3 current{};
-        std::ranges::transform(legierung.komponenten(), current.begin(),
-            [](const Legierungskomponente& komponente) { return komponente.prozent / 100.0; });
-        flaeche().showTernaer(
-            ternaergitter(programm().Calc(), legierung.komponenten(), wahl().groesse, m_steps), current);
+        flaeche().showTernaer(ternaerangaben(programm().Calc(), legierung.komponenten(), wahl().groesse, m_steps));
     } catch (const Laufzeitfehler& error) {
         zeigeFehler(error);
     }

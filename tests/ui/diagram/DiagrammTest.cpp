@@ -52,7 +52,7 @@ std::unique_ptr<Diagramm> pse()
 std::unique_ptr<Diagramm> ternaer()
 {
     auto diagramm = std::make_unique<Ternaerdiagramm>();
-    diagramm->setGitter(gitter(), {0.2, 0.3, 0.5});
+    diagramm->setAngaben({gitter(), {0.2, 0.3, 0.5}, "Titel", "Untertitel", {}});
     return diagramm;
 }
 

@@ -1,0 +1,59 @@
+#include "bild/Ternaerangaben.h"
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+#include "core/Anzeigetext.h"
+#include "model/Ternaergroesse.h"
+#include "model/Werttext.h"
+
+namespace zerna {
+
+namespace {
+
+/// "Fermienergie [eV]".
+std::string titelOf(int groesse)
+{
+    constexpr int Atomvolumen = 4;
+    const Groesse* const found = findReihengroesse(groesse);
+    if (found == nullptr)
+        return {};
+    const std::string title = std::string(found->name) + " [" + std::string(found->reiheneinheit) + "]";
+    return groesse == Atomvolumen ? title + " (Zahl in " + std::string(found->einheit) + ")" : title;
+}
+
+/// "Al: 2,375 g/cm³, Valenz 3".
+std::string textOf(const Legierungskomponente& k)
+{
+    return k.element->symbol() + ": " + anzeigetext(werttext(k.dichte, "g/cm³")) + ", Valenz "
+        + anzeigetext(werttext(k.valenz));
+}
+
+std::string untertitelOf(std::span<const Legierungskomponente> komponenten)
+{
+    std::string text;
+    for (const Legierungskomponente& k : komponenten)
+        text += (text.empty() ? "" : " · ") + textOf(k);
+    return text;
+}
+
+} // namespace
+
+Ternaerangaben ternaerangaben(
+    const clsCalc& calc, std::span<const Legierungskomponente> komponenten, int groesse, int aufloesung)
+{
+    Ternaerangaben angaben;
+    angaben.gitter = ternaergitter(calc, komponenten, groesse, aufloesung);
+    std::ranges::transform(
+        komponenten, angaben.legierung.begin(), [](const Legierungskomponente& k) { return k.prozent / 100.0; });
+    angaben.titel = titelOf(groesse);
+    angaben.untertitel = untertitelOf(komponenten);
+    const auto quantity = std::make_shared<Ternaergroesse>(calc, komponenten, groesse);
+    angaben.groesse = [quantity](const Anteile3& anteile) {
+        return quantity->wert({anteile[0] * 100, anteile[1] * 100, anteile[2] * 100});
+    };
+    return angaben;
+}
+
+} // namespace zerna
