@@ -23,18 +23,28 @@ double gerundet(double value, int decimals)
     return std::round(value * shift) / shift;
 }
 
-/// The roundest place of a root where the value is the wanted one to the last place of a single; the root's ends are
-/// as good as the series' ends.
-double rundeste(const Nullstelle& stelle, const Funktion& f, double genau)
+/// Where in a root, whose values are the wanted one within rounding, they are so to the last place: what is nearest to
+/// its middle; the whole root if they are so nowhere.
+Nullstelle genaueste(const Nullstelle& stelle, const Funktion& f, double genau)
+{
+    if (stelle.von == stelle.bis)
+        return stelle;
+    const auto parts =
+        nullstellen(f, {.von = stelle.von, .bis = stelle.bis, .schritte = 50, .toleranz = genau}).stellen;
+    const auto nearest = std::ranges::min_element(
+        parts, {}, [&](const Nullstelle& part) { return std::abs(part.mitte() - stelle.mitte()); });
+    return nearest == parts.end() ? stelle : *nearest;
+}
+
+/// The roundest place in a root; the ends of the series are round.
+double rundeste(const Nullstelle& stelle)
 {
     constexpr int Decimals = 6;
-    if (stelle.von == Von && std::abs(f(Von)) <= genau)
-        return Von;
-    if (stelle.bis == Bis && std::abs(f(Bis)) <= genau)
-        return Bis;
+    if (stelle.von == Von || stelle.bis == Bis)
+        return stelle.von == Von ? Von : Bis;
     for (int decimals = 0; decimals < Decimals; ++decimals) {
         const double round = gerundet(stelle.mitte(), decimals);
-        if (stelle.von <= round && round <= stelle.bis && std::abs(f(round)) <= genau)
+        if (stelle.von <= round && round <= stelle.bis)
             return round;
     }
     return std::clamp(gerundet(stelle.mitte(), Decimals), stelle.von, stelle.bis);
@@ -55,7 +65,7 @@ Zielantwort sucheZiel(const Reihenwert& wert, double ziel)
     Zielantwort antwort;
     antwort.ueberall = !found.stellen.empty() && found.stellen.front() == Nullstelle{Von, Bis};
     for (const Nullstelle& stelle : found.stellen) {
-        const double prozent = rundeste(stelle, f, Stelle * std::abs(ziel));
+        const double prozent = rundeste(genaueste(stelle, f, Stelle / 2 * std::abs(ziel)));
         if (!antwort.ueberall)
             antwort.loesungen.push_back({prozent, wert(prozent)});
     }
