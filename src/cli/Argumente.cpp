@@ -1,8 +1,10 @@
 #include "cli/Argumente.h"
 
+#include <algorithm>
 #include <charconv>
 
 #include "core/Kuerzung.h"
+#include "model/Groessen.h"
 #include "programm/Rechenkern.h"
 
 namespace zerna {
@@ -83,6 +85,24 @@ int Ganzzahl::wert() const
     if (read.ec != std::errc() || read.ptr != end)
         throw Aufruffehler("Ungültiger Wert: " + name + " = " + gekuerzt(text) + " (Hilfe: zerna-cli --hilfe)");
     return value;
+}
+
+int reihenkennzahl(const Ganzzahl& groesse)
+{
+    const int kennzahl = groesse.wert();
+    if (findReihengroesse(kennzahl) == nullptr)
+        throw Aufruffehler("--groesse " + std::to_string(kennzahl) + ": erwartet wird " + reihenkennzahlen());
+    return kennzahl;
+}
+
+std::size_t indexOfVariable(
+    const std::string& symbol, const ElementCollection& elements, std::span<const Legierungskomponente> alloy)
+{
+    const auto wanted = elements.find(symbol, true);
+    const auto found = std::ranges::find(alloy, wanted, &Legierungskomponente::element);
+    if (!wanted || found == alloy.end())
+        throw Aufruffehler("--variabel " + gekuerzt(symbol) + ": keine Komponente der Legierung");
+    return static_cast<std::size_t>(found - alloy.begin());
 }
 
 std::string aufruffehler(const CLI::App& app, const CLI::ParseError& error, int argc, const char* const* argv)

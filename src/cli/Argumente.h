@@ -2,10 +2,13 @@
 
 #include <CLI/CLI.hpp>
 
+#include <span>
 #include <string>
 #include <vector>
 
+#include "core/ElementCollection.h"
 #include "model/Anteilseinheit.h"
+#include "model/Legierung.h"
 
 namespace zerna {
 
@@ -36,6 +39,13 @@ struct Ganzzahl {
     std::string name;
     std::string text;
 };
+
+/// The code of a quantity over compositions. Throws Aufruffehler for any other number.
+int reihenkennzahl(const Ganzzahl& groesse);
+
+/// The component of the alloy that --variabel names, the first one if there are several. Throws Aufruffehler.
+std::size_t indexOfVariable(
+    const std::string& symbol, const ElementCollection& elements, std::span<const Legierungskomponente> alloy);
 
 /// What is wrong with a call that could not be taken apart, in German.
 std::string aufruffehler(const CLI::App& app, const CLI::ParseError& error, int argc, const char* const* argv);

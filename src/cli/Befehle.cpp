@@ -5,6 +5,7 @@
 
 #include "cli/Argumente.h"
 #include "cli/Stapel.h"
+#include "cli/Suche.h"
 #include "cli/Umgebung.h"
 #include "core/ElementCsv.h"
 #include "core/Elementdatei.h"
@@ -111,15 +112,6 @@ struct Text {
     Ausgabe ausgabe;
 };
 
-/// The code of a quantity over compositions.
-int reihenkennzahl(const Ganzzahl& groesse)
-{
-    const int kennzahl = groesse.wert();
-    if (findReihengroesse(kennzahl) == nullptr)
-        throw Aufruffehler("--groesse " + std::to_string(kennzahl) + ": erwartet wird " + reihenkennzahlen());
-    return kennzahl;
-}
-
 struct Konzentration {
     void define(CLI::App& befehl)
     {
@@ -138,21 +130,12 @@ struct Konzentration {
             throw Aufruffehler("--schritt " + std::to_string(step) + ": erwartet wird 1 bis 100");
         umgebung.loadAlloy(komponenten.texte, komponenten.einheit());
         const auto alloy = umgebung.kern().komponenten();
-        const std::size_t variable = indexOfVariable(umgebung.kern().elements(), alloy);
+        const std::size_t variable = indexOfVariable(variabel, umgebung.kern().elements(), alloy);
         const int index = static_cast<int>(variable);
         const Reihe werte = kennzahl == GroesseDichte
             ? dichtereihe(dichten(alloy), index)
             : konzentrationsreihe(umgebung.kern().calc(), alloy, index, kennzahl);
         put(reihendatei(alloy[variable].element->symbol(), reiheneinheit(kennzahl), werte, step), ausgabe.datei);
-    }
-
-    std::size_t indexOfVariable(const ElementCollection& elements, std::span<const Legierungskomponente> alloy) const
-    {
-        const auto wanted = elements.find(variabel, true);
-        const auto found = std::ranges::find(alloy, wanted, &Legierungskomponente::element);
-        if (!wanted || found == alloy.end())
-            throw Aufruffehler("--variabel " + gekuerzt(variabel) + ": keine Komponente der Legierung");
-        return static_cast<std::size_t>(found - alloy.begin());
     }
 
     static std::vector<float> dichten(std::span<const Legierungskomponente> alloy)
@@ -332,6 +315,7 @@ void defineBefehle(CLI::App& app, Umgebung& umgebung)
     addBefehl<Groessenliste>(app, umgebung, "groessen", "Größen einer Legierung als Tabelle");
     addBefehl<Text>(app, umgebung, "text", "Ergebnistext einer Legierung");
     addBefehl<Konzentration>(app, umgebung, "reihe", "Größe über den at% einer Komponente");
+    addBefehl<Suche>(app, umgebung, "suche", "Anteil oder weiteres Element zu einem Wert einer Größe");
     addBefehl<PSE>(app, umgebung, "pse", "Größe über der Ordnungszahl");
     addBefehl<Ternaer>(app, umgebung, "ternaer", "Größe über allen Zusammensetzungen dreier Komponenten");
     addBefehl<Wiegen>(app, umgebung, "wiegen", "Sollmassen für eine Gesamtmasse");
