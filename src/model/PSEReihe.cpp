@@ -22,13 +22,25 @@ const Groesse* findEigenschaft(int kennzahl)
 }
 
 /// A value of the element itself, or one of the calculator after the pure-element set-up.
-float valueOf(const Groesse& groesse, clsCalc& calc, const clsElement& element)
+float valueOf(const Groesse& groesse, clsCalc& calc, const clsElement& element, Elementdichte dichte)
 {
     return orUnbekannt([&] {
         if (groesse.elementwert != nullptr)
             return groesse.elementwert(element);
-        return reinesElementSetzen(calc, element) ? wert(groesse, calc) : Unbekannt;
+        return reinesElementSetzen(calc, element, dichte) ? wert(groesse, calc) : Unbekannt;
     });
+}
+
+void fill(PSEReihe& reihe, const ElementCollection& elements, clsCalc calc, const Groesse& groesse,
+    Elementdichte dichte = Elementdichte::Fluessig)
+{
+    reihe.titel = groesse.elementtitel;
+    std::size_t i = 0;
+    for (const auto& element : elements) {
+        reihe.x[i] = element->OZ();
+        reihe.y[i] = valueOf(groesse, calc, *element, dichte);
+        ++i;
+    }
 }
 
 } // namespace
@@ -37,13 +49,14 @@ std::span<const int> psegroessen() { return Reihenfolge; }
 
 bool istPSEGroesse(int groesse) { return findEigenschaft(groesse) != nullptr; }
 
-bool reinesElementSetzen(clsCalc& calc, const clsElement& element)
+bool reinesElementSetzen(clsCalc& calc, const clsElement& element, Elementdichte dichte)
 {
     calc.setValenz(element.Valenz());
-    if (istUnbekannt(element.Dichte_Fluessig()) || istUnbekannt(element.Masse()))
+    const float value = dichte == Elementdichte::Fluessig ? element.Dichte_Fluessig() : element.Dichte_Kristallin();
+    if (istUnbekannt(value) || istUnbekannt(element.Masse()))
         return false;
     calc.setTeilchenzahldichte(
-        toSingle(AvogadroProMol * KubikzentimeterProKubikmeter * quotient(element.Dichte_Fluessig(), element.Masse())));
+        toSingle(AvogadroProMol * KubikzentimeterProKubikmeter * quotient(value, element.Masse())));
     return true;
 }
 
@@ -51,17 +64,19 @@ PSEReihe pseReihe(const ElementCollection& elements, const clsCalc& calc, int gr
 {
     const auto count = static_cast<std::size_t>(elements.Count());
     PSEReihe reihe{std::string(bisherigerTitel), std::vector<float>(count), std::vector<float>(count)};
+    if (const Groesse* const eigenschaft = findEigenschaft(groesse))
+        fill(reihe, elements, calc, *eigenschaft);
+    return reihe;
+}
+
+PSEReihe kristallineReihe(const ElementCollection& elements, const clsCalc& calc, int groesse)
+{
     const Groesse* const eigenschaft = findEigenschaft(groesse);
-    if (eigenschaft == nullptr)
-        return reihe;
-    reihe.titel = eigenschaft->elementtitel;
-    clsCalc scratch = calc;
-    std::size_t i = 0;
-    for (const auto& element : elements) {
-        reihe.x[i] = element->OZ();
-        reihe.y[i] = valueOf(*eigenschaft, scratch, *element);
-        ++i;
-    }
+    if (eigenschaft == nullptr || eigenschaft->elementwert != nullptr)
+        return {};
+    const auto count = static_cast<std::size_t>(elements.Count());
+    PSEReihe reihe{{}, std::vector<float>(count), std::vector<float>(count)};
+    fill(reihe, elements, calc, *eigenschaft, Elementdichte::Kristallin);
     return reihe;
 }
 

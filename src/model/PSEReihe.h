@@ -24,16 +24,22 @@ std::span<const int> psegroessen();
 /// Whether a code is an element property.
 bool istPSEGroesse(int groesse);
 
-/// Sets the calculator to the pure element at its liquid density; false if that or the mass is missing.
-bool reinesElementSetzen(clsCalc& calc, const clsElement& element);
+/// The density of a pure element that calculated properties rest on.
+enum class Elementdichte { Fluessig, Kristallin };
+
+/// Sets the calculator to the pure element at that density; false if it or the mass is missing.
+bool reinesElementSetzen(clsCalc& calc, const clsElement& element, Elementdichte dichte = Elementdichte::Fluessig);
 
 /// The property of that code for every element. A code without a property leaves all values 0 and the title as
 /// `bisherigerTitel`. The calculator is not changed; its constants and formulas are used.
 PSEReihe pseReihe(
     const ElementCollection& elements, const clsCalc& calc, int groesse, std::string_view bisherigerTitel = {});
 
-/// The same, to be looked up beside the elements' data: the valence is always the tabulated one, which the series has
-/// only for elements whose liquid density is known.
+/// The same with the elements at their crystalline density; empty for a property that is not calculated.
+PSEReihe kristallineReihe(const ElementCollection& elements, const clsCalc& calc, int groesse);
+
+/// The same as pseReihe, to be looked up beside the elements' data: the valence is always the tabulated one, which the
+/// series has only for elements whose liquid density is known.
 PSEReihe tafelreihe(const ElementCollection& elements, const clsCalc& calc, int groesse);
 
 /// The content of a property file: header, then a line per element that has the value, CR LF.

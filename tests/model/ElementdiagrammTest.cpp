@@ -1,0 +1,113 @@
+#include "model/Elementdiagramm.h"
+
+#include "core/Unbekannt.h"
+#include "model/Elementluecken.h"
+#include "support/RechnerTest.h"
+
+namespace zerna {
+
+struct ElementdiagrammTest : RechnerTest {
+    /// A complete element that lacks what the record does not know.
+    static ElementRecord bare()
+    {
+        ElementRecord record;
+        record.symbol = "Xx";
+        record.Name = "Probe";
+        record.Masse = record.Schmelztemperatur = record.Dichte_Fluessig = record.Dichte_Kristallin = Unbekannt;
+        record.Valenz = Unbekannt;
+        return record;
+    }
+};
+
+TEST_F(ElementdiagrammTest, GapsNameWhatIsMissing)
+{
+    const auto with = [](auto change) {
+        ElementRecord record = bare();
+        change(record);
+        return record;
+    };
+    const auto all = [](ElementRecord& r) { r.Masse = r.Dichte_Fluessig = r.Dichte_Kristallin = r.Valenz = 1; };
+    const struct {
+        int groesse;
+        ElementRecord record;
+        Elementdichte dichte;
+        const char* grund;
+    } rows[] = {
+        {8, with([&](auto& r) { all(r), r.Dichte_Fluessig = Unbekannt; }), {}, "flüssige Dichte unbekannt"},
+        {8, with([&](auto& r) { all(r), r.Dichte_Kristallin = Unbekannt; }), Elementdichte::Kristallin,
+            "kristalline Dichte unbekannt"},
+        {8, bare(), {}, "flüssige Dichte, Masse und Valenz unbekannt"},
+        {4, bare(), {}, "flüssige Dichte und Masse unbekannt"}, // the volume needs no valence
+        {5, with([&](auto& r) { all(r), r.Valenz = 0; }), {}, "bei Valenz 0 nicht berechenbar"},
+        {4, with([&](auto& r) { all(r), r.Dichte_Fluessig = 0; }), {}, "nicht berechenbar"},
+        {11, bare(), {}, "Schmelztemperatur unbekannt"},
+        {22, with([](auto& r) { r.Dichte_Fluessig = 1; }), {}, "kristalline Dichte unbekannt"},
+        {99, bare(), {}, ""},
+    };
+    for (const auto& row : rows) {
+        clsElement element(files, boxes);
+        element.setRecord(row.record);
+        EXPECT_EQ(elementluecke(row.groesse, element, row.dichte), row.grund) << row.groesse;
+    }
+}
+
+TEST_F(ElementdiagrammTest, EveryGapOfTheTableHasAReason)
+{
+    addElements();
+    for (const int groesse : psegroessen()) {
+        const Elementdiagramm diagramm = elementdiagramm(elements, calc, groesse);
+        SCOPED_TRACE(diagramm.titel);
+        EXPECT_EQ(diagramm.hatKristallin(), findGroesse(groesse)->formel != nullptr);
+        for (std::size_t i = 0; i < diagramm.elemente.size(); ++i) {
+            const Diagrammelement& element = diagramm.elemente[i];
+            EXPECT_EQ(element.luecke.empty(), !istUnbekannt(diagramm.reihe.y[i])) << element.symbol;
+            EXPECT_NE(element.luecke, "nicht berechenbar") << element.symbol;
+            EXPECT_EQ(element.kristallineLuecke.empty(),
+                !diagramm.hatKristallin() || !istUnbekannt(diagramm.kristallin.y[i]));
+        }
+    }
+}
+
+TEST_F(ElementdiagrammTest, TextsBesideTheCurve)
+{
+    const struct {
+        int groesse;
+        const char* titel;
+        const char* einheit;
+    } rows[] = {{8, "Fermienergie [eV] der Elemente", "eV"}, {0, "Valenz der Elemente", "e/a"},
+        {4, "Atomvolumen [nm³] der Elemente (Zahl in m³)", "m³"}, {16, "Atomradius [pm] der Elemente", "pm"},
+        {18, "Elektronegativität der Elemente", ""}, {1, "", ""}};
+    for (const auto& row : rows) {
+        const Elementdiagramm diagramm = elementdiagramm(elements, calc, row.groesse);
+        EXPECT_EQ(diagramm.titel, row.titel);
+        EXPECT_EQ(diagramm.einheit, row.einheit);
+    }
+}
+
+TEST_F(ElementdiagrammTest, TablesForTheClipboard)
+{
+    ElementRecord record;
+    record.Masse = 6.022136F;
+    record.Valenz = 1;
+    for (const char* const symbol : {"A", "B"}) {
+        record.symbol = symbol;
+        record.Name = std::string(symbol) + "-Stoff";
+        ++record.OZ;
+        record.Dichte_Fluessig = record.OZ == 2 ? Unbekannt : 1;
+        record.Dichte_Kristallin = record.OZ == 2 ? 0.5F : Unbekannt;
+        addElement(record);
+    }
+    const Elementdiagramm diagramm = elementdiagramm(elements, calc, 0, {"B"});
+    EXPECT_FALSE(diagramm.elemente.at(0).inLegierung);
+    EXPECT_TRUE(diagramm.elemente.at(1).inLegierung);
+    const std::string title = diagramm.reihe.titel;
+    EXPECT_EQ(elementtabelle(diagramm, false), psedatei(diagramm.reihe));
+    EXPECT_EQ(elementtabelle(diagramm, true), "OZ\t" + title + "\tkristallin\r\n1\t1\t\r\n2\t\t1\r\n");
+    const std::string first = "Symbol\tName\t" + title + "\r\n";
+    EXPECT_EQ(lueckentabelle(diagramm, false), first + "B\tB-Stoff\tflüssige Dichte unbekannt\r\n");
+    EXPECT_EQ(lueckentabelle(diagramm, true),
+        first + "A\tA-Stoff\tkristalline Dichte unbekannt\r\nB\tB-Stoff\tflüssige Dichte unbekannt\r\n");
+    EXPECT_EQ(lueckentabelle(elementdiagramm(elements, calc, 15), true), "");
+}
+
+} // namespace zerna
