@@ -15,7 +15,6 @@ constexpr int Divisions = 10;
 constexpr double RoundingError = 1e-6; // in divisions, of a single-precision range
 constexpr double LeftStrip = 60;
 constexpr double BottomStrip = 30;
-constexpr double LabelGap = 2; // between a label and the tick beside it
 
 } // namespace
 
@@ -103,9 +102,8 @@ double labelScale(
     double widest = 0;
     for (const Achsenmarke& marke : yMarken)
         widest = std::max(widest, width(marke.label));
-    const double room = plot.left - LabelColumn - TickLength - LabelGap;
     const double height = xLabelTop(plot, labelHeight) + labelHeight - plot.height;
-    return std::min({1.0, room / std::max(widest, 1.0), BottomStrip / height});
+    return std::min({1.0, labelRoom(plot) / std::max(widest, 1.0), BottomStrip / height});
 }
 
 Abbildung::Abbildung(double width, double height, const Bereich& x, const Bereich& y)

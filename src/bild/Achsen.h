@@ -44,6 +44,7 @@ std::string yLabel(double value);
 /// Y labels are printed from this column on.
 inline constexpr double LabelColumn = 5;
 inline constexpr double TickLength = 7;
+inline constexpr double LabelGap = 2; ///< between a label and the tick beside it
 
 /// The ticks of the y axis from below: ten divisions without the topmost, every second one on a control lower than 300
 /// pixels. A label that would touch the one below it is left out.
@@ -61,6 +62,9 @@ double xLabelTop(const Rechteck& plot, double labelHeight);
 double labelScale(
     const std::vector<Achsenmarke>& yMarken, const Rechteck& plot, const Textbreite& width, double labelHeight);
 
+/// Room for a y label between its column and the ticks.
+inline double labelRoom(const Rechteck& plot) { return plot.left - LabelColumn - TickLength - LabelGap; }
+
 /// Pixels of the plot area and data units, there and back.
 class Abbildung {
 public:
@@ -72,6 +76,9 @@ public:
     /// Whole pixels, halves to even.
     double column(double x) const;
     double row(double y) const;
+
+    /// Between pixels.
+    Punkt punkt(double x, double y) const { return {(x - m_x.min) * m_xScale, m_height - (y - m_y.min) * m_yScale}; }
 
     double x(double column) const;
     double y(double row) const;

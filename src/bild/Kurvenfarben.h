@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstddef>
+
+#include "bild/Kurvenbild.h"
+
+namespace zerna {
+
+/// How one of several curves looks.
+struct Kurvenaussehen {
+    Farbe farbe;
+    Linienart linie = Linienart::Durchgezogen;
+    Punktzeichen zeichen = Punktzeichen::Kreis; ///< for curves that show their points
+};
+
+inline constexpr std::size_t Kurvenfarben = 8;
+
+/// The look of curve `index`, the first one being the given blue line; from Kurvenfarben on it begins anew. Any two of
+/// them differ in dash or clearly in lightness, so they can be told apart in grey print and by colour-blind eyes.
+Kurvenaussehen kurvenaussehen(std::size_t index);
+
+} // namespace zerna

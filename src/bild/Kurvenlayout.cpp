@@ -1,0 +1,247 @@
+#include "bild/Kurvenlayout.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "bild/Achsenteilung.h"
+#include "bild/Rundteilung.h"
+#include "bild/Textumbruch.h"
+
+namespace zerna {
+
+namespace {
+
+constexpr double RightStrip = 60; // for the labels of the right axis
+constexpr double MinorTickLength = 4;
+
+Bereich visible(const Bereich& bereich)
+{
+    if (bereich.max > bereich.min && std::isfinite(bereich.max - bereich.min))
+        return bereich;
+    return std::isfinite(bereich.min) ? Bereich{bereich.min - 1, bereich.min + 1} : Bereich{0, 1};
+}
+
+/// A layout while it is made: the strips first, then the axes in what is left.
+class Aufbau {
+public:
+    Aufbau(const Kurvenbild& bild, const Bildstil& stil, const Schriftmasse& masse, bool zoomed)
+        : m_bild(bild)
+        , m_stil(stil)
+        , m_masse(masse)
+        , m_normal(masse({}))
+        , m_zoomed(zoomed)
+    {
+    }
+
+    Kurvenlayout make(double width, double height, const Ausschnitt& ausschnitt);
+
+private:
+    bool isRound(const Achse& achse) const { return m_stil.rundeTeilung || achse.rund || m_zoomed; }
+    bool isRoundX() const { return isRound(m_bild.x) || !hatGanzeZehntel(m_layout.ausschnitt.x); }
+    Rundwunsch wunsch() const;
+    Achsenteilung yTeilung(const Achse& achse, const Bereich& bereich, double room) const;
+    void placeKern();
+    void placeYAxis(const Achsenteilung& teilung);
+    void placeRightAxis(const Achsenteilung& teilung);
+    void placeXAxis();
+    void placeMarks();
+    void placeSideTitles(const Achsenteilung& left, const Achsenteilung& right);
+
+    const Kurvenbild& m_bild;
+    const Bildstil& m_stil;
+    const Schriftmasse& m_masse;
+    Textmasse m_normal;
+    bool m_zoomed;
+    Schrift m_labels; // of the axes of `kern`
+    Kurvenlayout m_layout;
+};
+
+Rundwunsch Aufbau::wunsch() const
+{
+    return {m_stil.dezimal, m_stil.rundeTeilung, m_stil.rundeTeilung ? m_normal.height / 2 : 0};
+}
+
+Achsenteilung Aufbau::yTeilung(const Achse& achse, const Bereich& bereich, double room) const
+{
+    return isRound(achse) ? rundeYTeilung(m_layout.plot.height, bereich, wunsch(), room, m_masse)
+                          : gegebeneTeilung(m_layout.plot, m_layout.kern.height, bereich, room, m_masse);
+}
+
+/// The plot between the strips.
+void Aufbau::placeKern()
+{
+    Rechteck& kern = m_layout.kern;
+    if (m_stil.rundeTeilung) {
+        m_layout.plot = {0, kern.top + std::ceil(m_normal.height / 2), 0, 0};
+        const double below = std::ceil(TickLength + LabelGap + m_normal.height);
+        m_layout.plot.height = std::max(0.0, kern.top + kern.height - below - m_layout.plot.top);
+        return;
+    }
+    if (m_bild.rechts)
+        kern.width = std::max(0.0, kern.width - RightStrip);
+    m_layout.plot = plotArea(static_cast<int>(kern.width), static_cast<int>(kern.height));
+    m_layout.plot.left += kern.left;
+    m_layout.plot.top += kern.top;
+}
+
+Kurvenlayout Aufbau::make(double width, double height, const Ausschnitt& ausschnitt)
+{
+    m_layout.ausschnitt = ausschnitt;
+    Randstreifen rand = randstreifen(m_bild, ausschnitt.x, width, height, m_stil, m_masse);
+    m_layout.kern = rand.kern;
+    m_layout.texte = std::move(rand.texte);
+    m_layout.legende = std::move(rand.legende);
+    placeKern();
+    if (m_layout.plot.height <= 0)
+        return m_layout;
+    const double room = m_stil.rundeTeilung ? width / 4 : labelRoom(plotArea(0, 0));
+    const Achsenteilung left = yTeilung(m_bild.y, ausschnitt.y, room);
+    const Achsenteilung right = m_bild.rechts ? yTeilung(*m_bild.rechts, ausschnitt.rechts, room) : Achsenteilung();
+    m_labels = left.schrift;
+    if (m_stil.rundeTeilung)
+        placeSideTitles(left, right);
+    if (m_layout.istLeer())
+        return m_layout;
+    m_layout.links = Abbildung(m_layout.plot.width, m_layout.plot.height, ausschnitt.x, ausschnitt.y);
+    m_layout.rechts = Abbildung(m_layout.plot.width, m_layout.plot.height, ausschnitt.x, ausschnitt.rechts);
+    placeYAxis(left);
+    if (m_bild.rechts)
+        placeRightAxis(right);
+    placeXAxis();
+    placeMarks();
+    return m_layout;
+}
+
+/// Round ticks: the strips at the sides are as wide as labels and titles need.
+void Aufbau::placeSideTitles(const Achsenteilung& left, const Achsenteilung& right)
+{
+    constexpr double Edge = 2;
+    constexpr double TitleLines = 1.25;
+    Rechteck& plot = m_layout.plot;
+    const Rechteck& kern = m_layout.kern;
+    const auto strip = [&](const Achse& achse, const Achsenteilung& teilung) {
+        const bool hasTitle = !achse.titel.empty() || teilung.zehner != 0;
+        return Edge + (hasTitle ? TitleLines * m_normal.height : 0) + teilung.breite(m_masse(teilung.schrift))
+            + LabelGap + TickLength;
+    };
+    plot.left = std::ceil(kern.left + strip(m_bild.y, left));
+    const double end = m_bild.rechts ? strip(*m_bild.rechts, right) : m_normal.width("00");
+    plot.width = std::max(0.0, std::floor(kern.left + kern.width - end - plot.left));
+    const auto title = [&](const Achse& achse, const Achsenteilung& teilung, double column) {
+        const std::string text = gekuerzt(titelMitZehner(achse.titel, teilung.zehner), plot.height, m_normal.width);
+        const double length = m_normal.width(text);
+        if (!text.empty())
+            m_layout.texte.push_back(
+                {text, {column, plot.top + (plot.height - length) / 2, m_normal.height, length}, {}, true});
+    };
+    title(m_bild.y, left, kern.left + Edge);
+    if (m_bild.rechts)
+        title(*m_bild.rechts, right, kern.left + kern.width - Edge - m_normal.height);
+}
+
+void Aufbau::placeYAxis(const Achsenteilung& teilung)
+{
+    const Rechteck& plot = m_layout.plot;
+    const Textmasse masse = m_masse(teilung.schrift);
+    const double bottom = m_layout.kern.top + m_layout.kern.height;
+    for (const Achsenmarke& marke : teilung.marken) {
+        const double row = std::min(std::round(plot.top + marke.position), bottom - 1);
+        m_layout.kernstriche.push_back({plot.left - TickLength, row, TickLength, 1});
+        const double width = breiteOf(marke.label, masse);
+        const double column =
+            m_stil.rundeTeilung ? plot.left - TickLength - LabelGap - width : m_layout.kern.left + LabelColumn;
+        if (!marke.label.empty())
+            m_layout.kerntexte.push_back({marke.label,
+                {column, plot.top + marke.labelStart, width, hoeheOf(marke.label, masse)}, teilung.schrift});
+    }
+    for (const double position : teilung.neben)
+        m_layout.kernstriche.push_back(
+            {plot.left - MinorTickLength, std::round(plot.top + position), MinorTickLength, 1});
+    m_layout.kernstriche.push_back({plot.left - 1, plot.top, 1, plot.height + 1});
+}
+
+void Aufbau::placeRightAxis(const Achsenteilung& teilung)
+{
+    const Rechteck& plot = m_layout.plot;
+    const double right = plot.left + plot.width;
+    const Textmasse masse = m_masse(teilung.schrift);
+    for (const Achsenmarke& marke : teilung.marken) {
+        m_layout.striche.push_back({right, std::round(plot.top + marke.position), TickLength, 1});
+        if (!marke.label.empty())
+            m_layout.texte.push_back({marke.label,
+                {right + TickLength + LabelGap, plot.top + marke.labelStart, breiteOf(marke.label, masse),
+                    hoeheOf(marke.label, masse)},
+                teilung.schrift});
+    }
+    for (const double position : teilung.neben)
+        m_layout.striche.push_back({right, std::round(plot.top + position), MinorTickLength, 1});
+    m_layout.striche.push_back({right, plot.top, 1, plot.height + 1});
+}
+
+void Aufbau::placeXAxis()
+{
+    const Rechteck& plot = m_layout.plot;
+    const Rechteck& kern = m_layout.kern;
+    const Textmasse masse = m_masse(m_labels);
+    const Rechteck inKern{plot.left - kern.left, plot.top - kern.top, plot.width, plot.height};
+    Achsenteilung teilung;
+    if (isRoundX())
+        teilung = rundeXTeilung(inKern, kern.width, m_layout.ausschnitt.x, wunsch(), masse);
+    else
+        teilung.marken = xMarken(inKern, static_cast<int>(kern.width), m_layout.ausschnitt.x, masse.width);
+    const double bottom = plot.top + plot.height;
+    const double top =
+        m_stil.rundeTeilung ? bottom + TickLength + LabelGap : kern.top + xLabelTop(inKern, masse.height);
+    for (const Achsenmarke& marke : teilung.marken) {
+        const double column = std::min(std::round(kern.left + marke.position), kern.left + kern.width - 1);
+        m_layout.kernstriche.push_back({column, bottom, 1, TickLength});
+        if (!marke.label.empty())
+            m_layout.kerntexte.push_back(
+                {marke.label, {kern.left + marke.labelStart, top, masse.width(marke.label), masse.height}, m_labels});
+    }
+    for (const double position : teilung.neben)
+        m_layout.kernstriche.push_back({std::round(kern.left + position), bottom, 1, MinorTickLength});
+    m_layout.kernstriche.push_back({plot.left - 1, bottom, plot.width + 1, 1});
+}
+
+/// The texts of the marks beside their lines at the top of the plot; one that would stand on another goes a line lower.
+void Aufbau::placeMarks()
+{
+    constexpr double Gap = 4;
+    const Rechteck& plot = m_layout.plot;
+    const Bereich& x = m_layout.ausschnitt.x;
+    for (const Linienmarke& marke : m_bild.marken) {
+        if (marke.text.empty() || marke.x < x.min || marke.x > x.max)
+            continue;
+        const double column = plot.left + m_layout.links.punkt(marke.x, 0).x;
+        const double width = m_normal.width(marke.text);
+        const bool fitsRight = column + Gap + width <= plot.left + plot.width;
+        Rechteck box{fitsRight ? column + Gap : column - Gap - width, plot.top + Gap, width, m_normal.height};
+        const auto touches = [&](const Textstelle& other) {
+            return box.left < other.box.left + other.box.width && other.box.left < box.left + box.width
+                && box.top < other.box.top + other.box.height && other.box.top < box.top + box.height;
+        };
+        while (std::ranges::any_of(m_layout.markentexte, touches))
+            box.top += m_normal.height;
+        if (box.left >= plot.left && box.top + box.height <= plot.top + plot.height)
+            m_layout.markentexte.push_back({marke.text, box, {}});
+    }
+}
+
+} // namespace
+
+Ausschnitt ganzerAusschnitt(const Kurvenbild& bild)
+{
+    return {
+        visible(bild.x.bereich), visible(bild.y.bereich), visible(bild.rechts ? bild.rechts->bereich : bild.y.bereich)};
+}
+
+Kurvenlayout layOut(const Kurvenbild& bild, double width, double height, const Bildstil& stil,
+    const Schriftmasse& masse, const std::optional<Ausschnitt>& ausschnitt)
+{
+    Aufbau aufbau(bild, stil, masse, ausschnitt.has_value());
+    return aufbau.make(width, height, ausschnitt.value_or(ganzerAusschnitt(bild)));
+}
+
+} // namespace zerna

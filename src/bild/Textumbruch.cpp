@@ -1,0 +1,62 @@
+#include "bild/Textumbruch.h"
+
+#include <algorithm>
+
+namespace zerna {
+
+namespace {
+
+/// Where the character before byte `end` begins.
+std::size_t previous(std::string_view text, std::size_t end)
+{
+    constexpr unsigned Mark = 0xC0U;
+    constexpr unsigned Continuation = 0x80U;
+    do
+        --end;
+    while (end > 0 && (static_cast<unsigned char>(text[end]) & Mark) == Continuation);
+    return end;
+}
+
+/// How many bytes of the text are a line of their own: up to the last blank that lets it fit, or up to the first one.
+std::size_t lineLength(std::string_view text, double room, const Textbreite& width)
+{
+    std::size_t length = std::min(text.find(' '), text.size());
+    while (length < text.size()) {
+        const std::size_t next = std::min(text.find(' ', length + 1), text.size());
+        if (width(text.substr(0, next)) > room)
+            break;
+        length = next;
+    }
+    return length;
+}
+
+} // namespace
+
+std::string gekuerzt(std::string_view text, double room, const Textbreite& width)
+{
+    if (width(text) <= room)
+        return std::string(text);
+    for (std::size_t end = text.size(); end > 0;) {
+        end = previous(text, end);
+        std::string shortened(text.substr(0, text.find_last_not_of(' ', end == 0 ? 0 : end - 1) + 1));
+        shortened += "…";
+        if (end > 0 && width(shortened) <= room)
+            return shortened;
+    }
+    return {};
+}
+
+std::vector<std::string> umgebrochen(std::string_view text, double room, int lines, const Textbreite& width)
+{
+    std::vector<std::string> result;
+    while (!text.empty() && lines > 0) {
+        const bool isLast = --lines == 0;
+        const std::size_t length = isLast || width(text) <= room ? text.size() : lineLength(text, room, width);
+        if (std::string line = gekuerzt(text.substr(0, length), room, width); !line.empty())
+            result.push_back(std::move(line));
+        text.remove_prefix(std::min(text.size(), length + 1));
+    }
+    return result;
+}
+
+} // namespace zerna

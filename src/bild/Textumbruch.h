@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "bild/Geometrie.h"
+
+/// Texts that have to do with the room that there is. UTF-8 characters are never torn.
+namespace zerna {
+
+/// The text, or as much of its beginning as fits with "…" behind it; empty where not even that fits.
+std::string gekuerzt(std::string_view text, double room, const Textbreite& width);
+
+/// The text broken at blanks into at most `lines` lines, the last one shortened.
+std::vector<std::string> umgebrochen(std::string_view text, double room, int lines, const Textbreite& width);
+
+} // namespace zerna

@@ -1,0 +1,266 @@
+#include "ui/diagram/Kurvenmaler.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+
+#include "bild/Ausduennung.h"
+#include "ui/platform/Farben.h"
+
+namespace zerna {
+
+namespace {
+
+constexpr double PixelCentre = 0.5; // a line through the middle of a pixel is as sharp as the pixel
+constexpr double SignSize = 3.5; // from the middle to the edge, for a line of 1.5
+
+QFont fontOf(const QFont& font, const Schrift& schrift)
+{
+    QFont result = font;
+    if (schrift.grad != 1) {
+        if (font.pixelSize() > 0)
+            result.setPixelSize(std::max(1, static_cast<int>(font.pixelSize() * schrift.grad)));
+        else
+            result.setPointSizeF(std::max(1.0, font.pointSizeF() * schrift.grad));
+    }
+    if (schrift.fett)
+        result.setBold(true);
+    return result;
+}
+
+/// A curve's colour in the style; without colours one of the same lightness, never too light for white paper.
+QColor colourIn(const Farbe& farbe, const Bildstil& stil)
+{
+    constexpr double Lightest = 0.18; // relative luminance: 4.5 to 1 on white
+    if (!stil.grau)
+        return toQt(farbe);
+    constexpr double Gamma = 2.2;
+    const auto grey = static_cast<int>(std::lround(255 * std::pow(std::min(Lightest, leuchtdichte(farbe)), 1 / Gamma)));
+    return {grey, grey, grey};
+}
+
+QPen penOf(const Kurve& kurve, const Bildstil& stil)
+{
+    QPen pen(colourIn(kurve.farbe, stil), stil.linienbreite, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    const auto dashes = [&](const QList<qreal>& pattern) {
+        pen.setCapStyle(Qt::FlatCap);
+        pen.setDashPattern(pattern); // in widths of the line
+    };
+    switch (kurve.linie) {
+    case Linienart::Keine:
+        pen.setStyle(Qt::NoPen);
+        break;
+    case Linienart::Durchgezogen:
+        break;
+    case Linienart::Gestrichelt:
+        dashes({5, 3});
+        break;
+    case Linienart::Gepunktet:
+        dashes({1.2, 2.2});
+        break;
+    case Linienart::Strichpunkt:
+        dashes({6, 2.5, 1.2, 2.5});
+        break;
+    }
+    return pen;
+}
+
+QPainterPath signPath(Punktzeichen zeichen, double size)
+{
+    QPainterPath path;
+    switch (zeichen) {
+    case Punktzeichen::Keines:
+        break;
+    case Punktzeichen::Kreis:
+        path.addEllipse(QPointF(0, 0), size, size);
+        break;
+    case Punktzeichen::Quadrat:
+        path.addRect(-0.9 * size, -0.9 * size, 1.8 * size, 1.8 * size);
+        break;
+    case Punktzeichen::Dreieck:
+        path.addPolygon(QPolygonF({{0, -1.2 * size}, {1.1 * size, 0.8 * size}, {-1.1 * size, 0.8 * size}}));
+        path.closeSubpath();
+        break;
+    case Punktzeichen::Raute:
+        path.addPolygon(QPolygonF({{0, -1.3 * size}, {1.3 * size, 0}, {0, 1.3 * size}, {-1.3 * size, 0}}));
+        path.closeSubpath();
+        break;
+    }
+    return path;
+}
+
+void paintSigns(QPainter& painter, const Kurve& kurve, const QPolygonF& middles, const Bildstil& stil)
+{
+    if (kurve.zeichen == Punktzeichen::Keines)
+        return;
+    const QPainterPath sign =
+        signPath(kurve.zeichen, SignSize * std::sqrt(stil.linienbreite / Bildstil().linienbreite));
+    const QColor colour = colourIn(kurve.farbe, stil);
+    for (const QPointF& middle : middles) {
+        painter.save();
+        painter.translate(middle);
+        painter.setPen(QPen(Qt::white, 1)); // apart from the line that it stands on
+        painter.fillPath(sign, colour);
+        painter.drawPath(sign);
+        painter.restore();
+    }
+}
+
+void paintCurve(QPainter& painter, const Kurve& kurve, const Kurvenbahn& bahn, const Bildstil& stil)
+{
+    painter.setPen(penOf(kurve, stil));
+    painter.setBrush(Qt::NoBrush);
+    if (kurve.linie != Linienart::Keine) {
+        for (const QPolygonF& linie : bahn.linien) {
+            if (linie.size() == 1)
+                painter.drawPoint(linie.front());
+            else
+                painter.drawPolyline(linie);
+        }
+    }
+    paintSigns(painter, kurve, bahn.zeichen, stil);
+}
+
+QPolygonF centred(const std::vector<Punkt>& punkte)
+{
+    QPolygonF polygon;
+    polygon.reserve(static_cast<qsizetype>(punkte.size()));
+    for (const auto& [x, y] : punkte)
+        polygon << QPointF(x + PixelCentre, y + PixelCentre);
+    return polygon;
+}
+
+Kurvenbahn bahnOf(const Kurve& kurve, const Kurvenlayout& layout)
+{
+    const Abbildung& abbildung = kurve.rechts ? layout.rechts : layout.links;
+    const double width = layout.plot.width;
+    const double height = layout.plot.height;
+    Kurvenbahn bahn;
+    if (kurve.linie != Linienart::Keine)
+        for (const std::vector<Punkt>& zug : sichtbareZuege(kurve.punkte, abbildung, width, height))
+            bahn.linien.push_back(centred(zug));
+    if (kurve.zeichen != Punktzeichen::Keines)
+        bahn.zeichen = centred(sichtbarePunkte(kurve.punkte, abbildung, width, height));
+    return bahn;
+}
+
+QRectF rectOf(const Rechteck& box) { return {box.left, box.top, box.width, box.height}; }
+
+void paintTexts(QPainter& painter, const std::vector<Textstelle>& texte, const QFont& font)
+{
+    painter.setPen(Qt::black);
+    Schrift current;
+    painter.setFont(fontOf(font, current));
+    double ascent = QFontMetricsF(painter.font()).ascent();
+    double height = QFontMetricsF(painter.font()).height();
+    for (const Textstelle& stelle : texte) {
+        if (stelle.schrift != current) {
+            current = stelle.schrift;
+            painter.setFont(fontOf(font, current));
+            ascent = QFontMetricsF(painter.font()).ascent();
+            height = QFontMetricsF(painter.font()).height();
+        }
+        if (stelle.senkrecht) {
+            painter.save();
+            painter.translate(stelle.box.left + ascent, stelle.box.top + stelle.box.height);
+            painter.rotate(-90);
+            painter.drawText(QPointF(0, 0), toQt(stelle.text));
+            painter.restore();
+            continue;
+        }
+        double base = stelle.box.top + ascent;
+        for (const QString& line : toQt(stelle.text).split(QLatin1Char('\n'))) {
+            painter.drawText(QPointF(stelle.box.left, base), line);
+            base += height;
+        }
+    }
+}
+
+void paintMarks(QPainter& painter, const Kurvenbild& bild, const Kurvenzeichnung& zeichnung, const Leinwand& leinwand)
+{
+    const Kurvenlayout& layout = zeichnung.layout;
+    for (const Linienmarke& marke : bild.marken) {
+        const double column = layout.links.punkt(marke.x, 0).x + PixelCentre;
+        if (column < 0 || column > layout.plot.width + 1)
+            continue;
+        painter.setPen(QPen(colourIn(marke.farbe, leinwand.stil), 1, Qt::DashLine, Qt::FlatCap));
+        painter.drawLine(QPointF(column, 0), QPointF(column, layout.plot.height));
+    }
+}
+
+} // namespace
+
+Schriftmasse schriftmasse(const QFont& font)
+{
+    return [font](const Schrift& schrift) { return textmasse(fontOf(font, schrift)); };
+}
+
+Kurvenzeichnung kurvenzeichnung(
+    const Kurvenbild& bild, const Leinwand& leinwand, const std::optional<Ausschnitt>& ausschnitt)
+{
+    Kurvenzeichnung zeichnung;
+    zeichnung.layout = layOut(
+        bild, leinwand.size.width(), leinwand.size.height(), leinwand.stil, schriftmasse(leinwand.font), ausschnitt);
+    zeichnung.bahnen.resize(bild.kurven.size());
+    if (!zeichnung.layout.istLeer())
+        std::ranges::transform(
+            bild.kurven, zeichnung.bahnen.begin(), [&](const Kurve& kurve) { return bahnOf(kurve, zeichnung.layout); });
+    return zeichnung;
+}
+
+void paintRand(QPainter& painter, const Kurvenbild& bild, const Kurvenzeichnung& zeichnung, const Leinwand& leinwand)
+{
+    const Kurvenlayout& layout = zeichnung.layout;
+    for (const Rechteck& strich : layout.striche)
+        painter.fillRect(rectOf(strich), Qt::black);
+    paintTexts(painter, layout.texte, leinwand.font);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (const auto& [index, left, right, row] : layout.legende) {
+        const double line = std::floor(row) + PixelCentre;
+        paintCurve(painter, bild.kurven.at(index),
+            {{QPolygonF({{left, line}, {right, line}})}, QPolygonF({{(left + right) / 2, line}})}, leinwand.stil);
+    }
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void paintAchsen(QPainter& painter, const Kurvenzeichnung& zeichnung, const Leinwand& leinwand)
+{
+    for (const Rechteck& strich : zeichnung.layout.kernstriche)
+        painter.fillRect(rectOf(strich), Qt::black);
+    paintTexts(painter, zeichnung.layout.kerntexte, leinwand.font);
+}
+
+void paintPlot(QPainter& painter, const Kurvenbild& bild, const Kurvenzeichnung& zeichnung, const Leinwand& leinwand)
+{
+    const Kurvenlayout& layout = zeichnung.layout;
+    if (layout.istLeer())
+        return;
+    painter.save();
+    painter.setClipRect(rectOf(layout.plot), Qt::IntersectClip);
+    painter.translate(layout.plot.left, layout.plot.top);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintMarks(painter, bild, zeichnung, leinwand);
+    for (std::size_t i = 0; i < bild.kurven.size(); ++i)
+        paintCurve(painter, bild.kurven[i], zeichnung.bahnen.at(i), leinwand.stil);
+    painter.restore();
+    for (const Textstelle& stelle : layout.markentexte)
+        painter.fillRect(rectOf(stelle.box), QColor(255, 255, 255, 200));
+    paintTexts(painter, layout.markentexte, leinwand.font);
+}
+
+void paintKurven(QPainter& painter, const Kurvenbild& bild, const Kurvenzeichnung& zeichnung, const Leinwand& leinwand)
+{
+    painter.fillRect(QRect(QPoint(0, 0), leinwand.size), Qt::white);
+    paintRand(painter, bild, zeichnung, leinwand);
+    paintAchsen(painter, zeichnung, leinwand);
+    paintPlot(painter, bild, zeichnung, leinwand);
+}
+
+void paintKurven(QPainter& painter, const Kurvenbild& bild, const Leinwand& leinwand)
+{
+    paintKurven(painter, bild, kurvenzeichnung(bild, leinwand), leinwand);
+}
+
+} // namespace zerna

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QPolygonF>
+
+#include <optional>
+#include <vector>
+
+#include "bild/Kurvenlayout.h"
+#include "ui/diagram/Leinwand.h"
+
+class QPainter;
+
+/// Painting of a diagram of curves on the screen, into image files and on paper.
+namespace zerna {
+
+/// A curve on the plot, from its corner.
+struct Kurvenbahn {
+    std::vector<QPolygonF> linien;
+    QPolygonF zeichen; ///< middles of the signs
+};
+
+/// A diagram that is ready to be painted on one canvas.
+struct Kurvenzeichnung {
+    Kurvenlayout layout;
+    std::vector<Kurvenbahn> bahnen; ///< of all curves
+};
+
+/// How texts measure on a canvas.
+Schriftmasse schriftmasse(const QFont& font);
+
+/// Lays a diagram out; the whole of it or a part.
+Kurvenzeichnung kurvenzeichnung(
+    const Kurvenbild& bild, const Leinwand& leinwand, const std::optional<Ausschnitt>& ausschnitt = {});
+
+/// Paint one part of the picture on that canvas: what stands around the axes, the axes beside the plot, the plot.
+void paintRand(QPainter& painter, const Kurvenbild& bild, const Kurvenzeichnung& zeichnung, const Leinwand& leinwand);
+void paintAchsen(QPainter& painter, const Kurvenzeichnung& zeichnung, const Leinwand& leinwand);
+void paintPlot(QPainter& painter, const Kurvenbild& bild, const Kurvenzeichnung& zeichnung, const Leinwand& leinwand);
+
+/// Paints all parts.
+void paintKurven(QPainter& painter, const Kurvenbild& bild, const Kurvenzeichnung& zeichnung, const Leinwand& leinwand);
+void paintKurven(QPainter& painter, const Kurvenbild& bild, const Leinwand& leinwand);
+
+} // namespace zerna
