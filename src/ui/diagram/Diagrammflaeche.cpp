@@ -25,6 +25,7 @@ Diagrammflaeche::Diagrammflaeche(Programm& programm, Dialoge dialoge, QWidget* p
     m_display->setObjectName(QStringLiteral("conDisplay1"));
     m_display->setAccessibleName(QStringLiteral("Konzentrationsdiagramm"));
     connect(m_display, &conDisplay::PositionInfo, this, &Diagrammflaeche::positionChanged);
+    connect(m_display, &conDisplay::randChanged, this, &Diagrammflaeche::placeDisplay);
     showHinweis({});
 }
 
@@ -42,6 +43,7 @@ void Diagrammflaeche::showDiagramm(Diagramm& diagramm, Qt::FocusPolicy focus)
 void Diagrammflaeche::showKonzentration()
 {
     showDiagramm(m_display->diagramm(), Qt::NoFocus); // the display takes the keys itself
+    placeDisplay();
 }
 
 void Diagrammflaeche::showPSE(PSEReihe reihe, std::vector<std::string> symbols)
@@ -139,12 +141,33 @@ void Diagrammflaeche::addOutputs(QMenu& menu)
 void Diagrammflaeche::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    m_display->setGeometry(rect());
+    placeDisplay();
+}
+
+/// The display holds the axes of its picture; what is around them is painted here.
+void Diagrammflaeche::placeDisplay()
+{
+    const QRect kern = m_display->diagramm().kern(leinwand());
+    m_display->setRand({kern.left(), kern.top(), width() - kern.right() - 1, height() - kern.bottom() - 1});
+    m_display->setGeometry(kern);
+    update();
+}
+
+void Diagrammflaeche::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        placeDisplay();
 }
 
 void Diagrammflaeche::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
+    if (m_diagramm == &m_display->diagramm()) { // the rest of it is painted by the display
+        painter.fillRect(rect(), Qt::white);
+        m_display->diagramm().paintRand(painter, leinwand());
+        return;
+    }
     m_diagramm->paint(painter, leinwand());
     m_diagramm->paintCursor(painter, leinwand());
     if (hasFocus()) {

@@ -68,6 +68,7 @@ signals:
     void ansichtChanged(const QString& geste);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -83,6 +84,7 @@ protected:
 private:
     Leinwand leinwand() const { return leinwandOf(*this); }
     void showDiagramm(Diagramm& diagramm, Qt::FocusPolicy focus);
+    void placeDisplay();
     void addCommands(QMenu& menu);
     void addOutputs(QMenu& menu);
     void nenneAnsicht(const QString& geste);

@@ -3,7 +3,7 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
+#include <limits>
 #include <utility>
 
 #include "core/Unbekannt.h"
@@ -17,7 +17,22 @@ namespace {
 
 constexpr Bereich ProzentBereich{0, 100};
 
-Rechteck areaOf(const Leinwand& leinwand) { return plotArea(leinwand.size.width(), leinwand.size.height()); }
+/// The strokes of the series, its lines ending at gaps.
+std::vector<Strichzug> seriesStrokes(const Reihe& reihe)
+{
+    std::vector<Strichzug> striche;
+    bool gap = true;
+    for (std::size_t i = 0; i < reihe.size(); ++i) {
+        if (istUnbekannt(reihe.at(i))) {
+            gap = true;
+            continue;
+        }
+        if (std::exchange(gap, false))
+            striche.push_back({Blau, {}});
+        striche.back().points.emplace_back(static_cast<float>(i), reihe.at(i));
+    }
+    return striche;
+}
 
 } // namespace
 
@@ -34,17 +49,29 @@ void Konzentrationsdiagramm::zeichneReihe(const Reihe& reihe)
     m_fehler = false;
     m_hintergrund.clear();
     m_striche.clear();
-    bool gap = true;
-    for (std::size_t i = 0; i < reihe.size(); ++i) {
-        const float value = reihe.at(i);
-        if (istUnbekannt(value))
-            gap = true;
-        else if (std::exchange(gap, false))
-            zeichnePunkt(static_cast<float>(i), value, Blau);
-        else
-            zeichneLinieZu(static_cast<float>(i), value, Blau);
+    setBild(seriesOnly());
+}
+
+/// The picture of the series without anything beside it.
+Kurvenbild Konzentrationsdiagramm::seriesOnly() const
+{
+    Kurvenbild bild;
+    bild.x = {"", ProzentBereich, "at% " + m_symbol};
+    bild.y = {"", *m_y, m_einheit};
+    Kurve kurve{"", {}, Kurvenblau};
+    for (std::size_t i = 0; i < m_reihe.size(); ++i) {
+        const float value = m_reihe.at(i);
+        kurve.punkte.push_back(
+            {static_cast<double>(i), istUnbekannt(value) ? std::numeric_limits<double>::quiet_NaN() : value});
     }
-    alsHintergrund();
+    bild.kurven.push_back(std::move(kurve));
+    return bild;
+}
+
+void Konzentrationsdiagramm::setSymbol(std::string symbol)
+{
+    m_symbol = std::move(symbol);
+    setXEinheit("at% " + m_symbol);
 }
 
 void Konzentrationsdiagramm::zeichnePunkt(float x, float y, std::uint32_t colour)
@@ -75,112 +102,52 @@ void Konzentrationsdiagramm::zeichneFehler()
     m_y.reset();
     m_hintergrund.clear();
     m_striche.clear();
-}
-
-const Konzentrationsdiagramm::Layout& Konzentrationsdiagramm::layout(const Leinwand& leinwand) const
-{
-    return m_layout.get({leinwand, m_y}, [&] { return layOut(leinwand); });
-}
-
-Konzentrationsdiagramm::Layout Konzentrationsdiagramm::layOut(const Leinwand& leinwand) const
-{
-    const Rechteck area = areaOf(leinwand);
-    Layout layout;
-    layout.labelFont = leinwand.font;
-    if (!m_y || area.width == 0 || area.height == 0)
-        return layout;
-    layout.abbildung = Abbildung(area.width, area.height, ProzentBereich, *m_y);
-    layout.labelFont = labelFont(leinwand);
-    const Textmasse masse = textmasse(layout.labelFont);
-    layout.yMarken = yMarken(area, leinwand.size.height(), *m_y, masse.height);
-    layout.xMarken = xMarken(area, leinwand.size.width(), ProzentBereich, masse.width);
-    return layout;
-}
-
-/// The font as small as the labels need it. Texts do not shrink in proportion to their font, and smaller labels leave
-/// room for more of them, so it takes a few steps.
-QFont Konzentrationsdiagramm::labelFont(const Leinwand& leinwand) const
-{
-    constexpr int Steps = 5;
-    const Rechteck area = areaOf(leinwand);
-    QFont font = leinwand.font;
-    for (int i = 0; i < Steps; ++i) {
-        const Textmasse masse = textmasse(font);
-        const auto marken = yMarken(area, leinwand.size.height(), *m_y, masse.height);
-        const double scale = labelScale(marken, area, masse.width, masse.height);
-        if (scale >= 1)
-            break;
-        font.setPointSizeF(std::max(1.0, font.pointSizeF() * scale));
-    }
-    return font;
-}
-
-QRect Konzentrationsdiagramm::plot(const Leinwand& leinwand)
-{
-    const Rechteck area = areaOf(leinwand);
-    return {static_cast<int>(area.left), static_cast<int>(area.top), static_cast<int>(area.width),
-        static_cast<int>(area.height)};
-}
-
-void Konzentrationsdiagramm::paint(QPainter& painter, const Leinwand& leinwand) const
-{
-    const QRect area = plot(leinwand);
-    paintSurface(painter, leinwand);
-    painter.save();
-    painter.translate(area.topLeft());
-    painter.setClipRect(QRect(QPoint(0, 0), area.size()));
-    paintPlot(painter, leinwand);
-    painter.restore();
-}
-
-void Konzentrationsdiagramm::paintSurface(QPainter& painter, const Leinwand& leinwand) const
-{
-    const Layout& layout = this->layout(leinwand);
-    const Rechteck area = areaOf(leinwand);
-    const QFontMetricsF metrics(layout.labelFont);
-    const double ascent = metrics.ascent();
-    painter.fillRect(QRect(QPoint(0, 0), leinwand.size), Qt::white);
-    painter.setFont(layout.labelFont);
-    painter.setPen(Qt::black);
-    for (const Achsenmarke& marke : layout.yMarken) {
-        const int row = std::min(static_cast<int>(std::lround(marke.position)), leinwand.size.height() - 1);
-        painter.fillRect(QRectF(area.left - TickLength, row, TickLength, 1), Qt::black);
-        painter.drawText(QPointF(LabelColumn, marke.labelStart + ascent), toQt(marke.label));
-    }
-    const double labelTop = xLabelTop(area, metrics.height());
-    for (const Achsenmarke& marke : layout.xMarken) {
-        const int column = std::min(static_cast<int>(std::lround(marke.position)), leinwand.size.width() - 1);
-        painter.fillRect(QRectF(column, area.height, 1, TickLength), Qt::black);
-        painter.drawText(QPointF(marke.labelStart, labelTop + ascent), toQt(marke.label));
-    }
-    if (layout.xMarken.empty())
-        return;
-    painter.fillRect(QRectF(area.left - 1, 0, 1, area.height + 1), Qt::black);
-    painter.fillRect(QRectF(area.left - 1, area.height, area.width + 1, 1), Qt::black);
+    ohneBild();
 }
 
 void Konzentrationsdiagramm::paintPlot(QPainter& painter, const Leinwand& leinwand) const
 {
-    const QRect area(QPoint(0, 0), plot(leinwand).size());
-    painter.fillRect(area, Qt::white);
-    if (m_fehler) {
-        constexpr double Punkte = 24;
-        QFont large = leinwand.font;
-        large.setPointSizeF(Punkte);
-        painter.setFont(large);
-        painter.setPen(Qt::black);
-        const QString text = QStringLiteral("Fehler bei Diagrammberechnung");
-        const QFontMetricsF metrics(large);
-        painter.drawText(QPointF((area.width() - metrics.horizontalAdvance(text)) / 2,
-                             area.height() / 2.0 + metrics.ascent()), // its top at half the height
-            text);
+    if (m_fehler)
+        paintFault(painter, leinwand);
+    if (!hatBild())
         return;
-    }
-    if (!m_y)
+    Kurvendiagramm::paintPlot(painter, leinwand);
+    if (m_hintergrund.empty() && m_striche.empty())
         return;
-    const Abbildung& abbildung = layout(leinwand).abbildung;
-    paintStriche(painter, m_hintergrund, abbildung);
-    paintStriche(painter, m_striche, abbildung);
+    const QRect area = plot(leinwand);
+    painter.save();
+    painter.setClipRect(area, Qt::IntersectClip);
+    painter.translate(area.topLeft());
+    const Abbildung& abbildung = zeichnung(leinwand).layout.links;
+    paintStriche(painter, m_hintergrund, abbildung, Raster::Keines);
+    paintStriche(painter, m_striche, abbildung, Raster::Keines);
+    painter.restore();
+}
+
+void Konzentrationsdiagramm::paintFault(QPainter& painter, const Leinwand& leinwand) const
+{
+    constexpr double Punkte = 24;
+    const QRect area = plot(leinwand);
+    QFont large = leinwand.font;
+    large.setPointSizeF(Punkte);
+    painter.setFont(large);
+    painter.setPen(Qt::black);
+    const QString text = QStringLiteral("Fehler bei Diagrammberechnung");
+    const QFontMetricsF metrics(large);
+    painter.drawText(area.topLeft()
+            + QPointF((area.width() - metrics.horizontalAdvance(text)) / 2,
+                area.height() / 2.0 + metrics.ascent()), // its top at half the height
+        text);
+}
+
+/// The given picture of the plot: the series and the strokes on it, through the middles of pixels.
+void Konzentrationsdiagramm::paintGiven(QPainter& painter, const QSize& plot) const
+{
+    const Abbildung abbildung(plot.width(), plot.height(), ProzentBereich, *m_y);
+    painter.fillRect(QRect(QPoint(0, 0), plot), Qt::white);
+    paintStriche(painter, seriesStrokes(m_reihe), abbildung, Raster::Pixel);
+    paintStriche(painter, m_hintergrund, abbildung, Raster::Pixel);
+    paintStriche(painter, m_striche, abbildung, Raster::Pixel);
 }
 
 void Konzentrationsdiagramm::paintCursor(QPainter& painter, const Leinwand& leinwand) const
@@ -188,7 +155,7 @@ void Konzentrationsdiagramm::paintCursor(QPainter& painter, const Leinwand& lein
     const QRect area = plot(leinwand);
     if (m_cursor < 0 || !m_y || area.isEmpty())
         return;
-    const double column = area.left() + layout(leinwand).abbildung.column(m_cursor) + 0.5;
+    const double column = area.left() + zeichnung(leinwand).layout.links.punkt(m_cursor, 0).x + 0.5;
     painter.setPen(QPen(Cursorfarbe, 1, Qt::DashLine));
     painter.drawLine(QPointF(column, area.top()), QPointF(column, area.top() + area.height()));
 }
@@ -207,7 +174,7 @@ std::vector<Exportart> Konzentrationsdiagramm::exportarten(const Leinwand& leinw
         const auto schritt = m_schrittfrage();
         return schritt ? std::optional(values(*schritt)) : std::nullopt;
     };
-    const auto plotOnly = [this, leinwand](QPainter& painter, const Leinwand&) { paintPlot(painter, leinwand); };
+    const auto plotOnly = [this](QPainter& painter, const Leinwand& canvas) { paintGiven(painter, canvas.size); };
     return {datDatei(text),
         bitmap(plotOnly, {plot(leinwand).size(), leinwand.font, leinwand.devicePixelRatio, leinwand.stil})};
 }
@@ -218,7 +185,7 @@ QString Konzentrationsdiagramm::positionText(const QPointF& position, const Lein
     const QPointF inPlot = position - area.topLeft();
     if (!m_y || !QRectF(QPointF(0, 0), area.size()).contains(inPlot))
         return {};
-    const Abbildung& abbildung = layout(leinwand).abbildung;
+    const Abbildung& abbildung = zeichnung(leinwand).layout.links;
     return text(abbildung.x(inPlot.x()), abbildung.y(inPlot.y()));
 }
 

@@ -3,7 +3,10 @@
 #include <QColor>
 
 #include <cstdint>
+#include <utility>
 #include <vector>
+
+#include "bild/Farbskala.h"
 
 class QPainter;
 class QSize;
@@ -20,6 +23,7 @@ inline QColor colourOf(std::uint32_t rgb)
 
 /// The curve colour of all diagrams.
 inline constexpr std::uint32_t Blau = 0xFF0000;
+inline constexpr Farbe Kurvenblau{0, 0, 255};
 
 /// Points of a line in data units; a single point is one pixel.
 struct Strichzug {
@@ -27,9 +31,12 @@ struct Strichzug {
     std::vector<std::pair<float, float>> points;
 };
 
-/// Paints the strokes as antialiased lines of 1.5 pixels through the middles of the mapped pixels, so that each of
-/// these pixels has the full colour.
-void paintStriche(QPainter& painter, const std::vector<Strichzug>& striche, const Abbildung& abbildung);
+/// Where the points of strokes go: into the middles of whole pixels, so that each of these pixels has the full colour,
+/// or between them, so that lines have no kinks.
+enum class Raster { Pixel, Keines };
+
+/// Paints the strokes as antialiased lines of 1.5 pixels.
+void paintStriche(QPainter& painter, const std::vector<Strichzug>& striche, const Abbildung& abbildung, Raster raster);
 
 /// A pen of that width for lines through the middles of pixels.
 inline constexpr double Kurvenbreite = 1.5;

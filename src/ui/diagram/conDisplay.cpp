@@ -36,15 +36,16 @@ conDisplay::conDisplay(Programm& programm, Dialoge dialoge, QWidget* parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     m_pic = new Plotflaeche(
         [this](QPainter& painter) {
+            painter.fillRect(m_pic->rect(), Qt::white);
+            painter.translate(-pictureOffset(m_pic->pos()));
             m_diagramm.paintPlot(painter, leinwand());
-            painter.translate(-m_pic->pos());
             m_diagramm.paintCursor(painter, leinwand());
         },
         this);
     m_pic->setObjectName(QStringLiteral("pic"));
     connect(m_pic, &Plotflaeche::mouseMoved, this, [this](const QPointF& position) {
         if (m_diagramm.hasAxes())
-            emit PositionInfo(m_diagramm.positionText(position + m_pic->pos(), leinwand()));
+            emit PositionInfo(m_diagramm.positionText(position + pictureOffset(m_pic->pos()), leinwand()));
     });
     connect(m_pic, &Plotflaeche::mouseLeft, this, [this] { emit PositionInfo({}); });
 }
@@ -94,7 +95,7 @@ void conDisplay::Display_Background() { m_diagramm.alsHintergrund(); }
 void conDisplay::Zeichne_Fehler()
 {
     m_diagramm.zeichneFehler();
-    updateAll();
+    placePlot();
 }
 
 void conDisplay::Zeichne_Diagramm_2D(int groesse, int variable)
@@ -133,6 +134,41 @@ Reihe conDisplay::computeSeries(int groesse) const
 void conDisplay::drawSeries(const Reihe& reihe)
 {
     m_diagramm.zeichneReihe(reihe);
+    placePlot();
+}
+
+void conDisplay::setBild(Kurvenbild bild)
+{
+    const Kurvenbild& plain = m_diagramm.bild();
+    if (bild.x.einheit.empty())
+        bild.x.einheit = plain.x.einheit;
+    if (bild.y.einheit.empty())
+        bild.y.einheit = plain.y.einheit;
+    m_diagramm.setBild(std::move(bild));
+    placePlot();
+    emit randChanged();
+}
+
+void conDisplay::setRand(const QMargins& rand)
+{
+    m_rand = rand;
+    placePlot();
+}
+
+/// The canvas of the whole picture.
+Leinwand conDisplay::leinwand() const
+{
+    Leinwand leinwand = leinwandOf(*this);
+    leinwand.size = leinwand.size.grownBy(m_rand);
+    return leinwand;
+}
+
+/// Where a point of the control lies in the picture.
+QPoint conDisplay::pictureOffset(const QPoint& point) const { return point + QPoint(m_rand.left(), m_rand.top()); }
+
+void conDisplay::placePlot()
+{
+    m_pic->setGeometry(m_diagramm.plot(leinwand()).translated(-pictureOffset({})));
     updateAll();
 }
 
@@ -160,7 +196,12 @@ void conDisplay::focusOutEvent(QFocusEvent* event)
 void conDisplay::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    m_diagramm.paintSurface(painter, leinwand());
+    painter.fillRect(rect(), Qt::white);
+    painter.translate(-pictureOffset({}));
+    m_diagramm.paintAchsen(painter, leinwand());
+    if (m_rand.isNull())
+        m_diagramm.paintRand(painter, leinwand());
+    painter.resetTransform();
     if (hasFocus()) {
         painter.setPen(QPen(fokusfarbe(palette(), Qt::white), 2)); // diagrams are white in every theme
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
@@ -170,8 +211,7 @@ void conDisplay::paintEvent(QPaintEvent*)
 void conDisplay::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    m_pic->setGeometry(Konzentrationsdiagramm::plot(leinwand()));
-    updateAll();
+    placePlot();
 }
 
 void conDisplay::Speichern_Diagramm_2D()

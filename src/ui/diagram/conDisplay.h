@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMargins>
 #include <QWidget>
 
 #include <array>
@@ -57,6 +58,13 @@ public:
     /// Intended: the y range comes from the two ends of the series, so a curve may leave the plot in between.
     void Zeichne_Diagramm_2D(int groesse, int variable);
 
+    /// Shows the whole picture of the series drawn last: with the series among its curves, titles, legend and notes.
+    /// Units that it leaves open are those of the series. The next drawing of a series takes it away.
+    void setBild(Kurvenbild bild);
+
+    /// How much of the picture lies around the control, painted by its host; nothing if the control has it all.
+    void setRand(const QMargins& rand);
+
     /// Asks for a file name and saves the values of the series, or the picture of `pic`.
     void Speichern_Diagramm_2D();
 
@@ -77,6 +85,8 @@ public:
 
 signals:
     void PositionInfo(const QString& text);
+    /// The picture has other strips around its axes.
+    void randChanged();
 
 protected:
     void focusOutEvent(QFocusEvent* event) override;
@@ -92,7 +102,9 @@ private:
         bool gelesen = false;
     };
 
-    Leinwand leinwand() const { return leinwandOf(*this); }
+    Leinwand leinwand() const;
+    QPoint pictureOffset(const QPoint& point) const;
+    void placePlot();
     Reihe computeSeries(int groesse) const;
     void drawSeries(const Reihe& reihe);
     Legierung components() const;
@@ -104,6 +116,7 @@ private:
     Konzentrationsdiagramm m_diagramm;
     Plotflaeche* m_pic = nullptr;
     std::array<Platz, MaxKomponenten> m_komponenten;
+    QMargins m_rand;
     int m_variable = 0;
     bool m_bereit = false;
     std::array<float, MaxKomponenten> m_dichtefelder{};

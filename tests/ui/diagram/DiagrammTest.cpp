@@ -173,7 +173,24 @@ TEST(DiagrammTest, BitmapHoldsThePicture)
     };
     EXPECT_EQ(pixels(*pse()), picture(*pse()));
     EXPECT_EQ(pixels(*ternaer()), picture(*ternaer()));
-    EXPECT_EQ(pixels(*konzentration()), picture(*konzentration()).copy(60, 0, 400, 300)) << "the plot alone";
+    Reihe shifted = fallend();
+    for (std::size_t i = 1; i < 100; ++i)
+        shifted.at(i) += 0.001F; // a quarter of a pixel
+    Konzentrationsdiagramm diagramm([] { return 1; });
+    diagramm.zeichneReihe(shifted);
+    Kurvenbild bild = diagramm.bild();
+    bild.titel = "Titel";
+    bild.kurven.push_back({"other", {{0, 1}, {100, 1}}, {255, 0, 0}});
+    diagramm.setBild(bild);
+    const QImage bitmap = pixels(diagramm);
+    EXPECT_EQ(bitmap.size(), diagramm.plot(Flaeche).size()) << "the plot alone";
+    const Abbildung places(bitmap.width(), bitmap.height(), {0, 100}, bild.y.bereich);
+    for (int i = 2; i < 99; i += 5) {
+        const auto column = static_cast<int>(places.column(i));
+        const auto row = static_cast<int>(places.row(shifted.at(static_cast<std::size_t>(i))));
+        EXPECT_EQ(bitmap.pixelColor(column, row), QColor(Qt::blue)) << i << ": through whole pixels";
+    }
+    EXPECT_EQ(bitmap.pixelColor(20, static_cast<int>(places.row(1))), QColor(Qt::white)) << "the given series alone";
 }
 
 } // namespace zerna
