@@ -78,18 +78,23 @@ std::vector<Achsenmarke> xMarken(const Rechteck& plot, int controlWidth, const B
 {
     const double step = (x.max - x.min) / Divisions;
     std::vector<Achsenmarke> marken;
-    double lastEnd = 0; // of the label before
     for (int k = 0; k <= Divisions; ++k) {
         Achsenmarke marke;
         marke.position = plot.width / Divisions * k + plot.left;
-        std::string label = fixedText(step * k + x.min, 0);
-        const double labelWidth = width(label);
+        marke.label = fixedText(step * k + x.min, 0);
+        const double labelWidth = width(marke.label);
         marke.labelStart = std::min(marke.position - labelWidth / 2, controlWidth - labelWidth);
-        if (marke.labelStart >= lastEnd) {
-            lastEnd = marke.labelStart + labelWidth + LabelGap;
-            marke.label = std::move(label);
-        }
         marken.push_back(std::move(marke));
+    }
+    const double lastStart = marken.back().labelStart - LabelGap;
+    double lastEnd = 0; // of the label before
+    for (std::size_t k = 0; k < marken.size(); ++k) {
+        Achsenmarke& marke = marken[k];
+        const double end = marke.labelStart + width(marke.label);
+        if (marke.labelStart < lastEnd || (k > 0 && k + 1 < marken.size() && end > lastStart))
+            marke.label.clear();
+        else
+            lastEnd = end + LabelGap;
     }
     return marken;
 }

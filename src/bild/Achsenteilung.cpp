@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "bild/Rundteilung.h"
+#include "core/Anzeigetext.h"
 
 namespace zerna {
 
@@ -46,6 +47,13 @@ void thinOut(std::vector<Achsenmarke>& marken, double top, const Textmasse& mass
         else
             lastTop = marke.labelStart;
     }
+}
+
+/// The label of a round value; on paper, where its power of ten is in the title, with a true minus sign.
+std::string labelOf(double value, const Rundteilung& teilung, const Rundwunsch& wunsch)
+{
+    std::string text = rundtext(value, teilung, wunsch.zehnerImTitel, wunsch.trenner);
+    return wunsch.zehnerImTitel ? anzeigetext(text) : text;
 }
 
 double scaleOf(const Bereich& bereich, double length) { return length / (bereich.max - bereich.min); }
@@ -108,8 +116,7 @@ Achsenteilung rundeYTeilung(
     teilung.zehner = wunsch.zehnerImTitel ? values.zehner : 0;
     for (const double value : values.haupt) {
         const double position = plotHeight - (value - y.min) * scale;
-        teilung.marken.push_back(
-            {position, rundtext(value, values, wunsch.zehnerImTitel, wunsch.trenner), position - normal.height / 2});
+        teilung.marken.push_back({position, labelOf(value, values, wunsch), position - normal.height / 2});
     }
     for (const double value : values.neben)
         teilung.neben.push_back(plotHeight - (value - y.min) * scale);
@@ -134,7 +141,7 @@ Achsenteilung rundeXTeilung(
         bool haveRoom = true;
         for (const double value : values.haupt) {
             const double position = plot.left + (value - x.min) * scale;
-            std::string label = rundtext(value, values, wunsch.zehnerImTitel, wunsch.trenner);
+            std::string label = labelOf(value, values, wunsch);
             const double width = masse.width(label);
             const double start = std::clamp(position - width / 2, 0.0, std::max(0.0, right - width));
             haveRoom = haveRoom && start >= lastEnd + blank;

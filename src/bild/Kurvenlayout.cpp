@@ -118,6 +118,7 @@ void Aufbau::placeSideTitles(const Achsenteilung& left, const Achsenteilung& rig
 {
     constexpr double Edge = 2;
     constexpr double TitleLines = 1.25;
+    constexpr double SmallestTitle = 0.7;
     Rechteck& plot = m_layout.plot;
     const Rechteck& kern = m_layout.kern;
     const auto strip = [&](const Achse& achse, const Achsenteilung& teilung) {
@@ -129,11 +130,14 @@ void Aufbau::placeSideTitles(const Achsenteilung& left, const Achsenteilung& rig
     const double end = m_bild.rechts ? strip(*m_bild.rechts, right) : m_normal.width("00");
     plot.width = std::max(0.0, std::floor(kern.left + kern.width - end - plot.left));
     const auto title = [&](const Achse& achse, const Achsenteilung& teilung, double column) {
-        const std::string text = gekuerzt(titelMitZehner(achse.titel, teilung.zehner), plot.height, m_normal.width);
-        const double length = m_normal.width(text);
+        const std::string whole = titelMitZehner(achse.titel, teilung.zehner);
+        const Schrift schrift{std::clamp(plot.height / std::max(1.0, m_normal.width(whole)), SmallestTitle, 1.0)};
+        const Textmasse masse = m_masse(schrift);
+        const std::string text = gekuerzt(whole, plot.height, masse.width);
+        const double length = masse.width(text);
         if (!text.empty())
             m_layout.texte.push_back(
-                {text, {column, plot.top + (plot.height - length) / 2, m_normal.height, length}, {}, true});
+                {text, {column, plot.top + (plot.height - length) / 2, masse.height, length}, schrift, true});
     };
     title(m_bild.y, left, kern.left + Edge);
     if (m_bild.rechts)

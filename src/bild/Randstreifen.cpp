@@ -12,6 +12,7 @@ namespace zerna {
 namespace {
 
 constexpr Schrift Titelschrift{1, true};
+constexpr double BlockGap = 0.25; // lines
 constexpr double SampleLength = 26;
 constexpr double SampleGap = 6;
 constexpr double EntryGap = 18;
@@ -90,7 +91,7 @@ Auswahl::Auswahl(const Kurvenbild& bild, const Bereich& x, double width, double 
     constexpr double ShareOfAxes = 0.6;
     constexpr double LinesOfAxes = 8;
     constexpr int TitleLines = 2;
-    m_left = height - std::max(ShareOfAxes * height, LinesOfAxes * m_masse.height);
+    m_left = height - std::max(ShareOfAxes * height, LinesOfAxes * m_masse.height) - BlockGap * m_masse.height;
     if (stil.titel)
         m_title = taken(umgebrochen(bild.titel, m_room, TitleLines, masse(Titelschrift).width));
     if (stil.legende)
@@ -107,8 +108,7 @@ Auswahl::Auswahl(const Kurvenbild& bild, const Bereich& x, double width, double 
 /// A block stands a little off its neighbour.
 double Auswahl::blockHeight(std::size_t lines) const
 {
-    constexpr double Gap = 0.25; // lines
-    return lines == 0 ? 0 : (static_cast<double>(lines) + Gap) * m_masse.height;
+    return lines == 0 ? 0 : (static_cast<double>(lines) + BlockGap) * m_masse.height;
 }
 
 /// As many of the rows as there is room for.
@@ -141,12 +141,10 @@ Auswahl::Zeilen Auswahl::notes() const
 
 double Auswahl::placeLines(Randstreifen& rand, double top, const Zeilen& lines, const Schrift& schrift) const
 {
-    const double first = top;
-    for (const std::string& line : lines) {
-        rand.texte.push_back({line, {LabelColumn, top, m_room, m_masse.height}, schrift});
-        top += m_masse.height;
-    }
-    return first + blockHeight(lines.size());
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        rand.texte.push_back(
+            {lines[i], {LabelColumn, top + static_cast<double>(i) * m_masse.height, m_room, m_masse.height}, schrift});
+    return top + blockHeight(lines.size());
 }
 
 void Auswahl::placeSideTitles(Randstreifen& rand, double top) const
@@ -189,7 +187,8 @@ void Auswahl::placeLegend(Randstreifen& rand, double top) const
 Randstreifen Auswahl::place() const
 {
     Randstreifen rand;
-    double top = placeLines(rand, 0, m_title, Titelschrift);
+    const bool isBare = m_title.empty() && m_alloy.empty() && m_sideTitles.empty();
+    double top = placeLines(rand, isBare ? 0 : BlockGap * m_masse.height, m_title, Titelschrift);
     top = placeLines(rand, top, m_alloy);
     placeSideTitles(rand, top);
     top = std::ceil(top + blockHeight(m_sideTitles.size()));

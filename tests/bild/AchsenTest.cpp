@@ -92,7 +92,10 @@ TEST(AchsenTest, DivisionsThatHaveRoomAreLabelled)
             << row.name;
     const auto xLabels = [](int width) { return labels(xMarken(plotArea(width, 300), width, {0, 100}, breite)); };
     EXPECT_EQ(xLabels(360), "0 10 20 30 40 50 60 70 80 90 100 ");
-    EXPECT_EQ(xLabels(160), "0 - 20 - 40 - 60 - 80 - - ") << "every second one has room";
+    EXPECT_EQ(xLabels(325), "0 10 20 30 40 50 60 70 80 - 100 ") << "both ends are named";
+    EXPECT_EQ(xLabels(160), "0 - 20 - 40 - 60 - - - 100 ") << "every second one has room";
+    EXPECT_EQ(xLabels(90), "0 - - - - - - - - - 100 ");
+    EXPECT_EQ(xLabels(80), "0 - - - - - - - - - - ") << "too narrow for both";
 }
 
 TEST(AchsenTest, LabelsAreCentredAtTheirTicksAndNotCutOff)

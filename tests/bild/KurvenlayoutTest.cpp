@@ -122,7 +122,7 @@ TEST(KurvenlayoutTest, RoundLabelsHaveTheirPowerOfTenInTheTitle)
 {
     Kurvenbild bild = achsenbild({"Al [at%]", {0, 100}}, {"R_H [m³/As]", {-3.46e-11, -1.02e-11}});
     const Kurvenlayout print = layOut(bild, 600, 400, {.rundeTeilung = true, .dezimal = Dezimaltrenner::Punkt}, masse);
-    EXPECT_EQ(labels(print).substr(0, 24), "-3.25|-3.00|-2.75|-2.50|");
+    EXPECT_EQ(labels(print).substr(0, 24), "−3.25|−3.00|−2.75|");
     EXPECT_EQ(print.texte.back().text, "R_H [10⁻¹¹ m³/As]");
     EXPECT_TRUE(print.texte.back().senkrecht);
     bild.y.bereich = {2, 2};
