@@ -6,28 +6,16 @@
 
 #include "core/Datei.h"
 #include "core/Kuerzung.h"
+#include "dokument/Diagrammjson.h"
 #include "dokument/Dokumentdatei.h"
 #include "dokument/Dokumentjson.h"
 #include "dokument/Feldleser.h"
 #include "dokument/Fremdes.h"
 #include "dokument/Worte.h"
-#include "model/Groessen.h"
-#include "model/Ternaergitter.h"
 
 namespace zerna {
 
 namespace {
-
-template <class Code, std::size_t Count>
-Code codeFor(Feldleser& leser, const Json& object, std::string_view key, const std::array<Wort<Code>, Count>& worte)
-{
-    const std::string text = leser.text(object, key, LaengstesFeld);
-    const auto found = std::ranges::find(worte, text, &Wort<Code>::wort);
-    if (found != worte.end())
-        return found->code;
-    leser.ablehnen(leser.feld(object, key), zitiert(text) + " ist hier nicht bekannt");
-    return worte.front().code;
-}
 
 std::string dichtewahlIn(Feldleser& leser, const Json& object)
 {
@@ -144,23 +132,6 @@ Wiegedaten readWiegen(Feldleser& leser, const Json& json)
     return wiegen;
 }
 
-Diagrammwahl readDiagramm(Feldleser& leser, const Json& json)
-{
-    Diagrammwahl wahl;
-    wahl.typ = codeFor(leser, json, "art", Diagrammworte);
-    wahl.groesse = leser.ganzzahl(json, "groesse", 0, std::numeric_limits<int>::max());
-    if (findGroesse(wahl.groesse) == nullptr)
-        leser.ablehnen(leser.feld(json, "groesse"), "Eine Größe mit dieser Kennzahl gibt es nicht");
-    wahl.komponente = leser.ganzzahl(json, "zeile", 1, MaxKomponenten) - 1;
-    wahl.aufloesung = leser.ganzzahl(json, "aufloesung", 1, FeinsteAufloesung);
-    const Json& ansicht = leser.objekt(json, "ansicht");
-    wahl.ansicht.tilt = leser.zahl(ansicht, "neigung", -90, 90);
-    wahl.ansicht.turn = leser.zahl(ansicht, "drehung", -180, 180);
-    wahl.ansicht.zoom = leser.zahl(ansicht, "zoom", 0.5, 3);
-    wahl.ansicht.flach = leser.schalter(ansicht, "flach");
-    return wahl;
-}
-
 /// Reads a document from its JSON value, part by part.
 class Dokumentleser {
 public:
@@ -182,7 +153,12 @@ public:
         dokument.diagramm =
             passendeWahl(readDiagramm(m_leser, m_leser.objekt(root, "diagramm")), dokument.eingabe.anzahl());
         dokument.vergleich = vergleich(m_leser.objekt(root, "vergleich"));
-        dokument.fremd = fremdes(root, [&] { return dokumentjson(dokument); });
+        dokument.fremd = fremdes(root, [&] {
+            Json known = dokumentjson(dokument);
+            for (const std::string_view key : WahlfreieDiagrammangaben)
+                known["diagramm"].emplace(key, nullptr);
+            return known;
+        });
         if (m_leser.fehler()) {
             lesung.fehler = *m_leser.fehler();
             if (m_version > Dateiversion)

@@ -4,6 +4,7 @@
 #include "core/Datei.h"
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
+#include "dokument/Diagrammjson.h"
 #include "dokument/Dokumentdatei.h"
 #include "dokument/Dokumentjson.h"
 #include "dokument/Fremdes.h"
@@ -52,15 +53,6 @@ Json wiegejson(const Wiegedaten& wiegen)
     if (wiegen.bezug)
         json["bezug"] = {{"zeile", wiegen.bezug->komponente + 1}, {"masse", zahl(wiegen.bezug->masse)}};
     return json;
-}
-
-Json diagrammjson(const Diagrammwahl& wahl)
-{
-    const Ansicht& ansicht = wahl.ansicht;
-    return {{"art", wortFuer(wahl.typ, Diagrammworte)}, {"groesse", wahl.groesse}, {"zeile", wahl.komponente + 1},
-        {"aufloesung", wahl.aufloesung},
-        {"ansicht",
-            {{"neigung", ansicht.tilt}, {"drehung", ansicht.turn}, {"zoom", ansicht.zoom}, {"flach", ansicht.flach}}}};
 }
 
 Json variantenliste(const Vergleich& vergleich)

@@ -4,6 +4,9 @@
 #include <array>
 #include <string_view>
 
+#include "core/Kuerzung.h"
+#include "dokument/Dokumentdatei.h"
+#include "dokument/Feldleser.h"
 #include "model/Anteilseinheit.h"
 #include "model/Diagrammwahl.h"
 #include "model/Komposition.h"
@@ -34,6 +37,18 @@ std::string_view wortFuer(Code code, const std::array<Wort<Code>, Count>& worte)
 {
     const auto found = std::ranges::find(worte, code, &Wort<Code>::code);
     return (found == worte.end() ? worte.begin() : found)->wort;
+}
+
+/// The code of the word under a key; one that is not known is refused.
+template <class Code, std::size_t Count>
+Code codeFor(Feldleser& leser, const Json& object, std::string_view key, const std::array<Wort<Code>, Count>& worte)
+{
+    const std::string text = leser.text(object, key, LaengstesFeld);
+    const auto found = std::ranges::find(worte, text, &Wort<Code>::wort);
+    if (found != worte.end())
+        return found->code;
+    leser.ablehnen(leser.feld(object, key), zitiert(text) + " ist hier nicht bekannt");
+    return worte.front().code;
 }
 
 } // namespace zerna

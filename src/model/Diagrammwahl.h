@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 namespace zerna {
 
 /// How the ternary diagram is looked at. `flach` is the flat diagram: from above, corners in their usual places, no
@@ -18,11 +20,15 @@ enum class Diagrammtyp { Konzentration = 0, Ternaer = 1, PSE = 2 };
 struct Diagrammwahl {
     Diagrammtyp typ = Diagrammtyp::Konzentration;
     int groesse = 0; ///< code of the quantity
+    std::optional<int> andereGroesse = {}; ///< the one last shown over the elements, or over alloys while these are not
     int komponente = 0; ///< row of the component along the axis
     int aufloesung = 5; ///< of the ternary diagram, 1 to FeinsteAufloesung
-    Ansicht ansicht; ///< of the ternary diagram
+    Ansicht ansicht = {}; ///< of the ternary diagram
     bool operator==(const Diagrammwahl&) const = default;
 };
+
+/// Goes to a type. Elements and alloys keep a quantity each; the first time it is the same.
+void wechsleTyp(Diagrammwahl& wahl, Diagrammtyp typ);
 
 /// The choice as it can be shown of an alloy of so many rows: type, quantity or row that there is not become the first
 /// one.

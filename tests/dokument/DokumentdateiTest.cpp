@@ -181,8 +181,9 @@ TEST_F(DokumentdateiTest, ComputesWithTheTextsThatItShows)
 TEST_F(DokumentdateiTest, ReadsADiagramThatCanBeShown)
 {
     using enum Diagrammtyp;
-    const auto wahl = [](Diagrammtyp typ, int groesse, int komponente) {
-        return Diagrammwahl{.typ = typ, .groesse = groesse, .komponente = komponente, .aufloesung = 7, .ansicht = {}};
+    const auto wahl = [](Diagrammtyp typ, int groesse, int komponente, std::optional<int> andere = {}) {
+        return Diagrammwahl{
+            .typ = typ, .groesse = groesse, .andereGroesse = andere, .komponente = komponente, .aufloesung = 7};
     };
     struct Row {
         int rows;
@@ -195,11 +196,17 @@ TEST_F(DokumentdateiTest, ReadsADiagramThatCanBeShown)
         {2, wahl(Konzentration, 11, 1), wahl(Konzentration, 0, 1)},
         {2, wahl(PSE, 11, 1), wahl(PSE, 11, 1)},
         {2, wahl(PSE, GroesseDichte, 1), wahl(PSE, 0, 1)},
+        {2, wahl(PSE, 11, 1, GroesseDichte), wahl(PSE, 11, 1, GroesseDichte)},
+        {2, wahl(PSE, 11, 1, 12), wahl(PSE, 11, 1)},
+        {2, wahl(Konzentration, 5, 1, 11), wahl(Konzentration, 5, 1, 11)},
+        {2, wahl(Konzentration, 5, 1, GroesseDichte), wahl(Konzentration, 5, 1)},
     };
     for (const Row& row : rows) {
         dokument.eingabe.setAnzahl(row.rows);
         dokument.diagramm = row.written;
-        EXPECT_EQ(read(schreibe(dokument)).dokument->diagramm, row.read) << schreibe(dokument);
+        const Dokument again = *read(schreibe(dokument)).dokument;
+        EXPECT_EQ(again.diagramm, row.read) << schreibe(dokument);
+        EXPECT_EQ(*again.fremd, "");
     }
 }
 

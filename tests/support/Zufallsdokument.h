@@ -32,8 +32,13 @@ public:
         dokument.wiegen.verlust = text();
         if (below(3) == 0)
             dokument.wiegen.bezug = Wiegebezug{below(MaxKomponenten), std::abs(single())};
-        const Diagrammwahl wahl{static_cast<Diagrammtyp>(below(3)), below(11), below(MaxKomponenten), 1 + below(10),
-            {real(-90, 90), real(-180, 180), real(0.5, 3), below(2) == 0}};
+        Diagrammwahl wahl{.typ = static_cast<Diagrammtyp>(below(3)),
+            .groesse = below(11),
+            .komponente = below(MaxKomponenten),
+            .aufloesung = 1 + below(10),
+            .ansicht = {real(-90, 90), real(-180, 180), real(0.5, 3), below(2) == 0}};
+        if (below(3) == 0)
+            wahl.andereGroesse = below(23);
         dokument.diagramm = passendeWahl(wahl, dokument.eingabe.anzahl());
         dokument.vergleich = vergleich();
         if (below(4) == 0)

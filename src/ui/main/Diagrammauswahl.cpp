@@ -74,7 +74,7 @@ void Diagrammauswahl::load() { fillQuantities(AnfangsGroessen); }
 
 void Diagrammauswahl::setTyp(Diagrammtyp typ)
 {
-    wahl().typ = typ;
+    wechsleTyp(wahl(), typ);
     m_cmbDiagrammTyp->setCurrentIndex(static_cast<int>(typ));
     const Diagrammseite& seite = *m_seiten.at(static_cast<std::size_t>(typ));
     fillQuantities(seite.groessen());
@@ -88,15 +88,6 @@ void Diagrammauswahl::fillQuantities(std::span<const int> quantities)
         m_cmbDiagramm->addItem(toQt(findGroesse(kennzahl)->name), kennzahl);
     m_cmbDiagramm->setCurrentIndex(qMax(0, m_cmbDiagramm->findData(wahl().groesse)));
     wahl().groesse = m_cmbDiagramm->currentData().toInt();
-}
-
-void Diagrammauswahl::setGroesse(int kennzahl)
-{
-    const int position = m_cmbDiagramm->findData(kennzahl);
-    if (position < 0)
-        return;
-    m_cmbDiagramm->setCurrentIndex(position);
-    wahl().groesse = kennzahl;
 }
 
 void Diagrammauswahl::listKomponenten(const Eingabe& eingabe)

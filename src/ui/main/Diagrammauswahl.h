@@ -28,7 +28,6 @@ public:
 
     /// Shows a type, and of its quantities the chosen one, or the first if it is not among them.
     void setTyp(Diagrammtyp typ);
-    void setGroesse(int kennzahl); ///< nothing for one that is not listed
 
     /// Lists the elements of the rows; the first one is then chosen.
     void listKomponenten(const Eingabe& eingabe);

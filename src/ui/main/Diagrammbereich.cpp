@@ -200,7 +200,6 @@ void Diagrammbereich::zeigeDokument()
     m_lblDrei->zeige({}, Befundzeile::Ton::Hinweis);
     m_auswahl->listKomponenten(m_eingabe);
     setTyp(shown.typ);
-    m_auswahl->setGroesse(shown.groesse);
     m_auswahl->setKomponente(shown.komponente);
     aktualisieren(true);
 }

@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QTimer>
+#include <QUndoStack>
 
 #include <random>
 
@@ -109,12 +110,25 @@ TEST_F(DiagrammbereichTest, TheAreaSaysWhyThereIsNoDiagram)
     EXPECT_EQ(said(), "Konnte Diagramm nicht berechnen!\n\nDichte für Aluminium ist Null!");
 }
 
-TEST_F(DiagrammbereichTest, LeavingAndReturningKeepsTheComponent)
+TEST_F(DiagrammbereichTest, LeavingAndReturningKeepsQuantityAndComponent)
 {
+    const std::vector<const char*> lists{"cmbDiagramm_Typ", "cmbDiagramm", "cmbDiagramm_Element"};
     choose("cmbDiagramm_Element", "Cu");
+    choose("cmbDiagramm", "Fermienergie");
     choose("cmbDiagramm_Typ", "PSE");
+    EXPECT_EQ(texts(lists), "PSE|Fermienergie|Cu");
+    choose("cmbDiagramm", "Masse");
     choose("cmbDiagramm_Typ", "2 D");
-    EXPECT_EQ(text("cmbDiagramm_Element"), "Cu");
+    EXPECT_EQ(texts(lists), "2 D|Fermienergie|Cu");
+    choose("cmbDiagramm", "Dichte");
+    choose("cmbDiagramm_Typ", "PSE");
+    EXPECT_EQ(texts(lists), "PSE|Masse|Cu");
+    choose("cmbDiagramm", "Atomradius");
+    for (int step = 0; step < 4; ++step)
+        window->verlauf().stapel().undo();
+    EXPECT_EQ(texts(lists), "PSE|Masse|Cu");
+    choose("cmbDiagramm_Typ", "2 D");
+    EXPECT_EQ(texts(lists), "2 D|Fermienergie|Cu");
     choose("cmdDichte_0", "<andere>"); // Intended: a density puts the first component along the axis again
     EXPECT_EQ(text("cmbDiagramm_Element"), "Al");
 }

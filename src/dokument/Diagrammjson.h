@@ -1,0 +1,19 @@
+#pragma once
+
+#include <array>
+#include <string_view>
+
+#include "dokument/Feldleser.h"
+#include "model/Diagrammwahl.h"
+
+/// The choice of the diagram in a file.
+namespace zerna {
+
+/// Keys of what is chosen only sometimes; a choice without it does not have the key.
+inline constexpr std::array<std::string_view, 1> WahlfreieDiagrammangaben{"andereGroesse"};
+
+Json diagrammjson(const Diagrammwahl& wahl);
+
+Diagrammwahl readDiagramm(Feldleser& leser, const Json& json);
+
+} // namespace zerna
