@@ -8,8 +8,6 @@
 
 namespace zerna {
 
-namespace {
-
 int readGroesse(Feldleser& leser, const Json& json, std::string_view key)
 {
     const int groesse = leser.ganzzahl(json, key, 0, std::numeric_limits<int>::max());
@@ -17,8 +15,6 @@ int readGroesse(Feldleser& leser, const Json& json, std::string_view key)
         leser.ablehnen(leser.feld(json, key), "Eine Größe mit dieser Kennzahl gibt es nicht");
     return groesse;
 }
-
-} // namespace
 
 Json diagrammjson(const Diagrammwahl& wahl)
 {
@@ -29,6 +25,10 @@ Json diagrammjson(const Diagrammwahl& wahl)
             {{"neigung", ansicht.tilt}, {"drehung", ansicht.turn}, {"zoom", ansicht.zoom}, {"flach", ansicht.flach}}}};
     if (wahl.andereGroesse)
         json["andereGroesse"] = *wahl.andereGroesse;
+    if (wahl.zweiteGroesse)
+        json["zweiteGroesse"] = *wahl.zweiteGroesse;
+    if (wahl.varianten)
+        json["varianten"] = true;
     return json;
 }
 
@@ -39,6 +39,9 @@ Diagrammwahl readDiagramm(Feldleser& leser, const Json& json)
     wahl.groesse = readGroesse(leser, json, "groesse");
     if (json.contains("andereGroesse"))
         wahl.andereGroesse = readGroesse(leser, json, "andereGroesse");
+    if (json.contains("zweiteGroesse"))
+        wahl.zweiteGroesse = readGroesse(leser, json, "zweiteGroesse");
+    wahl.varianten = json.contains("varianten") && leser.schalter(json, "varianten");
     wahl.komponente = leser.ganzzahl(json, "zeile", 1, MaxKomponenten) - 1;
     wahl.aufloesung = leser.ganzzahl(json, "aufloesung", 1, FeinsteAufloesung);
     const Json& ansicht = leser.objekt(json, "ansicht");

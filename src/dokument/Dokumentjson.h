@@ -6,9 +6,12 @@
 /// The parts of a document as JSON, without what is foreign.
 namespace zerna {
 
+/// A single in its shortest digits; null for one that is unknown.
+Json zahl(float wert);
+
 Json variantenjson(const Variante& variante);
 
-/// The kept alloys are left out: null stands in their place.
+/// The kept alloys are left out: null stands in their place. So are the kept curves, which have no key then.
 Json dokumentjson(const Dokument& dokument);
 
 } // namespace zerna

@@ -11,6 +11,7 @@
 #include "dokument/Dokumentjson.h"
 #include "dokument/Feldleser.h"
 #include "dokument/Fremdes.h"
+#include "dokument/Kurvenjson.h"
 #include "dokument/Worte.h"
 
 namespace zerna {
@@ -153,10 +154,13 @@ public:
         dokument.diagramm =
             passendeWahl(readDiagramm(m_leser, m_leser.objekt(root, "diagramm")), dokument.eingabe.anzahl());
         dokument.vergleich = vergleich(m_leser.objekt(root, "vergleich"));
+        if (root.contains("kurven"))
+            dokument.kurven = kurven(m_leser.liste(root, "kurven", 0, MaxKurven));
         dokument.fremd = fremdes(root, [&] {
             Json known = dokumentjson(dokument);
             for (const std::string_view key : WahlfreieDiagrammangaben)
                 known["diagramm"].emplace(key, nullptr);
+            known["kurven"] = nullptr; // each has its own
             return known;
         });
         if (m_leser.fehler()) {
@@ -211,6 +215,17 @@ private:
         const int most = std::max(1, static_cast<int>(varianten.size()));
         vergleich.referenz = static_cast<std::size_t>(m_leser.ganzzahl(json, "referenz", 1, most)) - 1;
         return vergleich;
+    }
+
+    std::vector<GehalteneKurve> kurven(const Json& liste)
+    {
+        std::vector<GehalteneKurve> kurven;
+        for (std::size_t i = 0; i < liste.size() && !m_leser.fehler(); ++i) {
+            GehalteneKurve kurve = readKurve(m_leser, liste.at(i));
+            kurve.fremd = fremdes(liste.at(i), [&] { return kurvenjson(kurve); });
+            kurven.push_back(std::move(kurve));
+        }
+        return kurven;
     }
 
     /// The keys of a value that the program does not know, as long as all of them together are not too many.

@@ -8,18 +8,12 @@
 #include "dokument/Dokumentdatei.h"
 #include "dokument/Dokumentjson.h"
 #include "dokument/Fremdes.h"
+#include "dokument/Kurvenjson.h"
 #include "dokument/Worte.h"
 
 namespace zerna {
 
 namespace {
-
-/// A single in its shortest digits.
-Json zahl(float wert)
-{
-    const bool isNumber = std::isfinite(wert) && !istUnbekannt(wert);
-    return isNumber ? Json(doubleFromText(textOfSingle(wert))) : Json();
-}
 
 Json textOderNull(const std::string& text) { return text.empty() ? Json() : Json(text); }
 
@@ -55,18 +49,26 @@ Json wiegejson(const Wiegedaten& wiegen)
     return json;
 }
 
-Json variantenliste(const Vergleich& vergleich)
+/// Entries with what is foreign in each.
+template <class Eintrag>
+Json liste(const std::vector<Eintrag>& eintraege, Json (*inhalt)(const Eintrag&))
 {
     Json liste = Json::array();
-    for (const Variante& variante : vergleich.varianten) {
-        Json json = variantenjson(variante);
-        fuegeEin(json, fremdesAus(variante.fremd));
+    for (const Eintrag& eintrag : eintraege) {
+        Json json = inhalt(eintrag);
+        fuegeEin(json, fremdesAus(eintrag.fremd));
         liste.push_back(std::move(json));
     }
     return liste;
 }
 
 } // namespace
+
+Json zahl(float wert)
+{
+    const bool isNumber = std::isfinite(wert) && !istUnbekannt(wert);
+    return isNumber ? Json(doubleFromText(textOfSingle(wert))) : Json();
+}
 
 Json variantenjson(const Variante& variante)
 {
@@ -87,7 +89,9 @@ std::string schreibe(const Dokument& dokument)
 {
     Json json = dokumentjson(dokument);
     fuegeEin(json, fremdesAus(*dokument.fremd));
-    json["vergleich"]["varianten"] = variantenliste(*dokument.vergleich);
+    json["vergleich"]["varianten"] = liste(dokument.vergleich->varianten, &variantenjson);
+    if (!dokument.kurven->empty())
+        json["kurven"] = liste(*dokument.kurven, &kurvenjson);
     const auto text = [&](int indent) { return json.dump(indent, ' ', false, Json::error_handler_t::replace) + '\n'; };
     std::string indented = text(4);
     return indented.size() <= GroessteDatei ? indented : text(-1);

@@ -121,4 +121,15 @@ float Feldleser::wert(const Json& object, std::string_view key)
     return feld(object, key).is_null() ? Unbekannt : static_cast<float>(zahl(object, key, -Largest, Largest));
 }
 
+float Feldleser::wert(const Json& value)
+{
+    if (value.is_null())
+        return Unbekannt;
+    const double number = value.is_number() ? value.get<double>() : NAN;
+    if (std::abs(number) <= std::numeric_limits<float>::max())
+        return static_cast<float>(number);
+    ablehnen(value, "Hier muss eine Zahl oder null stehen");
+    return Unbekannt;
+}
+
 } // namespace zerna

@@ -44,6 +44,7 @@ public:
 
     /// A number that a single can hold or null, which is Unbekannt.
     float wert(const Json& object, std::string_view key);
+    float wert(const Json& value);
 
 private:
     const Jsontext& m_json;

@@ -10,6 +10,7 @@
 #include "model/Anteilseinheit.h"
 #include "model/Diagrammwahl.h"
 #include "model/Komposition.h"
+#include "model/Mischungsreihe.h"
 
 /// The words that a file has for the program's codes.
 namespace zerna {
@@ -30,6 +31,9 @@ inline constexpr std::array<Wort<Anteilseinheit>, 2> Einheitenworte{
 
 inline constexpr std::array<Wort<Diagrammtyp>, 3> Diagrammworte{
     {{Diagrammtyp::Konzentration, "Konzentration"}, {Diagrammtyp::Ternaer, "ternär"}, {Diagrammtyp::PSE, "PSE"}}};
+
+inline constexpr std::array<Wort<Reihenart>, 2> Reihenworte{
+    {{Reihenart::Gegeben, "eingetragen"}, {Reihenart::Summe100, "Summe 100"}}};
 
 /// The word of a code; the first one for a code that has none.
 template <class Code, std::size_t Count>

@@ -32,6 +32,8 @@ Diagrammwahl passendeWahl(Diagrammwahl wahl, int anzahl)
     const bool isPSE = wahl.typ == Diagrammtyp::PSE;
     if (wahl.andereGroesse && !istListengroesse(*wahl.andereGroesse, !isPSE))
         wahl.andereGroesse.reset();
+    if (wahl.zweiteGroesse && !istListengroesse(*wahl.zweiteGroesse, false))
+        wahl.zweiteGroesse.reset();
     if (!istListengroesse(wahl.groesse, isPSE))
         wahl.groesse = isPSE ? psegroessen().front() : 0;
     if (wahl.komponente >= anzahl)

@@ -21,6 +21,8 @@ struct Diagrammwahl {
     Diagrammtyp typ = Diagrammtyp::Konzentration;
     int groesse = 0; ///< code of the quantity
     std::optional<int> andereGroesse = {}; ///< the one last shown over the elements, or over alloys while these are not
+    std::optional<int> zweiteGroesse = {}; ///< on the right axis of a concentration diagram
+    bool varianten = false; ///< whether the kept alloys are drawn there, too
     int komponente = 0; ///< row of the component along the axis
     int aufloesung = 5; ///< of the ternary diagram, 1 to FeinsteAufloesung
     Ansicht ansicht = {}; ///< of the ternary diagram

@@ -8,6 +8,7 @@
 #include "core/Geteilt.h"
 #include "model/Diagrammwahl.h"
 #include "model/Eingabe.h"
+#include "model/GehalteneKurve.h"
 #include "model/Wiegeauskunft.h"
 
 namespace zerna {
@@ -54,6 +55,7 @@ struct Dokument {
     Wiegedaten wiegen;
     Diagrammwahl diagramm;
     Geteilt<Vergleich> vergleich;
+    Geteilt<std::vector<GehalteneKurve>> kurven; ///< up to MaxKurven
     Geteilt<std::string> fremd; ///< keys of a newer program's file, as the text of a JSON object; empty for none
 
     bool operator==(const Dokument&) const = default;

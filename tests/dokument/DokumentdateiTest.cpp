@@ -210,6 +210,22 @@ TEST_F(DokumentdateiTest, ReadsADiagramThatCanBeShown)
     }
 }
 
+TEST_F(DokumentdateiTest, KeepsCurvesAndRefusesOthers)
+{
+    EXPECT_THAT(schreibe(dokument), testing::Not(testing::HasSubstr("kurven")));
+    dokument.kurven = std::vector<GehalteneKurve>(2, {"Al60Cu40", "Al", 8, Reihenart::Summe100, {1.5F, Unbekannt}});
+    const std::string text = schreibe(dokument);
+    const auto grund = [&](const std::string& old, const std::string& broken) {
+        std::string file = text;
+        return read(file.replace(file.find(old), old.size(), broken)).fehler.grund;
+    };
+    EXPECT_EQ(grund("1.5,", ""), "\"werte\" muss eine Liste von 101 Einträgen sein");
+    EXPECT_EQ(grund("1.5", "1e39"), "Hier muss eine Zahl oder null stehen");
+    EXPECT_EQ(grund("Summe 100", "Summe"), "\"Summe\" ist hier nicht bekannt");
+    dokument.kurven = std::vector<GehalteneKurve>(7, dokument.kurven->front());
+    EXPECT_EQ(read(schreibe(dokument)).fehler.grund, "\"kurven\" muss eine Liste von 0 bis 6 Einträgen sein");
+}
+
 TEST_F(DokumentdateiTest, KeepsWhatANewerProgramLeft)
 {
     const std::string text = with("\"version\": 1", "\"version\": 2");

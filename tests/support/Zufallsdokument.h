@@ -39,8 +39,12 @@ public:
             .ansicht = {real(-90, 90), real(-180, 180), real(0.5, 3), below(2) == 0}};
         if (below(3) == 0)
             wahl.andereGroesse = below(23);
+        if (below(3) == 0)
+            wahl.zweiteGroesse = below(11);
+        wahl.varianten = below(3) == 0;
         dokument.diagramm = passendeWahl(wahl, dokument.eingabe.anzahl());
         dokument.vergleich = vergleich();
+        dokument.kurven = kurven();
         if (below(4) == 0)
             dokument.fremd = std::string(R"({"diagramm":{"farbe":"grün"},"neu":[1,null,{"a":-2.5}]})");
         return dokument;
@@ -119,6 +123,21 @@ private:
             vergleich.varianten.push_back({text(), eingabe(), below(4) == 0 ? R"({"note":{"x":"€"}})" : ""});
         vergleich.referenz = count == 0 ? 0 : static_cast<std::size_t>(below(count));
         return vergleich;
+    }
+
+    std::vector<GehalteneKurve> kurven()
+    {
+        std::vector<GehalteneKurve> kurven(below(20) == 0 ? pick(MaxKurven + 1) : 0);
+        for (GehalteneKurve& kurve : kurven) {
+            kurve.name = text();
+            kurve.symbol = element().symbol();
+            kurve.groesse = below(11);
+            kurve.art = below(2) == 0 ? Reihenart::Gegeben : Reihenart::Summe100;
+            for (float& value : kurve.werte)
+                value = below(9) == 0 ? Unbekannt : single();
+            kurve.fremd = below(4) == 0 ? R"({"note":{"x":"€"}})" : "";
+        }
+        return kurven;
     }
 
     const ElementCollection& m_elements;
