@@ -1,0 +1,85 @@
+#include "bild/Konzentrationstexte.h"
+
+#include <vector>
+
+#include "core/Zahlentext.h"
+#include "model/Formeltext.h"
+
+namespace zerna {
+
+namespace {
+
+constexpr int Stellen = 6; // of numbers that are read, not computed with
+
+std::string prozenttext(const Eingabe& eingabe, int zeile)
+{
+    return textWithDigits(eingabe.prozentInKraft(zeile).wert, Stellen);
+}
+
+bool istErsteMit(const Eingabe& eingabe, int zeile)
+{
+    for (int i = 0; i < zeile; ++i) {
+        if (eingabe.zeile(i).element == eingabe.zeile(zeile).element)
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+std::string groessentitel(const Groesse& groesse)
+{
+    std::string titel = std::string(groesse.name) + " [" + std::string(groesse.reiheneinheit) + "]";
+    if (groesse.einheit != groesse.reiheneinheit)
+        titel += " (Zahl in " + std::string(groesse.einheit) + ")";
+    return titel;
+}
+
+std::string legierungsname(const Eingabe& eingabe)
+{
+    std::string name = formeltext(eingabe, Formelschrift::Einfach);
+    if (!name.empty())
+        return name;
+    for (int i = 0; i < eingabe.anzahl(); ++i) {
+        const auto& element = eingabe.zeile(i).element;
+        name += (i == 0 ? "" : ", ") + (element ? element->symbol() : std::string("?")) + ' ' + prozenttext(eingabe, i);
+    }
+    return name + " at%";
+}
+
+std::string legierungstext(const Eingabe& eingabe)
+{
+    std::string text = legierungsname(eingabe);
+    for (int i = 0; i < eingabe.anzahl(); ++i) {
+        const Eingabe::Zeile& zeile = eingabe.zeile(i);
+        if (!zeile.element || !istErsteMit(eingabe, i))
+            continue;
+        text += (i == 0 ? " – " : "; ") + zeile.element->symbol() + ": " + textWithDigits(zeile.inKraft.dichte, Stellen)
+            + " g/cm³, z = " + textWithDigits(zeile.inKraft.valenz, Stellen);
+    }
+    return text;
+}
+
+std::string reihenname(const Groesse& groesse, Reihenart art)
+{
+    if (art == Reihenart::Summe100)
+        return "Mischungsreihe (Summe 100 %)";
+    return groesse.kennzahl == GroesseDichte ? "Dichten über at% gemittelt" : "Anteile wie eingetragen";
+}
+
+std::string kurvenname(const GehalteneKurve& kurve)
+{
+    return kurve.name + " über " + kurve.symbol + (kurve.art == Reihenart::Summe100 ? ", Summe 100 %" : "");
+}
+
+std::string abweichungsgrund(const Groesse& groesse, const Eingabe& eingabe, int variable, Reihenart art)
+{
+    if (groesse.kennzahl == GroesseDichte) {
+        const std::string wer = art == Reihenart::Summe100 ? "Das Ergebnis" : "Die Kurve";
+        return wer + " mittelt die Dichten über die at%, die Mischungsreihe teilt Masse durch Volumen.";
+    }
+    return "Die Kurve führt nicht durch die Legierung: Weil " + eingabe.zeile(variable).element->symbol() + " mit "
+        + prozenttext(eingabe, variable) + " at% eingetragen ist, ergeben ihre Anteile nicht überall 100 %.";
+}
+
+} // namespace zerna
