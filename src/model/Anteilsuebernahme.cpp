@@ -1,0 +1,43 @@
+#include "model/Anteilsuebernahme.h"
+
+#include <cmath>
+#include <numeric>
+#include <vector>
+
+#include "core/Zahlentext.h"
+#include "model/Drittelement.h"
+
+namespace zerna {
+
+bool istUebernehmbar(std::span<const double> prozente)
+{
+    constexpr double Tolerance = 1e-4; // at%
+    return std::abs(std::accumulate(prozente.begin(), prozente.end(), -100.0)) <= Tolerance;
+}
+
+Eingabe mitAnteilen(Eingabe eingabe, std::span<const double> prozente)
+{
+    constexpr int Digits = 7; // all that a single tells
+    const Anteilseinheit einheit = eingabe.einheit();
+    eingabe.setEinheit(Anteilseinheit::Atom);
+    for (int row = 0; row < eingabe.anzahl(); ++row)
+        eingabe.setProzent(row, textWithDigits(prozente[static_cast<std::size_t>(row)], Digits));
+    eingabe.gleicheAus();
+    eingabe.setEinheit(einheit);
+    return eingabe;
+}
+
+Eingabe mitElement(Eingabe eingabe, std::string_view key, double prozent)
+{
+    const Legierung before = eingabe.legierung().value();
+    std::vector<double> parts;
+    for (const Legierungskomponente& komponente : aufProzent(before.komponenten(), 100 - prozent))
+        parts.push_back(komponente.prozent);
+    parts.push_back(prozent);
+    const int row = eingabe.anzahl();
+    eingabe.setAnzahl(row + 1);
+    eingabe.waehleElement(row, key);
+    return mitAnteilen(std::move(eingabe), parts);
+}
+
+} // namespace zerna

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "model/Eingabe.h"
+
+/// Entering what a search has found.
+namespace zerna {
+
+/// Whether at% sum up to 100, so that the balance row leaves them as they are.
+bool istUebernehmbar(std::span<const double> prozente);
+
+/// The alloy with these at%, one per row in use. The unit in which parts are typed stays.
+Eingabe mitAnteilen(Eingabe eingabe, std::span<const double> prozente);
+
+/// The alloy with another element at `prozent` at% in a row of its own, the last one; the others keep their ratio.
+/// Error 9 without room for a row, error 11 for at% that sum up to 0. The alloy has to be complete.
+Eingabe mitElement(Eingabe eingabe, std::string_view key, double prozent);
+
+} // namespace zerna
