@@ -5,10 +5,8 @@
 
 #include "cli/Umgebung.h"
 #include "core/Kuerzung.h"
-#include "model/Anteilssuche.h"
-#include "model/Drittelement.h"
 #include "model/Konzentrationsreihe.h"
-#include "model/Tabelle.h"
+#include "model/Suchtabelle.h"
 
 namespace zerna {
 
@@ -21,8 +19,6 @@ float zahl(const std::string& option, const std::string& text)
         throw Aufruffehler(option + " " + gekuerzt(text) + ": keine gültige Zahl");
     return feld.wert;
 }
-
-std::string inFile(float value) { return textOfSingle(value, Dezimaltrenner::Punkt); }
 
 /// Without a sum there is no ratio to be kept.
 void requireSum(std::span<const Legierungskomponente> alloy)
@@ -45,34 +41,16 @@ void requireDistinct(std::span<const Legierungskomponente> alloy)
     }
 }
 
-/// A column per component, then the value with its unit.
-Tabelle answersAsTable(const clsCalc& calc, std::span<const Legierungskomponente> alloy, const Anteilsfrage& frage,
-    const Zielantwort& antwort)
+/// For JSON: keys that do not depend on the quantity.
+Tabelle withKeys(Tabelle tabelle, std::span<const Legierungskomponente> alloy, std::string_view einheit)
 {
-    Tabelle tabelle;
-    for (const Legierungskomponente& komponente : alloy)
-        tabelle.spalten.push_back({komponente.element->symbol(), true});
-    tabelle.spalten.insert(tabelle.spalten.end(), {{"wert", true}, {"einheit"}});
-    for (const Loesung& loesung : antwort.loesungen) {
-        std::vector<std::string>& zeile = tabelle.zeilen.emplace_back();
-        const auto parts = zusammensetzung(calc, alloy, frage, loesung.prozent);
-        for (std::size_t j = 0; j < alloy.size(); ++j)
-            zeile.push_back(anteiltext(parts.at(j), Dezimaltrenner::Punkt));
-        zeile.insert(zeile.end(), {inFile(loesung.wert), std::string(reiheneinheit(frage.groesse))});
-    }
-    return tabelle;
-}
-
-/// As the file of a series has it: at% of each component, then the value below its unit.
-std::string answersAsText(Tabelle tabelle, std::string_view einheit)
-{
-    for (Tabelle::Spalte& spalte : tabelle.spalten)
-        spalte.name += " [at%]";
-    tabelle.spalten.pop_back();
-    tabelle.spalten.back().name = einheit;
+    for (std::size_t j = 0; j < alloy.size(); ++j)
+        tabelle.spalten.at(j).name = alloy[j].element->symbol();
+    tabelle.spalten.back().name = "wert";
+    tabelle.spalten.push_back({"einheit"});
     for (std::vector<std::string>& zeile : tabelle.zeilen)
-        zeile.pop_back();
-    return alsText(mitKopf(std::move(tabelle)));
+        zeile.emplace_back(einheit);
+    return tabelle;
 }
 
 } // namespace
@@ -124,8 +102,9 @@ void Suche::searchPart(Umgebung& umgebung, int kennzahl, float wanted) const
         throw Datenfehler(satz);
     if (!satz.empty())
         std::cerr << "zerna-cli: " << satz << '\n';
-    const Tabelle tabelle = answersAsTable(calc, alloy, frage, antwort);
-    put(form.json ? alsJson(tabelle) : answersAsText(tabelle, reiheneinheit(kennzahl)), ausgabe.datei);
+    const Tabelle tabelle = loesungstabelle(calc, alloy, frage, antwort, Dezimaltrenner::Punkt);
+    put(form.json ? alsJson(withKeys(tabelle, alloy, reiheneinheit(kennzahl))) : alsText(mitKopf(tabelle)),
+        ausgabe.datei);
 }
 
 void Suche::rankElements(Umgebung& umgebung, int kennzahl, float wanted) const
@@ -137,15 +116,11 @@ void Suche::rankElements(Umgebung& umgebung, int kennzahl, float wanted) const
     const auto alloy = umgebung.kern().komponenten();
     if (alloy.size() == MaxKomponenten)
         throw Aufruffehler("Zu fünf Komponenten gibt es keine weitere");
-    constexpr int SureDigits = 4; // of a difference of two singles
     requireSum(alloy);
     const Groesse& gesucht = *findReihengroesse(kennzahl);
     const Rangliste liste =
         drittelemente(umgebung.kern().calc(), umgebung.kern().elements(), alloy, prozent, gesucht, wanted);
-    Tabelle tabelle{{{"element"}, {"wert", true}, {"einheit"}, {"abweichung", true}}, {}};
-    for (const Drittelement& rang : liste.elemente)
-        tabelle.zeilen.push_back({rang.element->symbol(), inFile(rang.wert), std::string(gesucht.reiheneinheit),
-            textWithDigits(rang.abweichung, SureDigits, Dezimaltrenner::Punkt)});
+    const Tabelle tabelle = rangtabelle(liste, gesucht, Dezimaltrenner::Punkt);
     put(form.json ? alsJson(tabelle) : alsText(tabelle), ausgabe.datei);
     if (!liste.ohneDaten.empty())
         std::cerr << "zerna-cli: " << ohneDatenSatz(liste) << '\n';
