@@ -3,7 +3,6 @@
 #include <QImage>
 
 #include <string>
-#include <vector>
 
 #include "programm/Exportart.h"
 #include "ui/diagram/Leinwand.h"
@@ -11,15 +10,18 @@
 /// One painting function for the screen's picture, image files and paper alike.
 namespace zerna {
 
+/// Dots per inch of the devices on which fonts have the sizes in which texts are measured. A device that says otherwise
+/// gets letters of another size in the same picture.
+int fontDotsPerInch();
+
+/// The image as a file. Error 5 for a picture without pixels, of which there is no file.
+std::string encoded(const QImage& image, const char* format);
+
 /// The picture as an image with the canvas's device pixels.
 QImage imageOf(const Bildmaler& maler, const Leinwand& leinwand);
 
 /// The export of a picture as a bitmap.
 Exportart bitmap(const Bildmaler& maler, const Leinwand& leinwand);
-
-/// The exports of a picture of that size: PNG (twice the size in pixels), SVG and PDF. Each carries the document, the
-/// text of a file, from which it opens again.
-std::vector<Exportart> bildarten(const Bildmaler& maler, const Leinwand& leinwand, const std::string& dokument);
 
 /// Asks for a printer and prints the picture as large as the page allows, laid out as on the screen, with the date
 /// below it.

@@ -1,13 +1,16 @@
 #include "ui/diagram/Diagrammflaeche.h"
 
 #include <QContextMenuEvent>
+#include <QDir>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
 
 #include "programm/Exportieren.h"
 #include "ui/diagram/Bildausgabe.h"
+#include "ui/diagram/Bilddatei.h"
 #include "ui/diagram/conDisplay.h"
+#include "ui/diagram/frmBild.h"
 #include "ui/platform/Farben.h"
 #include "ui/platform/Zwischenablage.h"
 
@@ -100,8 +103,14 @@ void Diagrammflaeche::save()
 
 void Diagrammflaeche::savePicture()
 {
-    exportieren(m_programm.boxes(), m_dialoge.save, "Bild speichern",
-        bildarten(m_diagramm->maler(), leinwand(), m_programm.dokumenttext()));
+    frmBild dialog(m_diagramm->maler(), gemerkteBildvorgabe(m_programm.settings()), this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const Bildvorgabe& vorgabe = dialog.vorgabe();
+    merkeBildvorgabe(m_programm.settings(), vorgabe);
+    const auto arten = bildarten(m_diagramm->maler(), vorgabe, m_diagramm->texte(), m_programm.dokumenttext());
+    speichereAls(m_programm.boxes(), m_dialoge.save, "Bild speichern", arten,
+        SaveFileDialog::Choice{fromQt(QDir::currentPath()) + '/', static_cast<int>(vorgabe.art) + 1});
 }
 
 void Diagrammflaeche::print() { printPicture(this, m_diagramm->maler(), leinwand()); }

@@ -5,8 +5,10 @@
 #include <random>
 
 #include "support/FakeDesk.h"
+#include "support/ModalDialog.h"
 #include "traeger/Dokumentfund.h"
 #include "ui/diagram/Diagrammflaeche.h"
+#include "ui/diagram/frmBild.h"
 
 namespace zerna {
 
@@ -112,12 +114,12 @@ TEST_F(TernaeransichtTest, FlatViewStandsStill)
 TEST_F(TernaeransichtTest, ItsPictureCarriesWhatIsEntered)
 {
     type("txtProzent_0", "33.30");
-    saveDialog.answer = {(folder / "bild").string(), 2};
+    saveDialog.next = {(folder / "bild").string(), 2};
     QTimer::singleShot(0, [] { // "Bild speichern ..." is the last but one
         QTest::keySequence(QApplication::activePopupWidget(), {Qt::Key_Up, Qt::Key_Up, Qt::Key_Return});
     });
     QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {});
-    send(event);
+    inDialog<frmBild>([](frmBild& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); }, [&] { send(event); });
     const Dokumentfund found = dokumentAus(bytesOf(folder / "bild.svg"));
     EXPECT_EQ(found.dokument, programm->dokumenttext());
     EXPECT_NE(found.dokument.value_or("").find("\"33.30\""), std::string::npos);

@@ -1,0 +1,98 @@
+#include "ui/diagram/Bilddatei.h"
+
+#include <QImage>
+#include <QPainter>
+
+#include <gtest/gtest.h>
+
+#include "dokument/Dokumentdatei.h"
+#include "support/RechnerTest.h"
+#include "support/Zufallsdokument.h"
+#include "traeger/Dokumentfund.h"
+#include "ui/diagram/Bildausgabe.h"
+
+namespace zerna {
+
+/// A picture that is red on its left half, with a letter, and remembers what it was painted for.
+struct BilddateiTest : RechnerTest {
+    const Bildmaler maler = [this](QPainter& painter, const Leinwand& leinwand) {
+        painted.push_back(leinwand);
+        painter.fillRect(QRect(0, 0, leinwand.size.width() / 2, leinwand.size.height()), Qt::red);
+        painter.setFont(leinwand.font);
+        painter.drawText(QPointF(leinwand.size.width() * 0.7, 40), QStringLiteral("E"));
+        letters = painter.fontMetrics().height();
+    };
+    Bildvorgabe vorgabe{.breite = 85, .hoehe = 60.5, .schriftgroesse = 9, .aufloesung = 192};
+    const Bildtexte texte{"E_F in eV <1>", "Al60Cu40 & mehr"};
+    const std::string dokument = R"({"format": "?"})";
+    std::vector<Leinwand> painted;
+    double letters = 0;
+
+    std::string bytes(Bildart art)
+    {
+        painted.clear();
+        const auto arten = bildarten(maler, vorgabe, texte, dokument);
+        EXPECT_TRUE(painted.empty()) << "nothing is painted before it is chosen";
+        const std::string made = arten.at(static_cast<std::size_t>(art)).bytes().value();
+        EXPECT_EQ(painted, std::vector{leinwandNach(vorgabe)}) << "the same for all kinds";
+        EXPECT_NEAR(letters, QFontMetricsF(painted.at(0).font).height(), 1) << "as large as they were measured";
+        EXPECT_EQ(dokumentAus(made).dokument, dokument);
+        return made;
+    }
+
+    QImage image() { return QImage::fromData(QByteArray::fromStdString(bytes(Bildart::PNG))); }
+};
+
+TEST_F(BilddateiTest, ImageHasItsPixelsItsSizeOnPaperAndItsTexts)
+{
+    const QImage picture = image();
+    EXPECT_EQ(picture.size(), QSize(643, 457)) << "85 and 60.5 mm at 192 dots per inch";
+    EXPECT_EQ(picture.dotsPerMeterX(), 7559);
+    EXPECT_EQ(picture.pixelColor(319, 10), QColor(Qt::red));
+    EXPECT_EQ(picture.pixelColor(321, 10), QColor(Qt::white));
+    EXPECT_EQ(picture.text("Title").toStdString(), texte.titel);
+    EXPECT_EQ(picture.text("Description").toStdString(), texte.beschreibung);
+    vorgabe.grau = true;
+    EXPECT_TRUE(image().isGrayscale());
+    EXPECT_TRUE(painted.at(0).stil.grau);
+    vorgabe.breite = 0;
+    EXPECT_THROW(bildarten(maler, vorgabe, texte, "{}").at(0).bytes(), Laufzeitfehler) << "no pixels, no file";
+}
+
+TEST_F(BilddateiTest, VectorPicturesHaveTheirSizeTheirLettersAndTheirTexts)
+{
+    const struct {
+        Bildart art;
+        std::vector<const char*> parts;
+    } rows[] = {
+        {Bildart::SVG,
+            {"<svg width=\"85mm\" height=\"60.5mm\"", "viewBox=\"0 0 321.2598 228.6614\"", "font-size=\"12\"",
+                "font-family=\"DejaVu Sans\"", "<title>E_F in eV &lt;1&gt;</title>",
+                "<desc>Al60Cu40 &amp; mehr</desc>"}},
+        {Bildart::PDF,
+            {"/MediaBox [0 0 241.000000 171.000000]", "/FontFile2", "/Title", "E_F in eV &lt;1&gt;</rdf:li>",
+                "Al60Cu40 &amp; mehr</rdf:li>"}},
+    };
+    for (const auto& row : rows) {
+        const std::string file = bytes(row.art);
+        for (const char* const part : row.parts)
+            EXPECT_NE(file.find(part), std::string::npos) << part << "\n" << file.substr(0, 3000);
+    }
+}
+
+TEST_F(BilddateiTest, EveryPictureCarriesTheDocument)
+{
+    constexpr int Documents = 500;
+    addElements();
+    vorgabe.breite = vorgabe.hoehe = vorgabe.aufloesung = 20;
+    Zufallsdokument zufall(elements, 3);
+    for (int i = 0; i < Documents; ++i) {
+        const std::string carried = schreibe(zufall.naechstes());
+        for (const Exportart& art : bildarten(maler, vorgabe, texte, carried)) {
+            SCOPED_TRACE(std::string(art.endung) + " " + std::to_string(i));
+            ASSERT_EQ(dokumentAus(*art.bytes()).dokument, carried);
+        }
+    }
+}
+
+} // namespace zerna
