@@ -25,6 +25,7 @@ BENEATH = {
     "ui/ternary": ["ui/controls"],
     "ui/diagram": ["ui/ternary"],
     "ui/weighing": ["ui/controls"],
+    "bildprogramm": ["cli", "ui/diagram"],
     "ui/main": ["ui/diagram", "ui/weighing"],
     "app": ["ui/main"],
 }

@@ -5,6 +5,8 @@
 
 #include "core/Kuerzung.h"
 #include "model/Groessen.h"
+#include "model/PSEReihe.h"
+#include "model/Ternaergitter.h"
 #include "programm/Rechenkern.h"
 
 namespace zerna {
@@ -93,6 +95,29 @@ int reihenkennzahl(const Ganzzahl& groesse)
     if (findReihengroesse(kennzahl) == nullptr)
         throw Aufruffehler("--groesse " + std::to_string(kennzahl) + ": erwartet wird " + reihenkennzahlen());
     return kennzahl;
+}
+
+int elementkennzahl(const Ganzzahl& groesse)
+{
+    const int kennzahl = groesse.wert();
+    if (!istPSEGroesse(kennzahl))
+        throw Aufruffehler("--groesse " + std::to_string(kennzahl) + ": keine Eigenschaft der Elemente");
+    return kennzahl;
+}
+
+int gitteraufloesung(const Ganzzahl& aufloesung)
+{
+    const int resolution = aufloesung.wert();
+    if (resolution < 1 || resolution > FeinsteAufloesung)
+        throw Aufruffehler(aufloesung.name + " " + std::to_string(resolution) + ": erwartet wird 1 bis "
+            + std::to_string(FeinsteAufloesung));
+    return resolution;
+}
+
+void requireTernaer(std::size_t anzahl)
+{
+    if (anzahl != 3)
+        throw Aufruffehler("Ein ternäres Diagramm hat drei Komponenten, angegeben sind " + std::to_string(anzahl));
 }
 
 std::size_t indexOfVariable(

@@ -43,6 +43,15 @@ struct Ganzzahl {
 /// The code of a quantity over compositions. Throws Aufruffehler for any other number.
 int reihenkennzahl(const Ganzzahl& groesse);
 
+/// The code of a property of the elements. Throws Aufruffehler for any other number.
+int elementkennzahl(const Ganzzahl& groesse);
+
+/// The resolution of a ternary diagram. Throws Aufruffehler for any other number.
+int gitteraufloesung(const Ganzzahl& aufloesung);
+
+/// Throws Aufruffehler unless a ternary diagram can be made of so many components.
+void requireTernaer(std::size_t anzahl);
+
 /// The component of the alloy that --variabel names, the first one if there are several. Throws Aufruffehler.
 std::size_t indexOfVariable(
     const std::string& symbol, const ElementCollection& elements, std::span<const Legierungskomponente> alloy);

@@ -1,15 +1,18 @@
 #include "cli/Befehle.h"
 
 #include <algorithm>
-#include <memory>
+#include <iterator>
 
 #include "cli/Argumente.h"
+#include "cli/Befehl.h"
+#include "cli/Bildoptionen.h"
 #include "cli/Stapel.h"
 #include "cli/Suche.h"
 #include "cli/Umgebung.h"
 #include "core/ElementCsv.h"
 #include "core/Elementdatei.h"
 #include "core/Kuerzung.h"
+#include "core/Plattform.h"
 #include "model/Einwaage.h"
 #include "model/Ergebnisse.h"
 #include "model/Groessentabelle.h"
@@ -20,19 +23,6 @@
 namespace zerna {
 
 namespace {
-
-/// Adds a command. A `Befehl` says with define(CLI::App&) which options it has and carries them out with
-/// run(Umgebung&).
-template <class Befehl>
-void addBefehl(CLI::App& parent, Umgebung& umgebung, const char* name, const char* beschreibung)
-{
-    CLI::App& app = *parent.add_subcommand(name, beschreibung);
-    app.option_defaults()->group("Optionen");
-    app.group("Befehle");
-    const auto befehl = std::make_shared<Befehl>();
-    befehl->define(app);
-    app.callback([&umgebung, befehl] { befehl->run(umgebung); });
-}
 
 struct Formel {
     void define(CLI::App& befehl) { befehl.add_option("text", text, "Formel")->required()->option_text("FORMEL"); }
@@ -161,9 +151,7 @@ struct PSE {
 
     void run(Umgebung& umgebung) const
     {
-        const int kennzahl = groesse.wert();
-        if (!istPSEGroesse(kennzahl))
-            throw Aufruffehler("--groesse " + std::to_string(kennzahl) + ": keine Eigenschaft der Elemente");
+        const int kennzahl = elementkennzahl(groesse);
         umgebung.load();
         put(psedatei(pseReihe(umgebung.kern().elements(), umgebung.kern().calc(), kennzahl)), ausgabe.datei);
     }
@@ -184,14 +172,9 @@ struct Ternaer {
     void run(Umgebung& umgebung) const
     {
         const int kennzahl = reihenkennzahl(groesse);
-        const int resolution = aufloesung.wert();
-        if (resolution < 1 || resolution > FeinsteAufloesung)
-            throw Aufruffehler("--aufloesung " + std::to_string(resolution) + ": erwartet wird 1 bis "
-                + std::to_string(FeinsteAufloesung));
+        const int resolution = gitteraufloesung(aufloesung);
         umgebung.loadAlloy(komponenten.texte, komponenten.einheit());
-        const std::size_t anzahl = umgebung.kern().komponenten().size();
-        if (anzahl != 3)
-            throw Aufruffehler("Ein ternäres Diagramm hat drei Komponenten, angegeben sind " + std::to_string(anzahl));
+        requireTernaer(umgebung.kern().komponenten().size());
         put(ternaerdatei(ternaergitter(umgebung.kern().calc(), umgebung.kern().komponenten(), kennzahl, resolution)),
             ausgabe.datei);
     }
@@ -257,6 +240,21 @@ struct Friedel {
     Ausgabe ausgabe;
 };
 
+/// Painting wants a toolkit, without which all else starts at once: another program does it.
+struct Bild {
+    void define(CLI::App& befehl) { optionen.define(befehl); }
+
+    void run(const Umgebung& umgebung) const
+    {
+        optionen.check();
+        runInstead(executableFolder() / Bildprogramm, umgebung.aufruf);
+        throw Datenfehler(std::string(Bildprogramm)
+            + " fehlt neben zerna-cli. Bilder gibt es nur, wo Zerna mit seinem Fenster gebaut wurde");
+    }
+
+    Bildoptionen optionen;
+};
+
 struct Exportieren {
     void define(CLI::App& befehl) { befehl.add_option("csv", csv, "Zieldatei")->required()->option_text("CSV"); }
 
@@ -307,10 +305,6 @@ void addElemente(CLI::App& app, Umgebung& umgebung)
 
 void defineBefehle(CLI::App& app, Umgebung& umgebung)
 {
-    app.option_defaults()->group("Optionen");
-    app.add_option("--daten", umgebung.daten, "Elementdatei statt elemente.dat neben dem Programm")
-        ->option_text("DATEI");
-    app.require_subcommand(1);
     addBefehl<Formel>(app, umgebung, "formel", "Wert einer Formel");
     addBefehl<Groessenliste>(app, umgebung, "groessen", "Größen einer Legierung als Tabelle");
     addBefehl<Text>(app, umgebung, "text", "Ergebnistext einer Legierung");
@@ -320,6 +314,7 @@ void defineBefehle(CLI::App& app, Umgebung& umgebung)
     addBefehl<Ternaer>(app, umgebung, "ternaer", "Größe über allen Zusammensetzungen dreier Komponenten");
     addBefehl<Wiegen>(app, umgebung, "wiegen", "Sollmassen für eine Gesamtmasse");
     addBefehl<Friedel>(app, umgebung, "friedel", "Friedelminima als Datei für Zeichenprogramme");
+    addBefehl<Bild>(app, umgebung, Bildname, Bildbeschreibung);
     addElemente(app, umgebung);
 }
 

@@ -8,8 +8,8 @@ namespace zerna {
 
 class Umgebung;
 
-/// Defines all commands; parsing a call carries out the chosen one, which throws Aufruffehler, Datenfehler or
-/// Laufzeitfehler.
+/// Defines all commands of zerna-cli; parsing a call carries out the chosen one, which throws Aufruffehler, Datenfehler
+/// or Laufzeitfehler.
 void defineBefehle(CLI::App& app, Umgebung& umgebung);
 
 } // namespace zerna

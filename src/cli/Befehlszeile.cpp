@@ -5,7 +5,6 @@
 #include <memory>
 
 #include "cli/Argumente.h"
-#include "cli/Befehle.h"
 #include "cli/Umgebung.h"
 #include "core/Kuerzung.h"
 #include "core/Plattform.h"
@@ -42,12 +41,17 @@ int fail(int status, const std::string& reason)
 
 } // namespace
 
-int runCommandLine(int argc, char** argv)
+int runCommandLine(int argc, char** argv, void (*defineCommands)(CLI::App&, Umgebung&))
 try {
     surviveFileSizeLimit();
     CLI::App app("Modell freier Elektronen für metallische Legierungen", "zerna-cli");
     Umgebung umgebung;
-    defineBefehle(app, umgebung);
+    umgebung.aufruf.assign(argv + 1, argv + argc);
+    app.option_defaults()->group("Optionen");
+    app.add_option("--daten", umgebung.daten, "Elementdatei statt elemente.dat neben dem Programm")
+        ->option_text("DATEI");
+    app.require_subcommand(1);
+    defineCommands(app, umgebung);
     translate(app);
     try {
         app.parse(argc, argv);

@@ -101,7 +101,8 @@ void Umgebung::loadDocument(const std::string& file)
     }
     behalteDateiwerte(*lesung.dokument, lesung.unterschiede, m_kern.elements());
     try {
-        m_kern.setAlloy(std::move(lesung.dokument->eingabe));
+        m_dokument = std::move(lesung.dokument);
+        m_kern.setAlloy(m_dokument->eingabe);
     } catch (const Datenfehler& error) {
         throw Datenfehler(name + error.what());
     }

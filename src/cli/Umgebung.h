@@ -1,11 +1,14 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/MessageBoxes.h"
+#include "model/Dokument.h"
 #include "programm/Rechenkern.h"
 
 namespace zerna {
@@ -36,7 +39,11 @@ public:
 
     Rechenkern& kern() { return m_kern; }
 
+    /// What else the file holds that the alloy comes from; nothing if it comes from none.
+    const std::optional<Dokument>& dokument() const { return m_dokument; }
+
     std::string daten; ///< the data file that was asked for; empty for none
+    std::vector<std::string> aufruf; ///< the arguments of the call
 
 private:
     void loadDocument(const std::string& file);
@@ -44,6 +51,7 @@ private:
 
     StandardErrorBoxes m_boxes;
     Rechenkern m_kern{m_boxes};
+    std::optional<Dokument> m_dokument;
 };
 
 /// Prints a text with CR LF: to standard output as UTF-8 with LF, to a named file as the bytes that the window saves.

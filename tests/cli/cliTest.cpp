@@ -33,6 +33,48 @@ TEST_F(cliTest, ElementsGoToATableAndBackUnchanged)
     EXPECT_EQ(bytesOf(folder / "a.dat"), bytesOf(ZERNA_BIN_DIR "/elemente.dat")) << "left untouched";
 }
 
+TEST_F(cliTest, PicturesAreMadeWithoutADisplayAndCarryTheirAlloy)
+{
+    if (!std::filesystem::exists(ZERNA_BIN_DIR "/zerna-bild"))
+        GTEST_SKIP() << "built without the window";
+    const struct {
+        const char* options;
+        const char* file;
+        const char* begin;
+    } rows[] = {
+        {"--groesse 8 --variabel Cu --grau", "a.svg", "<?xml"},
+        {"--art ternaer --flach --groesse 5 --aufloesung 50", "b.png", "\x89PNG"},
+        {"--art elemente --groesse 13 --dezimal punkt", "c.PDF", "%PDF"},
+    };
+    const std::string alloy = " Al=60:dichte=2,5:valenz=5/2 Cu=30 Mg=10";
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.file);
+        const std::string call = std::string("bild --breite 40 --hoehe 30 --ziel ") + row.file + " " + row.options;
+        const Answer answer = run(call + alloy);
+        EXPECT_EQ(answer.text, "");
+        EXPECT_EQ(answer.status, 0);
+        const std::string first = bytesOf(folder / row.file);
+        EXPECT_TRUE(first.starts_with(row.begin));
+        EXPECT_EQ(run(std::string("groessen ") + row.file).text, run("groessen" + alloy).text);
+        EXPECT_EQ(run("bild --breite 40 --hoehe 30 --aufloesung 50 --ziel d.svg " + std::string(row.file)).text, "")
+            << "it says which diagram it is";
+    }
+    EXPECT_EQ(run("bild --art elemente --groesse 13 --schrift Nixda --ziel e.png").text,
+        "zerna-cli: --schrift Nixda: Diese Schrift gibt es hier nicht\n");
+    EXPECT_EQ(run("bild --groesse 8 --ziel e.svg Al=60 Cu=30").text,
+        "zerna-cli: Die Anteile ergeben nicht 100 %, das Bild trägt keine Legierung\n");
+    EXPECT_EQ(run("groessen e.svg").status, 1);
+}
+
+TEST_F(cliTest, MissesTheProgramThatMakesPictures)
+{
+    const Answer answer = run("formel 1 >/dev/null; cp \"$(command -v zerna-cli)\" .; ./zerna-cli bild --art elemente "
+                              "--groesse 13 --ziel a.png");
+    EXPECT_EQ(answer.text,
+        "zerna-cli: zerna-bild fehlt neben zerna-cli. Bilder gibt es nur, wo Zerna mit seinem Fenster gebaut wurde\n");
+    EXPECT_EQ(answer.status, 1);
+}
+
 TEST_F(cliTest, ListsTakeNoMoreMemoryTheLongerTheyAre)
 {
 #ifdef __SANITIZE_ADDRESS__ // takes terabytes of addresses

@@ -35,6 +35,8 @@ void paint(QPainter& painter, const Bild& bild, double dotsPerInch)
     const double scale = dotsPerInch / PixelJeZoll;
     painter.scale(scale, scale);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.fillRect( // beyond whole pixels too
+        QRectF(0, 0, pixelAusMillimeter(bild.vorgabe.breite), pixelAusMillimeter(bild.vorgabe.hoehe)), Qt::white);
     bild.maler(painter, leinwandNach(bild.vorgabe));
 }
 
@@ -60,7 +62,8 @@ std::string asPng(const Bild& bild)
     if (!bild.texte.beschreibung.empty())
         image.setText(QStringLiteral("Description"), toQt(bild.texte.beschreibung));
     image.setText(QStringLiteral("Software"), QStringLiteral("Zerna"));
-    return pngMitDokument(encoded(image, "PNG"), bild.dokument);
+    std::string bytes = encoded(image, "PNG");
+    return bild.dokument.empty() ? bytes : pngMitDokument(std::move(bytes), bild.dokument);
 }
 
 /// The head says the size in millimetres, which the generator knows in whole pixels only, and the texts, which it
@@ -93,7 +96,8 @@ std::string asSvg(const Bild& bild)
     QPainter painter(&generator);
     paint(painter, bild, PixelJeZoll);
     painter.end();
-    return svgMitDokument(withHead(bytes, bild).toStdString(), bild.dokument);
+    std::string text = withHead(bytes, bild).toStdString();
+    return bild.dokument.empty() ? text : svgMitDokument(std::move(text), bild.dokument);
 }
 
 /// Title and description where catalogues of papers and pictures look for them.
@@ -142,7 +146,8 @@ std::string asPdf(const Bild& bild)
     writer.setTitle(toQt(bild.texte.titel));
     writer.setCreator(QStringLiteral("Zerna"));
     writer.setDocumentXmpMetadata(metadata(bild.texte));
-    haengeAn(writer, bild.dokument);
+    if (!bild.dokument.empty())
+        haengeAn(writer, bild.dokument);
     QPainter painter(&writer);
     paint(painter, bild, fontDotsPerInch());
     painter.end();

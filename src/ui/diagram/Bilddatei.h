@@ -21,7 +21,7 @@ struct Bildtexte {
 Leinwand leinwandNach(const Bildvorgabe& vorgabe);
 
 /// The exports of such a picture in the order of Bildart. Each carries title, description and the document, the text
-/// of a file, from which it opens again.
+/// of a file, from which it opens again; none if that is empty.
 std::vector<Exportart> bildarten(
     const Bildmaler& maler, const Bildvorgabe& vorgabe, const Bildtexte& texte, const std::string& dokument);
 

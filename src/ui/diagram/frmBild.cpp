@@ -9,7 +9,9 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "core/Zahlentext.h"
 #include "ui/controls/Befundzeile.h"
@@ -55,9 +57,9 @@ QString number(double value) { return toQt(textOfDouble(value)); }
 
 } // namespace
 
-frmBild::frmBild(const Bildmaler& maler, const Bildvorgabe& vorgabe, QWidget* parent)
+frmBild::frmBild(const Bildmaler& maler, Bildvorgabe vorgabe, QWidget* parent)
     : QDialog(parent)
-    , m_vorgabe(vorgabe)
+    , m_vorgabe(std::move(vorgabe))
     , m_picVorschau(named(new Bildvorschau(maler, this), "picVorschau"))
     , m_lblBefund(named(new Befundzeile(this), "lblBefund"))
 {

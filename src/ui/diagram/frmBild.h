@@ -27,7 +27,7 @@ class frmBild : public QDialog {
     Q_OBJECT
 
 public:
-    frmBild(const Bildmaler& maler, const Bildvorgabe& vorgabe, QWidget* parent);
+    frmBild(const Bildmaler& maler, Bildvorgabe vorgabe, QWidget* parent);
 
     /// What was chosen; a number that cannot be used as it was before.
     const Bildvorgabe& vorgabe() const { return m_vorgabe; }
