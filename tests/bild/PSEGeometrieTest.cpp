@@ -2,8 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <numeric>
+#include <algorithm>
 
+#include "bild/PSEKopf.h"
 #include "core/Unbekannt.h"
 
 namespace zerna {
@@ -11,13 +12,40 @@ namespace zerna {
 namespace {
 
 /// Elements 1, 2, … with 10 pixels per atomic number and 100 per division, so that (0, 0) is pixel (250, 1100).
+Elementdiagramm diagramm(std::vector<float> values)
+{
+    Elementdiagramm diagramm;
+    diagramm.reihe.titel = "Größe [eV]";
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        diagramm.reihe.x.push_back(static_cast<float>(i + 1));
+        diagramm.elemente.push_back(
+            {.symbol = std::string(1, static_cast<char>('A' + i)), .name = {}, .luecke = {}, .kristallineLuecke = {}});
+    }
+    diagramm.reihe.y = std::move(values);
+    return diagramm;
+}
+
+PSEBild layOut(const Elementdiagramm& diagramm, const PSEAnsicht& ansicht, double labelHeight = 60,
+    const Bildstil& stil = {}, int height = 1300)
+{
+    const auto area = static_cast<int>(diagramm.reihe.x.size() + 30) * 10;
+    const auto width = [](std::string_view text) {
+        return 6.0 * static_cast<double>(std::ranges::count_if(text, [](char c) { return (c & 0xC0) != 0x80; }));
+    };
+    return layOutPSE(diagramm, ansicht, stil, area, height, {width, labelHeight});
+}
+
 PSEBild layOut(std::vector<float> values, double labelHeight = 60)
 {
-    std::vector<float> numbers(values.size());
-    std::iota(numbers.begin(), numbers.end(), 1.0F);
-    const auto area = static_cast<int>(numbers.size() + 30) * 10;
-    const auto width = [](std::string_view text) { return 6.0 * static_cast<double>(text.size()); };
-    return layOutPSE({"Titel", numbers, std::move(values)}, area, 1300, {width, labelHeight});
+    return layOut(diagramm(std::move(values)), {}, labelHeight);
+}
+
+std::string textsOf(const std::vector<Schriftzug>& texts)
+{
+    std::string all;
+    for (const Schriftzug& text : texts)
+        all += text.text + '|';
+    return all;
 }
 
 } // namespace
@@ -32,14 +60,13 @@ TEST(PSEGeometrieTest, RangesAreRoundedOutwards)
 TEST(PSEGeometrieTest, MissingValuesBreakTheCurve)
 {
     const PSEBild bild = layOut({0, Unbekannt, 4, 10, Unbekannt});
-    EXPECT_EQ(bild.curve, (std::vector<std::vector<Punkt>>{{{260, 1100}}, {{280, 700}, {290, 100}}}));
-    EXPECT_EQ(nearestElement(bild, 269), 0U) << "in the gap, nearer to the left";
-    EXPECT_EQ(nearestElement(bild, 271), 2U) << "in the gap, nearer to the right";
-    EXPECT_EQ(nearestElement(bild, 900), 3U) << "right of all";
+    EXPECT_EQ(bild.kurve.stuecke, (std::vector<std::vector<Punkt>>{{{260, 1100}}, {{280, 700}, {290, 100}}}));
+    EXPECT_EQ(nearestElement(bild, 274), 1U) << "the gap can be pointed at";
+    EXPECT_EQ(nearestElement(bild, 900), 4U) << "right of all";
     // Intended: the first value counts for the range even when it is missing.
     EXPECT_EQ(bereichMitErstemWert({Unbekannt, 7}).min, Unbekannt);
-    EXPECT_EQ(layOut({Unbekannt, 7}).curve.size(), 1U);
-    EXPECT_FALSE(nearestElement(layOut({5, 5}), 0));
+    EXPECT_EQ(layOut({Unbekannt, 7}).kurve.stuecke.size(), 1U);
+    EXPECT_FALSE(nearestElement(layOut({}), 0));
 }
 
 TEST(PSEGeometrieTest, EverythingStandsInUserCoordinates)
@@ -48,9 +75,48 @@ TEST(PSEGeometrieTest, EverythingStandsInUserCoordinates)
     EXPECT_EQ(bild.lines.size(), 14U) << "two axes, the tick at 0, eleven divisions";
     EXPECT_EQ(bild.lines.at(0).to, (Punkt{300, 1100})) << "end of the x axis";
     EXPECT_EQ(bild.lines.at(13).from, (Punkt{220, 100})) << "topmost tick of the y axis";
-    EXPECT_EQ(bild.titel.position, (Punkt{10, 1000}));
+    EXPECT_EQ(bild.achsentitel.position, (Punkt{10, 1000}));
     EXPECT_EQ(bild.labels.at(0).position, (Punkt{247, 1170})) << "number at 0";
-    EXPECT_EQ(bild.labels.at(2).position, (Punkt{60, 1070})) << "lowest label of the y axis";
+    EXPECT_EQ(bild.labels.at(2).position, (Punkt{211, 1070})) << "lowest label of the y axis, beside its tick";
+    EXPECT_NEAR(layOut({0, 1.0F / 3, 2}).kurve.stuecke.at(0).at(1).y, 933.333, 1e-3) << "between pixels";
+}
+
+TEST(PSEGeometrieTest, WideLabelsMoveTheScale)
+{
+    Elementdiagramm narrow = diagramm({0, 1});
+    const auto width = [](std::string_view text) { return 60.0 * static_cast<double>(text.size()); };
+    const PSEBild bild = layOutPSE(narrow, {}, {}, 200, 1300, {width, 10});
+    EXPECT_EQ(bild.feld.left, 50) << "but not for ever";
+    EXPECT_LT(bild.labelRoom, bild.widestLabel);
+    EXPECT_EQ(layOut(std::move(narrow), {}).feld.left, 0) << "the given scale";
+}
+
+TEST(PSEGeometrieTest, TitleAndLegendTakeStripsWhereThereIsHeight)
+{
+    Elementdiagramm both = diagramm({0, 5, 10});
+    both.titel = "Größe [eV] der Elemente";
+    both.kristallin = {{}, both.reihe.x, {0, 8, 20}};
+    both.elemente[1].inLegierung = true;
+    const struct {
+        const char* name;
+        Bildstil stil;
+        int height;
+        double top;
+        std::size_t entries;
+    } rows[] = {{"room for all", {}, 500, 24 + 24 * 2, 3}, {"no title", {.titel = false}, 500, 24 * 2, 3},
+        {"no legend", {.legende = false}, 500, 24, 0}, {"too low", {}, 200, 0, 0}};
+    for (const auto& row : rows) {
+        const PSEBild bild = layOut(both, {.kristallin = true}, 20, row.stil, row.height);
+        EXPECT_EQ(bild.feld.top, row.top) << row.name;
+        EXPECT_EQ(bild.legende.size(), row.entries) << row.name;
+        EXPECT_EQ(bild.feld.top + bild.feld.height, row.height) << row.name;
+    }
+    const PSEBild bild = layOut(both, {.kristallin = true}, 20);
+    EXPECT_EQ(bild.kristallin.punkte.at(2)->y, bild.lines.back().from.y) << "both series count for the range";
+    EXPECT_EQ(bild.legierung.size(), 2U);
+    EXPECT_EQ(textsOf(bild.legierungssymbole), "B|");
+    EXPECT_EQ(textsOf(bild.symbole), "C|A|");
+    EXPECT_EQ(textsOf(layOut(both, {.symbole = false}, 20).symbole), "");
 }
 
 TEST(PSEGeometrieTest, EveryDivisionThatHasRoomIsLabelled)
@@ -60,20 +126,43 @@ TEST(PSEGeometrieTest, EveryDivisionThatHasRoomIsLabelled)
         std::vector<float> values;
         double height;
         const char* texts;
+        Bildstil stil = {};
     } rows[] = {
-        {"room for every second", {0, 10}, 120, "0|0|2|4|6|8|10|"},
-        {"negative", {-0.375F, 0.375F}, 200, "-4 E-01|-2,4 E-01|-8 E-02|0,08|0,24|0,4|"},
-        {"zero despite rounding", {-0.375F, 0.375F}, 500, "-4 E-01|0|0,4|"},
+        {"room for every second", {0, 10}, 120, "0|OZ|0|2|4|6|8|10|"},
+        {"negative", {-0.375F, 0.375F}, 200, "0|OZ|−4·10⁻¹|−2,4·10⁻¹|−8·10⁻²|0,08|0,24|0,4|"},
+        {"zero despite rounding, the topmost has no room", {-0.375F, 0.375F}, 500, "−4·10⁻¹|0|"},
         {"one value", {5, 5}, 60, "0|OZ|5|"},
         {"no value", {}, 60, "0|OZ|0|"},
-        {"no single is as low as the range", {Unbekannt, 1}, 400, "-2,5 E+38|-5 E+37|"},
+        {"no single is as low as the range", {Unbekannt, 1}, 400, "−2,5·10³⁸|−5·10³⁷|"},
+        {"round values, point", {0, 7.5F}, 20, "0|OZ|0|2|4|6|8|", {.rundeTeilung = true}},
+        {"point", {0, 1}, 200, "0|OZ|0|0.2|0.4|0.6|0.8|1|", {.dezimal = Dezimaltrenner::Punkt}},
     };
-    for (const auto& row : rows) {
-        std::string all;
-        for (const Schriftzug& label : layOut(row.values, row.height).labels)
-            all += label.text + '|';
-        EXPECT_EQ(all, row.texts) << row.name;
-    }
+    for (const auto& row : rows)
+        EXPECT_EQ(textsOf(layOut(diagramm(row.values), {}, row.height, row.stil).labels), row.texts) << row.name;
+}
+
+TEST(PSEGeometrieTest, LongTextsKeepTheirUnit)
+{
+    const auto width = [](std::string_view text) { return static_cast<double>(text.size()); };
+    EXPECT_EQ(gekuerzt("Dichte [g/cm³]", 20, width), "Dichte [g/cm³]");
+    EXPECT_EQ(gekuerzt("Größendichte [eV]", 12, width), "Grö… [eV]");
+    EXPECT_EQ(gekuerzt("Dichte [eV]", 5, width), "");
+}
+
+TEST(PSEGeometrieTest, SymbolsCoverNoLineAndNoOtherSymbol)
+{
+    const Rechteck field{0, 0, 100, 100};
+    const std::vector<Symbolwunsch> wishes{{{50, 50}, 20, 3, false}, {{55, 50}, 20, 3, false}, {{2, 50}, 20, 3, false},
+        {{50, 5}, 20, 3, false}, {{52, 50}, 99, 3, true}};
+    const auto places = platziereSymbole(wishes, 10, field, {{{0, 42}, {30, 42}}});
+    const auto isAt = [&](std::size_t i, double left, double top) {
+        return places.at(i) && places.at(i)->left == left && places.at(i)->top == top;
+    };
+    EXPECT_TRUE(isAt(0, 40, 37)) << "above";
+    EXPECT_TRUE(isAt(1, 58, 45) || isAt(1, 45, 53) || isAt(1, 58, 53)) << "beside the first";
+    EXPECT_TRUE(isAt(2, 5, 45)) << "neither beyond the edge nor on the line";
+    EXPECT_TRUE(isAt(3, 53, 0) || isAt(3, 53, 5 - 5) || isAt(3, 40, 8)) << "no room above";
+    EXPECT_FALSE(places.at(4)) << "no room at all";
 }
 
 } // namespace zerna

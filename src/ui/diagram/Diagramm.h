@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,7 @@ public:
     struct Command {
         QString text;
         std::function<void()> execute;
+        std::optional<bool> an = {}; ///< of a switch
     };
 
     virtual ~Diagramm() = default;

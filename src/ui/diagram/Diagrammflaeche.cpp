@@ -49,11 +49,19 @@ void Diagrammflaeche::showKonzentration()
     placeDisplay();
 }
 
-void Diagrammflaeche::showPSE(PSEReihe reihe, std::vector<std::string> symbols)
+void Diagrammflaeche::showPSE(Elementdiagramm elemente)
 {
-    m_pse = PSEDiagramm(std::move(reihe), std::move(symbols));
+    m_pse.setElemente(std::move(elemente));
     showDiagramm(m_pse, Qt::StrongFocus);
 }
+
+void Diagrammflaeche::setPSEAnsicht(const PSEAnsicht& ansicht)
+{
+    m_pse.setAnsicht(ansicht);
+    update();
+}
+
+void Diagrammflaeche::copyLuecken() { copyToClipboard(toQt(m_pse.luecken())); }
 
 void Diagrammflaeche::setTernaerziel(std::optional<float> ziel)
 {
@@ -128,11 +136,15 @@ void Diagrammflaeche::contextMenuEvent(QContextMenuEvent* event)
 void Diagrammflaeche::addCommands(QMenu& menu)
 {
     for (const Diagramm::Command& command : m_diagramm->commands()) {
-        menu.addAction(command.text, this, [this, execute = command.execute] {
+        QAction* const action = menu.addAction(command.text, this, [this, execute = command.execute] {
             execute();
             update();
             nenneAnsicht({});
+            if (m_diagramm == &m_pse)
+                emit pseAnsichtChanged();
         });
+        action->setCheckable(command.an.has_value());
+        action->setChecked(command.an.value_or(false));
     }
     if (!menu.isEmpty())
         menu.addSeparator();

@@ -30,8 +30,12 @@ public:
 
     void showKonzentration();
 
-    /// Shows an element property; `symbols` names the elements of the series for the read-out.
-    void showPSE(PSEReihe reihe, std::vector<std::string> symbols);
+    void showPSE(Elementdiagramm elemente);
+
+    /// What is shown beside an element property, also while another diagram is shown.
+    const PSEAnsicht& pseAnsicht() const { return m_pse.ansicht(); }
+    void setPSEAnsicht(const PSEAnsicht& ansicht);
+    void copyLuecken(); ///< the elements without a value and why
 
     void showTernaer(Ternaerangaben angaben);
 
@@ -66,6 +70,7 @@ signals:
     void positionChanged(const QString& text);
     /// The user has turned or zoomed the ternary diagram; what belongs to one movement has the same name.
     void ansichtChanged(const QString& geste);
+    void pseAnsichtChanged();
 
 protected:
     void changeEvent(QEvent* event) override;

@@ -3,114 +3,70 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
 #include "model/Werttext.h"
 #include "ui/diagram/Bildausgabe.h"
-#include "ui/diagram/Striche.h"
 #include "ui/platform/Farben.h"
+#include "ui/platform/Zwischenablage.h"
 
 namespace zerna {
 
-namespace {
-
-QPointF toPoint(const Punkt& p) { return {std::round(p.x) + 0.5, std::round(p.y) + 0.5}; }
-
-void paintTitle(QPainter& painter, const Schriftzug& titel, QFont font)
+void PSEDiagramm::setElemente(Elementdiagramm elemente)
 {
-    constexpr int Pixels = 12;
-    font.setPixelSize(Pixels);
-    painter.setFont(font);
-    painter.save();
-    painter.translate(titel.position.x, titel.position.y);
-    painter.rotate(-90);
-    painter.drawText(QPointF(0, QFontMetricsF(font).ascent()), toQt(titel.text));
-    painter.restore();
+    m_elemente = std::move(elemente);
+    m_layout = {};
+    clearCursor();
 }
 
-void paintCurve(QPainter& painter, const std::vector<std::vector<Punkt>>& curve)
+const PSELayout& PSEDiagramm::layout(const Leinwand& leinwand) const
 {
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(colourOf(Blau), Kurvenbreite, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    for (const std::vector<Punkt>& piece : curve) {
-        QPolygonF polygon;
-        for (const Punkt& p : piece)
-            polygon << toPoint(p);
-        if (polygon.size() == 1)
-            painter.fillRect(QRectF(polygon.front() - QPointF(1.5, 1.5), QSizeF(3, 3)), colourOf(Blau));
-        else
-            painter.drawPolyline(polygon);
-    }
-    painter.setRenderHint(QPainter::Antialiasing, false);
-}
-
-} // namespace
-
-PSEDiagramm::PSEDiagramm(PSEReihe reihe, std::vector<std::string> symbole)
-    : m_reihe(std::move(reihe))
-    , m_symbole(std::move(symbole))
-{
-}
-
-const PSEDiagramm::Layout& PSEDiagramm::layout(const Leinwand& leinwand) const
-{
-    return m_layout.get(leinwand, [&] { return layOut(leinwand); });
-}
-
-/// The labels' font gets smaller where they would not fit.
-PSEDiagramm::Layout PSEDiagramm::layOut(const Leinwand& leinwand) const
-{
-    const auto laidOut = [&](const QFont& font) {
-        return Layout{layOutPSE(m_reihe, leinwand.size.width(), leinwand.size.height(), textmasse(font)), font};
-    };
-    Layout layout = laidOut(leinwand.font);
-    const PSEBild& bild = layout.bild;
-    if (bild.widestLabel <= bild.labelRoom || bild.labelRoom <= 0)
-        return layout;
-    QFont smaller = leinwand.font;
-    smaller.setPointSizeF(std::max(1.0, smaller.pointSizeF() * bild.labelRoom / bild.widestLabel));
-    return laidOut(smaller);
+    return m_layout.get({leinwand, m_ansicht}, [&] { return layOutPSE(m_elemente, m_ansicht, leinwand); });
 }
 
 void PSEDiagramm::paint(QPainter& painter, const Leinwand& leinwand) const
 {
-    const auto& [bild, labelFont] = layout(leinwand);
-    painter.fillRect(QRect(QPoint(0, 0), leinwand.size), Qt::white);
-    painter.setPen(QPen(Qt::black, 1));
-    for (const Strecke& line : bild.lines)
-        painter.drawLine(toPoint(line.from), toPoint(line.to));
-    painter.setFont(labelFont);
-    const double ascent = QFontMetricsF(labelFont).ascent();
-    for (const Schriftzug& label : bild.labels)
-        painter.drawText(QPointF(label.position.x, label.position.y + ascent), toQt(label.text));
-    paintTitle(painter, bild.titel, leinwand.font);
-    paintCurve(painter, bild.curve);
+    paintPSE(painter, layout(leinwand), leinwand, Punktlage::Genau);
 }
 
+/// Around the points of the element, or across the picture where it has none.
 void PSEDiagramm::paintCursor(QPainter& painter, const Leinwand& leinwand) const
 {
-    constexpr double Radius = 4;
+    constexpr double Radius = 6;
     if (m_cursor < 0)
         return;
-    const auto& point = layout(leinwand).bild.points.at(static_cast<std::size_t>(m_cursor));
-    if (!point)
-        return;
-    painter.setRenderHint(QPainter::Antialiasing);
+    const PSEBild& bild = layout(leinwand).bild;
+    const auto element = static_cast<std::size_t>(m_cursor);
+    bool isOnCurve = false;
     painter.setPen(QPen(Cursorfarbe, 2));
-    painter.drawEllipse(toPoint(*point), Radius, Radius);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (const PSEKurve* const kurve : {&bild.kurve, &bild.kristallin}) {
+        if (element >= kurve->punkte.size() || !kurve->punkte[element])
+            continue;
+        const Punkt& p = *kurve->punkte[element];
+        painter.drawEllipse(QPointF(p.x + 0.5, p.y + 0.5), Radius, Radius);
+        isOnCurve = true;
+    }
     painter.setRenderHint(QPainter::Antialiasing, false);
+    if (isOnCurve)
+        return;
+    painter.setPen(QPen(Cursorfarbe, 1, Qt::DashLine));
+    const double column = bild.spalten.at(element);
+    painter.drawLine(pixelCentre({column, bild.feld.top}), pixelCentre({column, bild.feld.top + bild.feld.height - 1}));
 }
 
-std::string PSEDiagramm::values() const { return psedatei(m_reihe); }
+std::string PSEDiagramm::values() const { return elementtabelle(m_elemente, m_ansicht.kristallin); }
 
 std::vector<Exportart> PSEDiagramm::exportarten(const Leinwand& leinwand) const
 {
-    if (!istEinerBekannt(m_reihe.y))
+    if (!istEinerBekannt(m_elemente.reihe.y))
         return {};
-    return {datDatei([this] { return values(); }), bitmap(maler(), leinwand)};
+    const auto onPixels = [this](QPainter& painter, const Leinwand& on) {
+        paintPSE(painter, layout(on), on, Punktlage::GanzePixel);
+    };
+    return {datDatei([this] { return psedatei(m_elemente.reihe); }), bitmap(onPixels, leinwand)};
 }
 
 QString PSEDiagramm::positionText(const QPointF& position, const Leinwand& leinwand) const
@@ -119,11 +75,21 @@ QString PSEDiagramm::positionText(const QPointF& position, const Leinwand& leinw
     return element ? elementText(*element) : QString();
 }
 
+/// "Al   OZ 13   11,2 eV", with the crystalline value behind it where that is shown, or "Og: Masse unbekannt" for an
+/// element without any value.
 QString PSEDiagramm::elementText(std::size_t element) const
 {
-    return QStringLiteral("%1   OZ %2   %3")
-        .arg(toQt(m_symbole.at(element)), toQt(textOfSingle(m_reihe.x.at(element))),
-            toQt(werttext(m_reihe.y.at(element))));
+    const Diagrammelement& eintrag = m_elemente.elemente.at(element);
+    const bool both = m_ansicht.kristallin && m_elemente.hatKristallin();
+    const auto told = [&](const PSEReihe& reihe, const std::string& luecke) {
+        return luecke.empty() ? werttext(reihe.y.at(element), m_elemente.einheit) : luecke;
+    };
+    std::string text = told(m_elemente.reihe, eintrag.luecke);
+    const std::string second = both ? told(m_elemente.kristallin, eintrag.kristallineLuecke) : std::string();
+    if (!eintrag.luecke.empty() && (!both || !eintrag.kristallineLuecke.empty()))
+        return toQt(eintrag.symbol + ": " + text + (second.empty() || second == text ? "" : ", " + second));
+    return toQt(eintrag.symbol + "   OZ " + textOfSingle(m_elemente.reihe.x.at(element)) + "   " + text
+        + (both ? "   kristallin " + second : ""));
 }
 
 QString PSEDiagramm::cursorText() const
@@ -131,38 +97,44 @@ QString PSEDiagramm::cursorText() const
     return m_cursor < 0 ? QString() : elementText(static_cast<std::size_t>(m_cursor));
 }
 
-bool PSEDiagramm::keyPressed(int key, const Leinwand& leinwand)
+bool PSEDiagramm::keyPressed(int key, const Leinwand&)
 {
-    const PSEBild& bild = layout(leinwand).bild;
     switch (key) {
     case Qt::Key_Left:
-        moveCursor(m_cursor - 1, -1, bild);
+        moveCursor(m_cursor - 1);
         return true;
     case Qt::Key_Right:
-        moveCursor(m_cursor + 1, 1, bild);
+        moveCursor(m_cursor + 1);
         return true;
     case Qt::Key_Home:
-        moveCursor(0, 1, bild);
+        moveCursor(0);
         return true;
     case Qt::Key_End:
-        moveCursor(static_cast<int>(bild.points.size()) - 1, -1, bild);
+        moveCursor(static_cast<int>(m_elemente.elemente.size()) - 1);
         return true;
     default:
         return false;
     }
 }
 
-/// Moves the cursor to the first element in that direction that has a value; it stays where there is none.
-void PSEDiagramm::moveCursor(int from, int step, const PSEBild& bild)
+void PSEDiagramm::moveCursor(int element)
 {
-    const auto count = static_cast<int>(bild.points.size());
-    int next = from;
-    while (next >= 0 && next < count && !bild.points.at(static_cast<std::size_t>(next)))
-        next += step;
-    if (next >= 0 && next < count)
-        m_cursor = next;
+    if (!m_elemente.elemente.empty())
+        m_cursor = std::clamp(element, 0, static_cast<int>(m_elemente.elemente.size()) - 1);
 }
 
 void PSEDiagramm::clearCursor() { m_cursor = -1; }
+
+std::vector<Diagramm::Command> PSEDiagramm::commands()
+{
+    std::vector<Command> commands{
+        {QStringLiteral("Symbole"), [this] { m_ansicht.symbole = !m_ansicht.symbole; }, m_ansicht.symbole}};
+    if (m_elemente.hatKristallin())
+        commands.push_back({QStringLiteral("Auch kristallin"), [this] { m_ansicht.kristallin = !m_ansicht.kristallin; },
+            m_ansicht.kristallin});
+    if (const std::string table = luecken(); !table.empty())
+        commands.push_back({QStringLiteral("Lücken kopieren"), [table] { copyToClipboard(toQt(table)); }});
+    return commands;
+}
 
 } // namespace zerna

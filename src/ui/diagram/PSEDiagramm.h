@@ -4,19 +4,24 @@
 #include <vector>
 
 #include "bild/PSEGeometrie.h"
-#include "model/PSEReihe.h"
 #include "ui/diagram/Diagramm.h"
 #include "ui/diagram/LastResult.h"
+#include "ui/diagram/PSEmaler.h"
 
 namespace zerna {
 
-/// The element-property diagram: a property over the atomic number. The cursor goes from element to element.
+/// The element-property diagram: a property over the atomic number. The cursor goes from element to element, and where
+/// one has no value it says why.
 class PSEDiagramm : public Diagramm {
 public:
-    PSEDiagramm() = default;
+    /// Replaces the values; what is shown beside them stays.
+    void setElemente(Elementdiagramm elemente);
 
-    /// `symbole` names the elements of the series for the read-out.
-    PSEDiagramm(PSEReihe reihe, std::vector<std::string> symbole);
+    const PSEAnsicht& ansicht() const { return m_ansicht; }
+    void setAnsicht(const PSEAnsicht& ansicht) { m_ansicht = ansicht; }
+
+    /// The elements without a value and what is missing, as a table; empty if all have one.
+    std::string luecken() const { return lueckentabelle(m_elemente, m_ansicht.kristallin); }
 
     void paint(QPainter& painter, const Leinwand& leinwand) const override;
     void paintCursor(QPainter& painter, const Leinwand& leinwand) const override;
@@ -26,22 +31,24 @@ public:
     QString cursorText() const override;
     bool keyPressed(int key, const Leinwand& leinwand) override;
     void clearCursor() override;
+    std::vector<Command> commands() override;
 
 private:
-    struct Layout {
-        PSEBild bild;
-        QFont labelFont;
+    /// What the layout depends on besides the values.
+    struct Aufnahme {
+        Leinwand leinwand;
+        PSEAnsicht ansicht;
+        bool operator==(const Aufnahme&) const = default;
     };
 
-    const Layout& layout(const Leinwand& leinwand) const;
-    Layout layOut(const Leinwand& leinwand) const;
-    void moveCursor(int from, int step, const PSEBild& bild);
+    const PSELayout& layout(const Leinwand& leinwand) const;
+    void moveCursor(int element);
     QString elementText(std::size_t element) const;
 
-    PSEReihe m_reihe;
-    std::vector<std::string> m_symbole;
+    Elementdiagramm m_elemente;
+    PSEAnsicht m_ansicht;
     int m_cursor = -1; // element under the keyboard cursor, -1 for none
-    LastResult<Leinwand, Layout> m_layout;
+    LastResult<Aufnahme, PSELayout> m_layout;
 };
 
 } // namespace zerna

@@ -9,6 +9,7 @@
 #include <random>
 
 #include "support/FakeDesk.h"
+#include "ui/diagram/Diagrammflaeche.h"
 #include "ui/diagram/conDisplay.h"
 
 namespace zerna {
@@ -194,6 +195,28 @@ TEST_F(DiagrammbereichTest, RandomEditsLeaveNoTrace)
     QCoreApplication::processEvents(); // the layout follows
     EXPECT_EQ(picture(), before);
     EXPECT_EQ(text("lblMFE_7"), "9,8778 eV");
+}
+
+TEST_F(DiagrammbereichTest, SwitchesOverElementsAreRemembered)
+{
+    open();
+    choose("cmbDiagramm_Typ", "PSE");
+    choose("cmbDiagramm", "Fermienergie");
+    click("chkKristallin");
+    click("chkSymbole");
+    click("cmdLuecken");
+    const auto row =
+        clipboard().find("At\tAstat\tflüssige Dichte unbekannt\r\nAt\tAstat\tkristalline Dichte unbekannt");
+    EXPECT_NE(row, std::string::npos);
+    EXPECT_TRUE(clipboard().starts_with("Symbol\tName\tFermienergie [eV]\r\n"));
+    start();
+    const auto isOn = [&](const char* name) { return find<QAbstractButton>(name).isChecked(); };
+    EXPECT_TRUE(isOn("chkKristallin") && !isOn("chkSymbole"));
+    EXPECT_EQ(find<Diagrammflaeche>("picDiagramm").pseAnsicht(), (PSEAnsicht{.kristallin = true, .symbole = false}));
+    choose("cmbDiagramm_Typ", "PSE");
+    choose("cmbDiagramm", "Masse");
+    EXPECT_FALSE(find("chkKristallin").isEnabled()) << "the mass rests on no density";
+    EXPECT_FALSE(find("cmdLuecken").isEnabled()) << "every element has one";
 }
 
 } // namespace zerna

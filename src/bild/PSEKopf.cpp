@@ -1,0 +1,124 @@
+#include "bild/PSEKopf.h"
+
+#include <algorithm>
+#include <span>
+#include <utility>
+
+namespace zerna {
+
+namespace {
+
+constexpr double Rand = 4; // around texts
+constexpr double Legendenabstand = 16; // between entries
+
+/// Lines that the diagram itself needs before anything stands above it.
+constexpr double FewestLines = 11;
+
+/// The text without its last character, a sequence of UTF-8.
+void dropLast(std::string& text)
+{
+    constexpr auto isContinuation = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; };
+    while (!text.empty() && isContinuation(text.back()))
+        text.pop_back();
+    if (!text.empty())
+        text.pop_back();
+}
+
+/// The strip's first row below what is taken already; none if too little of the picture would be left.
+std::optional<double> takeRow(PSEBild& bild, double height, double lineHeight)
+{
+    if (bild.feld.height - height < FewestLines * lineHeight)
+        return std::nullopt;
+    const double top = bild.feld.top;
+    bild.feld.top += height;
+    bild.feld.height -= height;
+    return top;
+}
+
+void layOutTitel(PSEBild& bild, const Elementdiagramm& diagramm, const PSEAnsicht& ansicht, const Textmasse& masse)
+{
+    const double room = bild.feld.width - 2 * Rand;
+    const auto top = takeRow(bild, masse.height + Rand, masse.height);
+    if (!top || room <= 0)
+        return;
+    std::string text = diagramm.titel;
+    if (!ansicht.kristallin && !diagramm.untertitel.empty()) {
+        const std::string full = text + ", " + diagramm.untertitel;
+        if (masse.width(full) <= room)
+            text = full;
+    }
+    text = gekuerzt(text, room, masse.width);
+    bild.titel = {{(bild.feld.width - masse.width(text)) / 2, *top + Rand}, text};
+}
+
+double sampleLength(Legendenzeichen zeichen) { return zeichen == Legendenzeichen::Legierung ? 10 : 24; }
+
+/// A row of entries in the middle of the picture, `length` long.
+void placeRow(PSEBild& bild, std::span<const Legendeneintrag> row, double length, double top, const Textmasse& masse)
+{
+    double x = (bild.feld.width - length) / 2;
+    const double middle = top + masse.height / 2;
+    for (Legendeneintrag eintrag : row) {
+        const double sample = sampleLength(eintrag.zeichen);
+        eintrag.muster = {{x, middle}, {x + sample, middle}};
+        eintrag.text.position = {x + sample + Rand, top};
+        x += sample + Rand + masse.width(eintrag.text.text) + Legendenabstand;
+        bild.legende.push_back(std::move(eintrag));
+    }
+}
+
+/// As many rows as the entries need.
+void layOutLegende(PSEBild& bild, std::span<const Legendeneintrag> entries, const Textmasse& masse)
+{
+    const auto widthOf = [&](const Legendeneintrag& e) {
+        return sampleLength(e.zeichen) + Rand + masse.width(e.text.text);
+    };
+    const double room = bild.feld.width - 2 * Rand;
+    while (!entries.empty() && widthOf(entries.front()) <= room) {
+        std::size_t count = 1;
+        double length = widthOf(entries.front());
+        for (; count < entries.size(); ++count) {
+            const double longer = length + Legendenabstand + widthOf(entries[count]);
+            if (longer > room)
+                break;
+            length = longer;
+        }
+        const auto top = takeRow(bild, masse.height + Rand, masse.height);
+        if (!top)
+            return;
+        placeRow(bild, entries.first(count), length, *top + Rand / 2, masse);
+        entries = entries.subspan(count);
+    }
+}
+
+} // namespace
+
+std::string gekuerzt(std::string_view text, double width, const Textbreite& breite)
+{
+    if (breite(text) <= width)
+        return std::string(text);
+    const std::size_t bracket = text.ends_with(']') ? text.rfind(" [") : std::string_view::npos;
+    const std::string unit(bracket == std::string_view::npos ? "" : text.substr(bracket));
+    std::string head(text.substr(0, bracket));
+    while (!head.empty() && breite(head + "…" + unit) > width)
+        dropLast(head);
+    return head.empty() ? std::string() : head + "…" + unit;
+}
+
+void layOutKopf(PSEBild& bild, const Elementdiagramm& diagramm, const PSEAnsicht& ansicht, const Bildstil& stil,
+    const Textmasse& masse)
+{
+    if (stil.titel && !diagramm.titel.empty())
+        layOutTitel(bild, diagramm, ansicht, masse);
+    if (!stil.legende)
+        return;
+    std::vector<Legendeneintrag> legende;
+    if (ansicht.kristallin && diagramm.hatKristallin())
+        legende = {{Legendenzeichen::Kurve, {}, {{}, "flüssige Dichte"}},
+            {Legendenzeichen::Gestrichelt, {}, {{}, "kristalline Dichte"}}};
+    if (std::ranges::any_of(diagramm.elemente, &Diagrammelement::inLegierung))
+        legende.push_back({Legendenzeichen::Legierung, {}, {{}, "in der Legierung"}});
+    layOutLegende(bild, legende, masse);
+}
+
+} // namespace zerna

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "bild/Geometrie.h"
+
+/// Room for short texts beside points of a curve.
+namespace zerna {
+
+struct Strecke {
+    Punkt from;
+    Punkt to;
+    bool operator==(const Strecke&) const = default;
+};
+
+/// A text that wants to stand beside a point.
+struct Symbolwunsch {
+    Punkt punkt;
+    double breite = 0; ///< of the text
+    double abstand = 0; ///< from the point to the text's edge
+    bool unten = false; ///< rather below the point than above
+};
+
+/// The area that each text gets, in the order of the wishes; none where it would leave the field, cover a line or touch
+/// a text before it. All texts are `hoehe` high. The lines run from left to right.
+std::vector<std::optional<Rechteck>> platziereSymbole(
+    std::span<const Symbolwunsch> wuensche, double hoehe, const Rechteck& feld, std::vector<Strecke> lines);
+
+} // namespace zerna
