@@ -248,6 +248,7 @@ PSEBild layOutPSE(const Elementdiagramm& diagramm, const PSEAnsicht& ansicht, co
     const std::vector<Teilung> teilungen = divisions(range, stil);
     makeRoom(bild, reihe.x.size(), teilungen, masse);
     const Massstab scale(reihe.x.size(), bild.feld);
+    bild.ursprung = scale.at(0, 0);
     layOutAxisTitle(bild, scale, reihe.titel, masse);
     layOutXAxis(bild, scale, static_cast<int>(reihe.x.size()), masse);
     layOutYAxis(bild, scale, teilungen, masse);

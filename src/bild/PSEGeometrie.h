@@ -50,6 +50,7 @@ struct PSEBild {
     double widestLabel = 0; ///< and the widest of them
     Schriftzug achsentitel; ///< runs upwards from its position
     double achsentitelGroesse = 1; ///< of its font beside that of the labels
+    Punkt ursprung; ///< where the axes meet
     std::vector<double> spalten; ///< of each element, in pixels
     PSEKurve kurve;
     PSEKurve kristallin; ///< empty unless shown

@@ -91,7 +91,10 @@ void layOutSymbole(PSEBild& bild, const Elementdiagramm& diagramm, const PSEAnsi
     const std::vector<Symbol> symbole = wishes(bild, diagramm, ansicht, masse);
     std::vector<Symbolwunsch> wuensche;
     std::ranges::transform(symbole, std::back_inserter(wuensche), &Symbol::wunsch);
-    const auto plaetze = platziereSymbole(wuensche, masse.height, bild.feld, obstacles(bild));
+    Rechteck feld = bild.feld; // right of the axis
+    feld.width -= bild.ursprung.x + 1 - feld.left;
+    feld.left = bild.ursprung.x + 1;
+    const auto plaetze = platziereSymbole(wuensche, masse.height, feld, obstacles(bild));
     for (std::size_t k = 0; k < symbole.size(); ++k) {
         if (!plaetze[k])
             continue;

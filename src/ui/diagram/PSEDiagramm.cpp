@@ -81,11 +81,11 @@ QString PSEDiagramm::elementText(std::size_t element) const
 {
     const Diagrammelement& eintrag = m_elemente.elemente.at(element);
     const bool both = m_ansicht.kristallin && m_elemente.hatKristallin();
-    const auto told = [&](const PSEReihe& reihe, const std::string& luecke) {
-        return luecke.empty() ? werttext(reihe.y.at(element), m_elemente.einheit) : luecke;
+    const auto told = [&](const PSEReihe& reihe, const std::string& luecke, std::string_view einheit) {
+        return luecke.empty() ? werttext(reihe.y.at(element), einheit) : luecke;
     };
-    std::string text = told(m_elemente.reihe, eintrag.luecke);
-    const std::string second = both ? told(m_elemente.kristallin, eintrag.kristallineLuecke) : std::string();
+    const std::string text = told(m_elemente.reihe, eintrag.luecke, m_elemente.einheit);
+    const std::string second = both ? told(m_elemente.kristallin, eintrag.kristallineLuecke, {}) : std::string();
     if (!eintrag.luecke.empty() && (!both || !eintrag.kristallineLuecke.empty()))
         return toQt(eintrag.symbol + ": " + text + (second.empty() || second == text ? "" : ", " + second));
     return toQt(eintrag.symbol + "   OZ " + textOfSingle(m_elemente.reihe.x.at(element)) + "   " + text
