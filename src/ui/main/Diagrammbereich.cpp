@@ -7,6 +7,7 @@
 #include "ui/button/StyledButton.h"
 #include "ui/controls/Befundzeile.h"
 #include "ui/controls/Knopfzeile.h"
+#include "ui/controls/Kurzlabel.h"
 #include "ui/diagram/Diagrammflaeche.h"
 #include "ui/diagram/conDisplay.h"
 #include "ui/main/Diagrammauswahl.h"
@@ -88,15 +89,17 @@ void Diagrammbereich::createLists()
 
 void Diagrammbereich::createReadouts()
 {
-    m_labelPos = new QLabel(this);
+    m_labelPos = new Kurzlabel(this); // no read-out widens the panel
     m_labelPos->setObjectName(QStringLiteral("LabelPos"));
     m_labelPos->setTextFormat(Qt::PlainText);
     connect(m_picDiagramm, &Diagrammflaeche::ansichtChanged, this, [this](const QString& geste) {
         wahl().ansicht = m_picDiagramm->ansicht();
         emit geschehen({QStringLiteral("Ansicht des Diagramms"), geste});
     });
-    connect(m_picDiagramm, &Diagrammflaeche::positionChanged, this,
-        [this](const QString& text) { m_labelPos->setText(gezeigt(text)); });
+    connect(m_picDiagramm, &Diagrammflaeche::positionChanged, this, [this](const QString& text) {
+        m_labelPos->setText(gezeigt(text));
+        m_labelPos->setToolTip(m_labelPos->text());
+    });
     m_lblDrei = new Befundzeile(this);
     m_lblDrei->setObjectName(QStringLiteral("lblDrei"));
     connect(m_lblDrei, &Befundzeile::clicked, this, &Diagrammbereich::dreiKomponentenRequested);
@@ -121,6 +124,10 @@ void Diagrammbereich::layOut()
 {
     constexpr int Top = 78;
     constexpr int Bottom = 72;
+    folgeSchrift(m_picDiagramm, [this] { // the least that is of use
+        const int line = m_picDiagramm->fontMetrics().height();
+        m_picDiagramm->setMinimumSize(16 * line, 15 * line);
+    });
     auto* lists = new QHBoxLayout;
     lists->addWidget(m_auswahl);
     auto* position = new QHBoxLayout;

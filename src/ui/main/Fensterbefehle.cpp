@@ -3,6 +3,7 @@
 #include <tuple>
 
 #include "ui/controls/Menue.h"
+#include "ui/controls/Spaltenpaar.h"
 #include "ui/main/Dateibefehle.h"
 #include "ui/main/Diagrammbereich.h"
 #include "ui/main/Ergebnisbereich.h"

@@ -16,6 +16,8 @@
 #include "ui/controls/Kurzmeldung.h"
 #include "ui/controls/Menue.h"
 #include "ui/controls/Radsperre.h"
+#include "ui/controls/Spaltenpaar.h"
+#include "ui/controls/Umbruchzeile.h"
 #include "ui/main/Dateibefehle.h"
 #include "ui/main/Diagrammbereich.h"
 #include "ui/main/Ergebnisbereich.h"
@@ -24,6 +26,7 @@
 #include "ui/main/PSEbereich.h"
 #include "ui/main/Vergleichsbereich.h"
 #include "ui/platform/QtText.h"
+#include "ui/platform/Schriftfolge.h"
 #include "ui/weighing/conWiegen.h"
 
 namespace zerna {
@@ -88,7 +91,7 @@ frmMain::frmMain(Programm& programm, Dialoge dialoge)
     load();
     (new Fensterplatz(*this, programm.settings()))
         ->einnehmen(QSize(1280, 800).expandedTo(
-            m_pic1->minimumSizeHint() + QSize(PanelLeft, PanelTop + m_menue->sizeHint().height())));
+            m_pic1->sizeHint() + QSize(PanelLeft, PanelTop + m_menue->sizeHint().height())));
 }
 
 /// The focus leaves a field while the window goes, and what that tells reaches nobody any more.
@@ -123,7 +126,7 @@ void frmMain::createControls()
     m_meldung = new Kurzmeldung(this);
     m_meldung->setObjectName(QStringLiteral("lblMeldung"));
     setKnopfgroesse(m_cmdAbout, 90);
-    m_pic1 = new QWidget;
+    m_pic1 = new Spaltenpaar;
     m_pic1->setObjectName(QStringLiteral("Pic_1_0"));
     m_pse = new PSEbereich(m_programm);
     m_pse->setObjectName(QStringLiteral("Pic_1_1"));
@@ -166,11 +169,7 @@ void frmMain::layOutCalculator()
     column->addWidget(m_lowerArea, 1);
 
     m_left->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
-    auto* columns = new QHBoxLayout(m_pic1);
-    columns->setContentsMargins(0, 0, 4, 0);
-    columns->setSpacing(4);
-    columns->addWidget(m_left);
-    columns->addWidget(m_diagramm, 1);
+    m_pic1->setSpalten(m_left, m_diagramm, {0, 0, 4, 0}, 4);
 }
 
 /// Below the menu bar the strip, and below that at (4, 40) the panels, as large as the window less menu bar and these
@@ -178,15 +177,17 @@ void frmMain::layOutCalculator()
 void frmMain::layOut()
 {
     auto* strip = new QWidget(this);
-    auto* row = new QHBoxLayout(strip);
+    strip->setMinimumHeight(PanelTop);
+    auto* row = new Umbruchzeile(strip);
     row->setContentsMargins(8, 6, 8, 6);
     row->setSpacing(4);
     for (StyledButton* const button : m_optButton1)
         row->addWidget(button);
-    row->addSpacing(12);
-    row->addWidget(m_meldung, 1);
+    m_meldung->setContentsMargins(12, 0, 0, 0);
+    m_meldung->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    row->addWidget(m_meldung);
     row->addWidget(m_cmdAbout);
-    row->addStrut(PanelTop - 12);
+    folgeSchrift(this, [this] { setMinimumHeight(16 * fontMetrics().height()); }); // room for two rows and a view
     m_panels = new QStackedWidget(this);
     m_panels->addWidget(scrolling(m_pic1));
     m_panels->addWidget(scrolling(m_pse));

@@ -20,6 +20,7 @@ class Kompositionsbereich;
 class Kurzmeldung;
 class Menue;
 class PSEbereich;
+class Spaltenpaar;
 class StyledButton;
 class Vergleichsbereich;
 class conWiegen;
@@ -102,7 +103,7 @@ private:
     std::array<StyledButton*, 3> m_optButton1{};
     Kurzmeldung* m_meldung = nullptr; // beside the switches
     StyledButton* m_cmdAbout = nullptr;
-    QWidget* m_pic1 = nullptr; // the calculator panel
+    Spaltenpaar* m_pic1 = nullptr; // the calculator panel
     QWidget* m_left = nullptr; // its left column
     QStackedWidget* m_lowerArea = nullptr; // of the left column: results or weighing
     QStackedWidget* m_panels = nullptr;

@@ -76,6 +76,32 @@ TEST_F(FensterlayoutTest, NothingIsCutOffOrOverlaps)
     }
 }
 
+/// Where the window is too small for both columns, the diagram stands below the other one.
+TEST_F(FensterlayoutTest, SmallWindowsScrollToADiagramOfUse)
+{
+    settings["Komponenten"] = "2";
+    open();
+    for (const QSize size : {QSize(800, 600), QSize(700, 500), QSize(640, 480), QSize(500, 400), QSize(360, 300)}) {
+        window->resize(size);
+        ASSERT_EQ(window->size(), size);
+        for (const char* const type : {"PSE", "3 D - ternär", "2 D"}) {
+            SCOPED_TRACE(testing::Message() << size.width() << " px, " << type);
+            choose("cmbDiagramm_Typ", type);
+            find("cmdDiagramm_Speichern").setFocus();
+            QCoreApplication::processEvents();
+            checkAll();
+            const QWidget& diagram = find("picDiagramm");
+            EXPECT_GE(diagram.width(), std::min(size.width() - 40, 600));
+            EXPECT_GE(diagram.height(), 200);
+            const QWidget& button = find("cmdDiagramm_Speichern");
+            EXPECT_FALSE(button.visibleRegion().isEmpty()) << "scrolled to";
+        }
+    }
+    window->resize(1024, 700);
+    QCoreApplication::processEvents();
+    EXPECT_GT(find("picDiagramm").mapTo(window.get(), QPoint()).x(), 600) << "beside each other again";
+}
+
 TEST_F(FensterlayoutTest, DiagramKeepsItsOffsetsAndFewComponentsLeaveNoGap)
 {
     open();
