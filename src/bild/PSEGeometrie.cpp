@@ -169,7 +169,7 @@ void layOutAxisTitle(PSEBild& bild, const Massstab& scale, const std::string& ti
     const Rechteck& feld = bild.feld;
     const double length = masse.width(titel);
     bild.achsentitelGroesse = length > feld.height ? std::max(Smallest, feld.height / length) : 1;
-    const std::string text = gekuerzt(titel, feld.height / bild.achsentitelGroesse, masse.width);
+    const std::string text = gekuerztMitEinheit(titel, feld.height / bild.achsentitelGroesse, masse.width);
     const Punkt given = scale.at(-24, 1);
     const double highest = feld.top + masse.width(text) * bild.achsentitelGroesse;
     bild.achsentitel = {

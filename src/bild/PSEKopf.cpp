@@ -4,6 +4,8 @@
 #include <span>
 #include <utility>
 
+#include "bild/Textumbruch.h"
+
 namespace zerna {
 
 namespace {
@@ -13,16 +15,6 @@ constexpr double Legendenabstand = 16; // between entries
 
 /// Lines that the diagram itself needs before anything stands above it.
 constexpr double FewestLines = 11;
-
-/// The text without its last character, a sequence of UTF-8.
-void dropLast(std::string& text)
-{
-    constexpr auto isContinuation = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; };
-    while (!text.empty() && isContinuation(text.back()))
-        text.pop_back();
-    if (!text.empty())
-        text.pop_back();
-}
 
 /// The strip's first row below what is taken already; none if too little of the picture would be left.
 std::optional<double> takeRow(PSEBild& bild, double height, double lineHeight)
@@ -47,7 +39,7 @@ void layOutTitel(PSEBild& bild, const Elementdiagramm& diagramm, const PSEAnsich
         if (masse.width(full) <= room)
             text = full;
     }
-    text = gekuerzt(text, room, masse.width);
+    text = gekuerztMitEinheit(text, room, masse.width);
     bild.titel = {{(bild.feld.width - masse.width(text)) / 2, *top + Rand}, text};
 }
 
@@ -93,16 +85,12 @@ void layOutLegende(PSEBild& bild, std::span<const Legendeneintrag> entries, cons
 
 } // namespace
 
-std::string gekuerzt(std::string_view text, double width, const Textbreite& breite)
+std::string gekuerztMitEinheit(std::string_view text, double width, const Textbreite& breite)
 {
-    if (breite(text) <= width)
-        return std::string(text);
     const std::size_t bracket = text.ends_with(']') ? text.rfind(" [") : std::string_view::npos;
     const std::string unit(bracket == std::string_view::npos ? "" : text.substr(bracket));
-    std::string head(text.substr(0, bracket));
-    while (!head.empty() && breite(head + "…" + unit) > width)
-        dropLast(head);
-    return head.empty() ? std::string() : head + "…" + unit;
+    const std::string head = gekuerzt(text.substr(0, bracket), width - breite(unit), breite);
+    return head.empty() ? head : head + unit;
 }
 
 void layOutKopf(PSEBild& bild, const Elementdiagramm& diagramm, const PSEAnsicht& ansicht, const Bildstil& stil,

@@ -3,9 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "model/Elementdiagramm.h"
 #include "model/Konzentrationsreihe.h"
-#include "model/PSEReihe.h"
-#include "model/Ternaergitter.h"
 #include "ui/diagram/Konzentrationsdiagramm.h"
 #include "ui/diagram/PSEDiagramm.h"
 #include "ui/diagram/Ternaerdiagramm.h"
@@ -32,21 +31,20 @@ std::unique_ptr<Diagramm> konzentrationsdiagramm(Rechenkern& kern, const Diagram
 
 std::unique_ptr<Diagramm> ternaerdiagramm(Rechenkern& kern, const Diagrammwahl& wahl)
 {
-    Anteile3 current{};
-    std::ranges::transform(kern.komponenten(), current.begin(),
-        [](const Legierungskomponente& komponente) { return komponente.prozent / 100.0; });
     auto result = std::make_unique<Ternaerdiagramm>();
-    result->setGitter(ternaergitter(kern.calc(), kern.komponenten(), wahl.groesse, wahl.aufloesung), current);
+    result->setAngaben(ternaerangaben(kern.calc(), kern.komponenten(), wahl.groesse, wahl.aufloesung));
     result->setAnsicht(wahl.ansicht);
     return result;
 }
 
-std::unique_ptr<Diagramm> elementdiagramm(Rechenkern& kern, const Diagrammwahl& wahl)
+std::unique_ptr<Diagramm> pseDiagramm(Rechenkern& kern, const Diagrammwahl& wahl)
 {
-    std::vector<std::string> symbols;
-    for (const auto& element : kern.elements())
-        symbols.push_back(element->symbol());
-    return std::make_unique<PSEDiagramm>(pseReihe(kern.elements(), kern.calc(), wahl.groesse), std::move(symbols));
+    std::vector<std::string> legierung;
+    for (const Legierungskomponente& komponente : kern.komponenten())
+        legierung.push_back(komponente.element->symbol());
+    auto result = std::make_unique<PSEDiagramm>();
+    result->setElemente(elementdiagramm(kern.elements(), kern.calc(), wahl.groesse, legierung));
+    return result;
 }
 
 } // namespace
@@ -57,7 +55,7 @@ std::unique_ptr<Diagramm> diagramm(Rechenkern& kern, const Diagrammwahl& wahl)
     case Diagrammtyp::Ternaer:
         return ternaerdiagramm(kern, wahl);
     case Diagrammtyp::PSE:
-        return elementdiagramm(kern, wahl);
+        return pseDiagramm(kern, wahl);
     case Diagrammtyp::Konzentration:
         break;
     }

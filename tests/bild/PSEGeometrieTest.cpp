@@ -144,9 +144,9 @@ TEST(PSEGeometrieTest, EveryDivisionThatHasRoomIsLabelled)
 TEST(PSEGeometrieTest, LongTextsKeepTheirUnit)
 {
     const auto width = [](std::string_view text) { return static_cast<double>(text.size()); };
-    EXPECT_EQ(gekuerzt("Dichte [g/cm³]", 20, width), "Dichte [g/cm³]");
-    EXPECT_EQ(gekuerzt("Größendichte [eV]", 12, width), "Grö… [eV]");
-    EXPECT_EQ(gekuerzt("Dichte [eV]", 5, width), "");
+    EXPECT_EQ(gekuerztMitEinheit("Dichte [g/cm³]", 20, width), "Dichte [g/cm³]");
+    EXPECT_EQ(gekuerztMitEinheit("Größendichte [eV]", 12, width), "Grö… [eV]");
+    EXPECT_EQ(gekuerztMitEinheit("Dichte [eV]", 5, width), "");
 }
 
 TEST(PSEGeometrieTest, SymbolsCoverNoLineAndNoOtherSymbol)
