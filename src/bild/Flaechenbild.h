@@ -23,16 +23,29 @@ struct Flaechenstil {
     float lineWidth = 1; ///< device pixels
     std::vector<float> levels; ///< shares at which iso-lines run, ascending
     bool shaded = true; ///< darker where the surface is seen at a sharp angle
+    bool grau = false; ///< without colours
+    float pixelsPerSide = 1000; ///< of the diagram, to which depths are relative
 };
+
+/// The colour of a share of the height, from dark to light.
+Farbe flaechenfarbe(double share, bool grau);
 
 /// A picture of triangles with a depth buffer, so that what is hidden is right from every side. Neighbouring triangles
 /// leave no cracks.
 class Flaechenbild {
 public:
-    Flaechenbild(int width, int height);
+    Flaechenbild() = default;
+    Flaechenbild(int width, int height) { beginne(width, height); }
+
+    /// Begins an empty picture in the memory of the last one.
+    void beginne(int width, int height);
 
     /// Adds one triangle.
     void fill(const Flaechenecke& a, const Flaechenecke& b, const Flaechenecke& c, const Flaechenstil& stil);
+
+    /// Smooths the edge from a to b, where the surface ends as seen: a fading seam on the side away from `inside`. All
+    /// triangles come before.
+    void seam(const Flaechenecke& a, const Flaechenecke& b, const Flaechenecke& inside, const Flaechenstil& stil);
 
     int width() const { return m_width; }
     int height() const { return m_height; }
@@ -44,11 +57,15 @@ public:
     bool depthAt(int x, int y, float& depth) const;
 
 private:
-    int m_width;
-    int m_height;
+    std::size_t placeOf(int x, int y) const
+    {
+        return static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width) + static_cast<std::size_t>(x);
+    }
+
+    int m_width = 0;
+    int m_height = 0;
     std::vector<std::uint32_t> m_pixels;
     std::vector<float> m_depth;
-    std::span<const Farbe> m_colours; // of the shares, tabulated
 };
 
 } // namespace zerna

@@ -17,6 +17,11 @@ struct Rechteck {
     double top = 0;
     double width = 0;
     double height = 0;
+
+    double right() const { return left + width; }
+    double bottom() const { return top + height; }
+    Punkt mitte() const { return {left + width / 2, top + height / 2}; }
+    bool operator==(const Rechteck&) const = default;
 };
 
 /// Width of a text in some font.

@@ -23,11 +23,15 @@ std::string titelOf(int groesse)
     return groesse == Atomvolumen ? title + " (Zahl in " + std::string(found->einheit) + ")" : title;
 }
 
-/// "Al: 2,375 g/cm³, Valenz 3".
+/// "Al: 2,375 g/cm³, Valenz 3", which no line break tears apart.
 std::string textOf(const Legierungskomponente& k)
 {
-    return k.element->symbol() + ": " + anzeigetext(werttext(k.dichte, "g/cm³")) + ", Valenz "
+    const std::string text = k.element->symbol() + ": " + anzeigetext(werttext(k.dichte, "g/cm³")) + ", Valenz "
         + anzeigetext(werttext(k.valenz));
+    std::string unbroken;
+    for (const char c : text)
+        unbroken += c == ' ' ? std::string("\u00A0") : std::string(1, c);
+    return unbroken;
 }
 
 std::string untertitelOf(std::span<const Legierungskomponente> komponenten)

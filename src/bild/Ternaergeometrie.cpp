@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 #include "core/Unbekannt.h"
 
@@ -10,10 +9,7 @@ namespace zerna {
 
 namespace {
 
-constexpr double TriangleHeight = std::numbers::sqrt3 / 2;
 constexpr double BaseLine = -TriangleHeight / 3; // y of the first two corners
-
-constexpr double CornerSpace = 60; // pixels for the corners' symbols beside the flat triangle
 
 double radians(double degrees) { return degrees * std::numbers::pi / 180; }
 
@@ -38,24 +34,26 @@ Ansicht zoomed(Ansicht ansicht, double factor)
     return ansicht;
 }
 
-Projektion::Projektion(const Ansicht& ansicht, double width, double height)
-    : m_centreX(width / 2)
-    , m_centreY(height / 2)
+Projektion::Projektion(const Ansicht& ansicht, const Rechteck& part)
+    : m_centreX(part.mitte().x)
+    , m_centreY(part.mitte().y)
+    , m_middle(SurfaceHeight / 2)
 {
-    // The diagram fits from every side: its farthest points are this far from the centre of rotation.
-    const double radius = std::hypot(1 / std::numbers::sqrt3, SurfaceHeight / 2);
-    m_scale = ansicht.zoom * std::max(1.0, std::min(width, height)) / (2 * radius);
     const double tilt = radians(ansicht.flach ? 90 : ansicht.tilt);
-    const double turn = radians(ansicht.flach ? 0 : ansicht.turn);
+    // Turning the view one way turns the diagram the other way.
+    const double turn = radians(ansicht.flach ? 0 : -ansicht.turn);
     m_sinTilt = std::sin(tilt);
     m_cosTilt = std::cos(tilt);
     m_sinTurn = std::sin(turn);
     m_cosTurn = std::cos(turn);
-    m_middle = SurfaceHeight / 2;
-    if (ansicht.flach) { // only the triangle must fit, and its middle, not its centre, belongs into the picture's
-        m_scale = ansicht.zoom * std::max(1.0, std::min(width - CornerSpace, (height - CornerSpace) / TriangleHeight));
+    // The cylinder in which the diagram turns; of the flat one, which stands still, the triangle.
+    constexpr double Diameter = 2 / std::numbers::sqrt3;
+    const double width = ansicht.flach ? 1 : Diameter;
+    const double height =
+        ansicht.flach ? TriangleHeight : Diameter * std::abs(m_sinTilt) + SurfaceHeight * std::abs(m_cosTilt);
+    m_scale = ansicht.zoom * std::max(1.0, std::min(part.width / width, part.height / height));
+    if (ansicht.flach) // the triangle's middle, not its centre
         m_centreY += m_scale * (TriangleHeight / 2 - TriangleHeight / 3);
-    }
 }
 
 Bildpunkt Projektion::project(const Raumpunkt& point) const
@@ -112,7 +110,7 @@ std::vector<Gitterdreieck> triangulate(const Ternaergitter& gitter)
         for (int j = 0; i + j < gitter.n; ++j) {
             add(gitter.position(i, j), gitter.position(i + 1, j), gitter.position(i, j + 1));
             if (i + j + 2 <= gitter.n)
-                add(gitter.position(i + 1, j), gitter.position(i, j + 1), gitter.position(i + 1, j + 1));
+                add(gitter.position(i + 1, j), gitter.position(i + 1, j + 1), gitter.position(i, j + 1));
         }
     }
     return triangles;

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <array>
+#include <numbers>
 #include <optional>
 #include <vector>
 
+#include "bild/Geometrie.h"
 #include "model/Diagrammwahl.h"
 #include "model/Ternaergitter.h"
 #include "model/Wertebereich.h"
@@ -14,6 +16,9 @@ namespace zerna {
 
 /// Height of the surface between the grid's smallest and largest value, in sides of the triangle.
 inline constexpr double SurfaceHeight = 0.6;
+
+/// Height of the triangle, in its sides.
+inline constexpr double TriangleHeight = std::numbers::sqrt3 / 2;
 
 struct Raumpunkt {
     double x = 0;
@@ -34,15 +39,19 @@ Ansicht rotated(Ansicht ansicht, double tilt, double turn);
 /// The view after zooming by a factor, within its limits.
 Ansicht zoomed(Ansicht ansicht, double factor);
 
-/// Orthographic projection of the diagram onto a picture of the given size, and back.
+/// Orthographic projection of the diagram onto a picture, and back.
 class Projektion {
 public:
     Projektion() = default;
-    Projektion(const Ansicht& ansicht, double width, double height);
+
+    /// Unzoomed, the diagram fits into that part of the picture however it is turned; its size changes with the tilt
+    /// alone.
+    Projektion(const Ansicht& ansicht, const Rechteck& part);
 
     Bildpunkt project(const Raumpunkt& point) const;
     Raumpunkt unproject(const Bildpunkt& point) const;
     double scale() const { return m_scale; } ///< pixels per side of the triangle
+    bool operator==(const Projektion&) const = default;
 
 private:
     double m_centreX = 0;
@@ -72,7 +81,7 @@ struct Gitterdreieck {
     std::array<std::size_t, 3> corner{};
 };
 
-/// The triangles of the surface; those with a missing value are left out.
+/// The triangles of the surface, all the same way round; those with a missing value are left out.
 std::vector<Gitterdreieck> triangulate(const Ternaergitter& gitter);
 
 /// The value of the surface at a composition, interpolated between the grid's points; no value beside a hole.

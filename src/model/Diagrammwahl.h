@@ -8,7 +8,7 @@ namespace zerna {
 /// heights.
 struct Ansicht {
     double tilt = 25; ///< degrees above the horizon, -90 to 90
-    double turn = -30; ///< degrees about the vertical, -180 to 180
+    double turn = 45; ///< degrees about the vertical, -180 to 180; no corner stands behind another
     double zoom = 1; ///< 0.5 to 3
     bool flach = false;
     bool operator==(const Ansicht&) const = default;

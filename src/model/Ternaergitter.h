@@ -25,6 +25,8 @@ struct Ternaergitter {
     }
 
     float wert(int i, int j) const { return werte[position(i, j)]; }
+
+    bool operator==(const Ternaergitter&) const = default;
 };
 
 /// Resolutions run from 1 to this.

@@ -17,12 +17,12 @@ TEST(Projektion, TiltsThenTurnsAndFindsBack)
         Bildpunkt expected; ///< in sides of the triangle, y upwards
     } rows[] = {
         {"from above", 90, 0, {0.2, 0.3, 0.2}},
-        {"from the side", 0, 90, {-0.3, 0.2, -0.2}},
+        {"from the side", 0, 90, {0.3, 0.2, 0.2}},
         {"tilted", 30, 0, {0.2, 0.323205, -0.159808}},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        const Projektion projektion({row.tilt, row.turn, 1.5}, 800, 600);
+        const Projektion projektion({row.tilt, row.turn, 1.5}, {0, 0, 800, 600});
         const double side = projektion.scale();
         const auto [x, y, depth] = projektion.project(place);
         EXPECT_NEAR(std::hypot((x - 400) / side - row.expected.x, (300 - y) / side - row.expected.y), 0, 1e-6);
@@ -30,16 +30,46 @@ TEST(Projektion, TiltsThenTurnsAndFindsBack)
         const Raumpunkt back = projektion.unproject({x, y, depth});
         EXPECT_NEAR(std::hypot(back.x - place.x, back.y - place.y, back.z - place.z), 0, 1e-12);
     }
-    for (int i = 0; i < 24; ++i) { // nothing sticks out while the diagram turns
-        const Bildpunkt corner = Projektion({15.0 * i, 30.0 * i, 1}, 900, 300).project({0, 1 / std::sqrt(3), 0.6});
-        EXPECT_LE(std::hypot(corner.x - 450, corner.y - 150), 150 + 1e-9);
+}
+
+TEST(Projektion, FitsItsPartAndDoesNotJumpWhileTurning)
+{
+    constexpr double Rounding = 1e-9;
+    for (const Rechteck& part : {Rechteck{10, 20, 900, 300}, {10, 20, 250, 300}}) {
+        for (int i = 0; i < 24 * 13; ++i) {
+            const Ansicht ansicht{15.0 * (i % 13) - 90, 15.0 * (i / 13.0), 1};
+            const Projektion projektion(ansicht, part);
+            EXPECT_EQ(projektion.scale(), Projektion(rotated(ansicht, 0, 77), part).scale());
+            for (const double z : {0.0, SurfaceHeight}) {
+                const Bildpunkt corner = projektion.project(placeOf({0, 0, 1}, z));
+                EXPECT_LE(std::abs(corner.x - part.mitte().x), part.width / 2 + Rounding);
+                EXPECT_LE(std::abs(corner.y - part.mitte().y), part.height / 2 + Rounding);
+            }
+        }
+        EXPECT_GE(Projektion({}, part).scale(), 0.8 * std::min(part.width, part.height)) << "and fills it";
+        const Projektion flat({0, 0, 1, true}, part);
+        EXPECT_NEAR(flat.scale(), std::min(part.width, part.height / TriangleHeight), Rounding);
     }
+}
+
+TEST(Projektion, NearPointsFollowTheHandAndNoCornerHidesAnother)
+{
+    const Rechteck part{0, 0, 500, 500};
+    const Raumpunkt near{0, -0.2, 0.3}; // at turn 0
+    const auto placeOfIt = [&](const Ansicht& ansicht) { return Projektion(ansicht, part).project(near); };
+    const Ansicht start{30, 0, 1};
+    EXPECT_GT(placeOfIt(rotated(start, 0, -5)).x, placeOfIt(start).x) << "a drag to the right takes from the turn";
+    EXPECT_GT(placeOfIt(rotated(start, 5, 0)).y, placeOfIt(start).y) << "one downwards adds to the tilt";
+    const auto column = [&](const Anteile3& corner) { return Projektion({}, part).project(placeOf(corner, 0)).x; };
+    const std::array columns{column({1, 0, 0}), column({0, 1, 0}), column({0, 0, 1})};
+    for (std::size_t k = 0; k < 3; ++k)
+        EXPECT_GT(std::abs(columns.at(k) - columns.at((k + 1) % 3)), 50);
 }
 
 TEST(Ansicht, StaysWithinItsLimits)
 {
-    EXPECT_EQ(rotated({}, 66, 211), (Ansicht{90, -179})) << "over the top, over the back";
-    EXPECT_EQ(rotated({}, -200, -3600), (Ansicht{-90, -30})) << "below the bottom, whole turns";
+    EXPECT_EQ(rotated({}, 66, 211), (Ansicht{90, -104})) << "over the top, over the back";
+    EXPECT_EQ(rotated({}, -200, -3600), (Ansicht{-90, 45})) << "below the bottom, whole turns";
     EXPECT_EQ(zoomed({}, HUGE_VAL).zoom, 3);
     EXPECT_EQ(zoomed({}, 0).zoom, 0.5);
 }

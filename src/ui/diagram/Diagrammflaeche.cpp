@@ -6,6 +6,8 @@
 #include <QMenu>
 #include <QPainter>
 
+#include <utility>
+
 #include "programm/Exportieren.h"
 #include "ui/diagram/Bildausgabe.h"
 #include "ui/diagram/Bilddatei.h"
@@ -73,6 +75,7 @@ void Diagrammflaeche::showTernaer(Ternaerangaben angaben)
 {
     m_ternaer.setAngaben(std::move(angaben));
     showDiagramm(m_ternaer, Qt::StrongFocus);
+    m_readingIsOld = true;
 }
 
 void Diagrammflaeche::setAnsicht(const Ansicht& ansicht)
@@ -84,8 +87,10 @@ void Diagrammflaeche::setAnsicht(const Ansicht& ansicht)
 /// Called where the view may have changed.
 void Diagrammflaeche::nenneAnsicht(const QString& geste)
 {
-    if (m_diagramm == &m_ternaer)
-        emit ansichtChanged(geste);
+    if (m_diagramm != &m_ternaer)
+        return;
+    m_readingIsOld = true;
+    emit ansichtChanged(geste);
 }
 
 void Diagrammflaeche::showFehler(const QString& grund)
@@ -191,6 +196,8 @@ void Diagrammflaeche::paintEvent(QPaintEvent*)
     }
     m_diagramm->paint(painter, leinwand());
     m_diagramm->paintCursor(painter, leinwand());
+    if (std::exchange(m_readingIsOld, false) && m_diagramm == &m_ternaer) // read once the picture is there
+        emit positionChanged(m_ternaer.positionText(m_lastPosition, leinwand()));
     if (hasFocus()) {
         painter.setPen(QPen(fokusfarbe(palette(), Qt::white), 2)); // diagrams are white in every theme
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
@@ -249,6 +256,7 @@ void Diagrammflaeche::wheelEvent(QWheelEvent* event)
 void Diagrammflaeche::leaveEvent(QEvent* event)
 {
     QWidget::leaveEvent(event);
+    m_lastPosition = {-1, -1};
     emit positionChanged({});
 }
 

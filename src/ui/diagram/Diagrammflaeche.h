@@ -104,7 +104,8 @@ private:
     Diagramm* m_diagramm = &m_meldung; // what is shown
     bool m_dragging = false;
     int m_drags = 0; // since the start
-    QPointF m_lastPosition; // of the mouse
+    QPointF m_lastPosition{-1, -1}; // of the mouse; outside while it is elsewhere
+    bool m_readingIsOld = false; // since the ternary diagram has changed under the mouse
 };
 
 } // namespace zerna

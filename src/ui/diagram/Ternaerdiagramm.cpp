@@ -2,11 +2,14 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
 #include "core/Unbekannt.h"
 #include "ui/diagram/Bildausgabe.h"
+#include "ui/platform/QtText.h"
+#include "ui/platform/Zwischenablage.h"
 
 namespace zerna {
 
@@ -18,33 +21,40 @@ constexpr double ZoomStep = 1.1; // of a key or a notch of the wheel
 
 void Ternaerdiagramm::setAngaben(Ternaerangaben angaben)
 {
-    m_inhalt = std::make_shared<const Ternaerinhalt>(std::move(angaben.gitter), angaben.legierung);
+    if (!m_inhalt || m_inhalt->gitter != angaben.gitter) // other at% have the same surface
+        m_inhalt = std::make_shared<const Ternaerinhalt>(std::move(angaben.gitter));
     m_groesse = std::move(angaben.groesse);
+    m_beiwerk.titel = std::move(angaben.titel);
+    m_beiwerk.untertitel = std::move(angaben.untertitel);
+    const bool liesInside =
+        std::ranges::all_of(angaben.legierung, [](double share) { return share >= 0 && share <= 1; });
+    m_beiwerk.legierung = liesInside ? std::optional(angaben.legierung) : std::nullopt;
     findZiellinien();
 }
 
 void Ternaerdiagramm::setZiel(std::optional<float> ziel)
 {
-    m_ziel = ziel;
+    m_beiwerk.ziel = ziel;
     findZiellinien();
 }
 
 std::string Ternaerdiagramm::zielpunkte() const
 {
-    return m_inhalt ? punktetext(m_inhalt->gitter, m_ziellinien) : std::string();
+    return m_inhalt ? punktetext(m_inhalt->gitter, m_beiwerk.ziellinien) : std::string();
 }
 
 void Ternaerdiagramm::findZiellinien()
 {
-    m_ziellinien.clear();
-    if (m_ziel && m_inhalt)
-        m_ziellinien = hoehenlinien(m_inhalt->gitter, m_inhalt->triangles, *m_ziel, m_groesse);
+    m_beiwerk.ziellinien.clear();
+    if (m_beiwerk.ziel && m_inhalt)
+        m_beiwerk.ziellinien = hoehenlinien(m_inhalt->gitter, m_inhalt->triangles, *m_beiwerk.ziel, m_groesse);
 }
 
 const Ternaerbild& Ternaerdiagramm::bild(const Leinwand& leinwand) const
 {
-    return m_bild.get({m_inhalt, m_ansicht, leinwand},
-        [&] { return Ternaerbild(m_inhalt, m_ansicht, leinwand.size, leinwand.font, leinwand.devicePixelRatio); });
+    m_bild.zeige(
+        {m_inhalt, m_beiwerk, m_ansicht, leinwand.size, leinwand.font, leinwand.devicePixelRatio, leinwand.stil});
+    return m_bild;
 }
 
 void Ternaerdiagramm::paint(QPainter& painter, const Leinwand& leinwand) const
@@ -122,10 +132,14 @@ bool Ternaerdiagramm::doubleClicked()
 
 std::vector<Diagramm::Command> Ternaerdiagramm::commands()
 {
-    return {
+    std::vector<Command> commands{
         {QStringLiteral("Draufsicht"), [this] { m_ansicht.flach = true; }},
         {QStringLiteral("Räumlich"), [this] { m_ansicht.flach = false; }},
     };
+    if (!m_beiwerk.ziellinien.empty())
+        commands.push_back(
+            {QStringLiteral("Punkte der Ziellinie kopieren"), [text = toQt(zielpunkte())] { copyToClipboard(text); }});
+    return commands;
 }
 
 } // namespace zerna

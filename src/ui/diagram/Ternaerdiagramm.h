@@ -2,11 +2,9 @@
 
 #include <memory>
 #include <optional>
-#include <vector>
 
 #include "bild/Ternaerangaben.h"
 #include "ui/diagram/Diagramm.h"
-#include "ui/diagram/LastResult.h"
 #include "ui/ternary/Ternaerbild.h"
 
 namespace zerna {
@@ -37,28 +35,19 @@ public:
     /// Back to the first view; flat stays flat.
     bool doubleClicked() override;
 
-    /// Flat view and view in space.
+    /// Flat view and view in space; the points of the target line.
     std::vector<Command> commands() override;
 
 private:
-    /// What the rendered picture depends on.
-    struct Aufnahme {
-        std::shared_ptr<const Ternaerinhalt> inhalt;
-        Ansicht ansicht;
-        Leinwand leinwand;
-        bool operator==(const Aufnahme&) const = default;
-    };
-
     void findZiellinien();
     const Ternaerbild& bild(const Leinwand& leinwand) const;
     void turnBy(double tilt, double turn);
 
     std::shared_ptr<const Ternaerinhalt> m_inhalt; // null before the first grid
     Ternaerwert m_groesse;
-    std::optional<float> m_ziel;
-    std::vector<Ternaerlinie> m_ziellinien; // along which the quantity has that value
+    Ternaerbeiwerk m_beiwerk;
     Ansicht m_ansicht;
-    LastResult<Aufnahme, Ternaerbild> m_bild;
+    mutable Ternaerbild m_bild; // as it was wanted last
 };
 
 } // namespace zerna

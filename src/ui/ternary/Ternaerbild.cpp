@@ -1,11 +1,12 @@
 #include "ui/ternary/Ternaerbild.h"
 
+#include <QFontMetricsF>
 #include <QImage>
 #include <QPainter>
+#include <QPolygonF>
 
 #include <algorithm>
-#include <cmath>
-#include <utility>
+#include <array>
 
 #include "core/Zahlentext.h"
 #include "model/Werttext.h"
@@ -16,237 +17,228 @@ namespace zerna {
 
 namespace {
 
-constexpr int BarSpace = 120; // for the colour bar and its labels, on the right
-constexpr int LabelSpace = 34; // around the diagram
-constexpr int GridLines = 10; // a line every 10 at%
-const QColor GridColour(190, 190, 190);
+/// Of the components: told apart by lightness, too, and legible on white.
+constexpr std::array Komponentenfarben{QColor(11, 92, 173), QColor(0, 105, 55), QColor(140, 45, 130)};
 
-/// The composition with a share of the way from corner `from` to corner `to`.
-Anteile3 along(std::size_t from, std::size_t to, double share)
+QFont bold(QFont font, double factor = 1)
 {
-    Anteile3 anteile{};
-    anteile.at(from) = 1 - share;
-    anteile.at(to) = share;
-    return anteile;
+    font.setBold(true);
+    if (font.pixelSize() > 0)
+        font.setPixelSize(std::max(1, qRound(font.pixelSize() * factor)));
+    else
+        font.setPointSizeF(font.pointSizeF() * factor);
+    return font;
 }
 
-/// Where the surface lies; the vertical axis wants room for its labels on the left.
-QRect plotRect(const QSize& size, const Ansicht& ansicht)
+QFont symbolFont(const QFont& font) { return bold(font, 1.25); }
+
+Textmasse masseOf(const QFont& font)
 {
-    constexpr int AxisSpace = 40;
-    const int left = ansicht.flach ? LabelSpace : LabelSpace + AxisSpace;
-    return {left, LabelSpace, std::max(1, size.width() - left - BarSpace), std::max(1, size.height() - 2 * LabelSpace)};
+    const QFontMetricsF metrics(font);
+    return {[metrics](std::string_view text) { return metrics.horizontalAdvance(toQt(text)); }, metrics.height()};
 }
 
-void paintText(QPainter& painter, const QPointF& centre, const QString& text)
+QRectF toQt(const Rechteck& r) { return {r.left, r.top, r.width, r.height}; }
+
+QLineF toQt(const Strich& s) { return {s.from.x, s.from.y, s.to.x, s.to.y}; }
+
+QLinearGradient gradientOf(const Farbbalken& bar, bool grau)
 {
-    const QRectF box = QFontMetricsF(painter.font()).boundingRect(text);
-    QRectF place(QPointF(0, 0), box.size() + QSizeF(2, 0));
-    place.moveCenter(centre);
-    painter.drawText(place, Qt::AlignCenter | Qt::TextDontClip, text);
+    constexpr int Stops = 17; // between which the colours are as good as linear
+    const QRectF box = toQt(bar.box);
+    QLinearGradient gradient(bar.liegt ? box.topLeft() : box.bottomLeft(), bar.liegt ? box.topRight() : box.topLeft());
+    for (int i = 0; i < Stops; ++i)
+        gradient.setColorAt(i / (Stops - 1.0), toQt(flaechenfarbe(i / (Stops - 1.0), grau)));
+    return gradient;
+}
+
+/// A line that stands out on every ground: black between white edges.
+template <class Draw>
+void paintBold(QPainter& painter, double width, Draw&& draw)
+{
+    for (const auto& [colour, extra] : {std::pair(Qt::white, 2.4), std::pair(Qt::black, 0.0)}) {
+        painter.setPen(QPen(colour, width + extra, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        draw();
+    }
 }
 
 } // namespace
 
-Ternaerbild::Ternaerbild(std::shared_ptr<const Ternaerinhalt> inhalt, const Ansicht& ansicht, const QSize& size,
-    const QFont& font, double devicePixelRatio)
-    : m_inhalt(std::move(inhalt))
-    , m_ansicht(ansicht)
-    , m_size(size)
-    , m_font(font)
-    , m_plot(plotRect(size, ansicht))
-    , m_flaeche(*m_inhalt, ansicht, m_plot.width(), m_plot.height(), devicePixelRatio)
+void Ternaerbild::zeige(const Ternaeraufnahme& aufnahme)
 {
+    if (m_aufnahme == aufnahme)
+        return;
+    m_aufnahme = aufnahme;
+    const auto& [inhalt, beiwerk, ansicht, size, font, ratio, stil] = m_aufnahme;
+    const Ternaermasse masse{masseOf(font), masseOf(bold(font)), masseOf(symbolFont(font))};
+    m_parts = ternaeraufteilung(*inhalt, beiwerk, ansicht.flach, size.width(), size.height(), stil, masse);
+    m_flaeche.zeige(
+        {inhalt, ansicht, Projektion(ansicht, m_parts.plot), m_parts.bild, ratio, stil.grau, stil.linienbreite});
+    m_labels = ternaerbeschriftung(m_flaeche, m_parts, beiwerk, stil, masse);
 }
 
 void Ternaerbild::paint(QPainter& painter) const
 {
-    painter.fillRect(QRect(QPoint(0, 0), m_size), Qt::white);
-    painter.setFont(m_font);
+    painter.fillRect(QRect(QPoint(0, 0), m_aufnahme.size), Qt::white);
+    painter.setFont(m_aufnahme.font);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.save();
-    painter.translate(m_plot.topLeft());
-    const bool fromBelow = !m_ansicht.flach && m_ansicht.tilt < 0;
-    const bool hidesEdges = !fromBelow && !m_ansicht.flach; // the surface then stands before some of them
-    if (!fromBelow)
-        paintBase(painter);
-    if (hidesEdges)
-        paintEdges(painter);
-    paintSurface(painter);
-    if (fromBelow || m_ansicht.flach)
-        paintBase(painter);
-    paintCurrent(painter);
-    paintCorners(painter);
-    if (!hidesEdges)
-        paintEdges(painter);
-    if (!m_ansicht.flach)
-        paintAxis(painter);
+    painter.setClipRect(toQt(m_parts.bild));
+    paintDiagram(painter);
     painter.restore();
+    paintTexts(painter, m_labels.texte);
     paintColourBar(painter);
+    paintTexts(painter, m_parts.texte);
     painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void Ternaerbild::paintDiagram(QPainter& painter) const
+{
+    const bool fromBelow = !isFlat() && m_aufnahme.ansicht.tilt < 0;
+    if (!fromBelow && !isFlat())
+        paintBase(painter);
+    paintSurface(painter);
+    if (fromBelow || isFlat())
+        paintBase(painter);
+    painter.setPen(QPen(Qt::black, frameWidth()));
+    if (m_labels.achse)
+        painter.drawLine(toQt(*m_labels.achse));
+    for (const Strich& tick : m_labels.striche)
+        painter.drawLine(toQt(tick));
+    paintTargetLines(painter);
+    paintCurrent(painter);
 }
 
 void Ternaerbild::paintSurface(QPainter& painter) const
 {
     const Flaechenbild& bild = m_flaeche.bild();
+    if (bild.pixels().empty())
+        return;
     const QImage image(reinterpret_cast<const uchar*>(bild.pixels().data()), bild.width(), bild.height(),
         QImage::Format_ARGB32_Premultiplied);
-    painter.drawImage(QRectF(QPointF(0, 0), m_plot.size()), image);
+    painter.drawImage(toQt(m_flaeche.platz()), image);
 }
 
 QPointF Ternaerbild::at(const Anteile3& anteile, double z) const
 {
-    const Bildpunkt p = m_flaeche.projektion().project(placeOf(anteile, z));
+    const Bildpunkt p = m_flaeche.sicht().projektion.project(placeOf(anteile, z));
     return {p.x, p.y};
 }
 
-/// A point moved away from the middle of the base, as seen on the picture.
-QPointF Ternaerbild::outwards(const QPointF& from, double distance) const
-{
-    const QPointF middle = at({1.0 / 3, 1.0 / 3, 1.0 / 3}, 0);
-    const QPointF direction = from - middle;
-    const double length = std::hypot(direction.x(), direction.y());
-    return length > 0 ? from + direction * (distance / length) : from;
-}
+double Ternaerbild::frameWidth() const { return 1.2 * m_aufnahme.stil.linienbreite / Bildstil().linienbreite; }
 
 void Ternaerbild::paintBase(QPainter& painter) const
 {
-    QColor grid = GridColour;
-    if (m_ansicht.flach)
-        grid = QColor(0, 0, 0, 60);
-    painter.setPen(QPen(grid, 1));
+    constexpr int GridLines = 10; // a line every 10 at%
+    painter.setPen(QPen(isFlat() ? QColor(0, 0, 0, 60) : QColor(190, 190, 190), frameWidth() / 1.2));
     for (int line = 1; line < GridLines; ++line) {
         const double share = static_cast<double>(line) / GridLines;
         for (std::size_t k = 0; k < 3; ++k) // constant share of component k
             painter.drawLine(at(along((k + 1) % 3, k, share), 0), at(along((k + 2) % 3, k, share), 0));
     }
-    painter.setPen(QPen(Qt::black, 1.2));
+    painter.setPen(QPen(Qt::black, frameWidth()));
     for (std::size_t k = 0; k < 3; ++k)
         painter.drawLine(at(along(k, k, 1), 0), at(along((k + 1) % 3, (k + 1) % 3, 1), 0));
-}
-
-void Ternaerbild::paintCorners(QPainter& painter) const
-{
-    constexpr double Distance = 24;
-    const QFont plain = painter.font();
-    QFont bold = plain;
-    bold.setBold(true);
-    bold.setPointSizeF(plain.pointSizeF() * 1.3);
-    painter.setFont(bold);
-    painter.setPen(Qt::black);
-    for (std::size_t k = 0; k < 3; ++k) {
-        const bool belowAxis = !m_ansicht.flach && k == axisCorner(); // whose labels stand beside it
-        const QPointF shift(0, belowAxis ? Distance * 0.7 : 0);
-        paintText(painter, outwards(at(along(k, k, 1), 0), Distance) + shift, toQt(m_inhalt->gitter.symbole.at(k)));
-    }
-    painter.setFont(plain);
-}
-
-/// The at% of the component towards which an edge runs, every 20 at%.
-void Ternaerbild::paintEdges(QPainter& painter) const
-{
-    constexpr double Distance = 14;
-    constexpr double ShortestEdge = 110; // pixels; below that the labels would overlap
-    painter.setPen(Teilungsfarbe);
-    for (std::size_t k = 0; k < 3; ++k) {
-        const std::size_t to = (k + 1) % 3;
-        const QPointF edge = at(along(to, to, 1), 0) - at(along(k, k, 1), 0);
-        if (std::hypot(edge.x(), edge.y()) < ShortestEdge)
-            continue;
-        const QPointF middle = at(along(k, to, 0.5), 0);
-        const QPointF shift = outwards(middle, Distance) - middle;
-        for (int percent = 20; percent <= 80; percent += 20)
-            paintText(painter, at(along(k, to, percent / 100.0), 0) + shift, QString::number(percent));
-    }
-}
-
-QString Ternaerbild::tickText(double value) const
-{
-    return toQt(werttext(static_cast<float>(value), m_inhalt->gitter.einheit));
-}
-
-/// The corner farthest to the left, where the surface never hides the vertical axis.
-std::size_t Ternaerbild::axisCorner() const
-{
-    std::size_t corner = 0;
-    for (std::size_t k = 1; k < 3; ++k) {
-        if (at(along(k, k, 1), 0).x() < at(along(corner, corner, 1), 0).x())
-            corner = k;
-    }
-    return corner;
-}
-
-void Ternaerbild::paintAxis(QPainter& painter) const
-{
-    constexpr double Shortest = 60; // pixels for labels that do not overlap
-    constexpr double Tick = 6;
-    const std::size_t corner = axisCorner();
-    const Anteile3 place = along(corner, corner, 1);
-    const QPointF bottom = at(place, 0);
-    const QPointF top = at(place, SurfaceHeight);
-    painter.setPen(QPen(Qt::black, 1.2));
-    painter.drawLine(bottom, top);
-    if (std::abs(top.y() - bottom.y()) < Shortest)
-        return;
-    const QFontMetricsF metrics(painter.font());
-    double lastY = bottom.y() + 2 * metrics.height();
-    for (const double value : m_inhalt->ticks) {
-        const QPointF tick = at(place, heightShare(value, m_inhalt->range) * SurfaceHeight);
-        painter.drawLine(tick, tick - QPointF(Tick, 0));
-        if (std::abs(lastY - tick.y()) < metrics.height())
-            continue;
-        lastY = tick.y();
-        const QString text = tickText(value);
-        painter.drawText(tick - QPointF(Tick + 4 + metrics.horizontalAdvance(text), -metrics.ascent() / 2 + 1), text);
-    }
 }
 
 /// The alloy's own composition: a point on the surface and a line down to the base.
 void Ternaerbild::paintCurrent(QPainter& painter) const
 {
     constexpr double Radius = 4.5;
-    const auto& current = m_inhalt->current;
-    const auto value = current ? interpolated(m_inhalt->gitter, *current) : std::nullopt;
+    const auto& current = m_aufnahme.beiwerk.legierung;
+    const auto value = current ? interpolated(inhalt().gitter, *current) : std::nullopt;
     if (!value)
         return;
-    const double z = m_ansicht.flach ? 0 : heightShare(*value, m_inhalt->range) * SurfaceHeight;
-    painter.setPen(QPen(Legierungsfarbe, 1.2, Qt::DashLine));
+    const QColor colour = m_aufnahme.stil.grau ? QColor(Qt::black) : QColor(Legierungsfarbe);
+    const double z = isFlat() ? 0 : heightShare(*value, inhalt().range) * SurfaceHeight;
+    painter.setPen(QPen(colour, frameWidth(), Qt::DashLine));
     painter.drawLine(at(*current, 0), at(*current, z));
     painter.setPen(QPen(Qt::white, 1.5));
-    painter.setBrush(Legierungsfarbe);
+    painter.setBrush(colour);
     painter.drawEllipse(at(*current, z), Radius, Radius);
     painter.setBrush(Qt::NoBrush);
 }
 
+/// The parts that the surface does not hide.
+void Ternaerbild::paintTargetLines(QPainter& painter) const
+{
+    const auto& [titel, untertitel, legierung, ziel, lines] = m_aufnahme.beiwerk;
+    if (!ziel)
+        return;
+    const double z = isFlat() ? 0 : heightShare(*ziel, inhalt().range) * SurfaceHeight;
+    std::vector<QPolygonF> parts;
+    for (const Ternaerlinie& line : lines) {
+        bool goesOn = false;
+        for (const Anteile3& anteile : line) {
+            const Bildpunkt p = m_flaeche.sicht().projektion.project(placeOf(anteile, z));
+            const bool isSeen = m_flaeche.istSichtbar(p);
+            if (isSeen && !goesOn)
+                parts.emplace_back();
+            if (isSeen)
+                parts.back() << QPointF(p.x, p.y);
+            goesOn = isSeen;
+        }
+    }
+    paintBold(painter, 2 * m_aufnahme.stil.linienbreite, [&] {
+        for (const QPolygonF& part : parts) {
+            if (part.size() == 1)
+                painter.drawPoint(part.front());
+            else
+                painter.drawPolyline(part);
+        }
+    });
+}
+
 void Ternaerbild::paintColourBar(QPainter& painter) const
 {
-    constexpr double Width = 14;
-    const QRectF bar(m_size.width() - BarSpace + 14, LabelSpace, Width, m_size.height() - 2 * LabelSpace);
-    if (bar.height() < 2 * LabelSpace || !m_inhalt->range.known)
+    if (!m_parts.balken)
         return;
-    painter.setPen(QPen(Qt::black, 1));
-    painter.setBrush(farbverlauf(bar.bottomLeft(), bar.topLeft()));
-    painter.drawRect(bar);
+    const Farbbalken& bar = *m_parts.balken;
+    painter.setPen(QPen(Qt::black, frameWidth()));
+    painter.setBrush(gradientOf(bar, m_aufnahme.stil.grau));
+    painter.drawRect(toQt(bar.box));
     painter.setBrush(Qt::NoBrush);
-    const QFontMetricsF metrics(painter.font());
-    for (const double value : m_inhalt->ticks) {
-        const double y = bar.bottom() - heightShare(value, m_inhalt->range) * bar.height();
-        painter.drawLine(QPointF(bar.right(), y), QPointF(bar.right() + 4, y));
-        painter.drawText(QPointF(bar.right() + 7, y + metrics.ascent() / 2 - 1), tickText(value));
+    for (const Strich& tick : bar.striche)
+        painter.drawLine(toQt(tick));
+    if (bar.ziel)
+        paintBold(painter, 2 * m_aufnahme.stil.linienbreite, [&] { painter.drawLine(toQt(*bar.ziel)); });
+}
+
+void Ternaerbild::paintTexts(QPainter& painter, const std::vector<Ternaertext>& texts) const
+{
+    constexpr QColor Ground(255, 255, 255, 205); // of texts on the surface
+    const QFont& plain = m_aufnahme.font;
+    for (const Ternaertext& text : texts) {
+        const bool isLine =
+            &texts == &m_labels.texte && (text.rolle == Textrolle::Linie || text.rolle == Textrolle::Ziel);
+        const bool isOfComponent = text.rolle == Textrolle::Ecke || text.rolle == Textrolle::Kante;
+        const bool isBold = text.rolle == Textrolle::Titel || text.rolle == Textrolle::Ziel;
+        const QRectF box = toQt(text.box);
+        if (isLine) {
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(Ground);
+            painter.drawRoundedRect(box, 3, 3);
+            painter.setBrush(Qt::NoBrush);
+        }
+        painter.setFont(text.rolle == Textrolle::Ecke ? symbolFont(plain) : isBold ? bold(plain) : plain);
+        painter.setPen(isOfComponent && !m_aufnahme.stil.grau ? Komponentenfarben.at(text.komponente)
+                : text.rolle == Textrolle::Untertitel         ? QColor(Teilungsfarbe)
+                                                              : QColor(Qt::black));
+        painter.drawText(box, Qt::AlignCenter | Qt::TextDontClip | Qt::TextSingleLine, toQt(text.text));
     }
+    painter.setFont(plain);
 }
 
 QString Ternaerbild::positionText(const QPointF& position) const
 {
-    const QPointF inPlot = position - m_plot.topLeft();
-    const auto anteile = m_flaeche.anteileAt({inPlot.x(), inPlot.y()});
-    const auto value = anteile ? interpolated(m_inhalt->gitter, *anteile) : std::nullopt;
+    const auto anteile = m_flaeche.anteileAt({position.x(), position.y()});
+    const auto value = anteile ? interpolated(inhalt().gitter, *anteile) : std::nullopt;
     if (!value)
         return {};
     std::string text;
     for (std::size_t k = 0; k < 3; ++k)
-        text += m_inhalt->gitter.symbole.at(k) + " " + fixedText(std::max(0.0, anteile->at(k)) * 100, 1) + " at%  ";
-    return toQt(text + "-  ") + tickText(*value);
+        text += inhalt().gitter.symbole.at(k) + " " + fixedText(std::max(0.0, anteile->at(k)) * 100, 1) + " at%  ";
+    return toQt(text + "-  " + werttext(static_cast<float>(*value), inhalt().gitter.einheit));
 }
 
 } // namespace zerna

@@ -1,48 +1,61 @@
 #pragma once
 
 #include <QFont>
-#include <QRect>
+#include <QSize>
 #include <QString>
 
 #include <memory>
+#include <vector>
 
-#include "bild/Ternaerflaeche.h"
+#include "bild/Ternaerbeschriftung.h"
 
 class QPainter;
 
 namespace zerna {
 
-/// The ternary diagram as it looks from one side at one size: rendered once, painted as often as wanted.
+/// What a picture of a ternary diagram depends on. The size is in logical pixels and not empty, the ratio device pixels
+/// per logical one, for the surface.
+struct Ternaeraufnahme {
+    std::shared_ptr<const Ternaerinhalt> inhalt; ///< not null
+    Ternaerbeiwerk beiwerk;
+    Ansicht ansicht;
+    QSize size;
+    QFont font;
+    double devicePixelRatio = 1;
+    Bildstil stil = {};
+    bool operator==(const Ternaeraufnahme&) const = default;
+};
+
+/// The ternary diagram as a picture. What has not changed since the last one is used again.
 class Ternaerbild {
 public:
-    /// The size is in logical pixels and not empty; the surface has that many device pixels per logical one.
-    Ternaerbild(std::shared_ptr<const Ternaerinhalt> inhalt, const Ansicht& ansicht, const QSize& size,
-        const QFont& font, double devicePixelRatio);
+    void zeige(const Ternaeraufnahme& aufnahme);
 
     void paint(QPainter& painter) const;
 
     /// Composition and value of the surface under a position; empty beside it.
     QString positionText(const QPointF& position) const;
 
+    const Ternaeraufteilung& aufteilung() const { return m_parts; }
+    const Ternaerbeschriftung& beschriftung() const { return m_labels; }
+
 private:
+    void paintDiagram(QPainter& painter) const;
     void paintSurface(QPainter& painter) const;
     void paintBase(QPainter& painter) const;
-    void paintCorners(QPainter& painter) const;
-    void paintEdges(QPainter& painter) const;
-    void paintAxis(QPainter& painter) const;
     void paintCurrent(QPainter& painter) const;
+    void paintTargetLines(QPainter& painter) const;
     void paintColourBar(QPainter& painter) const;
+    void paintTexts(QPainter& painter, const std::vector<Ternaertext>& texts) const;
     QPointF at(const Anteile3& anteile, double z) const;
-    QPointF outwards(const QPointF& from, double distance) const;
-    std::size_t axisCorner() const;
-    QString tickText(double value) const;
+    double frameWidth() const;
+    const Ternaerinhalt& inhalt() const { return *m_aufnahme.inhalt; }
+    bool isFlat() const { return m_aufnahme.ansicht.flach; }
 
-    std::shared_ptr<const Ternaerinhalt> m_inhalt;
-    Ansicht m_ansicht;
-    QSize m_size;
-    QFont m_font;
-    QRect m_plot; // where the surface lies; points of the projection are relative to it
+    Ternaeraufnahme m_aufnahme;
+    Ternaeraufteilung m_parts;
     Ternaerflaeche m_flaeche;
+    Ternaerbeschriftung m_labels;
 };
 
 } // namespace zerna

@@ -1,7 +1,10 @@
+#include <QClipboard>
 #include <QContextMenuEvent>
+#include <QLabel>
 #include <QTimer>
 #include <QWheelEvent>
 
+#include <functional>
 #include <random>
 
 #include "support/FakeDesk.h"
@@ -96,6 +99,58 @@ TEST_F(TernaeransichtTest, WheelAndKeysZoomAndSeveralMovesAreOneFrame)
     EXPECT_EQ(picture(), zoomed);
 }
 
+TEST_F(TernaeransichtTest, ReadingFollowsThePictureUnderTheMouse)
+{
+    const QPointF place(210, 330);
+    const auto reading = [this] { return find<QLabel>("LabelPos").text(); };
+    const auto readAnew = [&] {
+        mouse(QEvent::MouseMove, place + QPointF(1, 0), {});
+        mouse(QEvent::MouseMove, place, {});
+        return reading();
+    };
+    std::vector readings{readAnew()};
+    const struct {
+        const char* name;
+        std::function<void()> turn;
+    } rows[] = {
+        {"drag",
+            [&] {
+                mouse(QEvent::MouseButtonPress, place - QPointF(3, 4));
+                mouse(QEvent::MouseMove, place);
+                mouse(QEvent::MouseButtonRelease, place, {});
+            }},
+        {"key", [&] { press(Qt::Key_Left); }},
+        {"wheel", [&] { wheel(1); }},
+        {"quantity", [&] { choose("cmbDiagramm", "Fermienergie"); }},
+    };
+    for (const auto& row : rows) {
+        row.turn();
+        picture();
+        EXPECT_NE(reading(), readings.back()) << row.name;
+        readings.push_back(reading());
+        EXPECT_EQ(readAnew(), readings.back()) << row.name;
+    }
+}
+
+TEST_F(TernaeransichtTest, TargetLineCanBeCopied)
+{
+    area().setTernaerziel(2);
+    const QImage marked = picture();
+    QTimer::singleShot(0, [] {
+        QTest::keySequence(
+            QApplication::activePopupWidget(), {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
+    });
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {});
+    send(event);
+    const std::string copied = QGuiApplication::clipboard()->text().toStdString();
+    EXPECT_EQ(copied.substr(0, copied.find('\n')), "Al [at%]\tCu [at%]\tMg [at%]\r");
+    EXPECT_NE(copied.find("25.0000\t25.0000\t50.0000\r\n"), std::string::npos) << "valence 2 with as much Al as Cu";
+    area().setTernaerziel(3.5F);
+    EXPECT_EQ(area().ternaerzielpunkte(), "");
+    area().setTernaerziel({});
+    EXPECT_NE(picture(), marked);
+}
+
 TEST_F(TernaeransichtTest, FlatViewStandsStill)
 {
     const auto chosen = [this](const QKeySequence& keys) {
@@ -133,7 +188,7 @@ TEST_F(TernaeransichtTest, RandomDragsLeaveNoTrace)
     const QImage start = picture();
     std::minstd_rand generator(1);
     const auto any = [&](int from, int to) { return std::uniform_int_distribution(from, to)(generator); };
-    const int drags = qEnvironmentVariableIsSet("ZERNA_DRAGS") ? qEnvironmentVariableIntValue("ZERNA_DRAGS") : 200;
+    const int drags = qEnvironmentVariableIsSet("ZERNA_DRAGS") ? qEnvironmentVariableIntValue("ZERNA_DRAGS") : 60;
     for (int i = 0; i < drags; ++i) {
         drag({QPointF(any(-300, 300), any(-300, 300)), QPointF(any(-9, 9), any(-9, 9))});
         wheel(any(-3, 3));
