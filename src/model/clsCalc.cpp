@@ -133,7 +133,7 @@ void clsCalc::setBasis(float perCubicMetre, float electronsPerAtom)
 {
     m_teilchenzahldichte = perCubicMetre;
     m_valenz = electronsPerAtom;
-    Kf_2_Berechnen();
+    m_kf2IsDue = true;
 }
 
 float clsCalc::Atomvolumen() const
@@ -148,7 +148,7 @@ float clsCalc::Elektrondichte() const
 
 float clsCalc::Friedelwellenlaenge() const
 {
-    return hasParticles() ? orUnbekannt([&] { return toSingle(quotient(2 * Pi, m_kf2)); }) : Unbekannt;
+    return hasParticles() ? orUnbekannt([&] { return toSingle(quotient(2 * Pi, Kf_2())); }) : Unbekannt;
 }
 
 float clsCalc::Friedelminima(int n) const
@@ -190,6 +190,7 @@ void clsCalc::Neu_Berechnen()
 /// the particle number density, which comes from the molar volume.
 void clsCalc::berechne(std::span<const Legierungskomponente> komponenten)
 {
+    Kf_2(); // of what it was before
     try {
         float valenz = 0;
         float molvolumen = 0; // cm³/mol, times 100
@@ -219,6 +220,7 @@ void clsCalc::berechne(std::span<const Legierungskomponente> komponenten)
 
 void clsCalc::berechnungGescheitert()
 {
+    Kf_2();
     m_valenz = Unbekannt;
     m_teilchenzahldichte = Unbekannt;
     m_dichte = Unbekannt;
@@ -249,8 +251,9 @@ void clsCalc::Class_Initialize()
     m_systemFactor = power(mass, 3.0 / 2.0) * quotient(2.0 / 5.0 * squareRoot(2) / Pi / Pi, power(planck, 3));
 }
 
-void clsCalc::Kf_2_Berechnen()
+void clsCalc::Kf_2_Berechnen() const
 {
+    m_kf2IsDue = false;
     m_kf2 = orUnbekannt([&] { return toSingle(m_kf2Factor * power(electronDensity(), 1.0 / 3.0)); });
 }
 

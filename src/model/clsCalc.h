@@ -64,8 +64,18 @@ public:
     /// Intended: twice the usual free-electron value.
     float Thermokraft() const;
 
-    float Kf_2() const { return m_kf2; } ///< twice the Fermi wave number in 1/nm
-    void setKf_2(float perNanometre) { m_kf2 = perNanometre; }
+    /// Twice the Fermi wave number in 1/nm.
+    float Kf_2() const
+    {
+        if (m_kf2IsDue)
+            Kf_2_Berechnen();
+        return m_kf2;
+    }
+    void setKf_2(float perNanometre)
+    {
+        m_kf2 = perNanometre;
+        m_kf2IsDue = false;
+    }
 
     float Plasmonenenergie() const; ///< eV; answers Unbekannt
 
@@ -80,7 +90,7 @@ public:
     float Valenz() const { return m_valenz; } ///< z, electrons per atom
     void setValenz(float electronsPerAtom); ///< refreshes Kf_2
 
-    /// Both base quantities at once (N in 1/m³), with one refresh of Kf_2: for stepping through many compositions.
+    /// Both base quantities at once (N in 1/m³): for stepping through many compositions. Kf_2 follows when it is read.
     void setBasis(float perCubicMetre, float electronsPerAtom);
 
     float Atomvolumen() const; ///< 1/N in m³; answers Unbekannt
@@ -111,7 +121,7 @@ private:
     void berechne(std::span<const Legierungskomponente> komponenten);
     void berechnungGescheitert();
     void Class_Initialize();
-    void Kf_2_Berechnen();
+    void Kf_2_Berechnen() const;
     const clsElement* elementAt(int index) const;
     float valenzOf(const clsElement& element, GeleseneValenz& gelesen);
     double electronDensity() const { return static_cast<double>(m_valenz) * m_teilchenzahldichte; } // n_e, 1/m³
@@ -136,7 +146,8 @@ private:
     float m_dichte = 0; // g/cm³
     std::array<Legierungskomponente, MaxKomponenten> m_komponenten;
     std::array<GeleseneValenz, MaxKomponenten> m_gelesen; // of Element_Add
-    float m_kf2 = 0; // 1/nm
+    mutable float m_kf2 = 0; // 1/nm
+    mutable bool m_kf2IsDue = false; // computed when it is read
     mutable Fermi m_lastFermi; // several quantities are made of it
 };
 
