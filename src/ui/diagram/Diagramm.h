@@ -62,6 +62,26 @@ public:
     /// The mouse has moved by that many pixels with its left button pressed.
     virtual bool dragged(const QPointF& /*way*/) { return false; }
     virtual bool wheelTurned(double /*notches*/) { return false; }
+
+    /// The same with the place of the mouse and the keys held down, for diagrams to which they matter.
+    virtual bool keyPressedWith(int key, Qt::KeyboardModifiers /*held*/, const Leinwand& leinwand)
+    {
+        return keyPressed(key, leinwand);
+    }
+    virtual bool draggedTo(const QPointF& /*position*/, const QPointF& way, const Leinwand&) { return dragged(way); }
+    virtual bool wheelTurnedAt(const QPointF& /*position*/, double notches, const Leinwand&)
+    {
+        return wheelTurned(notches);
+    }
+    /// The left button goes down and up, the mouse moves without it and leaves.
+    virtual void pressed(const QPointF& /*position*/) { }
+    virtual bool released(const Leinwand&) { return false; }
+    virtual bool hovered(const QPointF& /*position*/, const Leinwand&) { return false; }
+    virtual bool left() { return false; }
+
+    /// Another kind of diagram is shown from now on.
+    virtual void verlassen() { }
+
     virtual bool doubleClicked() { return false; }
 
     /// What the context menu offers for this diagram alone.

@@ -36,13 +36,26 @@ Diagrammflaeche::Diagrammflaeche(Programm& programm, Dialoge dialoge, QWidget* p
 
 void Diagrammflaeche::showDiagramm(Diagramm& diagramm, Qt::FocusPolicy focus)
 {
+    if (&diagramm != &m_meldung) { // which comes and goes while something is typed
+        if (m_gezeigt != nullptr && m_gezeigt != &diagramm)
+            m_gezeigt->verlassen();
+        m_gezeigt = &diagramm;
+    }
     m_diagramm = &diagramm;
     m_display->setVisible(&diagramm == &m_display->diagramm());
     setFocusPolicy(focus);
     m_dragging = false;
     setAccessibleDescription({});
-    emit positionChanged({});
+    emit positionChanged(diagramm.cursorText());
     update();
+}
+
+/// After a change of how the diagram is looked at.
+void Diagrammflaeche::updateDiagramm()
+{
+    update();
+    if (m_display->isVisible())
+        m_display->updateAll();
 }
 
 void Diagrammflaeche::showKonzentration()
@@ -143,7 +156,7 @@ void Diagrammflaeche::addCommands(QMenu& menu)
     for (const Diagramm::Command& command : m_diagramm->commands()) {
         QAction* const action = menu.addAction(command.text, this, [this, execute = command.execute] {
             execute();
-            update();
+            updateDiagramm();
             nenneAnsicht({});
             if (m_diagramm == &m_pse)
                 emit pseAnsichtChanged();
@@ -212,12 +225,15 @@ void Diagrammflaeche::mousePressEvent(QMouseEvent* event)
     m_dragging = true;
     ++m_drags;
     m_lastPosition = event->position();
+    m_diagramm->pressed(event->position());
 }
 
 void Diagrammflaeche::mouseReleaseEvent(QMouseEvent* event)
 {
     QWidget::mouseReleaseEvent(event);
     m_dragging = false;
+    if (event->button() == Qt::LeftButton && m_diagramm->released(leinwand()))
+        updateDiagramm();
 }
 
 void Diagrammflaeche::mouseDoubleClickEvent(QMouseEvent* event)
@@ -225,7 +241,7 @@ void Diagrammflaeche::mouseDoubleClickEvent(QMouseEvent* event)
     QWidget::mouseDoubleClickEvent(event);
     if (!m_diagramm->doubleClicked())
         return;
-    update();
+    updateDiagramm();
     nenneAnsicht({});
 }
 
@@ -235,21 +251,25 @@ void Diagrammflaeche::mouseMoveEvent(QMouseEvent* event)
     QWidget::mouseMoveEvent(event);
     const QPointF way = event->position() - m_lastPosition;
     m_lastPosition = event->position();
-    if (m_dragging && m_diagramm->dragged(way)) {
-        update();
+    m_dragging = m_dragging && event->buttons().testFlag(Qt::LeftButton);
+    if (m_dragging && m_diagramm->draggedTo(event->position(), way, leinwand())) {
+        updateDiagramm();
         nenneAnsicht(QStringLiteral("Maus %1").arg(m_drags));
-    } else {
-        emit positionChanged(m_diagramm->positionText(event->position(), leinwand()));
+        return;
     }
+    if (m_diagramm->hovered(event->position(), leinwand()))
+        updateDiagramm();
+    if (!m_display->isVisible()) // which has told it already
+        emit positionChanged(m_diagramm->positionText(event->position(), leinwand()));
 }
 
 void Diagrammflaeche::wheelEvent(QWheelEvent* event)
 {
     constexpr double Notch = 120; // eighths of a degree
-    if (!m_diagramm->wheelTurned(event->angleDelta().y() / Notch))
+    if (!m_diagramm->wheelTurnedAt(event->position(), event->angleDelta().y() / Notch, leinwand()))
         return QWidget::wheelEvent(event);
     event->accept();
-    update();
+    updateDiagramm();
     nenneAnsicht(QStringLiteral("Rad"));
 }
 
@@ -257,16 +277,18 @@ void Diagrammflaeche::leaveEvent(QEvent* event)
 {
     QWidget::leaveEvent(event);
     m_lastPosition = {-1, -1};
+    if (m_diagramm->left())
+        updateDiagramm();
     emit positionChanged({});
 }
 
 void Diagrammflaeche::keyPressEvent(QKeyEvent* event)
 {
-    if (!m_diagramm->keyPressed(event->key(), leinwand()))
+    if (!m_diagramm->keyPressedWith(event->key(), event->modifiers(), leinwand()))
         return QWidget::keyPressEvent(event);
     if (const QString text = m_diagramm->cursorText(); !text.isEmpty())
         emit positionChanged(text);
-    update();
+    updateDiagramm();
     nenneAnsicht(QStringLiteral("Tasten"));
 }
 

@@ -90,6 +90,7 @@ private:
     Leinwand leinwand() const { return leinwandOf(*this); }
     void showDiagramm(Diagramm& diagramm, Qt::FocusPolicy focus);
     void placeDisplay();
+    void updateDiagramm();
     void addCommands(QMenu& menu);
     void addOutputs(QMenu& menu);
     void nenneAnsicht(const QString& geste);
@@ -102,6 +103,7 @@ private:
     Ternaerdiagramm m_ternaer; // keeps its view from grid to grid
     Diagrammmeldung m_meldung;
     Diagramm* m_diagramm = &m_meldung; // what is shown
+    Diagramm* m_gezeigt = nullptr; // the diagram that was shown last
     bool m_dragging = false;
     int m_drags = 0; // since the start
     QPointF m_lastPosition{-1, -1}; // of the mouse; outside while it is elsewhere

@@ -2,14 +2,11 @@
 
 #include <QPainter>
 
-#include <algorithm>
 #include <limits>
 #include <utility>
 
 #include "core/Unbekannt.h"
-#include "core/Zahlentext.h"
 #include "ui/diagram/Bildausgabe.h"
-#include "ui/platform/Farben.h"
 
 namespace zerna {
 
@@ -70,6 +67,9 @@ Kurvenbild Konzentrationsdiagramm::seriesOnly() const
 
 void Konzentrationsdiagramm::setSymbol(std::string symbol)
 {
+    if (symbol == m_symbol)
+        return;
+    beginneNeu();
     m_symbol = std::move(symbol);
     setXEinheit("at% " + m_symbol);
 }
@@ -150,16 +150,6 @@ void Konzentrationsdiagramm::paintGiven(QPainter& painter, const QSize& plot) co
     paintStriche(painter, m_striche, abbildung, Raster::Pixel);
 }
 
-void Konzentrationsdiagramm::paintCursor(QPainter& painter, const Leinwand& leinwand) const
-{
-    const QRect area = plot(leinwand);
-    if (m_cursor < 0 || !m_y || area.isEmpty())
-        return;
-    const double column = area.left() + zeichnung(leinwand).layout.links.punkt(m_cursor, 0).x + 0.5;
-    painter.setPen(QPen(Cursorfarbe, 1, Qt::DashLine));
-    painter.drawLine(QPointF(column, area.top()), QPointF(column, area.top() + area.height()));
-}
-
 std::string Konzentrationsdiagramm::values(int schritt) const
 {
     return reihendatei(m_symbol, m_einheit, m_reihe, schritt);
@@ -178,51 +168,5 @@ std::vector<Exportart> Konzentrationsdiagramm::exportarten(const Leinwand& leinw
     return {datDatei(text),
         bitmap(plotOnly, {plot(leinwand).size(), leinwand.font, leinwand.devicePixelRatio, leinwand.stil})};
 }
-
-QString Konzentrationsdiagramm::positionText(const QPointF& position, const Leinwand& leinwand) const
-{
-    const QRect area = plot(leinwand);
-    const QPointF inPlot = position - area.topLeft();
-    if (!m_y || !QRectF(QPointF(0, 0), area.size()).contains(inPlot))
-        return {};
-    const Abbildung& abbildung = zeichnung(leinwand).layout.links;
-    return text(abbildung.x(inPlot.x()), abbildung.y(inPlot.y()));
-}
-
-QString Konzentrationsdiagramm::text(double x, double y) const
-{
-    return toQt(fixedText(x, 2) + " at% " + m_symbol + " - " + FormatValue(static_cast<float>(y), m_einheit));
-}
-
-QString Konzentrationsdiagramm::cursorText() const
-{
-    return m_cursor < 0 ? QString() : text(m_cursor, m_reihe.at(static_cast<std::size_t>(m_cursor)));
-}
-
-bool Konzentrationsdiagramm::keyPressed(int key, const Leinwand&)
-{
-    if (!m_y)
-        return false;
-    switch (key) {
-    case Qt::Key_Left:
-        moveCursor(m_cursor - 1);
-        return true;
-    case Qt::Key_Right:
-        moveCursor(m_cursor + 1);
-        return true;
-    case Qt::Key_Home:
-        moveCursor(0);
-        return true;
-    case Qt::Key_End:
-        moveCursor(100);
-        return true;
-    default:
-        return false;
-    }
-}
-
-void Konzentrationsdiagramm::moveCursor(int prozent) { m_cursor = std::clamp(prozent, 0, 100); }
-
-void Konzentrationsdiagramm::clearCursor() { m_cursor = -1; }
 
 } // namespace zerna

@@ -50,7 +50,6 @@ public:
     bool hasAxes() const { return m_y.has_value(); }
 
     void paintPlot(QPainter& painter, const Leinwand& leinwand) const override;
-    void paintCursor(QPainter& painter, const Leinwand& leinwand) const override;
 
     std::string values() const override { return values(1); }
 
@@ -59,17 +58,10 @@ public:
 
     std::vector<Exportart> exportarten(const Leinwand& leinwand) const override;
 
-    QString positionText(const QPointF& position, const Leinwand& leinwand) const override;
-    QString cursorText() const override;
-    bool keyPressed(int key, const Leinwand& leinwand) override;
-    void clearCursor() override;
-
 private:
     Kurvenbild seriesOnly() const;
     void paintGiven(QPainter& painter, const QSize& plot) const;
     void paintFault(QPainter& painter, const Leinwand& leinwand) const;
-    void moveCursor(int prozent);
-    QString text(double x, double y) const;
 
     Schrittfrage m_schrittfrage;
     Reihe m_reihe{};
@@ -79,7 +71,6 @@ private:
     bool m_fehler = false; // the error display is shown
     std::vector<Strichzug> m_hintergrund; // beside the series
     std::vector<Strichzug> m_striche;
-    int m_cursor = -1; // at% of the keyboard cursor, -1 for none
 };
 
 } // namespace zerna

@@ -2,7 +2,10 @@
 
 #include <QPainter>
 
+#include <cmath>
 #include <utility>
+
+#include "ui/platform/Farben.h"
 
 namespace zerna {
 
@@ -21,11 +24,20 @@ void Kurvendiagramm::setBild(Kurvenbild bild)
     m_bild = std::move(bild);
     m_hatBild = true;
     ++m_stand;
+    m_ansicht.passeAn(m_bild);
+}
+
+void Kurvendiagramm::beginneNeu()
+{
+    m_ansicht = {};
+    m_band.reset();
 }
 
 const Kurvenzeichnung& Kurvendiagramm::zeichnung(const Leinwand& leinwand) const
 {
-    return m_zeichnung.get({leinwand, m_stand}, [&] { return kurvenzeichnung(m_bild, leinwand); });
+    const auto& ausschnitt = m_ansicht.ausschnitt();
+    return m_zeichnung.get(
+        {leinwand, m_stand, ausschnitt}, [&] { return kurvenzeichnung(m_bild, leinwand, ausschnitt); });
 }
 
 QRect Kurvendiagramm::kern(const Leinwand& leinwand) const
@@ -63,6 +75,161 @@ void Kurvendiagramm::paint(QPainter& painter, const Leinwand& leinwand) const
     paintRand(painter, leinwand);
     paintAchsen(painter, leinwand);
     paintPlot(painter, leinwand);
+}
+
+void Kurvendiagramm::paintCursor(QPainter& painter, const Leinwand& leinwand) const
+{
+    constexpr double Ring = 4;
+    if (!m_hatBild)
+        return;
+    const QRect area = plot(leinwand);
+    painter.save();
+    painter.setClipRect(area, Qt::IntersectClip);
+    if (const auto& kreuz = m_ansicht.kreuz()) {
+        const Kurvenlayout& layout = zeichnung(leinwand).layout;
+        const bool isRight = m_bild.kurven.at(kreuz->kurve).rechts;
+        const Punkt place = (isRight ? layout.rechts : layout.links).punkt(kreuz->x, kreuz->y);
+        const QPointF middle(area.left() + place.x + 0.5, area.top() + place.y + 0.5);
+        painter.setPen(QPen(Cursorfarbe, 1, Qt::DashLine));
+        painter.drawLine(QPointF(middle.x(), area.top()), QPointF(middle.x(), area.top() + area.height()));
+        if (std::isfinite(place.y)) {
+            painter.drawLine(QPointF(area.left(), middle.y()), QPointF(area.left() + area.width(), middle.y()));
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.setPen(QPen(Cursorfarbe, 1.5));
+            painter.drawEllipse(middle, Ring, Ring);
+        }
+    }
+    if (m_band) {
+        painter.setPen(QPen(Cursorfarbe, 1));
+        painter.fillRect(*m_band, QColor(Cursorfarbe.red(), Cursorfarbe.green(), Cursorfarbe.blue(), 30));
+        painter.drawRect(*m_band);
+    }
+    painter.restore();
+}
+
+/// A position from the plot's corner.
+Punkt Kurvendiagramm::inPlot(const QPointF& position, const Leinwand& leinwand) const
+{
+    const QPointF place = position - plot(leinwand).topLeft();
+    return {place.x(), place.y()};
+}
+
+QString Kurvendiagramm::positionText(const QPointF& position, const Leinwand& leinwand) const
+{
+    if (!m_hatBild || !plot(leinwand).contains(position.toPoint()))
+        return {};
+    const Kurvenlayout& layout = zeichnung(leinwand).layout;
+    const auto punkt = punktBei(m_bild, layout, inPlot(position, leinwand));
+    return punkt ? toQt(ablesung(m_bild, *punkt, layout.ausschnitt.x)) : QString();
+}
+
+QString Kurvendiagramm::cursorText() const
+{
+    const auto& kreuz = m_ansicht.kreuz();
+    if (!m_hatBild || !kreuz)
+        return {};
+    return toQt(ablesung(m_bild, *kreuz, m_ansicht.ausschnitt().value_or(ganzerAusschnitt(m_bild)).x));
+}
+
+bool Kurvendiagramm::keyPressedWith(int key, Qt::KeyboardModifiers held, const Leinwand& leinwand)
+{
+    constexpr int Far = 10;
+    if (!m_hatBild || zeichnung(leinwand).layout.istLeer())
+        return false;
+    m_kreuzDerMaus = false;
+    return zoomed(key, leinwand) || moved(key, held & (Qt::ShiftModifier | Qt::ControlModifier) ? Far : 1, leinwand);
+}
+
+/// Whether it is a key that zooms.
+bool Kurvendiagramm::zoomed(int key, const Leinwand& leinwand)
+{
+    const Kurvenlayout& layout = zeichnung(leinwand).layout;
+    const auto around = [&](double notches) {
+        const auto& kreuz = m_ansicht.kreuz();
+        const Punkt middle{layout.plot.width / 2, layout.plot.height / 2};
+        const bool isLeft = kreuz && !m_bild.kurven.at(kreuz->kurve).rechts && std::isfinite(kreuz->y);
+        m_ansicht.zoome(m_bild, layout, isLeft ? layout.links.punkt(kreuz->x, kreuz->y) : middle, notches);
+        return true;
+    };
+    switch (key) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal: // the same key without shift on some keyboards
+        return around(1);
+    case Qt::Key_Minus:
+        return around(-1);
+    case Qt::Key_0:
+    case Qt::Key_Escape:
+        return m_ansicht.zeigeGanz();
+    default:
+        return false;
+    }
+}
+
+/// Whether it is a key that moves the crosshair.
+bool Kurvendiagramm::moved(int key, int step, const Leinwand& leinwand)
+{
+    const Kurvenlayout& layout = zeichnung(leinwand).layout;
+    switch (key) {
+    case Qt::Key_Left:
+        return m_ansicht.gehe(m_bild, layout, -step);
+    case Qt::Key_Right:
+        return m_ansicht.gehe(m_bild, layout, step);
+    case Qt::Key_Home:
+        return m_ansicht.geheAnsEnde(m_bild, layout, false);
+    case Qt::Key_End:
+        return m_ansicht.geheAnsEnde(m_bild, layout, true);
+    case Qt::Key_Down:
+        return m_ansicht.wechsle(m_bild, layout, 1);
+    case Qt::Key_Up:
+        return m_ansicht.wechsle(m_bild, layout, -1);
+    default:
+        return false;
+    }
+}
+
+bool Kurvendiagramm::draggedTo(const QPointF& position, const QPointF&, const Leinwand& leinwand)
+{
+    if (!m_hatBild || !plot(leinwand).contains(m_druckstelle.toPoint()))
+        return false;
+    m_band = QRectF(m_druckstelle, position).normalized();
+    m_ansicht.ohneKreuz();
+    return true;
+}
+
+bool Kurvendiagramm::released(const Leinwand& leinwand)
+{
+    const auto band = std::exchange(m_band, std::nullopt);
+    if (!band || !m_hatBild)
+        return false;
+    m_ansicht.zoomeAuf(
+        m_bild, zeichnung(leinwand).layout, inPlot(band->topLeft(), leinwand), inPlot(band->bottomRight(), leinwand));
+    return true;
+}
+
+bool Kurvendiagramm::hovered(const QPointF& position, const Leinwand& leinwand)
+{
+    if (!m_hatBild || !plot(leinwand).contains(position.toPoint()))
+        return left();
+    m_ansicht.zeigeAuf(m_bild, zeichnung(leinwand).layout, inPlot(position, leinwand));
+    m_kreuzDerMaus = true;
+    return true;
+}
+
+bool Kurvendiagramm::left() { return m_kreuzDerMaus && m_ansicht.ohneKreuz(); }
+
+bool Kurvendiagramm::wheelTurnedAt(const QPointF& position, double notches, const Leinwand& leinwand)
+{
+    if (!m_hatBild || notches == 0)
+        return false;
+    m_ansicht.zoome(m_bild, zeichnung(leinwand).layout, inPlot(position, leinwand), notches);
+    return true;
+}
+
+std::vector<Diagramm::Command> Kurvendiagramm::commands()
+{
+    if (!m_hatBild || !m_ansicht.ausschnitt())
+        return {};
+    return {{QStringLiteral("Ausschnitt aufheben"), [this] { m_ansicht.zeigeGanz(); }}};
 }
 
 } // namespace zerna

@@ -1,19 +1,27 @@
 #pragma once
 
+#include <QRectF>
+
+#include <optional>
 #include <string>
 #include <utility>
 
+#include "bild/Kurvenansicht.h"
 #include "ui/diagram/Diagramm.h"
 #include "ui/diagram/Kurvenmaler.h"
 #include "ui/diagram/LastResult.h"
 
 namespace zerna {
 
-/// A diagram that shows a picture of curves. Without a picture it is white.
+/// A diagram that shows a picture of curves; without a picture it is white. Wheel, rubber band and keys zoom, a
+/// crosshair runs along the curves. What is zoomed to stays while only the values change.
 class Kurvendiagramm : public Diagramm {
 public:
     void setBild(Kurvenbild bild);
     void ohneBild() { m_hatBild = false; }
+
+    /// Shows the whole picture again, without a crosshair: for a picture of something else.
+    void beginneNeu();
     bool hatBild() const { return m_hatBild; }
     const Kurvenbild& bild() const { return m_bild; }
 
@@ -28,6 +36,24 @@ public:
 
     void paint(QPainter& painter, const Leinwand& leinwand) const override;
 
+    /// Paints crosshair and rubber band.
+    void paintCursor(QPainter& painter, const Leinwand& leinwand) const override;
+
+    QString positionText(const QPointF& position, const Leinwand& leinwand) const override;
+    QString cursorText() const override;
+    bool keyPressed(int key, const Leinwand& leinwand) override { return keyPressedWith(key, {}, leinwand); }
+    bool keyPressedWith(int key, Qt::KeyboardModifiers held, const Leinwand& leinwand) override;
+    void clearCursor() override { m_ansicht.ohneKreuz(); }
+    void pressed(const QPointF& position) override { m_druckstelle = position; }
+    bool draggedTo(const QPointF& position, const QPointF& way, const Leinwand& leinwand) override;
+    bool released(const Leinwand& leinwand) override;
+    bool hovered(const QPointF& position, const Leinwand& leinwand) override;
+    bool left() override;
+    bool wheelTurnedAt(const QPointF& position, double notches, const Leinwand& leinwand) override;
+    bool doubleClicked() override { return m_ansicht.zeigeGanz(); }
+    void verlassen() override { beginneNeu(); }
+    std::vector<Command> commands() override;
+
 protected:
     /// For the part of the axes that is shown.
     const Kurvenzeichnung& zeichnung(const Leinwand& leinwand) const;
@@ -38,12 +64,21 @@ private:
     struct Grundlage {
         Leinwand leinwand;
         int stand = 0;
+        std::optional<Ausschnitt> ausschnitt;
         bool operator==(const Grundlage&) const = default;
     };
+
+    Punkt inPlot(const QPointF& position, const Leinwand& leinwand) const;
+    bool zoomed(int key, const Leinwand& leinwand);
+    bool moved(int key, int step, const Leinwand& leinwand);
 
     Kurvenbild m_bild;
     bool m_hatBild = false;
     int m_stand = 0; // of the picture, counted up
+    Kurvenansicht m_ansicht;
+    QPointF m_druckstelle; // where the left button went down
+    std::optional<QRectF> m_band; // the rubber band, on the canvas
+    bool m_kreuzDerMaus = false; // the crosshair follows the mouse
     LastResult<Grundlage, Kurvenzeichnung> m_zeichnung;
 };
 

@@ -21,7 +21,8 @@ void Plotflaeche::leaveEvent(QEvent* event)
 
 void Plotflaeche::mouseMoveEvent(QMouseEvent* event)
 {
-    emit mouseMoved(event->position()); // and no further: the diagram area would read its own position out
+    emit mouseMoved(event->position());
+    event->ignore(); // the diagram area moves the crosshair
 }
 
 void Plotflaeche::paintEvent(QPaintEvent*)

@@ -1,7 +1,6 @@
 #include "ui/diagram/conDisplay.h"
 
 #include <QFocusEvent>
-#include <QKeyEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -33,6 +32,7 @@ conDisplay::conDisplay(Programm& programm, Dialoge dialoge, QWidget* parent)
     , m_diagramm([this] { return askSchritt(); })
 {
     setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true); // of the plot, on the way to the widget around it
     setAttribute(Qt::WA_OpaquePaintEvent);
     m_pic = new Plotflaeche(
         [this](QPainter& painter) {
@@ -102,7 +102,10 @@ void conDisplay::Zeichne_Diagramm_2D(int groesse, int variable)
 {
     if (!m_bereit)
         return;
+    if (variable != m_variable || groesse != m_groesse)
+        m_diagramm.beginneNeu();
     m_variable = variable;
+    m_groesse = groesse;
     const bool known = findReihengroesse(groesse) != nullptr;
     const Reihe reihe = known ? computeSeries(groesse) : m_diagramm.reihe();
     if (known)
@@ -175,14 +178,6 @@ void conDisplay::placePlot()
 void conDisplay::updateAll()
 {
     update();
-    m_pic->update();
-}
-
-void conDisplay::keyPressEvent(QKeyEvent* event)
-{
-    if (!m_diagramm.keyPressed(event->key(), leinwand()))
-        return QWidget::keyPressEvent(event);
-    emit PositionInfo(m_diagramm.cursorText());
     m_pic->update();
 }
 

@@ -20,7 +20,7 @@ class Plotflaeche;
 /// the curve on the surface `pic` inside it. What was drawn last stays and is laid out anew on resize.
 ///
 /// Set the components with Element_Add, then draw. Errors of the series and of the axes reach the caller of the drawing
-/// operations, and what was drawn before stays.
+/// operations, and what was drawn before stays. Keys and mouse are left to the widget that it lies in.
 class conDisplay : public QWidget {
     Q_OBJECT
 
@@ -80,6 +80,9 @@ public:
     /// What is shown, to be painted and saved elsewhere.
     Konzentrationsdiagramm& diagramm() { return m_diagramm; }
 
+    /// Paints anew after a change of how the diagram is looked at.
+    void updateAll();
+
     /// The saved file's content for a step width.
     std::string values(int schritt) const { return m_diagramm.values(schritt); }
 
@@ -90,7 +93,6 @@ signals:
 
 protected:
     void focusOutEvent(QFocusEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
@@ -109,7 +111,6 @@ private:
     void drawSeries(const Reihe& reihe);
     Legierung components() const;
     std::optional<int> askSchritt() const;
-    void updateAll();
 
     Programm& m_programm;
     Dialoge m_dialoge;
@@ -118,6 +119,7 @@ private:
     std::array<Platz, MaxKomponenten> m_komponenten;
     QMargins m_rand;
     int m_variable = 0;
+    int m_groesse = -1; // drawn last
     bool m_bereit = false;
     std::array<float, MaxKomponenten> m_dichtefelder{};
 };

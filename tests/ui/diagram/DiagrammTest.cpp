@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 
 #include "core/Unbekannt.h"
@@ -96,18 +97,19 @@ QImage withCursor(const Diagramm& diagramm)
     return imageOf(maler, Flaeche);
 }
 
-/// The middle column of what the cursor has painted over.
+/// The middle column of the upright line that the cursor has painted.
 int cursorColumn(const QImage& without, const QImage& with)
 {
-    int left = with.width();
-    int right = -1;
+    std::vector<int> changed;
     for (int x = 0; x < with.width(); ++x) {
-        if (without.copy(x, 0, 1, with.height()) != with.copy(x, 0, 1, with.height())) {
-            left = std::min(left, x);
-            right = x;
-        }
+        changed.push_back(0);
+        for (int y = 0; y < with.height(); ++y)
+            changed.back() += without.pixel(x, y) != with.pixel(x, y) ? 1 : 0;
     }
-    return (left + right) / 2;
+    const auto isLine = [most = *std::ranges::max_element(changed)](int count) { return 2 * count > most; };
+    const auto left = std::ranges::find_if(changed, isLine) - changed.begin();
+    const auto right = std::find_if(changed.rbegin(), changed.rend(), isLine).base() - changed.begin() - 1;
+    return static_cast<int>((left + right) / 2);
 }
 
 /// The middle row of the curve in a column.
