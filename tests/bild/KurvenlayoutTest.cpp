@@ -118,6 +118,23 @@ TEST(KurvenlayoutTest, AxesKeepTheGivenPlacesInsideTheStrips)
     EXPECT_TRUE(tiny.texte.size() <= 10 && tiny.legende.empty()) << "strips only where there is room for them";
 }
 
+TEST(KurvenlayoutTest, LabelsTooWideForTheirStripBreakBeforeTheyShrink)
+{
+    const auto first = [](const Bereich& y, double height, const Schriftmasse& letters) {
+        return layOut(achsenbild({"", {0, 100}}, {"", y}), 460, height, {}, letters).kerntexte.front();
+    };
+    const Textstelle broken = first({-3.46e-11, -1.02e-11}, 330, masse);
+    EXPECT_EQ(broken.text, "-3,46\nE-11");
+    EXPECT_EQ(broken.schrift.grad, 1);
+    EXPECT_EQ(broken.box.top, 300 - Size) << "around its tick";
+    EXPECT_EQ(first({0, 9}, 330, masse).text, "0,000");
+    const auto large = [](const Schrift& schrift) {
+        const Textmasse normal = masse(schrift);
+        return Textmasse{[normal](std::string_view text) { return 2 * normal.width(text); }, normal.height};
+    };
+    EXPECT_LT(first({-3.46e-11, -1.02e-11}, 330, large).schrift.grad, 0.7) << "the last resort";
+}
+
 TEST(KurvenlayoutTest, RoundLabelsHaveTheirPowerOfTenInTheTitle)
 {
     Kurvenbild bild = achsenbild({"Al [at%]", {0, 100}}, {"R_H [m³/As]", {-3.46e-11, -1.02e-11}});
