@@ -118,7 +118,7 @@ void Konzentrationsdiagramm::paintPlot(QPainter& painter, const Leinwand& leinwa
     painter.save();
     painter.setClipRect(area, Qt::IntersectClip);
     painter.translate(area.topLeft());
-    const Abbildung& abbildung = zeichnung(leinwand).layout.links;
+    const Abbildung& abbildung = layout(leinwand).links;
     paintStriche(painter, m_hintergrund, abbildung, Raster::Keines);
     paintStriche(painter, m_striche, abbildung, Raster::Keines);
     painter.restore();

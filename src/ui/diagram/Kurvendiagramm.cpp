@@ -24,6 +24,7 @@ void Kurvendiagramm::setBild(Kurvenbild bild)
     m_bild = std::move(bild);
     m_hatBild = true;
     ++m_stand;
+    ++m_kurvenstand;
     m_ansicht.passeAn(m_bild);
 }
 
@@ -33,40 +34,47 @@ void Kurvendiagramm::beginneNeu()
     m_band.reset();
 }
 
-const Kurvenzeichnung& Kurvendiagramm::zeichnung(const Leinwand& leinwand) const
+const Kurvenlayout& Kurvendiagramm::layout(const Leinwand& leinwand) const
 {
     const auto& ausschnitt = m_ansicht.ausschnitt();
-    return m_zeichnung.get(
-        {leinwand, m_stand, ausschnitt}, [&] { return kurvenzeichnung(m_bild, leinwand, ausschnitt); });
+    return m_layout.get({leinwand, m_stand, ausschnitt}, [&] { return kurvenlayout(m_bild, leinwand, ausschnitt); });
+}
+
+/// A million points are thinned out again only when they are seen otherwise, not for every text beside them.
+const std::vector<Kurvenbahn>& Kurvendiagramm::bahnen(const Kurvenlayout& layout) const
+{
+    return m_bahnen.get({m_kurvenstand, layout.plot.width, layout.plot.height, layout.ausschnitt},
+        [&] { return kurvenbahnen(m_bild, layout); });
 }
 
 QRect Kurvendiagramm::kern(const Leinwand& leinwand) const
 {
-    return m_hatBild ? rectOf(zeichnung(leinwand).layout.kern) : QRect(QPoint(0, 0), leinwand.size);
+    return m_hatBild ? rectOf(layout(leinwand).kern) : QRect(QPoint(0, 0), leinwand.size);
 }
 
 QRect Kurvendiagramm::plot(const Leinwand& leinwand) const
 {
-    return rectOf(
-        m_hatBild ? zeichnung(leinwand).layout.plot : plotArea(leinwand.size.width(), leinwand.size.height()));
+    return rectOf(m_hatBild ? layout(leinwand).plot : plotArea(leinwand.size.width(), leinwand.size.height()));
 }
 
 void Kurvendiagramm::paintRand(QPainter& painter, const Leinwand& leinwand) const
 {
     if (m_hatBild)
-        zerna::paintRand(painter, m_bild, zeichnung(leinwand), leinwand);
+        zerna::paintRand(painter, m_bild, layout(leinwand), leinwand);
 }
 
 void Kurvendiagramm::paintAchsen(QPainter& painter, const Leinwand& leinwand) const
 {
     if (m_hatBild)
-        zerna::paintAchsen(painter, zeichnung(leinwand), leinwand);
+        zerna::paintAchsen(painter, layout(leinwand), leinwand);
 }
 
 void Kurvendiagramm::paintPlot(QPainter& painter, const Leinwand& leinwand) const
 {
-    if (m_hatBild)
-        zerna::paintPlot(painter, m_bild, zeichnung(leinwand), leinwand);
+    if (!m_hatBild)
+        return;
+    const Kurvenlayout& places = layout(leinwand);
+    zerna::paintPlot(painter, m_bild, places, bahnen(places), leinwand);
 }
 
 void Kurvendiagramm::paint(QPainter& painter, const Leinwand& leinwand) const
@@ -86,9 +94,9 @@ void Kurvendiagramm::paintCursor(QPainter& painter, const Leinwand& leinwand) co
     painter.save();
     painter.setClipRect(area, Qt::IntersectClip);
     if (const auto& kreuz = m_ansicht.kreuz()) {
-        const Kurvenlayout& layout = zeichnung(leinwand).layout;
+        const Kurvenlayout& places = layout(leinwand);
         const bool isRight = m_bild.kurven.at(kreuz->kurve).rechts;
-        const Punkt place = (isRight ? layout.rechts : layout.links).punkt(kreuz->x, kreuz->y);
+        const Punkt place = (isRight ? places.rechts : places.links).punkt(kreuz->x, kreuz->y);
         const QPointF middle(area.left() + place.x + 0.5, area.top() + place.y + 0.5);
         painter.setPen(QPen(Cursorfarbe, 1, Qt::DashLine));
         painter.drawLine(QPointF(middle.x(), area.top()), QPointF(middle.x(), area.top() + area.height()));
@@ -118,9 +126,9 @@ QString Kurvendiagramm::positionText(const QPointF& position, const Leinwand& le
 {
     if (!m_hatBild || !plot(leinwand).contains(position.toPoint()))
         return {};
-    const Kurvenlayout& layout = zeichnung(leinwand).layout;
-    const auto punkt = punktBei(m_bild, layout, inPlot(position, leinwand));
-    return punkt ? toQt(ablesung(m_bild, *punkt, layout.ausschnitt.x)) : QString();
+    const Kurvenlayout& places = layout(leinwand);
+    const auto punkt = punktBei(m_bild, places, inPlot(position, leinwand));
+    return punkt ? toQt(ablesung(m_bild, *punkt, places.ausschnitt.x)) : QString();
 }
 
 QString Kurvendiagramm::cursorText() const
@@ -134,7 +142,7 @@ QString Kurvendiagramm::cursorText() const
 bool Kurvendiagramm::keyPressedWith(int key, Qt::KeyboardModifiers held, const Leinwand& leinwand)
 {
     constexpr int Far = 10;
-    if (!m_hatBild || zeichnung(leinwand).layout.istLeer())
+    if (!m_hatBild || layout(leinwand).istLeer())
         return false;
     m_kreuzDerMaus = false;
     return zoomed(key, leinwand) || moved(key, held & (Qt::ShiftModifier | Qt::ControlModifier) ? Far : 1, leinwand);
@@ -143,12 +151,12 @@ bool Kurvendiagramm::keyPressedWith(int key, Qt::KeyboardModifiers held, const L
 /// Whether it is a key that zooms.
 bool Kurvendiagramm::zoomed(int key, const Leinwand& leinwand)
 {
-    const Kurvenlayout& layout = zeichnung(leinwand).layout;
+    const Kurvenlayout& places = layout(leinwand);
     const auto around = [&](double notches) {
         const auto& kreuz = m_ansicht.kreuz();
-        const Punkt middle{layout.plot.width / 2, layout.plot.height / 2};
+        const Punkt middle{places.plot.width / 2, places.plot.height / 2};
         const bool isLeft = kreuz && !m_bild.kurven.at(kreuz->kurve).rechts && std::isfinite(kreuz->y);
-        m_ansicht.zoome(m_bild, layout, isLeft ? layout.links.punkt(kreuz->x, kreuz->y) : middle, notches);
+        m_ansicht.zoome(m_bild, places, isLeft ? places.links.punkt(kreuz->x, kreuz->y) : middle, notches);
         return true;
     };
     switch (key) {
@@ -168,20 +176,20 @@ bool Kurvendiagramm::zoomed(int key, const Leinwand& leinwand)
 /// Whether it is a key that moves the crosshair.
 bool Kurvendiagramm::moved(int key, int step, const Leinwand& leinwand)
 {
-    const Kurvenlayout& layout = zeichnung(leinwand).layout;
+    const Kurvenlayout& places = layout(leinwand);
     switch (key) {
     case Qt::Key_Left:
-        return m_ansicht.gehe(m_bild, layout, -step);
+        return m_ansicht.gehe(m_bild, places, -step);
     case Qt::Key_Right:
-        return m_ansicht.gehe(m_bild, layout, step);
+        return m_ansicht.gehe(m_bild, places, step);
     case Qt::Key_Home:
-        return m_ansicht.geheAnsEnde(m_bild, layout, false);
+        return m_ansicht.geheAnsEnde(m_bild, places, false);
     case Qt::Key_End:
-        return m_ansicht.geheAnsEnde(m_bild, layout, true);
+        return m_ansicht.geheAnsEnde(m_bild, places, true);
     case Qt::Key_Down:
-        return m_ansicht.wechsle(m_bild, layout, 1);
+        return m_ansicht.wechsle(m_bild, places, 1);
     case Qt::Key_Up:
-        return m_ansicht.wechsle(m_bild, layout, -1);
+        return m_ansicht.wechsle(m_bild, places, -1);
     default:
         return false;
     }
@@ -202,7 +210,7 @@ bool Kurvendiagramm::released(const Leinwand& leinwand)
     if (!band || !m_hatBild)
         return false;
     m_ansicht.zoomeAuf(
-        m_bild, zeichnung(leinwand).layout, inPlot(band->topLeft(), leinwand), inPlot(band->bottomRight(), leinwand));
+        m_bild, layout(leinwand), inPlot(band->topLeft(), leinwand), inPlot(band->bottomRight(), leinwand));
     return true;
 }
 
@@ -210,7 +218,7 @@ bool Kurvendiagramm::hovered(const QPointF& position, const Leinwand& leinwand)
 {
     if (!m_hatBild || !plot(leinwand).contains(position.toPoint()))
         return left();
-    m_ansicht.zeigeAuf(m_bild, zeichnung(leinwand).layout, inPlot(position, leinwand));
+    m_ansicht.zeigeAuf(m_bild, layout(leinwand), inPlot(position, leinwand));
     m_kreuzDerMaus = true;
     return true;
 }
@@ -221,7 +229,7 @@ bool Kurvendiagramm::wheelTurnedAt(const QPointF& position, double notches, cons
 {
     if (!m_hatBild || notches == 0)
         return false;
-    m_ansicht.zoome(m_bild, zeichnung(leinwand).layout, inPlot(position, leinwand), notches);
+    m_ansicht.zoome(m_bild, layout(leinwand), inPlot(position, leinwand), notches);
     return true;
 }
 

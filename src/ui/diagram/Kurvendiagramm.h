@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "bild/Kurvenansicht.h"
 #include "ui/diagram/Diagramm.h"
@@ -56,18 +57,26 @@ public:
 
 protected:
     /// For the part of the axes that is shown.
-    const Kurvenzeichnung& zeichnung(const Leinwand& leinwand) const;
+    const Kurvenlayout& layout(const Leinwand& leinwand) const;
     void setXEinheit(std::string einheit) { m_bild.x.einheit = std::move(einheit); }
 
 private:
-    /// What a drawing depends on.
+    /// What a layout depends on, and what the curves in it.
     struct Grundlage {
         Leinwand leinwand;
         int stand = 0;
         std::optional<Ausschnitt> ausschnitt;
         bool operator==(const Grundlage&) const = default;
     };
+    struct Kurvengrundlage {
+        int stand = 0;
+        double width = 0;
+        double height = 0;
+        Ausschnitt ausschnitt;
+        bool operator==(const Kurvengrundlage&) const = default;
+    };
 
+    const std::vector<Kurvenbahn>& bahnen(const Kurvenlayout& layout) const;
     Punkt inPlot(const QPointF& position, const Leinwand& leinwand) const;
     bool zoomed(int key, const Leinwand& leinwand);
     bool moved(int key, int step, const Leinwand& leinwand);
@@ -75,11 +84,13 @@ private:
     Kurvenbild m_bild;
     bool m_hatBild = false;
     int m_stand = 0; // of the picture, counted up
+    int m_kurvenstand = 0; // of its curves
     Kurvenansicht m_ansicht;
     QPointF m_druckstelle; // where the left button went down
     std::optional<QRectF> m_band; // the rubber band, on the canvas
     bool m_kreuzDerMaus = false; // the crosshair follows the mouse
-    LastResult<Grundlage, Kurvenzeichnung> m_zeichnung;
+    LastResult<Grundlage, Kurvenlayout> m_layout;
+    LastResult<Kurvengrundlage, std::vector<Kurvenbahn>> m_bahnen;
 };
 
 } // namespace zerna

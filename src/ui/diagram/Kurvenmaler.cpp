@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "bild/Ausduennung.h"
 #include "ui/platform/Farben.h"
@@ -178,9 +179,8 @@ void paintTexts(QPainter& painter, const std::vector<Textstelle>& texte, const Q
     }
 }
 
-void paintMarks(QPainter& painter, const Kurvenbild& bild, const Kurvenzeichnung& zeichnung, const Leinwand& leinwand)
+void paintMarks(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& layout, const Leinwand& leinwand)
 {
-    const Kurvenlayout& layout = zeichnung.layout;
     for (const Linienmarke& marke : bild.marken) {
         const double column = layout.links.punkt(marke.x, 0).x + PixelCentre;
         if (column < 0 || column > layout.plot.width + 1)
@@ -197,22 +197,30 @@ Schriftmasse schriftmasse(const QFont& font)
     return [font](const Schrift& schrift) { return textmasse(fontOf(font, schrift)); };
 }
 
+Kurvenlayout kurvenlayout(const Kurvenbild& bild, const Leinwand& leinwand, const std::optional<Ausschnitt>& ausschnitt)
+{
+    return layOut(
+        bild, leinwand.size.width(), leinwand.size.height(), leinwand.stil, schriftmasse(leinwand.font), ausschnitt);
+}
+
+std::vector<Kurvenbahn> kurvenbahnen(const Kurvenbild& bild, const Kurvenlayout& layout)
+{
+    std::vector<Kurvenbahn> bahnen(bild.kurven.size());
+    if (!layout.istLeer())
+        std::ranges::transform(bild.kurven, bahnen.begin(), [&](const Kurve& kurve) { return bahnOf(kurve, layout); });
+    return bahnen;
+}
+
 Kurvenzeichnung kurvenzeichnung(
     const Kurvenbild& bild, const Leinwand& leinwand, const std::optional<Ausschnitt>& ausschnitt)
 {
-    Kurvenzeichnung zeichnung;
-    zeichnung.layout = layOut(
-        bild, leinwand.size.width(), leinwand.size.height(), leinwand.stil, schriftmasse(leinwand.font), ausschnitt);
-    zeichnung.bahnen.resize(bild.kurven.size());
-    if (!zeichnung.layout.istLeer())
-        std::ranges::transform(
-            bild.kurven, zeichnung.bahnen.begin(), [&](const Kurve& kurve) { return bahnOf(kurve, zeichnung.layout); });
-    return zeichnung;
+    Kurvenlayout layout = kurvenlayout(bild, leinwand, ausschnitt);
+    std::vector<Kurvenbahn> bahnen = kurvenbahnen(bild, layout);
+    return {std::move(layout), std::move(bahnen)};
 }
 
-void paintRand(QPainter& painter, const Kurvenbild& bild, const Kurvenzeichnung& zeichnung, const Leinwand& leinwand)
+void paintRand(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& layout, const Leinwand& leinwand)
 {
-    const Kurvenlayout& layout = zeichnung.layout;
     for (const Rechteck& strich : layout.striche)
         painter.fillRect(rectOf(strich), Qt::black);
     paintTexts(painter, layout.texte, leinwand.font);
@@ -225,25 +233,25 @@ void paintRand(QPainter& painter, const Kurvenbild& bild, const Kurvenzeichnung&
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
-void paintAchsen(QPainter& painter, const Kurvenzeichnung& zeichnung, const Leinwand& leinwand)
+void paintAchsen(QPainter& painter, const Kurvenlayout& layout, const Leinwand& leinwand)
 {
-    for (const Rechteck& strich : zeichnung.layout.kernstriche)
+    for (const Rechteck& strich : layout.kernstriche)
         painter.fillRect(rectOf(strich), Qt::black);
-    paintTexts(painter, zeichnung.layout.kerntexte, leinwand.font);
+    paintTexts(painter, layout.kerntexte, leinwand.font);
 }
 
-void paintPlot(QPainter& painter, const Kurvenbild& bild, const Kurvenzeichnung& zeichnung, const Leinwand& leinwand)
+void paintPlot(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& layout,
+    const std::vector<Kurvenbahn>& bahnen, const Leinwand& leinwand)
 {
-    const Kurvenlayout& layout = zeichnung.layout;
     if (layout.istLeer())
         return;
     painter.save();
     painter.setClipRect(rectOf(layout.plot), Qt::IntersectClip);
     painter.translate(layout.plot.left, layout.plot.top);
     painter.setRenderHint(QPainter::Antialiasing);
-    paintMarks(painter, bild, zeichnung, leinwand);
+    paintMarks(painter, bild, layout, leinwand);
     for (std::size_t i = 0; i < bild.kurven.size(); ++i)
-        paintCurve(painter, bild.kurven[i], zeichnung.bahnen.at(i), leinwand.stil);
+        paintCurve(painter, bild.kurven[i], bahnen.at(i), leinwand.stil);
     painter.restore();
     for (const Textstelle& stelle : layout.markentexte)
         painter.fillRect(rectOf(stelle.box), QColor(255, 255, 255, 200));
@@ -253,9 +261,9 @@ void paintPlot(QPainter& painter, const Kurvenbild& bild, const Kurvenzeichnung&
 void paintKurven(QPainter& painter, const Kurvenbild& bild, const Kurvenzeichnung& zeichnung, const Leinwand& leinwand)
 {
     painter.fillRect(QRect(QPoint(0, 0), leinwand.size), Qt::white);
-    paintRand(painter, bild, zeichnung, leinwand);
-    paintAchsen(painter, zeichnung, leinwand);
-    paintPlot(painter, bild, zeichnung, leinwand);
+    paintRand(painter, bild, zeichnung.layout, leinwand);
+    paintAchsen(painter, zeichnung.layout, leinwand);
+    paintPlot(painter, bild, zeichnung.layout, zeichnung.bahnen, leinwand);
 }
 
 void paintKurven(QPainter& painter, const Kurvenbild& bild, const Leinwand& leinwand)

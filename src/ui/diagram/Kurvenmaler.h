@@ -29,13 +29,21 @@ struct Kurvenzeichnung {
 Schriftmasse schriftmasse(const QFont& font);
 
 /// Lays a diagram out; the whole of it or a part.
+Kurvenlayout kurvenlayout(
+    const Kurvenbild& bild, const Leinwand& leinwand, const std::optional<Ausschnitt>& ausschnitt);
+
+/// All curves on the plot.
+std::vector<Kurvenbahn> kurvenbahnen(const Kurvenbild& bild, const Kurvenlayout& layout);
+
+/// Both.
 Kurvenzeichnung kurvenzeichnung(
     const Kurvenbild& bild, const Leinwand& leinwand, const std::optional<Ausschnitt>& ausschnitt = {});
 
 /// Paint one part of the picture on that canvas: what stands around the axes, the axes beside the plot, the plot.
-void paintRand(QPainter& painter, const Kurvenbild& bild, const Kurvenzeichnung& zeichnung, const Leinwand& leinwand);
-void paintAchsen(QPainter& painter, const Kurvenzeichnung& zeichnung, const Leinwand& leinwand);
-void paintPlot(QPainter& painter, const Kurvenbild& bild, const Kurvenzeichnung& zeichnung, const Leinwand& leinwand);
+void paintRand(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& layout, const Leinwand& leinwand);
+void paintAchsen(QPainter& painter, const Kurvenlayout& layout, const Leinwand& leinwand);
+void paintPlot(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& layout,
+    const std::vector<Kurvenbahn>& bahnen, const Leinwand& leinwand);
 
 /// Paints all parts.
 void paintKurven(QPainter& painter, const Kurvenbild& bild, const Kurvenzeichnung& zeichnung, const Leinwand& leinwand);

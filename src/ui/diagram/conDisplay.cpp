@@ -40,6 +40,9 @@ conDisplay::conDisplay(Programm& programm, Dialoge dialoge, QWidget* parent)
             painter.translate(-pictureOffset(m_pic->pos()));
             m_diagramm.paintPlot(painter, leinwand());
             m_diagramm.paintCursor(painter, leinwand());
+            painter.resetTransform();
+            painter.translate(-m_pic->pos());
+            paintFocus(painter);
         },
         this);
     m_pic->setObjectName(QStringLiteral("pic"));
@@ -185,7 +188,13 @@ void conDisplay::focusOutEvent(QFocusEvent* event)
 {
     QWidget::focusOutEvent(event);
     m_diagramm.clearCursor();
-    m_pic->update();
+    updateAll();
+}
+
+void conDisplay::focusInEvent(QFocusEvent* event)
+{
+    QWidget::focusInEvent(event);
+    updateAll();
 }
 
 void conDisplay::paintEvent(QPaintEvent*)
@@ -197,10 +206,16 @@ void conDisplay::paintEvent(QPaintEvent*)
     if (m_rand.isNull())
         m_diagramm.paintRand(painter, leinwand());
     painter.resetTransform();
-    if (hasFocus()) {
-        painter.setPen(QPen(fokusfarbe(palette(), Qt::white), 2)); // diagrams are white in every theme
-        painter.drawRect(rect().adjusted(1, 1, -1, -1));
-    }
+    paintFocus(painter);
+}
+
+/// The frame around the whole control, the plot in it included.
+void conDisplay::paintFocus(QPainter& painter) const
+{
+    if (!hasFocus())
+        return;
+    painter.setPen(QPen(fokusfarbe(palette(), Qt::white), 2)); // diagrams are white in every theme
+    painter.drawRect(rect().adjusted(1, 1, -1, -1));
 }
 
 void conDisplay::resizeEvent(QResizeEvent* event)

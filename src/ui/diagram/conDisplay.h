@@ -92,6 +92,7 @@ signals:
     void randChanged();
 
 protected:
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -107,6 +108,7 @@ private:
     Leinwand leinwand() const;
     QPoint pictureOffset(const QPoint& point) const;
     void placePlot();
+    void paintFocus(QPainter& painter) const;
     Reihe computeSeries(int groesse) const;
     void drawSeries(const Reihe& reihe);
     Legierung components() const;
