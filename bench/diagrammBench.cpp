@@ -1,7 +1,5 @@
 #include <QApplication>
-#include <QImage>
 #include <QLineEdit>
-#include <QPainter>
 
 #include <algorithm>
 #include <chrono>
@@ -11,19 +9,15 @@
 
 #include "bench/Aufbau.h"
 #include "bench/Fenster.h"
-#include "bild/Achsen.h"
+#include "bench/Zeichnen.h"
 #include "model/Konstanten.h"
 #include "model/Konzentrationsreihe.h"
-#include "ui/diagram/Striche.h"
-#include "ui/diagram/conDisplay.h"
-#include "ui/platform/QtText.h"
 
 namespace zerna {
 
 namespace {
 
 constexpr std::array<float, MaxKomponenten> Prozente{40, 20, 20, 10, 10};
-constexpr QSize Bildgroesse(1200, 800);
 
 std::vector<Legierungskomponente> komponenten(Aufbau& aufbau)
 {
@@ -103,50 +97,6 @@ void dichteBloss(benchmark::State& state)
     }
 }
 
-void neuzeichnen(benchmark::State& state)
-{
-    const Fenster fenster;
-    auto& display = fenster.find<conDisplay>("conDisplay1");
-    display.resize(Bildgroesse);
-    QImage image(Bildgroesse, QImage::Format_RGB32);
-    for (auto _ : state) // NOLINT(clang-analyzer-deadcode.DeadStores)
-        display.render(&image);
-}
-
-/// The same lines, ticks and labels at ready places, and nothing else.
-void nurZeichnen(benchmark::State& state)
-{
-    Aufbau aufbau;
-    const Rechteck plot = plotArea(Bildgroesse.width(), Bildgroesse.height());
-    const Reihe values = konzentrationsreihe(aufbau.calc, komponenten(aufbau), 0, FermienergieCode);
-    const auto [smallest, largest] = endValues(values);
-    const Bereich range = yBereich(smallest, largest);
-    const Abbildung abbildung(plot.width, plot.height, {0, 100}, range);
-    QPolygonF curve;
-    for (std::size_t i = 0; i < values.size(); ++i)
-        curve << QPointF(plot.left + abbildung.column(static_cast<double>(i)) + 0.5, abbildung.row(values.at(i)) + 0.5);
-    std::vector<std::pair<QRectF, QString>> ticks;
-    for (const Achsenmarke& marke : yMarken(plot, Bildgroesse.height(), range, 16))
-        ticks.emplace_back(QRectF(plot.left - TickLength, marke.position, TickLength, 1), toQt(marke.label));
-    for (int k = 0; k <= 10; ++k)
-        ticks.emplace_back(QRectF(60 + 114 * k, plot.height, 1, TickLength), QString::number(10 * k));
-    QImage image(Bildgroesse, QImage::Format_RGB32);
-    for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
-        QPainter painter(&image);
-        painter.fillRect(image.rect(), Qt::white);
-        painter.setPen(Qt::black);
-        for (const auto& [tick, label] : ticks) {
-            painter.fillRect(tick, Qt::black);
-            painter.drawText(tick.bottomLeft() + QPointF(-tick.width(), tick.height() + 12), label);
-        }
-        painter.fillRect(QRectF(plot.left - 1, 0, 1, plot.height), Qt::black);
-        painter.fillRect(QRectF(plot.left - 1, plot.height, plot.width + 1, 1), Qt::black);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(Qt::blue, Kurvenbreite, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter.drawPolyline(curve);
-    }
-}
-
 /// Counts how often a widget is painted.
 class Malzaehler : public QObject {
 public:
@@ -199,8 +149,7 @@ void registerDiagrammBenchmarks()
     benchmark::RegisterBenchmark("Reihe/bloße Schleife", reiheBloss);
     benchmark::RegisterBenchmark("Dichtereihe/rechnen", dichte);
     benchmark::RegisterBenchmark("Dichtereihe/bloße Schleife", dichteBloss);
-    benchmark::RegisterBenchmark("Diagramm/neu zeichnen", neuzeichnen);
-    benchmark::RegisterBenchmark("Diagramm/nur zeichnen", nurZeichnen);
+    registerZeichenBenchmarks();
     benchmark::RegisterBenchmark("Diagramm/Taste", taste)->Iterations(Tasten);
 }
 
