@@ -5,7 +5,6 @@
 
 #include "cli/Umgebung.h"
 #include "core/Kuerzung.h"
-#include "model/Konzentrationsreihe.h"
 #include "model/Suchtabelle.h"
 
 namespace zerna {
@@ -103,7 +102,7 @@ void Suche::searchPart(Umgebung& umgebung, int kennzahl, float wanted) const
     if (!satz.empty())
         std::cerr << "zerna-cli: " << satz << '\n';
     const Tabelle tabelle = loesungstabelle(calc, alloy, frage, antwort, Dezimaltrenner::Punkt);
-    put(form.json ? alsJson(withKeys(tabelle, alloy, reiheneinheit(kennzahl))) : alsText(mitKopf(tabelle)),
+    put(form.json ? alsJson(withKeys(tabelle, alloy, findReihengroesse(kennzahl)->einheit)) : alsText(mitKopf(tabelle)),
         ausgabe.datei);
 }
 

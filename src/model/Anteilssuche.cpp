@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "core/Zahlentext.h"
-#include "model/Konzentrationsreihe.h"
 
 namespace zerna {
 
@@ -47,7 +46,7 @@ std::string anteiltext(double prozent, Dezimaltrenner trenner)
 
 std::string antwortsatz(const Zielantwort& antwort, const Anteilsfrage& frage, std::string_view symbol)
 {
-    const std::string einheit(reiheneinheit(frage.groesse));
+    const std::string_view einheit = findReihengroesse(frage.groesse)->einheit;
     const std::string ziel = zahl(frage.ziel, einheit);
     if (antwort.ueberall)
         return "Jede Zusammensetzung hat " + ziel + ".";

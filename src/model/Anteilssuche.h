@@ -1,8 +1,10 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "core/Zahlentext.h"
 #include "model/Mischungsreihe.h"
@@ -20,6 +22,16 @@ struct Anteilsfrage {
     bool operator==(const Anteilsfrage&) const = default;
 };
 
+/// What a search shows in a diagram of its quantity.
+struct Suchmarken {
+    int groesse = 0;
+    std::optional<float> ziel = {}; ///< none while nothing is looked for
+    int komponente = 0; ///< whose at% the answers are
+    std::vector<double> prozente = {}; ///< ascending
+
+    bool operator==(const Suchmarken&) const = default;
+};
+
 /// All its answers. Errors of the components and of the question reach the caller, as those of Mischungsreihe do.
 Zielantwort sucheAnteil(
     const clsCalc& calc, std::span<const Legierungskomponente> komponenten, const Anteilsfrage& frage);
@@ -32,8 +44,8 @@ std::array<double, MaxKomponenten> zusammensetzung(
 /// At% as it is said: up to six decimals, none that single precision cannot tell.
 std::string anteiltext(double prozent, Dezimaltrenner trenner = Dezimaltrenner::Komma);
 
-/// Why there is nothing to list, with the nearest value: "Keine Zusammensetzung hat 12 eV. Am nächsten kommt …", or
-/// that every composition has the value. Empty if there are answers.
+/// Why there is nothing to list, with the nearest value in the unit of the results: "Keine Zusammensetzung hat 12 eV.
+/// Am nächsten kommt …", or that every composition has the value. Empty if there are answers.
 std::string antwortsatz(const Zielantwort& antwort, const Anteilsfrage& frage, std::string_view symbol);
 
 } // namespace zerna

@@ -15,6 +15,20 @@ bool istUebernehmbar(std::span<const double> prozente)
     return std::abs(std::accumulate(prozente.begin(), prozente.end(), -100.0)) <= Tolerance;
 }
 
+std::string uebernahmesatz(const Anteilsfrage& frage, std::span<const double> prozente)
+{
+    if (!istUebernehmbar(prozente)) {
+        const double sum = std::accumulate(prozente.begin(), prozente.end(), 0.0);
+        return "Hier ergeben die Anteile der gegebenen Reihe zusammen " + fixedText(sum, 2)
+            + " at%, die Ausgleichszeile würde sie ändern. Eine Lösung der Mischungsreihe (Summe 100 %) lässt sich "
+              "übernehmen: einschalten.";
+    }
+    if (frage.groesse == GroesseDichte && frage.art == Reihenart::Summe100)
+        return "Gesucht ist die Dichte der Mischung (Masse durch Volumen). Die Ergebniszeile mittelt über die at% und "
+               "zeigt einen anderen Wert.";
+    return {};
+}
+
 Eingabe mitAnteilen(Eingabe eingabe, std::span<const double> prozente)
 {
     constexpr int Digits = 7; // all that a single tells

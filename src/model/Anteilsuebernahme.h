@@ -1,8 +1,10 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
 
+#include "model/Anteilssuche.h"
 #include "model/Eingabe.h"
 
 /// Entering what a search has found.
@@ -10,6 +12,10 @@ namespace zerna {
 
 /// Whether at% sum up to 100, so that the balance row leaves them as they are.
 bool istUebernehmbar(std::span<const double> prozente);
+
+/// What is to be said before an answer is taken over: that it cannot be, or that the results will show another value.
+/// Empty for nothing.
+std::string uebernahmesatz(const Anteilsfrage& frage, std::span<const double> prozente);
 
 /// The alloy with these at%, one per row in use. The unit in which parts are typed stays.
 Eingabe mitAnteilen(Eingabe eingabe, std::span<const double> prozente);

@@ -1,7 +1,5 @@
 #include "model/Suchtabelle.h"
 
-#include "model/Konzentrationsreihe.h"
-
 namespace zerna {
 
 Tabelle loesungstabelle(const clsCalc& calc, std::span<const Legierungskomponente> komponenten,
@@ -10,7 +8,7 @@ Tabelle loesungstabelle(const clsCalc& calc, std::span<const Legierungskomponent
     Tabelle tabelle;
     for (const Legierungskomponente& komponente : komponenten)
         tabelle.spalten.push_back({komponente.element->symbol() + " [at%]", true});
-    tabelle.spalten.push_back({std::string(reiheneinheit(frage.groesse)), true});
+    tabelle.spalten.push_back({std::string(findReihengroesse(frage.groesse)->einheit), true});
     for (const Loesung& loesung : antwort.loesungen) {
         std::vector<std::string>& zeile = tabelle.zeilen.emplace_back();
         const auto parts = zusammensetzung(calc, komponenten, frage, loesung.prozent);
@@ -27,7 +25,7 @@ Tabelle rangtabelle(const Rangliste& rangliste, const Groesse& groesse, Dezimalt
     Tabelle tabelle{{{"element"}, {"wert", true}, {"einheit"}, {"abweichung", true}}, {}};
     for (const Drittelement& rang : rangliste.elemente)
         tabelle.zeilen.push_back({rang.element->symbol(), textOfSingle(rang.wert, trenner),
-            std::string(groesse.reiheneinheit), textWithDigits(rang.abweichung, SureDigits, trenner)});
+            std::string(groesse.einheit), textWithDigits(rang.abweichung, SureDigits, trenner)});
     return tabelle;
 }
 

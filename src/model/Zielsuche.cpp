@@ -23,7 +23,7 @@ double gerundet(double value, int decimals)
     return std::round(value * shift) / shift;
 }
 
-/// Where in a root, whose values are the wanted one within rounding, they are so to the last place: what is nearest to
+/// Where in a root, whose values are the wanted one within rounding, they are so as closely as that: what is nearest to
 /// its middle; the whole root if they are so nowhere.
 Nullstelle genaueste(const Nullstelle& stelle, const Funktion& f, double genau)
 {
@@ -36,18 +36,30 @@ Nullstelle genaueste(const Nullstelle& stelle, const Funktion& f, double genau)
     return nearest == parts.end() ? stelle : *nearest;
 }
 
-/// The roundest place in a root; the ends of the series are round.
-double rundeste(const Nullstelle& stelle)
+/// The roundest place in a root, with up to so many decimals; the ends of the series are round.
+std::optional<double> rundeste(const Nullstelle& stelle, int decimals)
 {
-    constexpr int Decimals = 6;
     if (stelle.von == Von || stelle.bis == Bis)
         return stelle.von == Von ? Von : Bis;
-    for (int decimals = 0; decimals < Decimals; ++decimals) {
-        const double round = gerundet(stelle.mitte(), decimals);
+    for (int i = 0; i <= decimals; ++i) {
+        const double round = gerundet(stelle.mitte(), i);
         if (stelle.von <= round && round <= stelle.bis)
             return round;
     }
-    return std::clamp(gerundet(stelle.mitte(), Decimals), stelle.von, stelle.bis);
+    return std::nullopt;
+}
+
+/// The at% to be told of a root. The alloy itself is computed in other steps, which may differ in the last place: parts
+/// as they are typed are found all the same.
+double anteil(const Nullstelle& stelle, const Funktion& f, double ziel)
+{
+    constexpr int Typed = 1; // decimals
+    constexpr int Decimals = 6;
+    const double lastPlace = Stelle * std::abs(ziel);
+    if (const auto typed = rundeste(genaueste(stelle, f, 2 * lastPlace), Typed))
+        return *typed;
+    const Nullstelle best = genaueste(stelle, f, lastPlace / 2);
+    return rundeste(best, Decimals).value_or(best.mitte());
 }
 
 } // namespace
@@ -65,7 +77,7 @@ Zielantwort sucheZiel(const Reihenwert& wert, double ziel)
     Zielantwort antwort;
     antwort.ueberall = !found.stellen.empty() && found.stellen.front() == Nullstelle{Von, Bis};
     for (const Nullstelle& stelle : found.stellen) {
-        const double prozent = rundeste(genaueste(stelle, f, Stelle / 2 * std::abs(ziel)));
+        const double prozent = anteil(stelle, f, ziel);
         if (!antwort.ueberall)
             antwort.loesungen.push_back({prozent, wert(prozent)});
     }

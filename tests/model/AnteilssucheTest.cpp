@@ -53,7 +53,7 @@ struct AnteilssucheTest : RechnerTest {
 
 TEST_F(AnteilssucheTest, AgreesWithAScanOfRandomAlloys)
 {
-    constexpr int Steps = 300;
+    constexpr int Steps = 200;
     constexpr double Width = 100.0 / Steps;
     std::size_t found = 0;
     for (int round = 0; round < 1000; ++round) {

@@ -39,8 +39,20 @@ TEST_F(AnteilsuebernahmeTest, TheAlloyThenHasTheWantedValue)
             }
         }
     }
-    const std::array given{20.0, 30.0, 40.0};
-    EXPECT_FALSE(istUebernehmbar(given)) << "the balance row would change them";
+}
+
+TEST_F(AnteilsuebernahmeTest, SaysWhatIsToBeKnownBefore)
+{
+    const auto says = [](int groesse, Reihenart art, std::array<double, 2> parts) {
+        return uebernahmesatz({groesse, 0, 0, art}, parts).substr(0, 66);
+    };
+    EXPECT_EQ(says(8, Reihenart::Summe100, {20, 80}), "");
+    EXPECT_EQ(says(8, Reihenart::Gegeben, {20, 79.99997}), "") << "the balance row leaves them as they are";
+    EXPECT_EQ(
+        says(8, Reihenart::Gegeben, {20, 32}), "Hier ergeben die Anteile der gegebenen Reihe zusammen 52,00 at%, d");
+    EXPECT_EQ(says(3, Reihenart::Gegeben, {20, 80}), "");
+    EXPECT_EQ(
+        says(3, Reihenart::Summe100, {20, 80}), "Gesucht ist die Dichte der Mischung (Masse durch Volumen). Die Erg");
 }
 
 TEST_F(AnteilsuebernahmeTest, AnElementGetsARowAsTheRankingHasIt)

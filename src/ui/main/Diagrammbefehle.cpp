@@ -4,6 +4,7 @@
 #include "ui/diagram/Diagrammflaeche.h"
 #include "ui/main/Diagrammbereich.h"
 #include "ui/main/Diagrammseite.h"
+#include "ui/platform/QtText.h"
 
 namespace zerna {
 
@@ -35,8 +36,28 @@ void Diagrammbereich::addBefehle(Menue& menue)
                 .tun = [this, typ = typ] { waehleTyp(static_cast<int>(typ)); },
                 .gewaehlt = [this, typ = typ] { return wahl().typ == typ; }});
     }
+    menue.add(Menue::Abschnitt::Diagramm,
+        {.text = QStringLiteral("&Bei welchem Anteil? ..."),
+            .name = "mnuAnteil",
+            .tasten = {QKeySequence(Qt::CTRL | Qt::Key_F)},
+            .tun = [this] { emit anteilRequested(); }});
     for (Diagrammseite* const seite : m_seiten)
         seite->addBefehle(menue);
+}
+
+void Diagrammbereich::zeigeGroesse(int groesse, int komponente)
+{
+    Diagrammwahl shown = wahl();
+    if (shown.typ == zerna::Diagrammtyp::PSE)
+        wechsleTyp(shown, zerna::Diagrammtyp::Konzentration);
+    shown.groesse = groesse;
+    shown.komponente = komponente;
+    shown = passendeWahl(shown, m_eingabe.anzahl());
+    if (shown == wahl())
+        return;
+    wahl() = shown;
+    zeigeDokument();
+    emit geschehen({QStringLiteral("Diagramm: %1").arg(toQt(findGroesse(shown.groesse)->name))});
 }
 
 bool Diagrammbereich::istDruckbar() const { return m_picDiagramm->istDiagramm(); }

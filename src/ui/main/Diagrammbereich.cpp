@@ -107,6 +107,13 @@ void Diagrammbereich::createReadouts()
 
 void Diagrammbereich::createButtons()
 {
+    m_cmdAnteil = new StyledButton(QStringLiteral("= ?"), this);
+    m_cmdAnteil->setObjectName(QStringLiteral("cmdDiagramm_Anteil"));
+    m_cmdAnteil->setAccessibleName(QStringLiteral("Bei welchem Anteil?"));
+    folgeSchrift(
+        m_cmdAnteil, [this] { m_cmdAnteil->setFixedSize(m_cmdAnteil->sizeHint().width(), feldhoehe(*m_cmdAnteil)); });
+    m_cmdAnteil->setToolTipText(QStringLiteral("Bei welchem Anteil hat die Größe einen Wert? (Strg+F)"));
+    connect(m_cmdAnteil, &StyledButton::clicked, this, &Diagrammbereich::anteilRequested);
     m_cmdKopieren = new StyledButton(QStringLiteral("K&opieren"), this);
     m_cmdKopieren->setObjectName(QStringLiteral("cmdDiagramm_Kopieren"));
     m_cmdKopieren->setToolTipText(QStringLiteral("Diagramm als Bild in die Zwischenablage"));
@@ -129,7 +136,9 @@ void Diagrammbereich::layOut()
         m_picDiagramm->setMinimumSize(16 * line, 15 * line);
     });
     auto* lists = new QHBoxLayout;
+    lists->setSpacing(6);
     lists->addWidget(m_auswahl);
+    lists->addWidget(m_cmdAnteil);
     auto* position = new QHBoxLayout;
     position->addWidget(m_labelPos);
     position->addWidget(m_lblDrei, 1);
@@ -174,6 +183,7 @@ QBoxLayout* Diagrammbereich::layOutButtons()
 void Diagrammbereich::orderTabs()
 {
     std::vector<QWidget*> order = m_auswahl->tabOrder();
+    order.push_back(m_cmdAnteil);
     const auto append = [&order](const auto& widgets) { order.insert(order.end(), widgets.begin(), widgets.end()); };
     for (const Diagrammseite* const seite : m_seiten)
         append(seite->tabOrder());
@@ -245,6 +255,7 @@ void Diagrammbereich::setTyp(Diagrammtyp typ)
         for (StyledButton* const button : each->knoepfe())
             button->setVisible(isShown);
     }
+    m_cmdAnteil->setVisible(wahl().typ != Diagrammtyp::PSE);
 }
 
 void Diagrammbereich::aktualisieren(bool keepSelection)

@@ -47,12 +47,17 @@ public:
     /// Chooses the ternary diagram, if there are three rows.
     void selectTernary() { chooseType(Diagrammtyp::Ternaer); }
 
+    /// Shows a quantity of the alloy over a component, as a step of its own if it is not shown already.
+    void zeigeGroesse(int groesse, int komponente);
+
     void addBefehle(Menue& menue);
     bool istDruckbar() const;
     void drucke();
 
 signals:
     void geschehen(const Schritt& schritt);
+    /// It is asked at which part the shown quantity has a value.
+    void anteilRequested();
     /// A value label has stepped the at% of a row.
     void prozentStepped(int row, int prozent);
     /// The ternary diagram is wanted, which needs three rows.
@@ -83,6 +88,7 @@ private:
     Diagrammauswahl* m_auswahl = nullptr;
     QLabel* m_labelPos = nullptr;
     Befundzeile* m_lblDrei = nullptr; // why there is no diagram of the chosen kind
+    StyledButton* m_cmdAnteil = nullptr;
     StyledButton* m_cmdKopieren = nullptr;
     StyledButton* m_cmdSpeichern = nullptr;
 };

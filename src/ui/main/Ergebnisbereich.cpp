@@ -109,6 +109,23 @@ void Ergebnisbereich::createMenu()
             ganzeZahl(fromQt(m_gitter->wertUndEinheitIn(m_menuLine)), fromQt(m_gitter->anzeige(m_menuLine).einheit())));
     });
     addCopy(QStringLiteral("Zahl und Einheit kopieren"), [this] { return m_gitter->wertUndEinheitIn(m_menuLine); });
+    addAnteil();
+}
+
+/// The entry that asks at which part the line's quantity has a value, beginning with the one that is there.
+void Ergebnisbereich::addAnteil()
+{
+    m_menu->addSeparator();
+    QAction* const action = m_menu->addAction(QStringLiteral("Bei welchem Anteil? ..."));
+    action->setObjectName(QStringLiteral("mnuMFE_Anteil"));
+    const auto asked = [this] { return ergebniszeile(m_menuLine); };
+    connect(m_menu, &QMenu::aboutToShow, action, [this, action, asked] {
+        action->setVisible(asked().ueberLegierungen());
+        action->setEnabled(!istUnbekannt(wert(asked(), m_programm.Calc())));
+    });
+    connect(action, &QAction::triggered, this, [this, asked] {
+        emit anteilRequested(asked().kennzahl, toQt(textOfSingle(wert(asked(), m_programm.Calc()))));
+    });
 }
 
 /// An entry of the menu that copies the text and shows it in a column of its own, where shortcuts stand otherwise.

@@ -44,6 +44,8 @@ public:
 signals:
     /// What is wrong is to be mended there.
     void befundGewaehlt(int zeile, Eingabeort ort);
+    /// It is asked at which part a quantity over compositions has a value.
+    void anteilRequested(int groesse, const QString& wert);
 
 private:
     /// Where the values come from.
@@ -51,6 +53,7 @@ private:
 
     void createButtons();
     void createMenu();
+    void addAnteil();
     QAction* addCopy(const QString& caption, const std::function<QString()>& text);
     void layOut();
     void aktualisieren(Eingabemodus modus);

@@ -44,6 +44,7 @@ void frmMain::zeigeDokument()
     m_conWiegen1->zeigeDokument();
     m_ergebnisse->zeigeLage(m_programm.Eingabe());
     m_diagramm->zeigeDokument();
+    zeigeSuche();
     if (m_pse->isVisible())
         m_pse->layOut();
     m_vergleich->zeige();

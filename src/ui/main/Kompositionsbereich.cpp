@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "core/Zahlentext.h"
+#include "model/Eingabevergleich.h"
 #include "model/Formeleingabe.h"
 #include "parser/Formelwert.h"
 #include "ui/button/StyledButton.h"
@@ -212,10 +213,10 @@ void Kompositionsbereich::setEinheit(Anteilseinheit einheit)
 
 void Kompositionsbereich::setEingabe(const zerna::Eingabe& eingabe, const Schritt& schritt)
 {
-    const bool anzahl = eingabe.anzahl() != this->eingabe().anzahl();
+    const Aenderung aenderung = unterschied(this->eingabe(), eingabe);
     this->eingabe() = eingabe;
     zeigeDokument();
-    emit geaendert({.anzahl = anzahl, .element = true, .anteil = true, .dichte = true, .valenz = true});
+    emit geaendert(aenderung);
     emit geschehen(schritt);
 }
 

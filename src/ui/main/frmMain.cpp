@@ -86,6 +86,7 @@ frmMain::frmMain(Programm& programm, Dialoge dialoge)
     layOut();
     connectPanels();
     connectVerlauf();
+    connectSuche();
     fillMenu();
     new Radsperre(*this);
     load();
@@ -263,6 +264,7 @@ void frmMain::uebernehmen(const Aenderung& aenderung)
     }
     m_ergebnisse->zeigeLage(m_programm.Eingabe());
     m_diagramm->zeige(m_programm.Eingabe(), aenderung);
+    zeigeSuche();
     m_meldung->zeige({});
 }
 

@@ -24,6 +24,7 @@ class Spaltenpaar;
 class StyledButton;
 class Vergleichsbereich;
 class conWiegen;
+class frmZielsuche;
 
 /// The main window: a strip with the panel switches, and below it the calculator panel, the periodic table or the kept
 /// alloys. It ties the panels together: an edit of the composition is handed to the calculator here, and then to the
@@ -95,6 +96,10 @@ private:
     void lade(const QString& name, const zerna::Eingabe& eingabe);
     void showPanel(int panel);
     void showLowerArea(int area);
+    void connectSuche();
+    frmZielsuche& suche();
+    void frageAnteil(int groesse, const QString& wert);
+    void zeigeSuche();
 
     Programm& m_programm;
     Verlauf m_verlauf;
@@ -114,6 +119,7 @@ private:
     Ergebnisbereich* m_ergebnisse = nullptr;
     conWiegen* m_conWiegen1 = nullptr;
     Diagrammbereich* m_diagramm = nullptr;
+    frmZielsuche* m_suche = nullptr; // null until the first search
 };
 
 } // namespace zerna

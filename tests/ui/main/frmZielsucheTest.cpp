@@ -1,0 +1,125 @@
+#include "ui/main/frmZielsuche.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QTabWidget>
+#include <QTableWidget>
+
+#include "support/FakeDesk.h"
+#include "ui/controls/Befundzeile.h"
+#include "ui/main/Ergebnisgitter.h"
+
+namespace zerna {
+
+/// Al60Cu40, both crystalline, and the search for its Fermi energy open.
+struct frmZielsucheTest : FakeDesk {
+    frmZielsucheTest()
+    {
+        openAluminiumCopper();
+        type("txtProzent_0", "60");
+        choose("cmbDiagramm", "Fermienergie");
+        QTest::keyClick(window.get(), Qt::Key_F, Qt::ControlModifier);
+    }
+
+    QTableWidget& answers() const { return find<QTableWidget>("tblSuche_Anteile"); }
+    QTableWidget& elements() const { return find<QTableWidget>("tblSuche_Elemente"); }
+    std::string satz(const char* name) const { return find<Befundzeile>(name).befund().toStdString(); }
+    bool isEnabled(const char* name) const { return find(name).isEnabled(); }
+    Ergebnisgitter& grid() const { return *window->findChild<Ergebnisgitter*>(); }
+    void undo() const { find<QAction>("mnuRueckgaengig").trigger(); }
+
+    static QString cell(const QTableWidget& table, int row, int column)
+    {
+        return table.item(row, column)->text().trimmed();
+    }
+
+    /// "Al|Cu": the at% of a line of the answers.
+    std::string line(int row) const { return (cell(answers(), row, 0) + '|' + cell(answers(), row, 1)).toStdString(); }
+};
+
+TEST_F(frmZielsucheTest, AnAnswerIsTakenOverByKeysAsOneStep)
+{
+    EXPECT_EQ(text("txtSuche_Ziel"), "10,294") << "begins with the value of the alloy";
+    click("chkSuche_Mischungsreihe");
+    type("txtSuche_Ziel", "9,5");
+    ASSERT_EQ(answers().rowCount(), 1);
+    EXPECT_EQ(line(0), "41,64005|58,35995");
+    QTest::keyClick(&find("txtSuche_Ziel"), Qt::Key_Return);
+    ASSERT_EQ(find("frmZielsuche").focusWidget(), &answers());
+    QTest::keyClick(&answers(), Qt::Key_Return);
+    EXPECT_EQ(texts({"txtProzent_0", "txtProzent_1"}), "41,64005|58,35995");
+    EXPECT_EQ(grid().wertUndEinheitIn(7).toStdString(), "9,5 eV");
+    EXPECT_EQ(programm->Dokument().diagramm.komponente, 0);
+    EXPECT_EQ(find<QAction>("mnuRueckgaengig").text().toStdString(), "&Rückgängig: Anteil übernehmen");
+    undo();
+    EXPECT_EQ(text("txtProzent_0"), "60");
+    EXPECT_EQ(line(0), "41,64005|58,35995") << "it is looked for again";
+    QTest::keyClick(&answers(), Qt::Key_Escape);
+    EXPECT_FALSE(find("frmZielsuche").isVisible());
+}
+
+TEST_F(frmZielsucheTest, WhatTheBalanceRowWouldChangeIsNotTakenOver)
+{
+    type("txtSuche_Ziel", "9,5");
+    EXPECT_EQ(line(0), "22,2033|31,11868");
+    EXPECT_FALSE(isEnabled("cmdSuche_Uebernehmen"));
+    EXPECT_NE(satz("lblSuche_Anteil").find("53,32 at%"), std::string::npos);
+    QTest::keyClick(&answers(), Qt::Key_Return);
+    EXPECT_EQ(text("txtProzent_0"), "60");
+    click("lblSuche_Anteil"); // offers the other series
+    EXPECT_TRUE(find<QCheckBox>("chkSuche_Mischungsreihe").isChecked());
+    EXPECT_TRUE(isEnabled("cmdSuche_Uebernehmen"));
+    click("cmdSuche_Kopieren");
+    EXPECT_EQ(clipboard(), "Al [at%]\tCu [at%]\teV\r\n41,64005\t58,35995\t9,5\r\n");
+}
+
+TEST_F(frmZielsucheTest, FollowsWhatIsEnteredAndChosen)
+{
+    click("chkSuche_Mischungsreihe");
+    type("txtSuche_Ziel", "12");
+    EXPECT_EQ(answers().rowCount(), 0);
+    EXPECT_EQ(
+        satz("lblSuche_Anteil"), "Keine Zusammensetzung hat 12 eV. Am nächsten kommt 11,65869 eV bei 100 at% Al.");
+    type("txtSuche_Ziel", "12x");
+    EXPECT_EQ(satz("lblSuche_Anteil"), "Einen Wert eintragen, der gesucht wird.");
+    type("txtSuche_Ziel", "9.5");
+    EXPECT_EQ(line(0), "41,64005|58,35995") << "with a point";
+    choose("cmdDichte_0", "flüssig");
+    EXPECT_EQ(line(0), "53,42388|46,57612");
+    type("txtProzent_0", "");
+    EXPECT_EQ(satz("lblSuche_Anteil"), "Es sind nicht alle Anteile eingetragen.");
+    type("txtProzent_0", "60");
+    choose("cmbSuche_Komponente", "Cu");
+    EXPECT_EQ(text("cmbDiagramm_Element"), "Cu");
+    choose("cmbDiagramm", "Valenz");
+    EXPECT_EQ(texts({"cmbSuche_Groesse", "txtSuche_Ziel", "lblSuche_Einheit"}), "Valenz|2,2|e/a");
+    emit grid().menuRequested(6, {});
+    find<QAction>("mnuMFE_Anteil").trigger();
+    EXPECT_EQ(texts({"cmbSuche_Groesse", "cmbDiagramm"}), "Plasmonenenergie|Plasmonenenergie");
+    EXPECT_EQ(line(0), "60|40") << "where the value is";
+}
+
+TEST_F(frmZielsucheTest, TheNearestElementGetsARow)
+{
+    find<QTabWidget>("tabSuche").setCurrentIndex(1);
+    type("txtSuche_Ziel", "9,5");
+    type("txtSuche_Prozent", "200");
+    EXPECT_EQ(elements().rowCount(), 0);
+    type("txtSuche_Prozent", "7,5");
+    EXPECT_GT(elements().rowCount(), 90);
+    EXPECT_EQ(satz("lblSuche_Element").substr(0, 51), "Nicht in der Liste, weil Daten fehlen: 6 Elemente (");
+    const std::string nearest = elements().item(0, 0)->text().toStdString();
+    EXPECT_EQ(cell(elements(), 0, 1), QStringLiteral("9,359441"));
+    QTest::keyClick(&find("txtSuche_Prozent"), Qt::Key_Return);
+    QTest::keyClick(&elements(), Qt::Key_Return);
+    EXPECT_EQ(texts({"cmbElement_2", "txtProzent_0", "txtProzent_2"}), nearest + "|55,5|7,5");
+    EXPECT_EQ(grid().wertUndEinheitIn(7), QStringLiteral("9,3594 eV"));
+    undo();
+    EXPECT_EQ(programm->Eingabe().anzahl(), 2);
+    for (int i = 0; i < 3; ++i)
+        click("cmdKom_0");
+    EXPECT_FALSE(isEnabled("cmdSuche_Element"));
+    EXPECT_NE(satz("lblSuche_Element").find("kein Platz"), std::string::npos);
+}
+
+} // namespace zerna
