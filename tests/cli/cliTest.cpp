@@ -66,6 +66,25 @@ TEST_F(cliTest, PicturesAreMadeWithoutADisplayAndCarryTheirAlloy)
     EXPECT_EQ(run("groessen e.svg").status, 1);
 }
 
+TEST_F(cliTest, FiguresOfTheDocumentationAreMadeByTheCommandsBelowThem)
+{
+    if (!std::filesystem::exists(ZERNA_BIN_DIR "/zerna-bild"))
+        GTEST_SKIP() << "built without the window";
+    const std::filesystem::path docs = ZERNA_DATA_DIR "/../docs";
+    const Answer made = run("formel 1 >/dev/null; '" + (docs / "abbildungen.sh").string() + "' '" ZERNA_BIN_DIR "' .");
+    EXPECT_EQ(made.status, 0) << made.text;
+    EXPECT_EQ(made.text.find("zerna-cli:"), std::string::npos) << made.text;
+    const std::string page = bytesOf(docs / "abbildungen.md");
+    int figures = 0;
+    for (std::size_t at = page.find("](bilder/"); at != std::string::npos; at = page.find("](bilder/", at + 1)) {
+        const std::string name = page.substr(at + 9, page.find(')', at) - at - 9);
+        EXPECT_TRUE(std::filesystem::exists(docs / "bilder" / name)) << name;
+        EXPECT_TRUE(std::filesystem::exists(folder / name)) << name << " is shown, but not made";
+        ++figures;
+    }
+    EXPECT_GE(figures, 6);
+}
+
 TEST_F(cliTest, MissesTheProgramThatMakesPictures)
 {
     const Answer answer = run("formel 1 >/dev/null; cp \"$(command -v zerna-cli)\" .; ./zerna-cli bild --art elemente "
