@@ -68,9 +68,12 @@ void markLegierung(PSEBild& bild, const Elementdiagramm& diagramm)
 }
 
 /// All that symbols may not cover.
-std::vector<Strecke> obstacles(const PSEBild& bild)
+Hindernisse hindernisse(const PSEBild& bild, const Textmasse& masse)
 {
-    std::vector<Strecke> lines = bild.lines;
+    Hindernisse result{bild.lines, {}};
+    auto& lines = result.lines;
+    for (const Schriftzug& label : bild.labels)
+        result.texts.push_back({label.position.x, label.position.y, masse.width(label.text), masse.height});
     for (const PSEKurve* const kurve : {&bild.kurve, &bild.kristallin}) {
         for (const auto& stueck : kurve->stuecke) {
             lines.push_back({stueck.front(), stueck.front()});
@@ -80,7 +83,7 @@ std::vector<Strecke> obstacles(const PSEBild& bild)
     }
     for (const Punkt& p : bild.legierung)
         lines.push_back({{p.x - Markenradius + 1, p.y}, {p.x + Markenradius - 1, p.y}});
-    return lines;
+    return result;
 }
 
 } // namespace
@@ -94,7 +97,7 @@ void layOutSymbole(PSEBild& bild, const Elementdiagramm& diagramm, const PSEAnsi
     Rechteck feld = bild.feld; // right of the axis
     feld.width -= bild.ursprung.x + 1 - feld.left;
     feld.left = bild.ursprung.x + 1;
-    const auto plaetze = platziereSymbole(wuensche, masse.height, feld, obstacles(bild));
+    const auto plaetze = platziereSymbole(wuensche, masse.height, feld, hindernisse(bild, masse));
     for (std::size_t k = 0; k < symbole.size(); ++k) {
         if (!plaetze[k])
             continue;

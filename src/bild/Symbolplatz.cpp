@@ -42,11 +42,13 @@ bool crosses(const Strecke& line, const Rechteck& area)
 /// Where a text may stand around its point, the best place first.
 std::array<Rechteck, 6> places(const Symbolwunsch& wunsch, double height)
 {
-    const auto& [point, width, distance, below] = wunsch;
+    const Punkt& point = wunsch.punkt;
+    const double width = wunsch.breite;
+    const double distance = wunsch.abstand;
     const double above = point.y - distance - height;
     const double under = point.y + distance;
-    const double near = below ? under : above;
-    const double far = below ? above : under;
+    const double near = wunsch.unten ? under : above;
+    const double far = wunsch.unten ? above : under;
     const double middle = point.x - width / 2;
     const double right = point.x + distance;
     const double left = point.x - distance - width;
@@ -58,24 +60,27 @@ std::array<Rechteck, 6> places(const Symbolwunsch& wunsch, double height)
 } // namespace
 
 std::vector<std::optional<Rechteck>> platziereSymbole(
-    std::span<const Symbolwunsch> wuensche, double hoehe, const Rechteck& feld, std::vector<Strecke> lines)
+    std::span<const Symbolwunsch> wuensche, double hoehe, const Rechteck& feld, Hindernisse hindernisse)
 {
+    auto& [lines, texts] = hindernisse;
     std::ranges::sort(lines, {}, [](const Strecke& line) { return line.to.x; });
-    std::vector<Rechteck> taken;
+    const auto hasRoom = [&](const Rechteck& place) {
+        return contains(feld, place)
+            && std::ranges::none_of(texts, [&](const Rechteck& other) { return touch(place, other); });
+    };
     const auto isFree = [&](const Rechteck& place) {
-        if (!contains(feld, place)
-            || std::ranges::any_of(taken, [&](const auto& other) { return touch(place, other); }))
-            return false;
-        auto line = std::ranges::lower_bound(lines, place.left, {}, [](const Strecke& s) { return s.to.x; });
-        return std::none_of(line, lines.end(), [&](const Strecke& s) { return crosses(s, place); });
+        const auto first = std::ranges::lower_bound(lines, place.left, {}, [](const Strecke& s) { return s.to.x; });
+        return hasRoom(place) && std::none_of(first, lines.end(), [&](const Strecke& s) { return crosses(s, place); });
     };
     std::vector<std::optional<Rechteck>> result;
     for (const Symbolwunsch& wunsch : wuensche) {
         const auto candidates = places(wunsch, hoehe);
-        const auto* const place = std::ranges::find_if(candidates, isFree);
+        const auto* place = std::ranges::find_if(candidates, isFree);
+        if (place == candidates.end() && wunsch.wichtig)
+            place = std::ranges::find_if(candidates, hasRoom);
         result.push_back(place == candidates.end() ? std::nullopt : std::optional(*place));
         if (result.back())
-            taken.push_back(*place);
+            texts.push_back(*place);
     }
     return result;
 }

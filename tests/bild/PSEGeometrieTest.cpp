@@ -153,16 +153,18 @@ TEST(PSEGeometrieTest, SymbolsCoverNoLineAndNoOtherSymbol)
 {
     const Rechteck field{0, 0, 100, 100};
     const std::vector<Symbolwunsch> wishes{{{50, 50}, 20, 3, false}, {{55, 50}, 20, 3, false}, {{2, 50}, 20, 3, false},
-        {{50, 5}, 20, 3, false}, {{52, 50}, 99, 3, true}};
-    const auto places = platziereSymbole(wishes, 10, field, {{{0, 42}, {30, 42}}});
+        {{50, 5}, 20, 3, true}, {{52, 72}, 90, 3, true}, {{52, 72}, 90, 3, true, true}};
+    const std::vector<Strecke> lines{{{0, 42}, {30, 42}}, {{0, 80}, {100, 80}}, {{0, 64}, {100, 64}}};
+    const auto places = platziereSymbole(wishes, 10, field, {lines, {}});
     const auto isAt = [&](std::size_t i, double left, double top) {
         return places.at(i) && places.at(i)->left == left && places.at(i)->top == top;
     };
     EXPECT_TRUE(isAt(0, 40, 37)) << "above";
-    EXPECT_TRUE(isAt(1, 58, 45) || isAt(1, 45, 53) || isAt(1, 58, 53)) << "beside the first";
+    EXPECT_TRUE(isAt(1, 45, 53)) << "below, where the first is not";
     EXPECT_TRUE(isAt(2, 5, 45)) << "neither beyond the edge nor on the line";
-    EXPECT_TRUE(isAt(3, 53, 0) || isAt(3, 53, 5 - 5) || isAt(3, 40, 8)) << "no room above";
-    EXPECT_FALSE(places.at(4)) << "no room at all";
+    EXPECT_TRUE(isAt(3, 40, 8)) << "below, as it rather is";
+    EXPECT_FALSE(places.at(4)) << "no room";
+    EXPECT_TRUE(isAt(5, 7, 75)) << "important enough to be on a line";
 }
 
 } // namespace zerna
