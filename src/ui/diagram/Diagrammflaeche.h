@@ -53,6 +53,9 @@ public:
     /// Shows a plain hint instead of a diagram.
     void showHinweis(const QString& hinweis);
 
+    /// What is shown.
+    const Diagramm& diagramm() const { return *m_diagramm; }
+
     /// Puts what is shown on the clipboard, at the screen's full resolution.
     void copyPicture();
 
