@@ -9,7 +9,7 @@ namespace zerna {
 
 namespace {
 
-constexpr double Markenradius = 5; // with air
+constexpr double Markenradius = 4;
 
 struct Symbol {
     std::size_t element = 0;
@@ -36,8 +36,8 @@ Symbol wishOf(const PSEKurve& kurve, std::size_t i, const Diagrammelement& eleme
     constexpr double Air = 3;
     const auto [before, after] = rises(kurve, i);
     Symbol symbol{i, element.inLegierung, before * after >= 0, std::abs(before + after), {}};
-    symbol.wunsch = {
-        *kurve.punkte[i], masse.width(element.symbol), element.inLegierung ? Markenradius : Air, before + after < 0};
+    symbol.wunsch = {*kurve.punkte[i], masse.width(element.symbol), element.inLegierung ? Markenradius + 1 : Air,
+        before + after < 0, element.inLegierung};
     return symbol;
 }
 
@@ -82,7 +82,7 @@ Hindernisse hindernisse(const PSEBild& bild, const Textmasse& masse)
         }
     }
     for (const Punkt& p : bild.legierung)
-        lines.push_back({{p.x - Markenradius + 1, p.y}, {p.x + Markenradius - 1, p.y}});
+        result.texts.push_back({p.x - Markenradius, p.y - Markenradius, 2 * Markenradius, 2 * Markenradius});
     return result;
 }
 
