@@ -133,7 +133,7 @@ void Diagrammbereich::layOut()
     constexpr int Bottom = 72;
     folgeSchrift(m_picDiagramm, [this] { // the least that is of use
         const int line = m_picDiagramm->fontMetrics().height();
-        m_picDiagramm->setMinimumSize(16 * line, 15 * line);
+        m_picDiagramm->setMinimumSize(16 * line, 20 * line);
     });
     auto* lists = new QHBoxLayout;
     lists->setSpacing(6);

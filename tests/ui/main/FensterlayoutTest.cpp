@@ -92,7 +92,7 @@ TEST_F(FensterlayoutTest, SmallWindowsScrollToADiagramOfUse)
             checkAll();
             const QWidget& diagram = find("picDiagramm");
             EXPECT_GE(diagram.width(), std::min(size.width() - 40, 600));
-            EXPECT_GE(diagram.height(), 200);
+            EXPECT_GE(diagram.height(), 270);
             const QWidget& button = find("cmdDiagramm_Speichern");
             EXPECT_FALSE(button.visibleRegion().isEmpty()) << "scrolled to";
         }
