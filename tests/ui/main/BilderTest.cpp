@@ -123,6 +123,9 @@ TEST_F(BilderTest, DiagramsLookAsRecorded)
             compare(QLatin1String(art.name), {{480, 360}, bildschrift()});
             compare(QLatin1String(art.name) + QStringLiteral("-klein"), {{280, 210}, bildschrift()});
             compare(QLatin1String(art.name) + QStringLiteral("-klein-2x"), {{280, 210}, bildschrift(), 2});
+            compare(QLatin1String(art.name) + QStringLiteral("-druck"),
+                {{280, 210}, bildschrift(), 1,
+                    {.rundeTeilung = true, .dezimal = Dezimaltrenner::Punkt, .grau = true, .linienbreite = 1}});
         }
     }
 }
