@@ -154,9 +154,10 @@ void layOutMinorTicks(PSEBild& bild, const Massstab& scale, const Bereich& range
     if (teilungen.size() < 2)
         return;
     const double step = (teilungen[1].value - teilungen[0].value) / Parts;
-    const double first = std::ceil((range.min - teilungen[0].value) / step);
-    for (double value = teilungen[0].value + first * step; value <= range.max; value += step) {
-        const double y = (value - range.min) * Divisions / (range.max - range.min);
+    const auto first = static_cast<int>(std::ceil((range.min - teilungen[0].value) / step));
+    const auto last = static_cast<int>(std::floor((range.max - teilungen[0].value) / step));
+    for (int i = first; i <= last; ++i) {
+        const double y = (teilungen[0].value + i * step - range.min) * Divisions / (range.max - range.min);
         bild.lines.push_back({scale.at(TickLeft / 2, y), scale.at(0, y)});
     }
 }

@@ -62,7 +62,8 @@ std::array<Rechteck, 6> places(const Symbolwunsch& wunsch, double height)
 std::vector<std::optional<Rechteck>> platziereSymbole(
     std::span<const Symbolwunsch> wuensche, double hoehe, const Rechteck& feld, Hindernisse hindernisse)
 {
-    auto& [lines, texts] = hindernisse;
+    std::vector<Strecke>& lines = hindernisse.lines;
+    std::vector<Rechteck>& texts = hindernisse.texts;
     std::ranges::sort(lines, {}, [](const Strecke& line) { return line.to.x; });
     const auto hasRoom = [&](const Rechteck& place) {
         return contains(feld, place)
