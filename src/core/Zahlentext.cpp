@@ -161,6 +161,7 @@ std::string wholeText(double value)
 }
 
 constexpr double FirstPlain = 1e-4;
+constexpr double FirstWithExponent = 1e15;
 
 /// The shortest text of a number that is in plain digits, FirstPlain or more and below 1e15, and not whole, behind a
 /// text.
@@ -194,9 +195,19 @@ void appendSingle(std::string& text, float value, Dezimaltrenner trenner)
         text += layOut(shortestDigits(value), trenner);
 }
 
+void appendDouble(std::string& text, double value, Dezimaltrenner trenner)
+{
+    const double amount = std::abs(value);
+    if (isWholeBelow(value, FirstWithExponent))
+        text += wholeText(value);
+    else if (amount >= FirstPlain && amount < FirstWithExponent)
+        appendShortestPlain(text, value, trenner);
+    else if (std::isfinite(value))
+        text += layOut(shortestDigits(value), trenner);
+}
+
 std::string textOfDouble(double value, Dezimaltrenner trenner)
 {
-    constexpr double FirstWithExponent = 1e15;
     if (isWholeBelow(value, FirstWithExponent))
         return wholeText(value);
     if (!std::isfinite(value))

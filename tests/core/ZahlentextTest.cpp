@@ -21,6 +21,14 @@ TEST(Zahlentext, WritesTheShortestTextThatReadsBack)
         {0.0001, "0,0001"}, {0.00001, "1E-5"}};
     for (const auto& [value, text] : doubles)
         EXPECT_EQ(textOfDouble(value), text);
+    const std::pair<double, const char*> exact[] = {{0.1 + 0.2, "0,30000000000000004"}, {-1e15, "-1E+15"},
+        {123456789012345, "123456789012345"}, {5e-324, "5E-324"}, {-0.0, "0"}, {std::numeric_limits<double>::infinity(), ""}};
+    for (const auto& [value, text] : exact) {
+        std::string all = "x";
+        appendDouble(all, value);
+        EXPECT_EQ(all, std::string("x") + text);
+        EXPECT_TRUE(*text == '\0' || doubleFromText(text) == value) << text;
+    }
     EXPECT_EQ(textWithDigits(63.300003, 7), "63,3");
     EXPECT_EQ(textWithDigits(1000000000000000100000.0, 17), "1,0000000000000001E+21");
 }

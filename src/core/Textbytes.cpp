@@ -1,0 +1,78 @@
+#include "core/Textbytes.h"
+
+#include <cstddef>
+#include <cstdint>
+
+#include "core/Zeichensatz.h"
+
+namespace zerna {
+
+namespace {
+
+void append(std::string& text, std::uint32_t codePoint)
+{
+    const auto following = [&](unsigned shift) { text += static_cast<char>(0x80U | (codePoint >> shift & 0x3FU)); };
+    if (codePoint < 0x80) {
+        text += static_cast<char>(codePoint);
+    } else if (codePoint < 0x800) {
+        text += static_cast<char>(0xC0U | codePoint >> 6U);
+        following(0);
+    } else if (codePoint < 0x10000) {
+        text += static_cast<char>(0xE0U | codePoint >> 12U);
+        following(6);
+        following(0);
+    } else {
+        text += static_cast<char>(0xF0U | codePoint >> 18U);
+        following(12);
+        following(6);
+        following(0);
+    }
+}
+
+constexpr bool isHighSurrogate(std::uint32_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
+constexpr bool isLowSurrogate(std::uint32_t unit) { return unit >= 0xDC00 && unit < 0xE000; }
+
+/// A surrogate without its partner becomes "?".
+std::string fromUtf16(std::string_view bytes, bool littleEndian)
+{
+    const auto unitAt = [&](std::size_t i) {
+        const auto first = static_cast<unsigned char>(bytes[i]);
+        const auto second = static_cast<unsigned char>(bytes[i + 1]);
+        return static_cast<std::uint32_t>(littleEndian ? second << 8U | first : first << 8U | second);
+    };
+    std::string text;
+    text.reserve(bytes.size() / 2);
+    for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+        const std::uint32_t unit = unitAt(i);
+        if (!isHighSurrogate(unit)) {
+            append(text, isLowSurrogate(unit) ? '?' : unit);
+        } else if (i + 3 < bytes.size() && isLowSurrogate(unitAt(i + 2))) {
+            append(text, 0x10000 + ((unit - 0xD800) << 10U) + (unitAt(i + 2) - 0xDC00));
+            i += 2;
+        } else {
+            append(text, '?');
+        }
+    }
+    return text;
+}
+
+std::string decoded(std::string_view bytes)
+{
+    if (bytes.starts_with("\xEF\xBB\xBF"))
+        bytes.remove_prefix(3);
+    else if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF"))
+        return fromUtf16(bytes.substr(2), bytes.starts_with("\xFF"));
+    else if (bytes.size() >= 2 && (bytes[0] == '\0') != (bytes[1] == '\0'))
+        return fromUtf16(bytes, bytes[1] == '\0');
+    return istUtf8(bytes) ? std::string(bytes) : fromWindows1252(bytes);
+}
+
+} // namespace
+
+std::optional<std::string> textAusBytes(std::string_view bytes)
+{
+    std::string text = decoded(bytes);
+    return text.find('\0') == std::string::npos ? std::optional(std::move(text)) : std::nullopt;
+}
+
+} // namespace zerna
