@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -24,6 +25,10 @@ inline constexpr std::size_t MeistFremdes = 1'000'000; // bytes of keys that the
 /// The file of a document. Keys that a newer program has left in it come along. A file that would be too large for its
 /// line breaks goes without them.
 std::string schreibe(const Dokument& dokument);
+
+/// The same in two steps: all but the measured points, which may be many and never change, is read now; the answer
+/// makes the text and may be called once, by any thread.
+std::function<std::string()> schreibeSpaeter(const Dokument& dokument);
 
 /// What became of a file.
 struct Lesung {

@@ -12,6 +12,7 @@
 #include "dokument/Feldleser.h"
 #include "dokument/Fremdes.h"
 #include "dokument/Kurvenjson.h"
+#include "dokument/Messkurvenjson.h"
 #include "dokument/Worte.h"
 
 namespace zerna {
@@ -156,11 +157,13 @@ public:
         dokument.vergleich = vergleich(m_leser.objekt(root, "vergleich"));
         if (root.contains("kurven"))
             dokument.kurven = kurven(m_leser.liste(root, "kurven", 0, MaxKurven));
+        dokument.messkurven = messkurven(root);
         dokument.fremd = fremdes(root, [&] {
             Json known = dokumentjson(dokument);
             for (const std::string_view key : WahlfreieDiagrammangaben)
                 known["diagramm"].emplace(key, nullptr);
             known["kurven"] = nullptr; // each has its own
+            known.emplace(Messkurvenschluessel, nullptr);
             return known;
         });
         if (m_leser.fehler()) {
@@ -224,6 +227,22 @@ private:
             GehalteneKurve kurve = readKurve(m_leser, liste.at(i));
             kurve.fremd = fremdes(liste.at(i), [&] { return kurvenjson(kurve); });
             kurven.push_back(std::move(kurve));
+        }
+        return kurven;
+    }
+
+    std::vector<Messkurve> messkurven(const Json& root)
+    {
+        std::vector<Messkurve> kurven;
+        if (m_leser.fehler() || !root.contains(Messkurvenschluessel))
+            return kurven;
+        const Json& liste = m_leser.liste(root, Messkurvenschluessel, 0, MeisteMesskurven);
+        for (std::size_t i = 0; i < liste.size() && !m_leser.fehler(); ++i) {
+            Messkurve kurve = liesMesskurve(m_leser, liste.at(i));
+            kurve.fremd = fremdes(liste.at(i), [&] { return messkurvenjson(kurve); });
+            kurven.push_back(std::move(kurve));
+            if (messpunktzahl(kurven) > MeisteMesspunkte)
+                m_leser.ablehnen(liste.at(i), "Das sind zusammen zu viele Messpunkte");
         }
         return kurven;
     }

@@ -9,6 +9,7 @@
 #include "dokument/Dokumentjson.h"
 #include "dokument/Fremdes.h"
 #include "dokument/Kurvenjson.h"
+#include "dokument/Messkurvenjson.h"
 #include "dokument/Worte.h"
 
 namespace zerna {
@@ -85,16 +86,24 @@ Json dokumentjson(const Dokument& dokument)
         {"vergleich", {{"referenz", referenz}, {"varianten", nullptr}}}};
 }
 
-std::string schreibe(const Dokument& dokument)
+std::function<std::string()> schreibeSpaeter(const Dokument& dokument)
 {
     Json json = dokumentjson(dokument);
     fuegeEin(json, fremdesAus(*dokument.fremd));
     json["vergleich"]["varianten"] = liste(dokument.vergleich->varianten, &variantenjson);
     if (!dokument.kurven->empty())
         json["kurven"] = liste(*dokument.kurven, &kurvenjson);
-    const auto text = [&](int indent) { return json.dump(indent, ' ', false, Json::error_handler_t::replace) + '\n'; };
-    std::string indented = text(4);
-    return indented.size() <= GroessteDatei ? indented : text(-1);
+    return [json = std::move(json), kurven = dokument.messkurven]() mutable {
+        if (!kurven->empty())
+            json[Messkurvenschluessel] = messkurvenliste(*kurven);
+        const auto text = [&](int indent) {
+            return json.dump(indent, ' ', false, Json::error_handler_t::replace) + '\n';
+        };
+        std::string indented = text(4);
+        return indented.size() <= GroessteDatei ? indented : text(-1);
+    };
 }
+
+std::string schreibe(const Dokument& dokument) { return schreibeSpaeter(dokument)(); }
 
 } // namespace zerna

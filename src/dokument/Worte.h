@@ -11,6 +11,7 @@
 #include "model/Diagrammwahl.h"
 #include "model/Komposition.h"
 #include "model/Mischungsreihe.h"
+#include "model/Messkurve.h"
 
 /// The words that a file has for the program's codes.
 namespace zerna {
@@ -29,8 +30,14 @@ inline constexpr std::array<Wort<int>, 6> Valenzworte{
 inline constexpr std::array<Wort<Anteilseinheit>, 2> Einheitenworte{
     {{Anteilseinheit::Atom, "at%"}, {Anteilseinheit::Masse, "Masse %"}}};
 
-inline constexpr std::array<Wort<Diagrammtyp>, 3> Diagrammworte{
-    {{Diagrammtyp::Konzentration, "Konzentration"}, {Diagrammtyp::Ternaer, "ternär"}, {Diagrammtyp::PSE, "PSE"}}};
+inline constexpr std::array<Wort<Diagrammtyp>, 4> Diagrammworte{{{Diagrammtyp::Konzentration, "Konzentration"},
+    {Diagrammtyp::Ternaer, "ternär"}, {Diagrammtyp::PSE, "PSE"}, {Diagrammtyp::Messkurve, "Messkurve"}}};
+
+inline constexpr std::array<Wort<Messart>, 2> Messworte{
+    {{Messart::Paarverteilung, "g(r)"}, {Messart::Strukturfaktor, "S(K)"}}};
+
+inline constexpr std::array<Wort<Messeinheit>, 2> Messeinheiten{
+    {{Messeinheit::Nanometer, "nm"}, {Messeinheit::Angstroem, "Å"}}};
 
 inline constexpr std::array<Wort<Reihenart>, 2> Reihenworte{
     {{Reihenart::Gegeben, "eingetragen"}, {Reihenart::Summe100, "Summe 100"}}};

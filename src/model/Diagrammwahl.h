@@ -14,7 +14,7 @@ struct Ansicht {
     bool operator==(const Ansicht&) const = default;
 };
 
-enum class Diagrammtyp { Konzentration = 0, Ternaer = 1, PSE = 2 };
+enum class Diagrammtyp { Konzentration = 0, Ternaer = 1, PSE = 2, Messkurve = 3 };
 
 /// Which diagram is shown of an alloy.
 struct Diagrammwahl {

@@ -9,6 +9,7 @@
 #include "model/Diagrammwahl.h"
 #include "model/Eingabe.h"
 #include "model/GehalteneKurve.h"
+#include "model/Messkurve.h"
 #include "model/Wiegeauskunft.h"
 
 namespace zerna {
@@ -56,6 +57,7 @@ struct Dokument {
     Diagrammwahl diagramm;
     Geteilt<Vergleich> vergleich;
     Geteilt<std::vector<GehalteneKurve>> kurven; ///< up to MaxKurven
+    Geteilt<std::vector<Messkurve>> messkurven; ///< up to MeisteMesskurven, with MeisteMesspunkte together
     Geteilt<std::string> fremd; ///< keys of a newer program's file, as the text of a JSON object; empty for none
 
     bool operator==(const Dokument&) const = default;

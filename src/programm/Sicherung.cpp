@@ -66,7 +66,7 @@ void Sicherung::lasseLiegen()
     belegeLeeren();
 }
 
-void Sicherung::schreibe(std::string bytes)
+void Sicherung::schreibe(std::function<std::string()> bytes)
 {
     {
         const std::lock_guard lock(m_mutex);
@@ -90,15 +90,15 @@ void Sicherung::warte()
 void Sicherung::arbeite(const std::stop_token& ende)
 {
     std::unique_lock lock(m_mutex);
-    while (m_geweckt.wait(lock, ende, [this] { return m_auftrag.has_value(); })) {
-        const std::string bytes = *std::exchange(m_auftrag, std::nullopt);
+    while (m_geweckt.wait(lock, ende, [this] { return m_auftrag != nullptr; })) {
+        const auto bytes = std::exchange(m_auftrag, nullptr);
         m_schreibt = true;
         lock.unlock();
         std::optional<Laufzeitfehler> fehler;
         try {
             if (m_nummer < 0)
                 throw Laufzeitfehler(Fehler::ZugriffVerweigert);
-            writeExport(datei(m_nummer), bytes);
+            writeExport(datei(m_nummer), bytes());
         } catch (const Laufzeitfehler& error) {
             fehler = error;
         } catch (const std::exception&) { // memory, say: nobody else could catch it in this thread

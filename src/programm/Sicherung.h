@@ -3,6 +3,7 @@
 #include <condition_variable>
 #include <cstdio>
 #include <filesystem>
+#include <functional>
 #include <mutex>
 #include <optional>
 #include <string>
@@ -36,8 +37,8 @@ public:
     /// Leaves what a killed run has left for a later run, and takes an empty place.
     void lasseLiegen();
 
-    /// Keeps these bytes; of several that wait only the last are written.
-    void schreibe(std::string bytes);
+    /// Keeps these bytes, which are made beside the caller; of several that wait only the last are written.
+    void schreibe(std::function<std::string()> bytes);
 
     /// Why the last schreibe has kept nothing, told once; waits for nothing.
     std::optional<Laufzeitfehler> nimmFehler();
@@ -61,7 +62,7 @@ private:
     std::mutex m_mutex; // for what follows
     std::condition_variable_any m_geweckt;
     std::condition_variable_any m_fertig;
-    std::optional<std::string> m_auftrag;
+    std::function<std::string()> m_auftrag; // null for none
     bool m_schreibt = false;
     std::optional<Laufzeitfehler> m_fehler;
     std::jthread m_schreiber; // last: ends before what it uses

@@ -267,6 +267,29 @@ TEST_F(DokumentdateiTest, LimitsWhatAFileHolds)
     EXPECT_LE(schreibe(dokument).size(), GroessteDatei);
 }
 
+TEST_F(DokumentdateiTest, RefusesMeasuredCurvesThatAreNone)
+{
+    dokument.messkurven = std::vector<Messkurve>{
+        {"Ni", Messart::Strukturfaktor, Messeinheit::Angstroem, {{{1, 0.1}, {2, 1e-7}, {2.5, -4}}}}};
+    const std::vector<std::pair<std::pair<const char*, const char*>, const char*>> rows{
+        {{"\"S(K)\"", "\"S(Q)\""}, "\"S(Q)\" ist hier nicht bekannt"},
+        {{"\"x\": \"1 2", "\"x\": \"1  2"}, "\"\" ist kein Messwert"},
+        {{"\"1 2 2.5\"", "\"1 2 2.5x\""}, "\"2.5x\" ist kein Messwert"},
+        {{"\"1 2 2.5\"", "\"1 2 1e31\""}, "\"1e31\" ist kein Messwert"},
+        {{"\"1 2 2.5\"", "\"1 2 1e400\""}, "\"1e400\" ist kein Messwert"},
+        {{"\"1 2 2.5\"", "[1, 2, 2.5]"}, "\"x\" muss ein Text sein"},
+        {{"\"1 2 2.5\"", "\"1 2 2\""}, "Die Zahlen in \"x\" müssen aufsteigen"},
+        {{"\"1 2 2.5\"", "\"1 2\""}, "\"x\" und \"y\" müssen gleich viele Zahlen haben, mindestens drei"},
+        {{"0.1 1E-7 -4", "0.1 1E-7"}, "\"x\" und \"y\" müssen gleich viele Zahlen haben, mindestens drei"},
+        {{"\"messkurven\": [", "\"messkurven\": [7, "}, "Eine Messkurve muss ein Objekt sein"},
+    };
+    for (const auto& [change, reason] : rows)
+        EXPECT_EQ(read(with(change.first, change.second)).fehler.grund, reason);
+    EXPECT_EQ(*read(with("\"1 2 2.5\"", "\"1 2 2.50\"")).dokument, dokument);
+    dokument.messkurven = std::vector<Messkurve>(MeisteMesskurven + 1, dokument.messkurven->front());
+    EXPECT_EQ(read(schreibe(dokument)).fehler.grund, "\"messkurven\" muss eine Liste von 0 bis 20 Einträgen sein");
+}
+
 TEST_F(DokumentdateiTest, TellsDifferencesToTheTableForKeepingOrTakingOver)
 {
     const std::string text = schreibe(dokument);

@@ -17,8 +17,8 @@ struct SicherungTest : FilesTest {
         const pid_t run = fork();
         if (run == 0) {
             Sicherung sicherung(ordner);
-            sicherung.schreibe("zuvor");
-            sicherung.schreibe(bytes);
+            sicherung.schreibe([] { return "zuvor"; });
+            sicherung.schreibe([bytes] { return bytes; });
             sicherung.warte();
             raise(SIGKILL);
         }
@@ -44,7 +44,7 @@ TEST_F(SicherungTest, AKilledRunLeavesItsLastStateAndOneThatEndsLeavesNothing)
 TEST_F(SicherungTest, RunsAtTheSameTimeHavePlacesOfTheirOwn)
 {
     Sicherung first(ordner);
-    first.schreibe("lebt");
+    first.schreibe([] { return "lebt"; });
     first.warte();
     runAndKill("tot");
     Sicherung second(ordner);
@@ -52,7 +52,7 @@ TEST_F(SicherungTest, RunsAtTheSameTimeHavePlacesOfTheirOwn)
     const Sicherung third(ordner);
     EXPECT_EQ(third.hinterlassen(), std::nullopt);
     second.lasseLiegen(); // a later run gets it
-    second.schreibe("anders");
+    second.schreibe([] { return "anders"; });
     second.warte();
     EXPECT_FALSE(second.nimmFehler().has_value());
     EXPECT_EQ(Sicherung(ordner).hinterlassen(), "tot");
@@ -63,7 +63,7 @@ TEST_F(SicherungTest, AFolderThatCannotBeWrittenIsToldOnceAndCostsNothingElse)
     writeBytes(folder / "datei", "");
     Sicherung sicherung(folder / "datei");
     EXPECT_EQ(sicherung.hinterlassen(), std::nullopt);
-    sicherung.schreibe("x");
+    sicherung.schreibe([] { return "x"; });
     sicherung.warte();
     EXPECT_TRUE(sicherung.nimmFehler().has_value());
     EXPECT_FALSE(sicherung.nimmFehler().has_value());

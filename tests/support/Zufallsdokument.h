@@ -32,7 +32,7 @@ public:
         dokument.wiegen.verlust = text();
         if (below(3) == 0)
             dokument.wiegen.bezug = Wiegebezug{below(MaxKomponenten), std::abs(single())};
-        Diagrammwahl wahl{.typ = static_cast<Diagrammtyp>(below(3)),
+        Diagrammwahl wahl{.typ = static_cast<Diagrammtyp>(below(4)),
             .groesse = below(11),
             .komponente = below(MaxKomponenten),
             .aufloesung = 1 + below(10),
@@ -45,6 +45,7 @@ public:
         dokument.diagramm = passendeWahl(wahl, dokument.eingabe.anzahl());
         dokument.vergleich = vergleich();
         dokument.kurven = kurven();
+        dokument.messkurven = messkurven();
         if (below(4) == 0)
             dokument.fremd = std::string(R"({"diagramm":{"farbe":"grün"},"neu":[1,null,{"a":-2.5}]})");
         return dokument;
@@ -136,6 +137,19 @@ private:
             for (float& value : kurve.werte)
                 value = below(9) == 0 ? Unbekannt : single();
             kurve.fremd = below(4) == 0 ? R"({"note":{"x":"€"}})" : "";
+        }
+        return kurven;
+    }
+
+    std::vector<Messkurve> messkurven()
+    {
+        std::vector<Messkurve> kurven;
+        for (int count = std::max(0, below(6) - 3); count > 0; --count) {
+            std::vector<Messpunkt> punkte;
+            for (double x = real(-9, 9); punkte.size() < 3 || below(8) != 0; x += real(1e-9, 2.5))
+                punkte.push_back({x, real(-1, 1) * std::array{1e-9, 0.1, 1.0, 2.5e20}.at(pick(4))});
+            kurven.push_back({text(), static_cast<Messart>(below(2)), static_cast<Messeinheit>(below(2)),
+                std::move(punkte), below(4) == 0 ? R"({"probe":[7]})" : ""});
         }
         return kurven;
     }

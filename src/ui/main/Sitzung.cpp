@@ -49,10 +49,12 @@ void Sitzung::geaendert()
         m_bald.start();
 }
 
-std::string Sitzung::text() const
+/// Makes the text, in any thread.
+std::function<std::string()> Sitzung::text() const
 {
     const OffeneDatei datei = m_datei();
-    return datei.name + Trenner + std::to_string(datei.stand) + Trenner + schreibe(m_programm.Dokument());
+    return [kopf = datei.name + Trenner + std::to_string(datei.stand) + Trenner,
+               dokument = schreibeSpaeter(m_programm.Dokument())] { return kopf + dokument(); };
 }
 
 void Sitzung::sichere()
@@ -144,7 +146,7 @@ void Sitzung::ende()
     if (!stelltWiederHer(m_programm.settings()))
         return;
     try {
-        writeExport(letzte(), text());
+        writeExport(letzte(), text()());
     } catch (const Laufzeitfehler& error) {
         m_programm.boxes().show(Icon::Exclamation, Programmtitel,
             "Der nächste Start kann die Legierung nicht wiederherstellen: " + std::string(error.what()) + ".\r\n\r\n"

@@ -44,7 +44,7 @@ public:
     static void setWiederherstellen(Settings& settings, bool yes);
 
 private:
-    std::string text() const;
+    std::function<std::string()> text() const;
     std::optional<Stand> gelesen(const std::string& text) const;
     std::optional<Stand> nachAbbruch();
     std::optional<Stand> letzterStand() const;
