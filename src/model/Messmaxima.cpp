@@ -175,6 +175,7 @@ struct Ort {
     Messpunkt scheitel;
     double bend = 0; ///< of the curve there, upside down: the second derivative along x
     double slopeError = 0; ///< what noise does to the slope there, as a standard deviation
+    double heightError = 0; ///< what it does to the height
     double half = 0; ///< of the window's length
 
     /// What noise does to the place of a top that is so much bent.
@@ -193,12 +194,14 @@ std::optional<Ort> ortIn(std::span<const Messpunkt> punkte, double noise)
     if (top == 0 || top + 1 == punkte.size())
         return std::nullopt;
     constexpr double SlopeVariance = 9.375; // of a fourth-degree fit to 2·m + 1 points, times m³
+    constexpr double Variance = 1.76; // of its value, times m
     const Messpunkt left = fitted(top - 1);
     const Messpunkt right = fitted(top + 1);
     const double step = (right.x - left.x) / 2;
     const double half = static_cast<double>(punkte.size() - 1) / 2;
     return Ort{scheitel(left, fitted(top), right), (2 * fitted(top).y - left.y - right.y) / (step * step),
-        noise * std::sqrt(SlopeVariance / (half * half * half)) / step, half * step};
+        noise * std::sqrt(SlopeVariance / (half * half * half)) / step, noise * std::sqrt(Variance / half),
+        half * step};
 }
 
 /// The points within so many of one of them, between the minima.
@@ -211,36 +214,43 @@ std::span<const Messpunkt> fenster(
 }
 
 /// The top in the widest window that agrees with all narrower ones within their errors: it has the least noise, and
-/// misses no more of the curve's shape than noise hides. `gipfel` and `widest` count points.
-Messpunkt maximum(std::span<const Messpunkt> punkte, Gipfel gipfel, std::size_t widest, double noise)
+/// misses no more of the curve's shape than noise hides. `gipfel` and `most` count points.
+Messpunkt maximum(std::span<const Messpunkt> punkte, Gipfel gipfel, std::size_t most, double noise)
 {
     constexpr double Agreeing = 3; // errors
     constexpr double Blind = 0.01;
     gipfel.right = std::min(gipfel.right, punkte.size() - 1);
     std::size_t middle = std::clamp(gipfel.top, gipfel.left + 1, gipfel.right - 1);
     const Messpunkt plain = scheitel(punkte[middle - 1], punkte[middle], punkte[middle + 1]);
-    if (const auto first = ortIn(fenster(punkte, gipfel, middle, widest), noise)) {
+    if (const auto first = ortIn(fenster(punkte, gipfel, middle, most), noise)) {
         const auto nearest = std::ranges::lower_bound(punkte, first->scheitel.x, {}, &Messpunkt::x) - punkte.begin();
         middle = std::clamp(static_cast<std::size_t>(nearest), gipfel.left + 1, gipfel.right - 1);
     }
     std::vector<Ort> orte; // the narrowest first
-    for (std::size_t half = Narrowest;; half = std::min(widest, half + (half + 1) / 2)) {
+    for (std::size_t half = Narrowest;; half = std::min(most, half + (half + 1) / 2)) {
         if (const auto ort = ortIn(fenster(punkte, gipfel, middle, half), noise))
             orte.push_back(*ort);
-        if (half >= widest)
+        if (half >= most)
             break;
     }
-    for (auto wide = orte.end(); wide != orte.begin();) {
-        --wide;
-        const bool agrees = std::all_of(orte.begin(), wide, [&](const Ort& narrow) {
-            const double error = narrow.error(wide->bend);
-            const bool isBlind = error > Blind * narrow.half; // it shows the shape of the noise
-            return isBlind || std::abs(narrow.scheitel.x - wide->scheitel.x) <= Agreeing * error;
+    const auto widest = [&](const auto& agrees) { // the narrowest agrees at least
+        return *std::find_if(orte.rbegin(), orte.rend(), [&](const Ort& wide) {
+            return std::ranges::all_of(orte, [&](const Ort& ort) {
+                const double error = ort.error(wide.bend);
+                const bool isBlind = error > Blind * ort.half; // it shows the shape of the noise
+                return ort.half >= wide.half || isBlind || agrees(ort, wide, error);
+            });
         });
-        if (agrees)
-            return wide->scheitel;
-    }
-    return plain;
+    };
+    if (orte.empty())
+        return plain;
+    const Ort place = widest([](const Ort& narrow, const Ort& wide, double error) {
+        return std::abs(narrow.scheitel.x - wide.scheitel.x) <= Agreeing * error;
+    });
+    const Ort height = widest([](const Ort& narrow, const Ort& wide, double) {
+        return std::abs(narrow.scheitel.y - wide.scheitel.y) <= Agreeing * narrow.heightError;
+    });
+    return {place.scheitel.x, height.scheitel.y};
 }
 
 /// Noise of the points: what their last digit leaves out, at least.
