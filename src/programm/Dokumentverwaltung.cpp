@@ -61,7 +61,7 @@ bool Dokumentverwaltung::oeffne()
 {
     if (!darfErsetzen())
         return false;
-    const auto file = m_open.choose();
+    const auto file = m_open.choose(Dateiwahl::Legierung);
     return file && lade(pathFromUtf8(*file));
 }
 

@@ -73,7 +73,7 @@ public:
 /// A dialog that gives its answer at once; no answer is a cancel.
 class FakeOpenDialog : public OpenFileDialog {
 public:
-    std::optional<std::string> choose() override { return answer; }
+    std::optional<std::string> choose(Dateiwahl) override { return answer; }
 
     std::optional<std::string> answer;
 };

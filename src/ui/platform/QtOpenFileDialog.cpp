@@ -9,12 +9,15 @@
 
 namespace zerna {
 
-std::optional<std::string> QtOpenFileDialog::choose()
+std::optional<std::string> QtOpenFileDialog::choose(Dateiwahl wahl)
 {
-    QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Legierung öffnen"), QDir::currentPath());
+    const bool isAlloy = wahl == Dateiwahl::Legierung;
+    QFileDialog dialog(QApplication::activeWindow(),
+        isAlloy ? QStringLiteral("Legierung öffnen") : QStringLiteral("Messkurve öffnen"), QDir::currentPath());
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setFileMode(QFileDialog::ExistingFile);
-    dialog.setNameFilters({QStringLiteral("Legierungen und Bilder (*.zerna *.png *.svg *.svgz *.pdf)"),
+    dialog.setNameFilters({isAlloy ? QStringLiteral("Legierungen und Bilder (*.zerna *.png *.svg *.svgz *.pdf)")
+                                   : QStringLiteral("Messkurven (*.txt *.dat *.csv *.tsv *.xy *.asc *.gr *.sq *.chi)"),
         QStringLiteral("Alle Dateien (*)")});
     zeigeGanzeSpalten(dialog);
     if (dialog.exec() != QDialog::Accepted)
