@@ -66,6 +66,22 @@ Kurvenbild messkurvenbild(const Messauswertung& auswertung, Messart art)
     return bild;
 }
 
+std::string messkurvenwerte(const Kurvenbild& bild)
+{
+    const auto isMeasured = [](const Kurve& kurve) { return kurve.linie != Linienart::Keine; };
+    const bool isOne = std::ranges::count_if(bild.kurven, isMeasured) == 1;
+    std::string text;
+    for (const Kurve& kurve : bild.kurven) {
+        if (!isMeasured(kurve))
+            continue;
+        if (!isOne)
+            text += (text.empty() ? "# " : "\r\n# ") + kurve.name + "\r\n";
+        for (const auto& [x, y] : kurve.punkte)
+            text += textOfDouble(x, Dezimaltrenner::Punkt) + '\t' + textOfDouble(y, Dezimaltrenner::Punkt) + "\r\n";
+    }
+    return text;
+}
+
 Messbeiwerk messbeiwerk(const clsCalc& calc, Messart art, const Bereich& x, std::string_view legierung)
 {
     Messbeiwerk beiwerk;
@@ -77,9 +93,9 @@ Messbeiwerk messbeiwerk(const clsCalc& calc, Messart art, const Bereich& x, std:
             beiwerk.marken.push_back({kf, "2 kF", Markenfarbe});
         return beiwerk;
     }
-    int n = 0;
+    int n = 0; // counted from 1, as in the results
     for (const float r : friedelminimaBis(calc, x.max))
-        beiwerk.marken.push_back({r, "r(" + std::to_string(n++) + ")", Markenfarbe});
+        beiwerk.marken.push_back({r, "r(" + std::to_string(++n) + ")", Markenfarbe});
     if (beiwerk.marken.empty())
         beiwerk.hinweise.emplace_back("Die Friedelminima der Legierung sind unbekannt oder liegen außerhalb.");
     return beiwerk;

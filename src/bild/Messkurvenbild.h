@@ -9,6 +9,10 @@ namespace zerna {
 /// The curves with signs at their maxima; what follows of an alloy is not in it.
 Kurvenbild messkurvenbild(const Messauswertung& auswertung, Messart art);
 
+/// Its values as lines of x, a tab and y with decimal points and CR LF; several curves have their names above them,
+/// behind a "#", and an empty line between them.
+std::string messkurvenwerte(const Kurvenbild& bild);
+
 /// What an alloy adds to the picture: it changes while it is being entered.
 struct Messbeiwerk {
     std::string untertitel; ///< the alloy

@@ -12,22 +12,23 @@ namespace zerna {
 
 namespace {
 
-constexpr double ErstesMinimum = 1.25; // wavelengths
+constexpr double Versatz = 0.25; // wavelengths: r(n) = (n + 1/4)·λ
 
 float wellenlaenge(const clsCalc& calc) { return wert(ergebniszeile(Wellenlaengenzeile), calc); }
 
+/// Intended: the calculator counts the minima from 0, whoever shows them from 1.
 float friedelminimum(const clsCalc& calc, int n)
 {
-    return orUnbekannt([&] { return calc.Friedelminima(n); });
+    return orUnbekannt([&] { return calc.Friedelminima(n - 1); });
 }
 
 void vergleicheMitMinimum(Messbefund& befund, const clsCalc& calc, float lambda)
 {
     constexpr double Farthest = 1e6; // wavelengths
-    const double place = befund.maximum.x / lambda - ErstesMinimum;
+    const double place = befund.maximum.x / lambda - Versatz;
     if (istUnbekannt(lambda) || !(lambda > 0) || !(place < Farthest))
         return;
-    befund.n = std::max(0, static_cast<int>(std::lround(place)));
+    befund.n = std::max(1, static_cast<int>(std::lround(place)));
     befund.modell = friedelminimum(calc, befund.n);
 }
 
@@ -96,7 +97,7 @@ std::vector<float> friedelminimaBis(const clsCalc& calc, double radius)
     if (istUnbekannt(lambda) || !(lambda > 0) || !(radius / lambda < static_cast<double>(MeisteMinima)))
         return {};
     std::vector<float> minima;
-    for (int n = 0;; ++n) {
+    for (int n = 1;; ++n) {
         const float r = friedelminimum(calc, n);
         if (istUnbekannt(r) || r > radius)
             return minima;

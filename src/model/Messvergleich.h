@@ -16,7 +16,7 @@ namespace zerna {
 struct Messbefund {
     std::size_t kurve = 0; ///< index of the curve
     Messpunkt maximum;
-    int n = 0; ///< which Friedel minimum is nearest; 0 for S(K)
+    int n = 0; ///< which Friedel minimum is nearest, from 1; 0 for S(K)
     float modell = Unbekannt; ///< its radius, or 2kF
 
     double differenz() const { return maximum.x - static_cast<double>(modell); }

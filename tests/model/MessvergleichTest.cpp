@@ -43,10 +43,10 @@ TEST_F(MessvergleichTest, PutsTheNearestMinimumOr2kFBesideEachMaximumInNm)
         kurve("Å", Paarverteilung, Angstroem, 10, {0.1, 3, 0.008}),
     });
     EXPECT_THAT(tabelle(Paarverteilung).zeilen,
-        ElementsAre(Zeile{"nm", "0,25000", "3,000", "0", "0,22457", "+0,02543"},
-            Zeile{"nm", "0,50000", "1,000", "2", "0,58388", "-0,08388"},
-            Zeile{"Å", "0,10000", "3,000", "0", "0,22457", "-0,12457"},
-            Zeile{"Å", "0,20000", "1,000", "0", "0,22457", "-0,02457"}));
+        ElementsAre(Zeile{"nm", "0,25000", "3,000", "1", "0,22457", "+0,02543"},
+            Zeile{"nm", "0,50000", "1,000", "3", "0,58388", "-0,08388"},
+            Zeile{"Å", "0,10000", "3,000", "1", "0,22457", "-0,12457"},
+            Zeile{"Å", "0,20000", "1,000", "1", "0,22457", "-0,02457"}));
     EXPECT_THAT(tabelle(Strukturfaktor).zeilen, ElementsAre(Zeile{"S, Å", "30,100", "2,000", "34,974", "-4,874"}));
     EXPECT_THAT(
         friedelminimaBis(calc, 0.6), ElementsAre(calc.Friedelminima(0), calc.Friedelminima(1), calc.Friedelminima(2)));

@@ -7,6 +7,7 @@
 
 #include "programm/Programm.h"
 #include "ui/diagram/Diagrammmeldung.h"
+#include "ui/diagram/Messdiagramm.h"
 #include "ui/diagram/PSEDiagramm.h"
 #include "ui/diagram/Ternaerdiagramm.h"
 #include "ui/platform/Dialoge.h"
@@ -38,6 +39,10 @@ public:
     void copyLuecken(); ///< the elements without a value and why
 
     void showTernaer(Ternaerangaben angaben);
+
+    /// The diagram of measured curves, which is shown after showMesskurven.
+    Messdiagramm& messdiagramm() { return m_messung; }
+    void showMesskurven() { showDiagramm(m_messung, Qt::StrongFocus); }
 
     /// Marks where the ternary diagram's quantity has a value, also while another diagram is shown.
     void setTernaerziel(std::optional<float> ziel);
@@ -104,6 +109,7 @@ private:
     conDisplay* m_display = nullptr;
     PSEDiagramm m_pse;
     Ternaerdiagramm m_ternaer; // keeps its view from grid to grid
+    Messdiagramm m_messung;
     Diagrammmeldung m_meldung;
     Diagramm* m_diagramm = &m_meldung; // what is shown
     Diagramm* m_gezeigt = nullptr; // the diagram that was shown last

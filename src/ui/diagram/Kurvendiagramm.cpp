@@ -28,6 +28,15 @@ void Kurvendiagramm::setBild(Kurvenbild bild)
     m_ansicht.passeAn(m_bild);
 }
 
+void Kurvendiagramm::setBeschriftung(
+    std::string untertitel, std::vector<Linienmarke> marken, std::vector<std::string> hinweise)
+{
+    m_bild.untertitel = std::move(untertitel);
+    m_bild.marken = std::move(marken);
+    m_bild.hinweise = std::move(hinweise);
+    ++m_stand;
+}
+
 void Kurvendiagramm::beginneNeu()
 {
     m_ansicht = {};

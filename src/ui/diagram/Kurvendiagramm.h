@@ -19,6 +19,9 @@ namespace zerna {
 class Kurvendiagramm : public Diagramm {
 public:
     void setBild(Kurvenbild bild);
+
+    /// Changes what stands around and across the curves, which stay.
+    void setBeschriftung(std::string untertitel, std::vector<Linienmarke> marken, std::vector<std::string> hinweise);
     void ohneBild() { m_hatBild = false; }
 
     /// Shows the whole picture again, without a crosshair: for a picture of something else.

@@ -9,6 +9,9 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <algorithm>
+
+#include "programm/Messkurvenoeffnung.h"
 #include "ui/controls/Menue.h"
 #include "ui/main/Titeldialog.h"
 #include "ui/platform/QtText.h"
@@ -178,7 +181,11 @@ void Dateibefehle::droppe(const QMimeData& data)
         files << (url.isLocalFile() ? url.toLocalFile() : url.toString());
     QTimer::singleShot(0, this, [this, files] {
         m_window.activateWindow();
-        if (files.size() == 1)
+        const bool areMeasured = std::ranges::all_of(
+            files, [](const QString& file) { return istMesskurvendatei(pathFromUtf8(fromQt(file))); });
+        if (areMeasured)
+            emit messkurvenGezogen(files);
+        else if (files.size() == 1)
             oeffne(files.constFirst());
         else
             m_programm.boxes().show(

@@ -50,6 +50,9 @@ signals:
 
     void geschehen(const Schritt& schritt);
 
+    /// Files that are measured curves have been dropped.
+    void messkurvenGezogen(const QStringList& dateien);
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 

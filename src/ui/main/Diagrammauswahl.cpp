@@ -83,6 +83,9 @@ void Diagrammauswahl::setTyp(Diagrammtyp typ)
 
 void Diagrammauswahl::fillQuantities(std::span<const int> quantities)
 {
+    m_cmbDiagramm->setVisible(!quantities.empty());
+    if (quantities.empty()) // another kind finds its quantity again
+        return;
     m_cmbDiagramm->clear();
     for (const int kennzahl : quantities)
         m_cmbDiagramm->addItem(toQt(findGroesse(kennzahl)->name), kennzahl);

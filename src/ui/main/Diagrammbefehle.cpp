@@ -11,6 +11,9 @@ namespace zerna {
 void Diagrammbereich::addBefehle(Menue& menue)
 {
     using enum Menue::Abschnitt;
+    menue.add(Dateien, {.text = QStringLiteral("&Messkurve öffnen ..."), .name = "mnuMesskurve", .tun = [this] {
+                            oeffneMesskurven({});
+                        }});
     menue.add(Ausgabe,
         {.text = QStringLiteral("&Diagramm speichern ..."),
             .name = "mnuDiagramm_Speichern",
@@ -29,7 +32,8 @@ void Diagrammbereich::addBefehle(Menue& menue)
     for (const auto& [text, name, typ] :
         {std::tuple(QStringLiteral("Diagramm &2 D"), "mnuTyp_0", zerna::Diagrammtyp::Konzentration),
             {QStringLiteral("Diagramm &3 D - ternär"), "mnuTyp_1", zerna::Diagrammtyp::Ternaer},
-            {QStringLiteral("Diagramm P&SE"), "mnuTyp_2", zerna::Diagrammtyp::PSE}}) {
+            {QStringLiteral("Diagramm P&SE"), "mnuTyp_2", zerna::Diagrammtyp::PSE},
+            {QStringLiteral("&Messkurve"), "mnuTyp_3", zerna::Diagrammtyp::Messkurve}}) {
         menue.add(Menue::Abschnitt::Diagrammtyp,
             {.text = text,
                 .name = name,

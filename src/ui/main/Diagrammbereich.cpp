@@ -13,6 +13,7 @@
 #include "ui/main/Diagrammauswahl.h"
 #include "ui/main/Diagrammseite.h"
 #include "ui/main/Konzentrationsseite.h"
+#include "ui/main/Messseite.h"
 #include "ui/main/PSEseite.h"
 #include "ui/main/Ternaerseite.h"
 #include "ui/platform/Anzeige.h"
@@ -50,7 +51,7 @@ Diagrammbereich::Diagrammbereich(Programm& programm, Dialoge dialoge, QWidget* p
     , m_picDiagramm(new Diagrammflaeche(programm, dialoge, this))
 {
     m_picDiagramm->setObjectName(QStringLiteral("picDiagramm"));
-    createSeiten();
+    createSeiten(dialoge);
     createLists();
     createReadouts();
     createButtons();
@@ -59,11 +60,13 @@ Diagrammbereich::Diagrammbereich(Programm& programm, Dialoge dialoge, QWidget* p
 }
 
 /// A kind of diagram is one entry here and one in Diagrammtyp.
-void Diagrammbereich::createSeiten()
+void Diagrammbereich::createSeiten(Dialoge dialoge)
 {
     m_konzentration = new Konzentrationsseite(m_programm, *m_picDiagramm, this);
+    m_messung = new Messseite(m_programm, *m_picDiagramm, dialoge, this);
     m_seiten = {m_konzentration, new Ternaerseite(m_programm, *m_picDiagramm, this),
-        new PSEseite(m_programm, *m_picDiagramm, this)};
+        new PSEseite(m_programm, *m_picDiagramm, this), m_messung};
+    connect(m_messung, &Messseite::oeffnenRequested, this, [this] { oeffneMesskurven({}); });
     connect(m_konzentration, &Konzentrationsseite::prozentStepped, this, &Diagrammbereich::prozentStepped);
     for (Diagrammseite* const seite : m_seiten) {
         connect(seite, &Diagrammseite::umgestellt, this, [this](const Schritt& schritt) {
@@ -147,6 +150,12 @@ void Diagrammbereich::layOut()
     column->setSpacing(0);
     column->addWidget(boxed(this, Top, lists, layOutStrips(), 4));
     column->addWidget(m_picDiagramm, 1);
+    for (const Diagrammseite* const seite : m_seiten) {
+        if (QWidget* const below = seite->darunter()) {
+            column->addWidget(below);
+            below->hide();
+        }
+    }
     column->addWidget(boxed(this, Bottom, position, layOutButtons(), 8));
 }
 
@@ -231,6 +240,14 @@ void Diagrammbereich::selectFirstType()
         chooseType(Diagrammtyp::Konzentration);
 }
 
+void Diagrammbereich::oeffneMesskurven(const QStringList& dateien)
+{
+    if (!m_programm.StartupDone() || !m_messung->oeffne(dateien))
+        return;
+    chooseType(Diagrammtyp::Messkurve);
+    emit geschehen({QStringLiteral("Messkurve öffnen")});
+}
+
 void Diagrammbereich::waehleTyp(int position)
 {
     chooseType(static_cast<Diagrammtyp>(position));
@@ -254,6 +271,8 @@ void Diagrammbereich::setTyp(Diagrammtyp typ)
         each->setVisible(isShown);
         for (StyledButton* const button : each->knoepfe())
             button->setVisible(isShown);
+        if (each->darunter() != nullptr)
+            each->darunter()->setVisible(isShown);
     }
     m_cmdAnteil->setVisible(wahl().typ != Diagrammtyp::PSE);
 }

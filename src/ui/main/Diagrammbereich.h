@@ -20,6 +20,7 @@ class Diagrammflaeche;
 class Diagrammseite;
 class Konzentrationsseite;
 class Menue;
+class Messseite;
 class StyledButton;
 
 /// The diagram panel: lists for type, quantity and component above the diagram area, controls and read-outs around it.
@@ -50,6 +51,9 @@ public:
     /// Shows a quantity of the alloy over a component, as a step of its own if it is not shown already.
     void zeigeGroesse(int groesse, int komponente);
 
+    /// Adds the curves of files to the document and shows them; asks for one if there are none.
+    void oeffneMesskurven(const QStringList& dateien);
+
     void addBefehle(Menue& menue);
     bool istDruckbar() const;
     void drucke();
@@ -64,7 +68,7 @@ signals:
     void dreiKomponentenRequested();
 
 private:
-    void createSeiten();
+    void createSeiten(Dialoge dialoge);
     void createLists();
     void createReadouts();
     void createButtons();
@@ -85,6 +89,7 @@ private:
     Diagrammflaeche* m_picDiagramm = nullptr;
     std::vector<Diagrammseite*> m_seiten; // index = type
     Konzentrationsseite* m_konzentration = nullptr; // one of them
+    Messseite* m_messung = nullptr; // another
     Diagrammauswahl* m_auswahl = nullptr;
     QLabel* m_labelPos = nullptr;
     Befundzeile* m_lblDrei = nullptr; // why there is no diagram of the chosen kind

@@ -48,6 +48,9 @@ public:
     /// The buttons below the area that are shown for this kind alone; children of the panel.
     virtual std::vector<StyledButton*> knoepfe() const { return {}; }
 
+    /// What stands below the area for this kind alone, a child of the panel; null for nothing.
+    virtual QWidget* darunter() const { return nullptr; }
+
     virtual void addBefehle(Menue&) { }
 
 signals:

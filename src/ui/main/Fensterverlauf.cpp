@@ -25,6 +25,10 @@ void frmMain::connectVerlauf()
     connect(m_diagramm, &Diagrammbereich::geschehen, this, &frmMain::geschehen);
     connect(m_vergleich, &Vergleichsbereich::geschehen, this, [this](const QString& name) { geschehen({name}); });
     connect(m_dateien, &Dateibefehle::geschehen, this, &frmMain::geschehen);
+    connect(m_dateien, &Dateibefehle::messkurvenGezogen, this, [this](const QStringList& dateien) {
+        showPanel(0);
+        m_diagramm->oeffneMesskurven(dateien);
+    });
     connect(m_dateien, &Dateibefehle::ersetzt, this, &frmMain::beginneDokument);
     connect(m_dateien, &Dateibefehle::gespeichert, &m_verlauf, &Verlauf::trenne);
     connect(&m_verlauf.stapel(), &QUndoStack::indexChanged, m_dateien, &Dateibefehle::zeigeTitel);
@@ -86,7 +90,8 @@ void frmMain::zeigeStand(const Verlauf::Stand& stand, const Verlauf::Stand& vorh
     const bool isOtherWeighing = now.wiegen != before.wiegen && !isOtherAlloy;
     if (*now.vergleich != *before.vergleich)
         showPanel(2);
-    else if (isOtherWeighing || now.diagramm != before.diagramm || (isOtherAlloy && !m_pse->isVisible()))
+    else if (isOtherWeighing || now.diagramm != before.diagramm || *now.messkurven != *before.messkurven
+        || (isOtherAlloy && !m_pse->isVisible()))
         showPanel(0);
     if (isOtherWeighing)
         showLowerArea(1);
