@@ -114,10 +114,12 @@ private:
         return *found;
     }
 
-    Reihe reihe(int groesse, Reihenart art) const
+    Mischungsreihe rechner(int groesse, Reihenart art) const
     {
-        return Mischungsreihe(m_calc, m_legierung.komponenten(), m_wahl.komponente, groesse, art).reihe();
+        return {m_calc, m_legierung.komponenten(), m_wahl.komponente, groesse, art};
     }
+
+    Reihe reihe(int groesse, Reihenart art) const { return rechner(groesse, art).reihe(); }
 
     void add(Kurve kurve) { m_result.bild.kurven.push_back(std::move(kurve)); }
     void sage(std::string hinweis) { m_result.bild.hinweise.push_back(std::move(hinweis)); }
@@ -143,7 +145,7 @@ private:
         if (zweite == nullptr || zweite == &m_groesse)
             return;
         m_result.bild.rechts = Achse{groessentitel(*zweite), {}, std::string(zweite->reiheneinheit)};
-        add({groessentitel(*zweite) + " rechts", punkte(reihe(zweite->kennzahl, m_art)), Zweitfarbe,
+        add({std::string(zweite->name) + " (rechte Achse)", punkte(reihe(zweite->kennzahl, m_art)), Zweitfarbe,
             Linienart::Strichpunkt, Punktzeichen::Keines, true});
     }
 
@@ -200,18 +202,25 @@ private:
     /// The alloy as the results have it.
     void addLegierung()
     {
-        clsCalc calc = m_calc;
-        calc.Legierung_Setzen(m_legierung.komponenten());
-        const float value = wert(m_groesse, calc);
         const double x = m_eingabe.prozentInKraft(m_wahl.komponente).wert;
+        const float mixed = rechner(m_groesse.kennzahl, Reihenart::Summe100).wert(x);
+        const float value = m_groesse.kennzahl == GroesseDichte ? mittlereDichte() : mixed;
         if (istUnbekannt(value) || x < 0 || x > 100)
             return;
-        const Mischungsreihe curve(m_calc, m_legierung.komponenten(), m_wahl.komponente, m_groesse.kennzahl, m_art);
-        if (m_art == Reihenart::Summe100 && std::abs(curve.wert(x) - value) > Gleich * std::abs(value))
+        if (m_art == Reihenart::Summe100 && std::abs(mixed - value) > Gleich * std::abs(value))
             sage(abweichungsgrund(m_groesse, m_eingabe, m_wahl.komponente, m_art));
         const std::string text = anzeigetext(FormatValue(value, m_groesse.einheit));
         add({legierungsname(m_eingabe) + (text.empty() ? ": 0" : ": " + text), {{x, value}}, Legierungsfarbe,
             Linienart::Keine, Punktzeichen::Kreis});
+    }
+
+    /// Intended: by at%, as in the results.
+    float mittlereDichte() const
+    {
+        float sum = 0;
+        for (const Legierungskomponente& k : m_legierung.komponenten())
+            sum = toSingle(sum + static_cast<double>(k.dichte) * k.prozent);
+        return toSingle(sum / 100.0);
     }
 
     void setRanges(bool ganzeKurve)

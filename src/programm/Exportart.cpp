@@ -22,4 +22,14 @@ Exportart friedelminima(Exporttext text)
     return textdatei("Friedelminima (*.fri)", "*.fri", ".fri", std::move(text));
 }
 
+std::vector<Exportart> tabellenarten(const Tabelle& tabelle)
+{
+    return {
+        {"CSV mit Semikolon (*.csv)", "*.csv", ".csv", [tabelle] { return alsCsv(tabelle); }},
+        {"Text mit Tabulatoren (*.txt)", "*.txt", ".txt",
+            [tabelle] { return "\xEF\xBB\xBF" + alsText(mitKopf(tabelle)); }},
+        {"HTML für Textprogramme (*.html)", "*.html", ".html", [tabelle] { return alsHtml(tabelle); }},
+    };
+}
+
 } // namespace zerna

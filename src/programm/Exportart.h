@@ -4,6 +4,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include "model/Tabelle.h"
 
 namespace zerna {
 
@@ -30,5 +33,8 @@ Exportart textdatei(std::string_view beschreibung, std::string_view muster, std:
 /// The text kinds that several exports offer.
 Exportart datDatei(Exporttext text);
 Exportart friedelminima(Exporttext text);
+
+/// The ways to save a table for other programs.
+std::vector<Exportart> tabellenarten(const Tabelle& tabelle);
 
 } // namespace zerna

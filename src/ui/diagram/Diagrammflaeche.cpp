@@ -148,6 +148,14 @@ void Diagrammflaeche::contextMenuEvent(QContextMenuEvent* event)
     QMenu menu(this);
     addCommands(menu);
     addOutputs(menu);
+    bool isFirst = true;
+    for (QAction* const action : actions()) {
+        if (!action->isEnabled())
+            continue;
+        if (std::exchange(isFirst, false))
+            menu.addSeparator();
+        menu.addAction(action);
+    }
     menu.exec(event->globalPos());
 }
 

@@ -132,6 +132,8 @@ Legierung conDisplay::components() const
 Reihe conDisplay::computeSeries(int groesse) const
 {
     const Legierung legierung = components();
+    if (m_art == Reihenart::Summe100)
+        return Mischungsreihe(m_programm.Calc(), legierung.komponenten(), m_variable, groesse, m_art).reihe();
     if (groesse == GroesseDichte)
         return dichtereihe(std::span(m_dichtefelder).first(legierung.komponenten().size()), m_variable);
     return konzentrationsreihe(m_programm.Calc(), legierung.komponenten(), m_variable, groesse);

@@ -71,6 +71,9 @@ public:
     /// Whether all rows of the composition can be read; kept by the main window.
     void setKompositionBereit(bool bereit) { m_bereit = bereit; }
 
+    /// Which series Zeichne_Diagramm_2D computes; the given one at first.
+    void setReihenart(Reihenart art) { m_art = art; }
+
     /// Fills the slots with a whole alloy, its numbers read already.
     void setLegierung(const Legierung& legierung);
 
@@ -123,6 +126,7 @@ private:
     int m_variable = 0;
     int m_groesse = -1; // drawn last
     bool m_bereit = false;
+    Reihenart m_art = Reihenart::Gegeben;
     std::array<float, MaxKomponenten> m_dichtefelder{};
 };
 

@@ -62,13 +62,14 @@ Diagrammbereich::Diagrammbereich(Programm& programm, Dialoge dialoge, QWidget* p
 /// A kind of diagram is one entry here and one in Diagrammtyp.
 void Diagrammbereich::createSeiten(Dialoge dialoge)
 {
-    m_konzentration = new Konzentrationsseite(m_programm, *m_picDiagramm, this);
+    m_konzentration = new Konzentrationsseite(m_programm, dialoge, *m_picDiagramm, this);
     m_messung = new Messseite(m_programm, *m_picDiagramm, dialoge, this);
     m_seiten = {m_konzentration, new Ternaerseite(m_programm, *m_picDiagramm, this),
         new PSEseite(m_programm, *m_picDiagramm, this), m_messung};
     connect(m_messung, &Messseite::oeffnenRequested, this, [this] { oeffneMesskurven({}); });
     connect(m_konzentration, &Konzentrationsseite::prozentStepped, this, &Diagrammbereich::prozentStepped);
     for (Diagrammseite* const seite : m_seiten) {
+        connect(seite, &Diagrammseite::schalterChanged, this, [this] { aktualisieren(true); });
         connect(seite, &Diagrammseite::umgestellt, this, [this](const Schritt& schritt) {
             aktualisieren(true);
             emit geschehen(schritt);
@@ -106,6 +107,10 @@ void Diagrammbereich::createReadouts()
     m_lblDrei = new Befundzeile(this);
     m_lblDrei->setObjectName(QStringLiteral("lblDrei"));
     connect(m_lblDrei, &Befundzeile::clicked, this, &Diagrammbereich::dreiKomponentenRequested);
+    m_lblAngebot = new Befundzeile(this);
+    m_lblAngebot->setObjectName(QStringLiteral("lblAngebot"));
+    m_lblAngebot->hide();
+    connect(m_lblAngebot, &Befundzeile::clicked, this, [this] { seite(wahl().typ).nimmAn(); });
 }
 
 void Diagrammbereich::createButtons()
@@ -145,6 +150,7 @@ void Diagrammbereich::layOut()
     auto* position = new QHBoxLayout;
     position->addWidget(m_labelPos);
     position->addWidget(m_lblDrei, 1);
+    position->addWidget(m_lblAngebot, 1);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
@@ -182,7 +188,7 @@ QBoxLayout* Diagrammbereich::layOutButtons()
     for (const Diagrammseite* const seite : m_seiten) {
         for (StyledButton* const button : seite->knoepfe()) {
             setKnopfgroesse(button);
-            button->hide();
+            button->setVisible(seite == m_konzentration);
             buttons->insertWidget(place++, button);
         }
     }
@@ -196,7 +202,7 @@ void Diagrammbereich::orderTabs()
     const auto append = [&order](const auto& widgets) { order.insert(order.end(), widgets.begin(), widgets.end()); };
     for (const Diagrammseite* const seite : m_seiten)
         append(seite->tabOrder());
-    order.insert(order.end(), {&m_picDiagramm->display(), m_picDiagramm, m_lblDrei});
+    order.insert(order.end(), {&m_picDiagramm->display(), m_picDiagramm, m_lblDrei, m_lblAngebot});
     for (const Diagrammseite* const seite : m_seiten)
         append(seite->knoepfe());
     order.insert(order.end(), {m_cmdKopieren, m_cmdSpeichern});
@@ -216,6 +222,12 @@ void Diagrammbereich::zeige(const Eingabe& eingabe, const Aenderung& aenderung)
     } else {
         aktualisieren(aenderung.element || !aenderung.dichte);
     }
+}
+
+void Diagrammbereich::zeigeVarianten()
+{
+    if (wahl().varianten)
+        aktualisieren(true);
 }
 
 void Diagrammbereich::zeigeDokument()
@@ -291,6 +303,16 @@ void Diagrammbereich::aktualisieren(bool keepSelection)
     else
         chooseType(Diagrammtyp::Konzentration);
     enableOutputs();
+    zeigeAngebot();
+}
+
+/// In the place of the line that says why a kind cannot be had, unless that says something.
+void Diagrammbereich::zeigeAngebot()
+{
+    const QString angebot = m_lblDrei->befund().isEmpty() ? seite(wahl().typ).angebot() : QString();
+    m_lblAngebot->zeige(angebot, Befundzeile::Ton::Hinweis);
+    m_lblAngebot->setVisible(!angebot.isEmpty());
+    m_lblDrei->setVisible(angebot.isEmpty());
 }
 
 /// An error display is no picture to be kept.

@@ -38,6 +38,9 @@ public:
     /// concentration diagram; another element or density puts the first component along the axis.
     void zeige(const Eingabe& eingabe, const Aenderung& aenderung);
 
+    /// The kept alloys have changed, which may be drawn.
+    void zeigeVarianten();
+
     /// Shows the diagram of the document.
     void zeigeDokument();
 
@@ -78,6 +81,7 @@ private:
     void orderTabs();
     void aktualisieren(bool keepSelection);
     void enableOutputs();
+    void zeigeAngebot();
     void waehleTyp(int position);
     void chooseType(Diagrammtyp typ);
     void setTyp(Diagrammtyp typ);
@@ -93,6 +97,7 @@ private:
     Diagrammauswahl* m_auswahl = nullptr;
     QLabel* m_labelPos = nullptr;
     Befundzeile* m_lblDrei = nullptr; // why there is no diagram of the chosen kind
+    Befundzeile* m_lblAngebot = nullptr; // what can be done about the diagram
     StyledButton* m_cmdAnteil = nullptr;
     StyledButton* m_cmdKopieren = nullptr;
     StyledButton* m_cmdSpeichern = nullptr;

@@ -53,8 +53,14 @@ public:
 
     virtual void addBefehle(Menue&) { }
 
+    /// What the user may want to do about the diagram that is shown, such as to see more of it; empty for nothing.
+    virtual QString angebot() const { return {}; }
+    virtual void nimmAn() { }
+
 signals:
-    /// The user has changed the document's choice in the strip: the diagram is to be drawn anew.
+    /// The user has changed how it is drawn: it is to be drawn anew.
+    void schalterChanged();
+    /// The user has changed what the document says of it: the same, and it is a step.
     void umgestellt(const Schritt& schritt);
 
 protected:

@@ -4,10 +4,17 @@
 
 #include <cmath>
 
+#include "bild/Kurventabelle.h"
+#include "programm/Exportieren.h"
+#include "ui/button/StyledButton.h"
+#include "ui/controls/Menue.h"
 #include "ui/diagram/Diagrammflaeche.h"
 #include "ui/diagram/conDisplay.h"
 #include "ui/diagram/conLabel.h"
+#include "ui/main/Kurvenmenue.h"
+#include "ui/main/Tabellenknopf.h"
 #include "ui/platform/QtText.h"
+#include "ui/platform/Zwischenablage.h"
 
 namespace zerna {
 
@@ -17,8 +24,11 @@ QString symbolOf(const Eingabe::Zeile& zeile) { return zeile.element ? toQt(zeil
 
 } // namespace
 
-Konzentrationsseite::Konzentrationsseite(Programm& programm, Diagrammflaeche& flaeche, QWidget* parent)
+Konzentrationsseite::Konzentrationsseite(Programm& programm, Dialoge dialoge, Diagrammflaeche& flaeche, QWidget* parent)
     : Diagrammseite(programm, flaeche, parent)
+    , m_dialoge(dialoge)
+    , m_cmdKurven(new StyledButton(QStringLiteral("Kurven ▾"), parent))
+    , m_menue(new Kurvenmenue(programm, this))
 {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
@@ -32,7 +42,47 @@ Konzentrationsseite::Konzentrationsseite(Programm& programm, Diagrammflaeche& fl
         m_conLabel.at(static_cast<std::size_t>(i)) = label;
     }
     row->addStretch();
+    createMenu();
 }
+
+void Konzentrationsseite::createMenu()
+{
+    m_cmdKurven->setObjectName(QStringLiteral("cmdKurven"));
+    m_cmdKurven->setAccessibleName(QStringLiteral("Kurven des Diagramms"));
+    m_cmdKurven->setToolTipText(QStringLiteral("Mischungsreihe, zweite Größe, Kurven festhalten und vergleichen"));
+    connect(m_cmdKurven, &StyledButton::clicked, m_menue,
+        [this] { m_menue->popup(m_cmdKurven->mapToGlobal(m_cmdKurven->rect().bottomLeft())); });
+    connect(m_menue, &Kurvenmenue::schalterChanged, this, &Diagrammseite::schalterChanged);
+    connect(m_menue, &Kurvenmenue::umgestellt, this, &Diagrammseite::umgestellt);
+    connect(m_menue, &Kurvenmenue::tabelleCopyRequested, this, [this] {
+        const Tabelle table = tabelle();
+        copyToClipboard(toQt(alsText(mitKopf(table))), toQt(alsHtml(table)));
+    });
+    connect(m_menue, &Kurvenmenue::tabelleSaveRequested, this,
+        [this] { exportieren(this->programm().boxes(), m_dialoge.save, Exporttitel, tabellenarten(tabelle())); });
+    this->flaeche().addAction(m_menue->menuAction());
+    m_menue->setEnabled(false);
+}
+
+/// The menu is of use while its diagram is seen.
+void Konzentrationsseite::showEvent(QShowEvent* event)
+{
+    Diagrammseite::showEvent(event);
+    m_menue->setEnabled(true);
+}
+
+void Konzentrationsseite::hideEvent(QHideEvent* event)
+{
+    Diagrammseite::hideEvent(event);
+    m_menue->setEnabled(false);
+}
+
+Tabelle Konzentrationsseite::tabelle()
+{
+    return m_bild ? kurventabelle(m_bild->bild, tabellentrenner(programm().settings())) : Tabelle();
+}
+
+void Konzentrationsseite::addBefehle(Menue& menue) { menue.add(Menue::Abschnitt::Diagramm, m_menue->menuAction()); }
 
 std::vector<QWidget*> Konzentrationsseite::tabOrder() const
 {
@@ -65,6 +115,8 @@ void Konzentrationsseite::zeigeAuswahl(const Eingabe& eingabe)
 
 void Konzentrationsseite::zeichne(const Eingabe& eingabe)
 {
+    m_bild.reset();
+    m_menue->setKurve({});
     if (eingabe.anzahl() == 1) {
         flaeche().showHinweis(
             QStringLiteral("Für ein Konzentrationsdiagramm sind\nmindestens zwei Komponenten nötig."));
@@ -100,15 +152,33 @@ const Eingabe* Konzentrationsseite::zuZeichnen(const Eingabe& eingabe)
 
 void Konzentrationsseite::drawSeries(const Eingabe& eingabe)
 {
+    const Kurvenschalter& schalter = m_menue->schalter();
     conDisplay& display = flaeche().display();
-    display.setKompositionBereit(true);
     std::array<float, MaxKomponenten> dichten{};
     for (int row = 0; row < eingabe.anzahl(); ++row)
         dichten.at(static_cast<std::size_t>(row)) = eingabe.zeile(row).dichte.wert;
+    display.setKompositionBereit(true);
     display.setLegierung(eingabe.legierung().value());
     display.setDichtefelder(dichten);
+    display.setReihenart(schalter.mischungsreihe ? Reihenart::Summe100 : Reihenart::Gegeben);
     display.setVariablesElement(wahl().komponente);
     display.Zeichne_Diagramm_2D(wahl().groesse, wahl().komponente);
+
+    const Dokument& dokument = programm().Dokument();
+    Vergleichskurven vergleich{.gehaltene = *dokument.kurven};
+    if (wahl().varianten)
+        vergleich.varianten = dokument.vergleich->varianten;
+    m_bild = konzentrationsbild(programm().Calc(), eingabe, wahl(), schalter, vergleich);
+    m_menue->setKurve(gehalteneKurve(*m_bild, eingabe, wahl(), schalter));
+    display.setBild(m_bild->bild);
 }
+
+QString Konzentrationsseite::angebot() const
+{
+    return m_bild && m_bild->laeuftHinaus ? QStringLiteral("Eine Kurve läuft aus dem Bild. Ganze Kurve zeigen")
+                                          : QString();
+}
+
+void Konzentrationsseite::nimmAn() { m_menue->zeigeGanzeKurve(); }
 
 } // namespace zerna

@@ -71,9 +71,9 @@ QAction* Tabellenknopf::addChoice(const QString& caption, const QString& name, D
     return action;
 }
 
-Dezimaltrenner Tabellenknopf::trenner() const
+Dezimaltrenner tabellentrenner(const Settings& settings)
 {
-    return m_settings.LoadSetting(Schluessel, Komma) == Punkt ? Dezimaltrenner::Punkt : Dezimaltrenner::Komma;
+    return settings.LoadSetting(Schluessel, Komma) == Punkt ? Dezimaltrenner::Punkt : Dezimaltrenner::Komma;
 }
 
 } // namespace zerna

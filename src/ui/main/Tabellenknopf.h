@@ -14,6 +14,9 @@ namespace zerna {
 
 class StyledButton;
 
+/// With which decimal separator numbers of tables are copied and saved.
+Dezimaltrenner tabellentrenner(const Settings& settings);
+
 /// The button that copies a table, and beside it a menu that copies with decimal comma or point; the choice is
 /// remembered for the button.
 class Tabellenknopf : public QWidget {
@@ -30,7 +33,7 @@ public:
     const QList<QAction*>& choices() const { return m_choices; }
 
     /// With which decimal separator numbers are copied.
-    Dezimaltrenner trenner() const;
+    Dezimaltrenner trenner() const { return tabellentrenner(m_settings); }
 
 signals:
     void copyRequested(Dezimaltrenner trenner);

@@ -337,12 +337,7 @@ void Vergleichsbereich::copyTable(Dezimaltrenner trenner)
 void Vergleichsbereich::save()
 {
     const Tabelle table = m_modell->tabelle().tabelle(m_modell->art(), m_tabellenknopf->trenner());
-    const Exportart arten[] = {
-        {"CSV mit Semikolon (*.csv)", "*.csv", ".csv", [&] { return alsCsv(table); }},
-        {"Text mit Tabulatoren (*.txt)", "*.txt", ".txt", [&] { return Bytefolge + alsText(mitKopf(table)); }},
-        {"HTML für Textprogramme (*.html)", "*.html", ".html", [&] { return alsHtml(table); }},
-    };
-    exportieren(m_programm.boxes(), m_dialoge.save, Exporttitel, arten);
+    exportieren(m_programm.boxes(), m_dialoge.save, Exporttitel, tabellenarten(table));
 }
 
 } // namespace zerna

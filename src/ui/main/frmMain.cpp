@@ -223,6 +223,7 @@ void frmMain::connectPanels()
         m_diagramm->selectTernary();
     });
     connect(m_diagramm, &Diagrammbereich::prozentStepped, m_komposition, &Kompositionsbereich::enterProzent);
+    connect(m_vergleich, &Vergleichsbereich::geschehen, m_diagramm, &Diagrammbereich::zeigeVarianten);
     connect(m_vergleich, &Vergleichsbereich::gemeldet, m_meldung, &Kurzmeldung::zeige);
     connect(m_vergleich, &Vergleichsbereich::ladenRequested, this, &frmMain::lade);
 }
