@@ -40,6 +40,8 @@ private:
     bool isRound(const Achse& achse) const { return m_stil.rundeTeilung || achse.rund || m_zoomed; }
     bool isRoundX() const { return isRound(m_bild.x) || !hatGanzeZehntel(m_layout.ausschnitt.x); }
     Rundwunsch wunsch() const;
+    /// Ticks of the screen are sharp; on paper they stand where the curves are.
+    double snapped(double place) const { return m_stil.rundeTeilung ? place : std::round(place); }
     Achsenteilung yTeilung(const Achse& achse, const Bereich& bereich, double room) const;
     void placeKern();
     void placeYAxis(const Achsenteilung& teilung);
@@ -150,7 +152,7 @@ void Aufbau::placeYAxis(const Achsenteilung& teilung)
     const Textmasse masse = m_masse(teilung.schrift);
     const double bottom = m_layout.kern.top + m_layout.kern.height;
     for (const Achsenmarke& marke : teilung.marken) {
-        const double row = std::min(std::round(plot.top + marke.position), bottom - 1);
+        const double row = std::min(snapped(plot.top + marke.position), bottom - 1);
         m_layout.kernstriche.push_back({plot.left - TickLength, row, TickLength, 1});
         const double width = breiteOf(marke.label, masse);
         const double column =
@@ -160,8 +162,7 @@ void Aufbau::placeYAxis(const Achsenteilung& teilung)
                 {column, plot.top + marke.labelStart, width, hoeheOf(marke.label, masse)}, teilung.schrift});
     }
     for (const double position : teilung.neben)
-        m_layout.kernstriche.push_back(
-            {plot.left - MinorTickLength, std::round(plot.top + position), MinorTickLength, 1});
+        m_layout.kernstriche.push_back({plot.left - MinorTickLength, snapped(plot.top + position), MinorTickLength, 1});
     m_layout.kernstriche.push_back({plot.left - 1, plot.top, 1, plot.height + 1});
 }
 
@@ -171,7 +172,7 @@ void Aufbau::placeRightAxis(const Achsenteilung& teilung)
     const double right = plot.left + plot.width;
     const Textmasse masse = m_masse(teilung.schrift);
     for (const Achsenmarke& marke : teilung.marken) {
-        m_layout.striche.push_back({right, std::round(plot.top + marke.position), TickLength, 1});
+        m_layout.striche.push_back({right, snapped(plot.top + marke.position), TickLength, 1});
         if (!marke.label.empty())
             m_layout.texte.push_back({marke.label,
                 {right + TickLength + LabelGap, plot.top + marke.labelStart, breiteOf(marke.label, masse),
@@ -179,7 +180,7 @@ void Aufbau::placeRightAxis(const Achsenteilung& teilung)
                 teilung.schrift});
     }
     for (const double position : teilung.neben)
-        m_layout.striche.push_back({right, std::round(plot.top + position), MinorTickLength, 1});
+        m_layout.striche.push_back({right, snapped(plot.top + position), MinorTickLength, 1});
     m_layout.striche.push_back({right, plot.top, 1, plot.height + 1});
 }
 
@@ -198,14 +199,14 @@ void Aufbau::placeXAxis()
     const double top =
         m_stil.rundeTeilung ? bottom + TickLength + LabelGap : kern.top + xLabelTop(inKern, masse.height);
     for (const Achsenmarke& marke : teilung.marken) {
-        const double column = std::min(std::round(kern.left + marke.position), kern.left + kern.width - 1);
+        const double column = std::min(snapped(kern.left + marke.position), kern.left + kern.width - 1);
         m_layout.kernstriche.push_back({column, bottom, 1, TickLength});
         if (!marke.label.empty())
             m_layout.kerntexte.push_back(
                 {marke.label, {kern.left + marke.labelStart, top, masse.width(marke.label), masse.height}, m_labels});
     }
     for (const double position : teilung.neben)
-        m_layout.kernstriche.push_back({std::round(kern.left + position), bottom, 1, MinorTickLength});
+        m_layout.kernstriche.push_back({snapped(kern.left + position), bottom, 1, MinorTickLength});
     m_layout.kernstriche.push_back({plot.left - 1, bottom, plot.width + 1, 1});
 }
 

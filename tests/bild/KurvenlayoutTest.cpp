@@ -102,6 +102,20 @@ TEST(KurvenlayoutTest, TextsLieInsideAndApartInEveryStyleAndSize)
     }
 }
 
+TEST(KurvenlayoutTest, NoSizeIsTooSmall)
+{
+    for (int width = 0; width < 500; width += 23) {
+        for (int height = 0; height < 400; height += 17) {
+            for (const bool isRound : {false, true}) {
+                SCOPED_TRACE(std::to_string(width) + " x " + std::to_string(height) + (isRound ? ", round" : ""));
+                const Kurvenlayout layout =
+                    layOut(vollesBild(3.4e-11), width, height, {.rundeTeilung = isRound}, masse);
+                EXPECT_EQ(layout.istLeer() ? "" : fault(layout, width, height), "");
+            }
+        }
+    }
+}
+
 TEST(KurvenlayoutTest, AxesKeepTheGivenPlacesInsideTheStrips)
 {
     const Kurvenlayout alone = layOut(achsenbild({"", {0, 100}}, {"", {0, 1}}), 460, 330, {}, masse);

@@ -265,10 +265,15 @@ void Diagrammflaeche::mouseMoveEvent(QMouseEvent* event)
         nenneAnsicht(QStringLiteral("Maus %1").arg(m_drags));
         return;
     }
-    if (m_diagramm->hovered(event->position(), leinwand()))
-        updateDiagramm();
-    if (!m_display->isVisible()) // which has told it already
-        emit positionChanged(m_diagramm->positionText(event->position(), leinwand()));
+    const bool hasChanged = m_diagramm->hovered(event->position(), leinwand());
+    if (m_display->isVisible()) { // which tells the position itself
+        if (hasChanged)
+            m_display->updatePlot();
+        return;
+    }
+    if (hasChanged)
+        update();
+    emit positionChanged(m_diagramm->positionText(event->position(), leinwand()));
 }
 
 void Diagrammflaeche::wheelEvent(QWheelEvent* event)

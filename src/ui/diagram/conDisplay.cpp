@@ -183,8 +183,10 @@ void conDisplay::placePlot()
 void conDisplay::updateAll()
 {
     update();
-    m_pic->update();
+    updatePlot();
 }
+
+void conDisplay::updatePlot() { m_pic->update(); }
 
 void conDisplay::focusOutEvent(QFocusEvent* event)
 {

@@ -83,8 +83,9 @@ public:
     /// What is shown, to be painted and saved elsewhere.
     Konzentrationsdiagramm& diagramm() { return m_diagramm; }
 
-    /// Paints anew after a change of how the diagram is looked at.
+    /// Paint anew after a change of how the diagram is looked at, or only of its crosshair.
     void updateAll();
+    void updatePlot();
 
     /// The saved file's content for a step width.
     std::string values(int schritt) const { return m_diagramm.values(schritt); }
