@@ -41,11 +41,12 @@ std::vector<double> averagedRuns(std::span<const Messpunkt> punkte, std::size_t 
 double noiseOf(const std::vector<double>& y)
 {
     constexpr double MedianOfNormal = 0.6745; // of amounts, in standard deviations
+    constexpr std::size_t Fewest = 16; // fewer show the curve rather than its noise
     const double gain = std::sqrt(70.0); // 1 + 16 + 36 + 16 + 1
     std::vector<double> differences;
     for (std::size_t i = 2; i + 2 < y.size(); ++i)
         differences.push_back(std::abs(y[i - 2] - 4 * y[i - 1] + 6 * y[i] - 4 * y[i + 1] + y[i + 2]));
-    if (differences.empty())
+    if (differences.size() < Fewest)
         return 0;
     const auto middle = differences.begin() + std::ssize(differences) / 2;
     std::ranges::nth_element(differences, middle);
@@ -253,17 +254,22 @@ Messpunkt maximum(std::span<const Messpunkt> punkte, Gipfel gipfel, std::size_t 
     return {place.scheitel.x, height.scheitel.y};
 }
 
-/// Noise of the points: what their last digit leaves out, at least.
+/// Noise of the points: at least what their last digit leaves out, where it makes stairs of the curve.
 double noiseOfPoints(std::span<const Messpunkt> punkte)
 {
+    constexpr std::size_t Stairs = 4; // points on one of them, on average
     std::vector<double> y;
     double quantum = std::numeric_limits<double>::infinity();
+    std::size_t steps = 0;
     for (const Messpunkt& punkt : punkte) {
-        if (!y.empty() && punkt.y != y.back())
+        if (!y.empty() && punkt.y != y.back()) {
             quantum = std::min(quantum, std::abs(punkt.y - y.back()));
+            ++steps;
+        }
         y.push_back(punkt.y);
     }
-    return std::max(noiseOf(y), quantum / std::sqrt(12.0));
+    const bool hasStairs = steps > 0 && steps * Stairs < y.size();
+    return std::max(noiseOf(y), hasStairs ? quantum / std::sqrt(12.0) : 0);
 }
 
 } // namespace
