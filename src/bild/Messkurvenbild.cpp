@@ -53,7 +53,7 @@ Kurvenbild messkurvenbild(const Messauswertung& auswertung, Messart art)
         const Messkurve& measured = auswertung.kurven()[i];
         if (measured.art != art)
             continue;
-        const Kurvenaussehen look = kurvenaussehen(i);
+        const Kurvenaussehen look = kurvenaussehen(bild.kurven.size() / 2); // each has its maxima beside it
         std::vector<Punkt> punkte = punkteIn(*measured.punkte, faktorNm(measured));
         const auto [low, high] = std::ranges::minmax(punkte, {}, &Punkt::y);
         widen(x, punkte.front().x, punkte.back().x);

@@ -34,6 +34,7 @@ QComboBox* Messseite::makeList(const char* name, const QString& accessibleName)
     list->setObjectName(QLatin1String(name));
     list->setAccessibleName(accessibleName);
     list->setToolTip(accessibleName);
+    list->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     folgeSchrift(list, [list] { list->setFixedHeight(feldhoehe(*list)); });
     return list;
 }
@@ -198,7 +199,7 @@ void Messseite::zeigeBeiwerk(Messart art)
     Messdiagramm& diagramm = flaeche().messdiagramm();
     Tabelle befunde = messtabelle(m_auswertung.vergleich(art, calc), kurven(), art);
     m_tafel->zeige(befunde);
-    m_tafel->setColumnHidden(0, kurven().size() == 1); // their names
+    m_tafel->setColumnHidden(0, std::ranges::count(kurven(), art, &Messkurve::art) == 1); // their names
     diagramm.setBeiwerk(messbeiwerk(calc, art, diagramm.bild().x.bereich,
                             formeltext(programm().gerechneteEingabe(), Formelschrift::Tiefgestellt)),
         std::move(befunde));

@@ -29,7 +29,6 @@ QString shown(const Tabelle::Spalte& spalte, const std::string& text)
 Messtafel::Messtafel(QWidget* parent)
     : QTableWidget(parent)
 {
-    constexpr int Lines = 5;
     setAccessibleName(QStringLiteral("Maxima der Messkurven"));
     setSelectionBehavior(SelectRows);
     setEditTriggers(NoEditTriggers);
@@ -39,10 +38,17 @@ Messtafel::Messtafel(QWidget* parent)
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     folgeSchrift(this, [this] {
-        const int line = fontMetrics().height() + 6;
-        verticalHeader()->setDefaultSectionSize(line);
-        setFixedHeight(horizontalHeader()->sizeHint().height() + Lines * line + 2 * frameWidth());
+        verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+        takeHeight();
     });
+}
+
+/// As high as its lines, up to five.
+void Messtafel::takeHeight()
+{
+    const int lines = qMin(5, rowCount());
+    setFixedHeight(
+        horizontalHeader()->sizeHint().height() + lines * verticalHeader()->defaultSectionSize() + 2 * frameWidth());
 }
 
 void Messtafel::zeige(Tabelle tabelle)
@@ -63,6 +69,7 @@ void Messtafel::zeige(Tabelle tabelle)
             put(shown(spalte, m_tabelle.zeilen[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)]),
                 [&](QTableWidgetItem* item) { setItem(row, column, item); });
     }
+    takeHeight();
 }
 
 void Messtafel::copyAll() const { copyToClipboard(toQt(alsText(mitKopf(m_tabelle)))); }

@@ -22,6 +22,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void takeHeight();
     void copySelection() const;
     void copyAll() const;
 
