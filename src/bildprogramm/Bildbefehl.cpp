@@ -17,20 +17,15 @@ namespace zerna {
 
 namespace {
 
-/// What the picture carries: the document that it comes from, else one of the alloy alone. Nothing where its last at%,
-/// which a document makes the sum 100 %, would be another.
-std::string dokumentVon(Umgebung& umgebung, const Diagrammwahl& wahl)
+/// What the picture carries. Nothing where the document's last at%, which makes the sum 100 %, would not be that of the
+/// alloy.
+std::string carriedText(const Dokument& dokument, const Rechenkern& kern)
 {
-    const Rechenkern& kern = umgebung.kern();
-    Dokument dokument = umgebung.dokument().value_or(Dokument(kern.elements()));
-    dokument.eingabe = kern.eingabe();
-    dokument.diagramm = wahl;
     std::string text = schreibe(dokument);
     const auto read = lies(text, kern.elements()).dokument;
     const auto alloy = read ? read->eingabe.legierung() : std::nullopt;
-    if (alloy
-        && std::ranges::equal(alloy->komponenten(), kern.komponenten(), {}, &Legierungskomponente::prozent,
-            &Legierungskomponente::prozent))
+    const auto prozent = &Legierungskomponente::prozent;
+    if (alloy && std::ranges::equal(alloy->komponenten(), kern.komponenten(), {}, prozent, prozent))
         return text;
     std::cerr << "zerna-cli: Die Anteile ergeben nicht 100 %, das Bild trägt keine Legierung\n";
     return {};
@@ -45,17 +40,29 @@ struct Bild {
         const Bildvorgabe vorgabe = optionen.vorgabe();
         if (!optionen.schrift.empty() && !QFontDatabase::hasFamily(toQt(optionen.schrift)))
             throw Datenfehler("--schrift " + gekuerzt(optionen.schrift) + ": Diese Schrift gibt es hier nicht");
+        const Dokument dokument = load(umgebung);
+        const Rechenkern& kern = umgebung.kern();
+        const auto bild =
+            diagramm(umgebung.kern(), dokument, optionen.schalter, {optionen.kristallin, !optionen.ohneSymbole});
+        const bool hasAlloy = !optionen.komponenten.texte.empty();
+        const auto arten = bildarten(bild->maler(), vorgabe, bildtexte(dokument.eingabe, dokument.diagramm),
+            hasAlloy ? carriedText(dokument, kern) : std::string());
+        writeFile(optionen.ziel, arten.at(static_cast<std::size_t>(vorgabe.art)).bytes().value());
+    }
+
+    /// The document that the alloy comes from, else one of the alloy alone, with the chosen diagram.
+    Dokument load(Umgebung& umgebung) const
+    {
         if (optionen.komponenten.texte.empty())
             umgebung.load();
         else
             umgebung.loadAlloy(optionen.komponenten.texte, optionen.komponenten.einheit());
+        const Rechenkern& kern = umgebung.kern();
         const auto& file = umgebung.dokument();
-        const Diagrammwahl wahl = optionen.wahl(file ? std::optional(file->diagramm) : std::nullopt, umgebung.kern());
-        const auto bild = diagramm(umgebung.kern(), wahl);
-        if (bild->exportarten({}).empty())
-            throw Datenfehler("Das Diagramm hat keinen Wert");
-        const auto arten = bildarten(bild->maler(), vorgabe, {}, dokumentVon(umgebung, wahl));
-        writeFile(optionen.ziel, arten.at(static_cast<std::size_t>(vorgabe.art)).bytes().value());
+        Dokument dokument = file.value_or(Dokument(kern.elements()));
+        dokument.eingabe = kern.eingabe();
+        dokument.diagramm = optionen.wahl(file ? std::optional(file->diagramm) : std::nullopt, kern);
+        return dokument;
     }
 
     Bildoptionen optionen;

@@ -1,11 +1,10 @@
 #include "bildprogramm/Diagrammbau.h"
 
-#include <algorithm>
-#include <iterator>
+#include <utility>
 
+#include "core/Unbekannt.h"
 #include "model/Elementdiagramm.h"
-#include "model/Konzentrationsreihe.h"
-#include "ui/diagram/Konzentrationsdiagramm.h"
+#include "ui/diagram/Kurvendiagramm.h"
 #include "ui/diagram/PSEDiagramm.h"
 #include "ui/diagram/Ternaerdiagramm.h"
 
@@ -13,53 +12,63 @@ namespace zerna {
 
 namespace {
 
-std::unique_ptr<Diagramm> konzentrationsdiagramm(Rechenkern& kern, const Diagrammwahl& wahl)
+template <class Werte>
+void requireValues(const Werte& werte)
 {
-    const auto alloy = kern.komponenten();
-    if (alloy.size() < 2)
+    if (!istEinerBekannt(werte))
+        throw Datenfehler("Es ist kein Wert bekannt");
+}
+
+std::unique_ptr<Diagramm> konzentrationsdiagramm(
+    Rechenkern& kern, const Dokument& dokument, const Kurvenschalter& schalter)
+{
+    if (dokument.eingabe.anzahl() < 2)
         throw Datenfehler("Für ein Konzentrationsdiagramm sind mindestens zwei Komponenten nötig");
-    std::vector<float> dichten;
-    std::ranges::transform(alloy, std::back_inserter(dichten), &Legierungskomponente::dichte);
-    auto result = std::make_unique<Konzentrationsdiagramm>([] { return std::nullopt; });
-    result->setSymbol(alloy[static_cast<std::size_t>(wahl.komponente)].element->symbol());
-    result->setEinheit(reiheneinheit(wahl.groesse));
-    result->zeichneReihe(wahl.groesse == GroesseDichte
-            ? dichtereihe(dichten, wahl.komponente)
-            : konzentrationsreihe(kern.calc(), alloy, wahl.komponente, wahl.groesse));
+    Vergleichskurven vergleich{.gehaltene = *dokument.kurven};
+    if (dokument.diagramm.varianten)
+        vergleich.varianten = dokument.vergleich->varianten;
+    auto result = std::make_unique<Kurvendiagramm>();
+    result->setBild(konzentrationsbild(kern.calc(), dokument.eingabe, dokument.diagramm, schalter, vergleich).bild);
     return result;
 }
 
 std::unique_ptr<Diagramm> ternaerdiagramm(Rechenkern& kern, const Diagrammwahl& wahl)
 {
+    Ternaerangaben angaben = ternaerangaben(kern.calc(), kern.komponenten(), wahl.groesse, wahl.aufloesung);
+    requireValues(angaben.gitter.werte);
     auto result = std::make_unique<Ternaerdiagramm>();
-    result->setAngaben(ternaerangaben(kern.calc(), kern.komponenten(), wahl.groesse, wahl.aufloesung));
+    result->setAngaben(std::move(angaben));
     result->setAnsicht(wahl.ansicht);
     return result;
 }
 
-std::unique_ptr<Diagramm> pseDiagramm(Rechenkern& kern, const Diagrammwahl& wahl)
+std::unique_ptr<Diagramm> pseDiagramm(Rechenkern& kern, const Diagrammwahl& wahl, const PSEAnsicht& ansicht)
 {
     std::vector<std::string> legierung;
     for (const Legierungskomponente& komponente : kern.komponenten())
         legierung.push_back(komponente.element->symbol());
+    Elementdiagramm elemente = elementdiagramm(kern.elements(), kern.calc(), wahl.groesse, legierung);
+    requireValues(elemente.reihe.y);
     auto result = std::make_unique<PSEDiagramm>();
-    result->setElemente(elementdiagramm(kern.elements(), kern.calc(), wahl.groesse, legierung));
+    result->setElemente(std::move(elemente));
+    result->setAnsicht(ansicht);
     return result;
 }
 
 } // namespace
 
-std::unique_ptr<Diagramm> diagramm(Rechenkern& kern, const Diagrammwahl& wahl)
+std::unique_ptr<Diagramm> diagramm(
+    Rechenkern& kern, const Dokument& dokument, const Kurvenschalter& schalter, const PSEAnsicht& ansicht)
 {
-    switch (wahl.typ) {
+    switch (dokument.diagramm.typ) {
     case Diagrammtyp::Ternaer:
-        return ternaerdiagramm(kern, wahl);
+        return ternaerdiagramm(kern, dokument.diagramm);
     case Diagrammtyp::PSE:
-        return pseDiagramm(kern, wahl);
+        return pseDiagramm(kern, dokument.diagramm, ansicht);
     case Diagrammtyp::Konzentration:
         break;
     }
-    return konzentrationsdiagramm(kern, wahl);
+    return konzentrationsdiagramm(kern, dokument, schalter);
 }
 
 } // namespace zerna

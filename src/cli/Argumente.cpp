@@ -93,7 +93,7 @@ int reihenkennzahl(const Ganzzahl& groesse)
 {
     const int kennzahl = groesse.wert();
     if (findReihengroesse(kennzahl) == nullptr)
-        throw Aufruffehler("--groesse " + std::to_string(kennzahl) + ": erwartet wird " + reihenkennzahlen());
+        throw Aufruffehler(groesse.name + " " + std::to_string(kennzahl) + ": erwartet wird " + reihenkennzahlen());
     return kennzahl;
 }
 
@@ -101,7 +101,7 @@ int elementkennzahl(const Ganzzahl& groesse)
 {
     const int kennzahl = groesse.wert();
     if (!istPSEGroesse(kennzahl))
-        throw Aufruffehler("--groesse " + std::to_string(kennzahl) + ": keine Eigenschaft der Elemente");
+        throw Aufruffehler(groesse.name + " " + std::to_string(kennzahl) + ": keine Eigenschaft der Elemente");
     return kennzahl;
 }
 

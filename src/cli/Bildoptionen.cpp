@@ -50,6 +50,12 @@ void Bildoptionen::define(CLI::App& befehl)
         ->option_text("ART");
     groesse.define(befehl, "--groesse", "Kennzahl der Größe, nötig ohne Datei");
     befehl.add_option("--variabel", variabel, "Komponente entlang der Achse, sonst die erste")->option_text("SYMBOL");
+    befehl.add_flag("--mischungsreihe", schalter.mischungsreihe, "Nur die Kurve, auf der die Summe 100 % ist");
+    befehl.add_flag("--ganze-kurve", schalter.ganzeKurve, "Achse für alle Werte der Kurve");
+    zweite.define(befehl, "--zweite-groesse", "Kennzahl einer zweiten Größe, Achse rechts");
+    befehl.add_flag("--varianten", varianten, "Auch die in der Datei gemerkten Legierungen");
+    befehl.add_flag("--kristallin", kristallin, "Elemente: auch mit der kristallinen Dichte");
+    befehl.add_flag("--ohne-symbole", ohneSymbole, "Elemente: ohne Symbole an den Punkten");
     befehl.add_flag("--flach", flach, "Ternäres Diagramm von oben");
     schritte.define(befehl, "--schritte", "Auflösung des ternären Diagramms, 1 bis 10");
     for (std::size_t i = 0; i < Massnamen.size(); ++i) {
@@ -110,6 +116,12 @@ void Bildoptionen::checkOptions(Diagrammtyp chosen) const
             throw Aufruffehler(std::string(option) + " gibt es nur mit --art " + nameOf(needed));
     };
     require(!variabel.empty(), "--variabel", Diagrammtyp::Konzentration);
+    require(schalter.mischungsreihe, "--mischungsreihe", Diagrammtyp::Konzentration);
+    require(schalter.ganzeKurve, "--ganze-kurve", Diagrammtyp::Konzentration);
+    require(!zweite.text.empty(), "--zweite-groesse", Diagrammtyp::Konzentration);
+    require(varianten, "--varianten", Diagrammtyp::Konzentration);
+    require(kristallin, "--kristallin", Diagrammtyp::PSE);
+    require(ohneSymbole, "--ohne-symbole", Diagrammtyp::PSE);
     require(flach, "--flach", Diagrammtyp::Ternaer);
     require(!schritte.text.empty(), "--schritte", Diagrammtyp::Ternaer);
 }
@@ -130,7 +142,8 @@ Diagrammwahl Bildoptionen::wahl(const std::optional<Diagrammwahl>& inFile, const
     Diagrammwahl result = inFile.value_or(Diagrammwahl{.aufloesung = FeinsteAufloesung, .ansicht = {}});
     const auto chosen = typ();
     const bool isOther = chosen && chosen != result.typ;
-    result.typ = chosen.value_or(result.typ);
+    if (chosen)
+        wechsleTyp(result, *chosen);
     checkOptions(result.typ);
     const bool isPSE = result.typ == Diagrammtyp::PSE;
     if (!groesse.text.empty())
@@ -141,6 +154,9 @@ Diagrammwahl Bildoptionen::wahl(const std::optional<Diagrammwahl>& inFile, const
         requireTernaer(kern.komponenten().size());
     if (!variabel.empty())
         result.komponente = static_cast<int>(indexOfVariable(variabel, kern.elements(), kern.komponenten()));
+    if (!zweite.text.empty())
+        result.zweiteGroesse = reihenkennzahl(zweite);
+    result.varianten = result.varianten || varianten;
     if (!schritte.text.empty())
         result.aufloesung = gitteraufloesung(schritte);
     result.ansicht.flach = result.ansicht.flach || flach;

@@ -7,8 +7,8 @@
 #include <string>
 
 #include "bild/Bildvorgabe.h"
+#include "bild/Konzentrationsbild.h"
 #include "cli/Argumente.h"
-#include "model/Diagrammwahl.h"
 
 namespace zerna {
 
@@ -30,7 +30,12 @@ struct Bildoptionen {
 
     std::string art;
     Ganzzahl groesse;
+    Ganzzahl zweite;
     std::string variabel;
+    bool varianten = false;
+    Kurvenschalter schalter;
+    bool kristallin = false;
+    bool ohneSymbole = false;
     Ganzzahl schritte;
     bool flach = false;
     std::array<std::string, 5> masse; ///< in the order of bildmasse(); empty: the default

@@ -42,23 +42,28 @@ TEST_F(cliTest, PicturesAreMadeWithoutADisplayAndCarryTheirAlloy)
         const char* file;
         const char* begin;
     } rows[] = {
-        {"--groesse 8 --variabel Cu --grau", "a.svg", "<?xml"},
-        {"--art ternaer --flach --groesse 5 --aufloesung 50", "b.png", "\x89PNG"},
-        {"--art elemente --groesse 13 --dezimal punkt", "c.PDF", "%PDF"},
+        {"--groesse 8 --variabel Cu --zweite-groesse 9 --ganze-kurve --grau", "a.svg", "<?xml"},
+        {"--art ternaer --flach --groesse 5 --schritte 3", "b.png", "\x89PNG"},
+        {"--art elemente --groesse 13 --kristallin --ohne-symbole --dezimal punkt", "c.PDF", "%PDF"},
     };
     const std::string alloy = " Al=60:dichte=2,5:valenz=5/2 Cu=30 Mg=10";
     for (const auto& row : rows) {
         SCOPED_TRACE(row.file);
-        const std::string call = std::string("bild --breite 40 --hoehe 30 --ziel ") + row.file + " " + row.options;
+        const std::string call =
+            std::string("bild --breite 85 --hoehe 60 --aufloesung 60 --ziel ") + row.file + " " + row.options;
         const Answer answer = run(call + alloy);
         EXPECT_EQ(answer.text, "");
         EXPECT_EQ(answer.status, 0);
         const std::string first = bytesOf(folder / row.file);
         EXPECT_TRUE(first.starts_with(row.begin));
         EXPECT_EQ(run(std::string("groessen ") + row.file).text, run("groessen" + alloy).text);
-        EXPECT_EQ(run("bild --breite 40 --hoehe 30 --aufloesung 50 --ziel d.svg " + std::string(row.file)).text, "")
+        EXPECT_EQ(run("bild --breite 85 --hoehe 60 --aufloesung 60 --ziel d.svg " + std::string(row.file)).text, "")
             << "it says which diagram it is";
     }
+    const std::string texts = bytesOf(folder / "a.svg");
+    for (const char* const text : {"<title>Fermienergie [eV] über at% Cu</title>",
+             "<desc>Al60Cu30Mg10 – Al: 2,5 g/cm³, z = 2,5;", ">2 Kf [1/nm]</text>", ">100</text>"})
+        EXPECT_NE(texts.find(text), std::string::npos) << text << texts;
     EXPECT_EQ(run("bild --art elemente --groesse 13 --schrift Nixda --ziel e.png").text,
         "zerna-cli: --schrift Nixda: Diese Schrift gibt es hier nicht\n");
     EXPECT_EQ(run("bild --groesse 8 --ziel e.svg Al=60 Cu=30").text,

@@ -66,8 +66,8 @@ std::string asPng(const Bild& bild)
     return bild.dokument.empty() ? bytes : pngMitDokument(std::move(bytes), bild.dokument);
 }
 
-/// The head says the size in millimetres, which the generator knows in whole pixels only, and the texts, which it
-/// writes without escaping.
+/// The head says the size in millimetres, which the generator knows in whole pixels only, and the texts in place of its
+/// own, which it writes without escaping.
 QByteArray withHead(const QByteArray& svg, const Bild& bild)
 {
     const auto number = [](double value) { return toQt(textWithDigits(value, 7, Dezimaltrenner::Punkt)); };
@@ -81,7 +81,8 @@ QByteArray withHead(const QByteArray& svg, const Bild& bild)
     const QString texts =
         QStringLiteral("\n<title>%1</title>\n<desc>%2</desc>")
             .arg(toQt(bild.texte.titel).toHtmlEscaped(), toQt(bild.texte.beschreibung).toHtmlEscaped());
-    return svg.left(size) + sizes.toUtf8() + svg.mid(rest, content - rest) + texts.toUtf8() + svg.mid(content);
+    return svg.left(size) + sizes.toUtf8() + svg.mid(rest, content - rest) + texts.toUtf8()
+        + svg.mid(svg.indexOf("\n<defs>", content));
 }
 
 std::string asSvg(const Bild& bild)

@@ -3,18 +3,13 @@
 #include <string>
 #include <vector>
 
+#include "bild/Bildtexte.h"
 #include "bild/Bildvorgabe.h"
 #include "programm/Exportart.h"
 #include "ui/diagram/Leinwand.h"
 
 /// Pictures of their own size in millimetres as files: what the window saves and what the command line makes.
 namespace zerna {
-
-/// What a file says about its picture, beside showing it.
-struct Bildtexte {
-    std::string titel; ///< the quantity
-    std::string beschreibung; ///< the alloy
-};
 
 /// The canvas of a picture: 96 logical pixels to the inch, letters of exactly the wanted size, as finely spaced on
 /// every device.

@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "programm/Exportart.h"
-#include "ui/diagram/Bilddatei.h"
 #include "ui/diagram/Leinwand.h"
 
 class QPainter;
@@ -36,9 +35,6 @@ public:
     {
         return [this](QPainter& painter, const Leinwand& leinwand) { paint(painter, leinwand); };
     }
-
-    /// What a file with the picture says about it.
-    virtual Bildtexte texte() const { return {}; }
 
     /// Paints the keyboard cursor, which only the screen shows.
     virtual void paintCursor(QPainter&, const Leinwand&) const { }

@@ -134,7 +134,10 @@ void Diagrammflaeche::savePicture()
         return;
     const Bildvorgabe& vorgabe = dialog.vorgabe();
     merkeBildvorgabe(m_programm.settings(), vorgabe);
-    const auto arten = bildarten(m_diagramm->maler(), vorgabe, m_diagramm->texte(), m_programm.dokumenttext());
+    const Eingabe& drawn =
+        m_programm.Eingabe().istVollstaendig() ? m_programm.Eingabe() : m_programm.gerechneteEingabe();
+    const auto arten = bildarten(
+        m_diagramm->maler(), vorgabe, bildtexte(drawn, m_programm.Dokument().diagramm), m_programm.dokumenttext());
     speichereAls(m_programm.boxes(), m_dialoge.save, "Bild speichern", arten,
         SaveFileDialog::Choice{fromQt(QDir::currentPath()) + '/', static_cast<int>(vorgabe.art) + 1});
 }
