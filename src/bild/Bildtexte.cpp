@@ -15,6 +15,8 @@ Bildtexte bildtexte(const Eingabe& eingabe, const Diagrammwahl& wahl)
         return {std::string(groesse->elementtitel) + " über der Ordnungszahl", {}};
     case Diagrammtyp::Ternaer:
         return {groessentitel(*groesse) + " über allen Zusammensetzungen", legierungstext(eingabe)};
+    case Diagrammtyp::Messkurve:
+        return {"Messkurven", legierungstext(eingabe)};
     case Diagrammtyp::Konzentration:
         break;
     }

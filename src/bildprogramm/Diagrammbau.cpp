@@ -2,8 +2,10 @@
 
 #include <utility>
 
+#include "bild/Messkurvenbild.h"
 #include "core/Unbekannt.h"
 #include "model/Elementdiagramm.h"
+#include "model/Formeltext.h"
 #include "ui/diagram/Kurvendiagramm.h"
 #include "ui/diagram/PSEDiagramm.h"
 #include "ui/diagram/Ternaerdiagramm.h"
@@ -55,6 +57,25 @@ std::unique_ptr<Diagramm> pseDiagramm(Rechenkern& kern, const Diagrammwahl& wahl
     return result;
 }
 
+/// The kind of the first curve says which of them are drawn.
+std::unique_ptr<Diagramm> messdiagramm(Rechenkern& kern, const Dokument& dokument)
+{
+    if (dokument.messkurven->empty())
+        throw Datenfehler("Die Datei enthält keine Messkurve");
+    Messauswertung auswertung;
+    auswertung.setKurven(dokument.messkurven);
+    const Messart art = dokument.messkurven->front().art;
+    Kurvenbild bild = messkurvenbild(auswertung, art);
+    Messbeiwerk beiwerk =
+        messbeiwerk(kern.calc(), art, bild.x.bereich, formeltext(dokument.eingabe, Formelschrift::Tiefgestellt));
+    bild.untertitel = std::move(beiwerk.untertitel);
+    bild.marken = std::move(beiwerk.marken);
+    bild.hinweise = std::move(beiwerk.hinweise);
+    auto result = std::make_unique<Kurvendiagramm>();
+    result->setBild(std::move(bild));
+    return result;
+}
+
 } // namespace
 
 std::unique_ptr<Diagramm> diagramm(
@@ -65,6 +86,8 @@ std::unique_ptr<Diagramm> diagramm(
         return ternaerdiagramm(kern, dokument.diagramm);
     case Diagrammtyp::PSE:
         return pseDiagramm(kern, dokument.diagramm, ansicht);
+    case Diagrammtyp::Messkurve:
+        return messdiagramm(kern, dokument);
     case Diagrammtyp::Konzentration:
         break;
     }

@@ -18,8 +18,8 @@ struct Artname {
     Diagrammtyp typ;
 };
 
-constexpr std::array<Artname, 3> Arten{
-    {{"konzentration", Diagrammtyp::Konzentration}, {"ternaer", Diagrammtyp::Ternaer}, {"elemente", Diagrammtyp::PSE}}};
+constexpr std::array<Artname, 4> Arten{{{"konzentration", Diagrammtyp::Konzentration},
+    {"ternaer", Diagrammtyp::Ternaer}, {"elemente", Diagrammtyp::PSE}, {"messkurve", Diagrammtyp::Messkurve}}};
 
 /// Options for bildmasse().
 constexpr std::array<const char*, 5> Massnamen{"--breite", "--hoehe", "--schriftgroesse", "--linie", "--aufloesung"};
@@ -46,7 +46,9 @@ void Bildoptionen::define(CLI::App& befehl)
     befehl.add_option("--ziel", ziel, "Datei, die geschrieben wird: *.png, *.svg oder *.pdf")
         ->required()
         ->option_text("DATEI");
-    befehl.add_option("--art", art, "konzentration, ternaer oder elemente; sonst die der Datei oder konzentration")
+    befehl
+        .add_option(
+            "--art", art, "konzentration, ternaer, elemente oder messkurve; sonst die der Datei oder konzentration")
         ->option_text("ART");
     groesse.define(befehl, "--groesse", "Kennzahl der Größe, nötig ohne Datei");
     befehl.add_option("--variabel", variabel, "Komponente entlang der Achse, sonst die erste")->option_text("SYMBOL");
@@ -104,7 +106,8 @@ std::optional<Diagrammtyp> Bildoptionen::typ() const
         return std::nullopt;
     const auto* const found = std::ranges::find(Arten, art, &Artname::name);
     if (found == Arten.end())
-        throw Aufruffehler("--art " + gekuerzt(art) + ": erwartet wird konzentration, ternaer oder elemente");
+        throw Aufruffehler(
+            "--art " + gekuerzt(art) + ": erwartet wird konzentration, ternaer, elemente oder messkurve");
     return found->typ;
 }
 
@@ -145,6 +148,8 @@ Diagrammwahl Bildoptionen::wahl(const std::optional<Diagrammwahl>& inFile, const
     if (chosen)
         wechsleTyp(result, *chosen);
     checkOptions(result.typ);
+    if (result.typ == Diagrammtyp::Messkurve)
+        return result;
     const bool isPSE = result.typ == Diagrammtyp::PSE;
     if (!groesse.text.empty())
         result.groesse = isPSE ? elementkennzahl(groesse) : reihenkennzahl(groesse);
