@@ -57,14 +57,14 @@ std::unique_ptr<Diagramm> pseDiagramm(Rechenkern& kern, const Diagrammwahl& wahl
     return result;
 }
 
-/// The kind of the first curve says which of them are drawn.
+/// The kind of the last curve says which of them are drawn.
 std::unique_ptr<Diagramm> messdiagramm(Rechenkern& kern, const Dokument& dokument)
 {
     if (dokument.messkurven->empty())
         throw Datenfehler("Die Datei enthält keine Messkurve");
     Messauswertung auswertung;
     auswertung.setKurven(dokument.messkurven);
-    const Messart art = dokument.messkurven->front().art;
+    const Messart art = dokument.messkurven->back().art;
     Kurvenbild bild = messkurvenbild(auswertung, art);
     Messbeiwerk beiwerk =
         messbeiwerk(kern.calc(), art, bild.x.bereich, formeltext(dokument.eingabe, Formelschrift::Tiefgestellt));
