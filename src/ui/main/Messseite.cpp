@@ -67,7 +67,7 @@ void Messseite::createLists()
 
 void Messseite::createButtons()
 {
-    m_cmdOeffnen = new StyledButton(QStringLiteral("Öff&nen ..."), this);
+    m_cmdOeffnen = new StyledButton(QStringLiteral("Öffnen ..."), this);
     m_cmdOeffnen->setObjectName(QStringLiteral("cmdMesskurve_Oeffnen"));
     m_cmdOeffnen->setToolTipText(QStringLiteral("Messkurve aus einer Textdatei mit zwei Spalten"));
     setKnopfgroesse(m_cmdOeffnen, 80);
