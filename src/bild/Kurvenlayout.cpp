@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "bild/Achsenteilung.h"
+#include "bild/Dezimaltext.h"
 #include "bild/Rundteilung.h"
 #include "bild/Textumbruch.h"
 
@@ -246,7 +247,14 @@ Kurvenlayout layOut(const Kurvenbild& bild, double width, double height, const B
     const Schriftmasse& masse, const std::optional<Ausschnitt>& ausschnitt)
 {
     Aufbau aufbau(bild, stil, masse, ausschnitt.has_value());
-    return aufbau.make(width, height, ausschnitt.value_or(ganzerAusschnitt(bild)));
+    Kurvenlayout layout = aufbau.make(width, height, ausschnitt.value_or(ganzerAusschnitt(bild)));
+    if (stil.dezimal != Dezimaltrenner::Komma) {
+        for (auto* const texte : {&layout.texte, &layout.kerntexte, &layout.markentexte}) {
+            for (Textstelle& stelle : *texte)
+                stelle.text = mitDezimal(std::move(stelle.text), stil.dezimal);
+        }
+    }
+    return layout;
 }
 
 } // namespace zerna

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "bild/Dezimaltext.h"
+#include "bild/Kurvenlayout.h"
 #include "support/FakeServices.h"
 
 namespace zerna {
@@ -67,6 +71,24 @@ TEST(BildvorgabeTest, LengthsBecomePixelsOfTheLayout)
     EXPECT_DOUBLE_EQ(stilNach({.linienbreite = 0.75}).linienbreite, 1);
     EXPECT_TRUE(stilNach({}).rundeTeilung) << "of figures";
     EXPECT_FALSE(Bildstil().rundeTeilung) << "of the screen";
+}
+
+TEST(DezimaltextTest, NumbersInTextsGetTheSeparatorAndListsKeepTheirCommas)
+{
+    EXPECT_EQ(
+        mitDezimal("Al60,5Cu: 2,377 g/cm³, z = 3, 1,5", Dezimaltrenner::Punkt), "Al60.5Cu: 2.377 g/cm³, z = 3, 1.5");
+    EXPECT_EQ(mitDezimal("0,5", Dezimaltrenner::Komma), "0,5");
+    EXPECT_EQ(mitDezimal(",", Dezimaltrenner::Punkt), ",");
+    Kurvenbild bild;
+    bild.untertitel = "Al: 2,377 g/cm³, z = 3";
+    bild.y.bereich = {-1, 1};
+    bild.x.bereich = {0, 100};
+    const auto masse = [](const Schrift&) {
+        return Textmasse{[](std::string_view text) { return 7.0 * static_cast<double>(text.size()); }, 16};
+    };
+    const auto texte = layOut(bild, 600, 400, {.dezimal = Dezimaltrenner::Punkt}, masse).texte;
+    EXPECT_TRUE(
+        std::ranges::any_of(texte, [](const Textstelle& stelle) { return stelle.text == "Al: 2.377 g/cm³, z = 3"; }));
 }
 
 } // namespace zerna
