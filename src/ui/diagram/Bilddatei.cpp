@@ -97,6 +97,8 @@ std::string asSvg(const Bild& bild)
     QPainter painter(&generator);
     paint(painter, bild, PixelJeZoll);
     painter.end();
+    const QByteArray family = "font-family=\"" + QByteArray::fromStdString(bild.vorgabe.schrift);
+    bytes.replace(family + '"', family + ", sans-serif\""); // where there is no such font
     std::string text = withHead(bytes, bild).toStdString();
     return bild.dokument.empty() ? text : svgMitDokument(std::move(text), bild.dokument);
 }

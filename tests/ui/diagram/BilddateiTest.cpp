@@ -67,7 +67,7 @@ TEST_F(BilddateiTest, VectorPicturesHaveTheirSizeTheirLettersAndTheirTexts)
     } rows[] = {
         {Bildart::SVG,
             {"<svg width=\"85mm\" height=\"60.5mm\"", "viewBox=\"0 0 321.2598 228.6614\"", "font-size=\"12\"",
-                "font-family=\"DejaVu Sans\"",
+                "font-family=\"DejaVu Sans, sans-serif\"",
                 "<title>E_F in eV &lt;1&gt;</title>\n<desc>Al60Cu40 &amp; mehr</desc>\n<defs>"}},
         {Bildart::PDF,
             {"/MediaBox [0 0 241.000000 171.000000]", "/FontFile2", "/Title", "E_F in eV &lt;1&gt;</rdf:li>",
