@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <tuple>
 
 #include "bild/PSEKopf.h"
 #include "core/Unbekannt.h"
@@ -48,6 +49,16 @@ std::string textsOf(const std::vector<Schriftzug>& texts)
     return all;
 }
 
+/// Three elements at both densities, the second one in the alloy.
+Elementdiagramm both()
+{
+    Elementdiagramm both = diagramm({0, 5, 10});
+    both.titel = "Größe [eV] der Elemente";
+    both.kristallin = {{}, both.reihe.x, {0, 8, 20}};
+    both.elemente[1].inLegierung = true;
+    return both;
+}
+
 } // namespace
 
 TEST(PSEGeometrieTest, RangesAreRoundedOutwards)
@@ -83,20 +94,16 @@ TEST(PSEGeometrieTest, EverythingStandsInUserCoordinates)
 
 TEST(PSEGeometrieTest, WideLabelsMoveTheScale)
 {
-    Elementdiagramm narrow = diagramm({0, 1});
+    const Elementdiagramm narrow = diagramm({0, 1});
     const auto width = [](std::string_view text) { return 60.0 * static_cast<double>(text.size()); };
     const PSEBild bild = layOutPSE(narrow, {}, {}, 200, 1300, {width, 10});
     EXPECT_EQ(bild.feld.left, 50) << "but not for ever";
     EXPECT_LT(bild.labelRoom, bild.widestLabel);
-    EXPECT_EQ(layOut(std::move(narrow), {}).feld.left, 0) << "the given scale";
+    EXPECT_EQ(layOut(narrow, {}).feld.left, 0) << "the given scale";
 }
 
 TEST(PSEGeometrieTest, TitleAndLegendTakeStripsWhereThereIsHeight)
 {
-    Elementdiagramm both = diagramm({0, 5, 10});
-    both.titel = "Größe [eV] der Elemente";
-    both.kristallin = {{}, both.reihe.x, {0, 8, 20}};
-    both.elemente[1].inLegierung = true;
     const struct {
         const char* name;
         Bildstil stil;
@@ -106,17 +113,20 @@ TEST(PSEGeometrieTest, TitleAndLegendTakeStripsWhereThereIsHeight)
     } rows[] = {{"room for all", {}, 500, 24 + 24 * 2, 3}, {"no title", {.titel = false}, 500, 24 * 2, 3},
         {"no legend", {.legende = false}, 500, 24, 0}, {"too low", {}, 200, 0, 0}};
     for (const auto& row : rows) {
-        const PSEBild bild = layOut(both, {.kristallin = true}, 20, row.stil, row.height);
-        EXPECT_EQ(bild.feld.top, row.top) << row.name;
-        EXPECT_EQ(bild.legende.size(), row.entries) << row.name;
+        const PSEBild bild = layOut(both(), {.kristallin = true}, 20, row.stil, row.height);
+        EXPECT_EQ(std::tuple(bild.feld.top, bild.legende.size()), std::tuple(row.top, row.entries)) << row.name;
         EXPECT_EQ(bild.feld.top + bild.feld.height, row.height) << row.name;
     }
-    const PSEBild bild = layOut(both, {.kristallin = true}, 20);
+}
+
+TEST(PSEGeometrieTest, BothDensitiesAndTheAlloyAreShown)
+{
+    const PSEBild bild = layOut(both(), {.kristallin = true}, 20);
     EXPECT_EQ(bild.kristallin.punkte.at(2)->y, bild.lines.back().from.y) << "both series count for the range";
     EXPECT_EQ(bild.legierung.size(), 2U);
     EXPECT_EQ(textsOf(bild.legierungssymbole), "B|");
     EXPECT_EQ(textsOf(bild.symbole), "C|A|");
-    EXPECT_EQ(textsOf(layOut(both, {.symbole = false}, 20).symbole), "");
+    EXPECT_EQ(textsOf(layOut(both(), {.symbole = false}, 20).symbole), "");
 }
 
 TEST(PSEGeometrieTest, EveryDivisionThatHasRoomIsLabelled)
