@@ -4,7 +4,9 @@
 #include "ui/diagram/Diagrammflaeche.h"
 #include "ui/main/Diagrammbereich.h"
 #include "ui/main/Diagrammseite.h"
+#include "ui/main/Konzentrationsseite.h"
 #include "ui/platform/QtText.h"
+#include "ui/platform/Zwischenablage.h"
 
 namespace zerna {
 
@@ -63,6 +65,16 @@ void Diagrammbereich::zeigeGroesse(int groesse, int komponente)
     zeigeDokument();
     emit geschehen({QStringLiteral("Diagramm: %1").arg(toQt(findGroesse(shown.groesse)->name))});
 }
+
+void Diagrammbereich::setMarken(const Suchmarken& marken)
+{
+    for (Diagrammseite* const seite : m_seiten)
+        seite->setMarken(marken);
+}
+
+void Diagrammbereich::setMischungsreihe(bool an) { m_konzentration->setMischungsreihe(an); }
+
+void Diagrammbereich::kopierePunkte() { copyToClipboard(toQt(m_picDiagramm->ternaerzielpunkte())); }
 
 bool Diagrammbereich::istDruckbar() const { return m_picDiagramm->istDiagramm(); }
 

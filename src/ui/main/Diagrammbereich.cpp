@@ -69,7 +69,10 @@ void Diagrammbereich::createSeiten(Dialoge dialoge)
     connect(m_messung, &Messseite::oeffnenRequested, this, [this] { oeffneMesskurven({}); });
     connect(m_konzentration, &Konzentrationsseite::prozentStepped, this, &Diagrammbereich::prozentStepped);
     for (Diagrammseite* const seite : m_seiten) {
-        connect(seite, &Diagrammseite::schalterChanged, this, [this] { aktualisieren(true); });
+        connect(seite, &Diagrammseite::schalterChanged, this, [this] {
+            aktualisieren(true);
+            emit schalterChanged();
+        });
         connect(seite, &Diagrammseite::umgestellt, this, [this](const Schritt& schritt) {
             aktualisieren(true);
             emit geschehen(schritt);

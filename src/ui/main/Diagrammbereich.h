@@ -14,6 +14,7 @@ class QLabel;
 
 namespace zerna {
 
+struct Suchmarken;
 class Befundzeile;
 class Diagrammauswahl;
 class Diagrammflaeche;
@@ -56,6 +57,14 @@ public:
 
     /// Adds the curves of files to the document and shows them; asks for one if there are none.
     void oeffneMesskurven(const QStringList& dateien);
+    /// Shows what a search has found.
+    void setMarken(const Suchmarken& marken);
+
+    /// Draws the given series or the true mixture from now on, which is remembered.
+    void setMischungsreihe(bool an);
+
+    /// Copies the points of the ternary diagram with the wanted value.
+    void kopierePunkte();
 
     void addBefehle(Menue& menue);
     bool istDruckbar() const;
@@ -65,6 +74,8 @@ signals:
     void geschehen(const Schritt& schritt);
     /// It is asked at which part the shown quantity has a value.
     void anteilRequested();
+    /// Another series is drawn from now on.
+    void schalterChanged();
     /// A value label has stepped the at% of a row.
     void prozentStepped(int row, int prozent);
     /// The ternary diagram is wanted, which needs three rows.

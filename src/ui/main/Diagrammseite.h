@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/Laufzeitfehler.h"
+#include "model/Anteilssuche.h"
 #include "model/Diagrammwahl.h"
 #include "model/Eingabe.h"
 #include "programm/Programm.h"
@@ -52,6 +53,9 @@ public:
     virtual QWidget* darunter() const { return nullptr; }
 
     virtual void addBefehle(Menue&) { }
+
+    /// Shows what a search has found, also in the diagrams that are drawn later.
+    virtual void setMarken(const Suchmarken&) { }
 
     /// What the user may want to do about the diagram that is shown, such as to see more of it; empty for nothing.
     virtual QString angebot() const { return {}; }

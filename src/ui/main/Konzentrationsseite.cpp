@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "bild/Kurventabelle.h"
+#include "core/Zahlentext.h"
 #include "programm/Exportieren.h"
 #include "ui/button/StyledButton.h"
 #include "ui/controls/Menue.h"
@@ -19,6 +20,19 @@
 namespace zerna {
 
 namespace {
+
+/// The answers of a search, if they belong to what is drawn.
+std::vector<Linienmarke> linienmarken(const Suchmarken& found, const Diagrammwahl& wahl)
+{
+    constexpr Farbe Colour{0, 110, 60};
+    constexpr int Digits = 6;
+    std::vector<Linienmarke> marken;
+    if (found.groesse == wahl.groesse && found.komponente == wahl.komponente) {
+        for (const double prozent : found.prozente)
+            marken.push_back({prozent, textWithDigits(prozent, Digits) + " at%", Colour});
+    }
+    return marken;
+}
 
 QString symbolOf(const Eingabe::Zeile& zeile) { return zeile.element ? toQt(zeile.element->symbol()) : QString(); }
 
@@ -170,8 +184,25 @@ void Konzentrationsseite::drawSeries(const Eingabe& eingabe)
         vergleich.varianten = dokument.vergleich->varianten;
     m_bild = konzentrationsbild(programm().Calc(), eingabe, wahl(), schalter, vergleich);
     m_menue->setKurve(gehalteneKurve(*m_bild, eingabe, wahl(), schalter));
-    display.setBild(m_bild->bild);
+    showBild();
 }
+
+void Konzentrationsseite::showBild()
+{
+    m_bild->bild.marken = linienmarken(m_marken, wahl());
+    flaeche().display().setBild(m_bild->bild);
+}
+
+void Konzentrationsseite::setMarken(const Suchmarken& marken)
+{
+    if (marken == m_marken)
+        return;
+    m_marken = marken;
+    if (m_bild)
+        showBild();
+}
+
+void Konzentrationsseite::setMischungsreihe(bool an) { m_menue->setMischungsreihe(an); }
 
 QString Konzentrationsseite::angebot() const
 {

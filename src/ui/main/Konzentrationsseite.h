@@ -26,6 +26,8 @@ public:
     std::vector<QWidget*> tabOrder() const override;
     std::vector<StyledButton*> knoepfe() const override { return {m_cmdKurven}; }
     void addBefehle(Menue& menue) override;
+    void setMarken(const Suchmarken& marken) override;
+    void setMischungsreihe(bool an); ///< as if chosen in the menu
     QString angebot() const override;
     void nimmAn() override;
     int zeilenhoehe() const; ///< of its strip, for the strips of all
@@ -42,6 +44,7 @@ private:
     const Eingabe* zuZeichnen(const Eingabe& eingabe);
     void createMenu();
     void drawSeries(const Eingabe& eingabe);
+    void showBild();
     Tabelle tabelle();
 
     Dialoge m_dialoge;
@@ -49,6 +52,7 @@ private:
     StyledButton* m_cmdKurven = nullptr;
     Kurvenmenue* m_menue = nullptr; // of the button
     std::optional<Konzentrationsbild> m_bild; // what is shown
+    Suchmarken m_marken;
 };
 
 } // namespace zerna

@@ -13,8 +13,8 @@ Kurvenmenue::Kurvenmenue(Programm& programm, QWidget* parent)
     , m_programm(programm)
 {
     setObjectName(QStringLiteral("mnuKurven"));
-    addSchalter(QStringLiteral("&Mischungsreihe (Summe 100 %)"), "mnuMischungsreihe", "Mischungsreihe",
-        &Kurvenschalter::mischungsreihe);
+    m_mischungsreihe = addSchalter(QStringLiteral("&Mischungsreihe (Summe 100 %)"), "mnuMischungsreihe",
+        "Mischungsreihe", &Kurvenschalter::mischungsreihe);
     m_ganzeKurve =
         addSchalter(QStringLiteral("&Ganze Kurve zeigen"), "mnuGanzeKurve", "GanzeKurve", &Kurvenschalter::ganzeKurve);
     QMenu* const zweite = addMenu(QStringLiteral("&Zweite Größe"));

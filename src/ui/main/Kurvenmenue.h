@@ -19,6 +19,9 @@ public:
 
     const Kurvenschalter& schalter() const { return m_schalter; }
 
+    /// Draws the given series or the true mixture from now on.
+    void setMischungsreihe(bool an) { m_mischungsreihe->setChecked(an); }
+
     /// Draws with the whole curve from now on.
     void zeigeGanzeKurve() { m_ganzeKurve->trigger(); }
 
@@ -46,6 +49,7 @@ private:
     Programm& m_programm;
     Kurvenschalter m_schalter;
     std::optional<GehalteneKurve> m_kurve; // the one that is shown
+    QAction* m_mischungsreihe = nullptr;
     QAction* m_ganzeKurve = nullptr;
     QAction* m_festhalten = nullptr;
     QMenu* m_entfernen = nullptr;

@@ -13,6 +13,7 @@ void frmMain::connectSuche()
 {
     connect(m_diagramm, &Diagrammbereich::anteilRequested, this, [this] { frageAnteil(-1, {}); });
     connect(m_diagramm, &Diagrammbereich::geschehen, this, &frmMain::zeigeSuche);
+    connect(m_diagramm, &Diagrammbereich::schalterChanged, this, &frmMain::zeigeSuche);
     connect(m_komposition, &Kompositionsbereich::befundGeaendert, this, &frmMain::zeigeSuche);
     connect(m_ergebnisse, &Ergebnisbereich::anteilRequested, this, &frmMain::frageAnteil);
 }
@@ -24,10 +25,9 @@ frmZielsuche& frmMain::suche()
         return *m_suche;
     m_suche = new frmZielsuche(m_programm, this);
     connect(m_suche, &frmZielsuche::wahlRequested, m_diagramm, &Diagrammbereich::zeigeGroesse);
-    connect(m_suche, &frmZielsuche::mischungsreiheChosen, this, [this](bool an) {
-        m_programm.settings().SaveSetting("Mischungsreihe", an ? "1" : "0");
-        zeigeSuche();
-    });
+    connect(m_suche, &frmZielsuche::mischungsreiheChosen, m_diagramm, &Diagrammbereich::setMischungsreihe);
+    connect(m_suche, &frmZielsuche::punkteRequested, m_diagramm, &Diagrammbereich::kopierePunkte);
+    connect(m_suche, &frmZielsuche::markenChanged, m_diagramm, &Diagrammbereich::setMarken);
     connect(m_suche, &frmZielsuche::uebernommen, this, [this](const zerna::Eingabe& eingabe, const Schritt& schritt) {
         m_komposition->setEingabe(eingabe, schritt);
         m_meldung->zeige(QStringLiteral("✓  %1").arg(schritt.name));

@@ -84,6 +84,9 @@ void Ternaerseite::stepResolution(int step)
 
 void Ternaerseite::showSteps() { m_lblSteps->setText(QStringLiteral("Auflösung: %1").arg(m_steps)); }
 
+/// The search follows the quantity of the diagram, so a value is always one of it.
+void Ternaerseite::setMarken(const Suchmarken& marken) { flaeche().setTernaerziel(marken.ziel); }
+
 void Ternaerseite::addBefehle(Menue& menue)
 {
     for (const auto& [text, name, step] : {std::tuple(QStringLiteral("&Feinere Auflösung"), "mnuSteps_1", 1),

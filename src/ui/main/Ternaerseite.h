@@ -22,6 +22,7 @@ public:
     void zeichne(const Eingabe& eingabe) override;
     std::vector<QWidget*> tabOrder() const override;
     void addBefehle(Menue& menue) override;
+    void setMarken(const Suchmarken& marken) override;
 
 private:
     void stepResolution(int step);
