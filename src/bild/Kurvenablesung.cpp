@@ -73,6 +73,12 @@ std::optional<Kurvenpunkt> signAt(const Kurvenbild& bild, const Kurvenlayout& la
     return found;
 }
 
+/// A single point has its value in the legend: "Al60Cu40: 9,4835 eV".
+std::string kurzname(const Kurve& kurve)
+{
+    return kurve.punkte.size() == 1 ? kurve.name.substr(0, kurve.name.find(": ")) : kurve.name;
+}
+
 } // namespace
 
 double wertBei(std::span<const Punkt> punkte, double x)
@@ -113,7 +119,7 @@ std::string ablesung(const Kurvenbild& bild, const Kurvenpunkt& punkt, const Ber
 {
     const Kurve& kurve = bild.kurven.at(punkt.kurve);
     const bool areSeveral = std::ranges::count_if(bild.kurven, [](const Kurve& k) { return !k.name.empty(); }) > 1;
-    const std::string name = areSeveral && !kurve.name.empty() ? kurve.name + ": " : "";
+    const std::string name = areSeveral && !kurve.name.empty() ? kurzname(kurve) + ": " : "";
     return name + fixedText(punkt.x, decimalsOf(x)) + ' ' + bild.x.einheit + " - "
         + werttext(punkt.y, axisOf(bild, kurve).einheit) + otherQuantity(bild, punkt);
 }

@@ -101,7 +101,7 @@ void PSEseite::zeichne(const Eingabe& eingabe)
 void PSEseite::addBefehle(Menue& menue)
 {
     for (const auto& [text, name, box] : {std::tuple(QStringLiteral("Elements&ymbole"), "mnuPSE_Symbole", m_chkSymbole),
-             {QStringLiteral("Auch &kristallin"), "mnuPSE_Kristallin", m_chkKristallin}}) {
+             {QStringLiteral("Auch kris&tallin"), "mnuPSE_Kristallin", m_chkKristallin}}) {
         menue.add(Menue::Abschnitt::Diagramm,
             {.text = text,
                 .name = name,

@@ -40,7 +40,9 @@ struct DiagrammflaecheTest : FakeDesk {
         place = {std::min(place.x(), pic.width() - 1), std::min(place.y(), pic.height() - 1)};
         moveMouse(pic, place);
         const std::string read = text("LabelPos");
-        return doubleFromText(read.substr(0, read.find(' ')));
+        const std::size_t end = read.find(" at%");
+        const std::size_t before = read.rfind(' ', end - 1); // none if the curve has no name
+        return doubleFromText(read.substr(before + 1, end - before - 1));
     }
 
     /// The picture of the series with titles, notes and a second curve, which leaves it.
@@ -51,6 +53,7 @@ struct DiagrammflaecheTest : FakeDesk {
         bild.untertitel = "Al 50 at%, Cu 50 at%";
         bild.x.titel = "Al [at%]";
         bild.hinweise = {"Ein Hinweis."};
+        bild.kurven.resize(1);
         bild.kurven[0].name = "eingetragen";
         bild.kurven.push_back({"gemischt", {{0, 1}, {50, 2.5}, {100, 3}}, {200, 0, 0}, Linienart::Gestrichelt});
         return bild;

@@ -9,8 +9,10 @@
 #include <random>
 
 #include "support/FakeDesk.h"
+#include "support/ModalDialog.h"
 #include "ui/diagram/Diagrammflaeche.h"
 #include "ui/diagram/conDisplay.h"
+#include "ui/diagram/frmBild.h"
 
 namespace zerna {
 
@@ -138,11 +140,11 @@ TEST_F(DiagrammbereichTest, MenuSavesThePicture)
 {
     for (const auto& [type, name] : {std::pair(1, "a.png"), {2, "a.svg"}, {3, "a.pdf"}}) {
         saveDialog.answer = {(folder / "a").string(), type};
-        QTimer::singleShot(0, [] {
-            for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Return})
-                QTest::keyClick(QApplication::activePopupWidget(), key);
+        QTimer::singleShot(0, [] { // "Bild speichern ..." is the last but one
+            QTest::keySequence(QApplication::activePopupWidget(), {Qt::Key_Up, Qt::Key_Up, Qt::Key_Return});
         });
-        QTest::mouseClick(window->windowHandle(), Qt::RightButton, {}, QPoint(900, 300));
+        inDialog<frmBild>([](frmBild& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); },
+            [&] { QTest::mouseClick(window->windowHandle(), Qt::RightButton, {}, QPoint(900, 300)); });
         EXPECT_GT(bytesOf(folder / name).size(), 1000U) << name;
     }
 }
