@@ -57,6 +57,7 @@ public:
 
     /// Adds the curves of files to the document and shows them; asks for one if there are none.
     void oeffneMesskurven(const QStringList& dateien);
+
     /// Shows what a search has found.
     void setMarken(const Suchmarken& marken);
 
