@@ -139,9 +139,14 @@ TEST_F(DiagrammbereichTest, LeavingAndReturningKeepsQuantityAndComponent)
 TEST_F(DiagrammbereichTest, MenuSavesThePicture)
 {
     for (const auto& [type, name] : {std::pair(1, "a.png"), {2, "a.svg"}, {3, "a.pdf"}}) {
-        saveDialog.answer = {(folder / "a").string(), type};
-        QTimer::singleShot(0, [] { // "Bild speichern ..." is the last but one
-            QTest::keySequence(QApplication::activePopupWidget(), {Qt::Key_Up, Qt::Key_Up, Qt::Key_Return});
+        saveDialog.next = {(folder / "a").string(), type};
+        QTimer::singleShot(0, [] {
+            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            ASSERT_NE(menu, nullptr);
+            for (QAction* const entry : menu->actions())
+                if (entry->text() == QStringLiteral("Bild speichern ..."))
+                    menu->setActiveAction(entry);
+            QTest::keyClick(menu, Qt::Key_Return);
         });
         inDialog<frmBild>([](frmBild& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); },
             [&] { QTest::mouseClick(window->windowHandle(), Qt::RightButton, {}, QPoint(900, 300)); });
