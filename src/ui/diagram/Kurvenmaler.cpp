@@ -98,15 +98,10 @@ void paintSigns(QPainter& painter, const Kurve& kurve, const QPolygonF& middles,
         return;
     const QPainterPath sign =
         signPath(kurve.zeichen, SignSize * std::sqrt(stil.linienbreite / Bildstil().linienbreite));
-    const QColor colour = colourIn(kurve.farbe, stil);
-    for (const QPointF& middle : middles) {
-        painter.save();
-        painter.translate(middle);
-        painter.setPen(QPen(Qt::white, 1)); // apart from the line that it stands on
-        painter.fillPath(sign, colour);
-        painter.drawPath(sign);
-        painter.restore();
-    }
+    painter.setPen(QPen(Qt::white, 1)); // apart from the line that it stands on
+    painter.setBrush(colourIn(kurve.farbe, stil));
+    for (const QPointF& middle : middles)
+        painter.drawPath(sign.translated(middle));
 }
 
 void paintCurve(QPainter& painter, const Kurve& kurve, const Kurvenbahn& bahn, const Bildstil& stil)
@@ -149,33 +144,39 @@ Kurvenbahn bahnOf(const Kurve& kurve, const Kurvenlayout& layout)
 
 QRectF rectOf(const Rechteck& box) { return {box.left, box.top, box.width, box.height}; }
 
+/// Paints a text of one or two lines from the left end of its first base line.
+void paintLines(QPainter& painter, QPointF place, const QString& text, double lineHeight)
+{
+    const qsizetype end = text.indexOf(QLatin1Char('\n'));
+    if (end < 0)
+        return painter.drawText(place, text);
+    painter.drawText(place, text.left(end));
+    paintLines(painter, place + QPointF(0, lineHeight), text.mid(end + 1), lineHeight);
+}
+
 void paintTexts(QPainter& painter, const std::vector<Textstelle>& texte, const QFont& font)
 {
     painter.setPen(Qt::black);
-    Schrift current;
-    painter.setFont(fontOf(font, current));
-    double ascent = QFontMetricsF(painter.font()).ascent();
-    double height = QFontMetricsF(painter.font()).height();
+    std::optional<Schrift> current;
+    double ascent = 0;
+    double lineHeight = 0;
     for (const Textstelle& stelle : texte) {
-        if (stelle.schrift != current) {
+        if (current != stelle.schrift) {
             current = stelle.schrift;
-            painter.setFont(fontOf(font, current));
-            ascent = QFontMetricsF(painter.font()).ascent();
-            height = QFontMetricsF(painter.font()).height();
+            painter.setFont(fontOf(font, *current));
+            const QFontMetricsF metrics(painter.font());
+            ascent = metrics.ascent();
+            lineHeight = metrics.height();
         }
-        if (stelle.senkrecht) {
-            painter.save();
-            painter.translate(stelle.box.left + ascent, stelle.box.top + stelle.box.height);
-            painter.rotate(-90);
-            painter.drawText(QPointF(0, 0), toQt(stelle.text));
-            painter.restore();
+        if (!stelle.senkrecht) {
+            paintLines(painter, {stelle.box.left, stelle.box.top + ascent}, toQt(stelle.text), lineHeight);
             continue;
         }
-        double base = stelle.box.top + ascent;
-        for (const QString& line : toQt(stelle.text).split(QLatin1Char('\n'))) {
-            painter.drawText(QPointF(stelle.box.left, base), line);
-            base += height;
-        }
+        painter.save();
+        painter.translate(stelle.box.left + ascent, stelle.box.top + stelle.box.height);
+        painter.rotate(-90);
+        painter.drawText(QPointF(0, 0), toQt(stelle.text));
+        painter.restore();
     }
 }
 
