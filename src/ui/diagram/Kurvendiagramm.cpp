@@ -154,7 +154,8 @@ bool Kurvendiagramm::keyPressedWith(int key, Qt::KeyboardModifiers held, const L
     if (!m_hatBild || layout(leinwand).istLeer())
         return false;
     m_kreuzDerMaus = false;
-    return zoomed(key, leinwand) || moved(key, held & (Qt::ShiftModifier | Qt::ControlModifier) ? Far : 1, leinwand);
+    const bool isFar = held.testFlag(Qt::ShiftModifier) || held.testFlag(Qt::ControlModifier);
+    return zoomed(key, leinwand) || moved(key, isFar ? Far : 1, leinwand);
 }
 
 /// Whether it is a key that zooms.

@@ -228,8 +228,10 @@ void paintRand(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& la
     painter.setRenderHint(QPainter::Antialiasing);
     for (const auto& [index, left, right, row] : layout.legende) {
         const double line = std::floor(row) + PixelCentre;
-        paintCurve(painter, bild.kurven.at(index),
-            {{QPolygonF({{left, line}, {right, line}})}, QPolygonF({{(left + right) / 2, line}})}, leinwand.stil);
+        Kurvenbahn probe{{QPolygonF()}, {}};
+        probe.linien.front() << QPointF(left, line) << QPointF(right, line);
+        probe.zeichen << QPointF((left + right) / 2, line);
+        paintCurve(painter, bild.kurven.at(index), probe, leinwand.stil);
     }
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
