@@ -9,7 +9,7 @@
 namespace zerna {
 
 Kurvenmenue::Kurvenmenue(Programm& programm, QWidget* parent)
-    : QMenu(QStringLiteral("&Kurven"), parent)
+    : QMenu(QStringLiteral("K&urven"), parent)
     , m_programm(programm)
 {
     setObjectName(QStringLiteral("mnuKurven"));
