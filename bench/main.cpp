@@ -208,5 +208,7 @@ int main(int argc, char** argv)
     zerna::printTime("Diagramm/neu zeichnen", nullptr, 2, reporter);
     zerna::printTime("Diagramm/Taste", "p50_ms", 8, reporter);
     zerna::printTime("Diagramm/Taste", "p99_ms", 8, reporter);
+    zerna::printTime("Ternaerdiagramm/drehen", "p99_ms", 16, reporter);
+    zerna::printTime("Ternaerdiagramm/drehen, 1920x1400", "p99_ms", 16, reporter);
     return reporter.failed() ? 1 : 0;
 }

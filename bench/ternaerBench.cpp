@@ -62,18 +62,18 @@ void gitterBloss(benchmark::State& state)
     }
 }
 
-void frames(benchmark::State& state)
+void frames(benchmark::State& state, QSize size)
 {
     Aufbau aufbau;
     Ternaerdiagramm diagramm;
     diagramm.setAngaben(ternaerangaben(aufbau.calc, komponenten(aufbau), FermienergieCode, Feinste));
-    QImage image(Bildgroesse, QImage::Format_ARGB32_Premultiplied);
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
     std::vector<double> milliseconds;
     for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
         const auto start = std::chrono::steady_clock::now();
         QPainter painter(&image);
         diagramm.setAnsicht(rotated(diagramm.ansicht(), 0, 1));
-        diagramm.paint(painter, {Bildgroesse, QFont(), 1});
+        diagramm.paint(painter, {size, QFont(), 1});
         milliseconds.push_back(
             std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
     }
@@ -93,7 +93,7 @@ void dreiecke(benchmark::State& state)
     Ansicht ansicht;
     for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
         ansicht = rotated(ansicht, 0, 1);
-        const Projektion projektion(ansicht, Bildgroesse.width() - 194, Bildgroesse.height() - 68);
+        const Projektion projektion(ansicht, {0, 0, Bildgroesse.width() - 194.0, Bildgroesse.height() - 68.0});
         std::vector<QPointF> points(grid.werte.size());
         for (int i = 0; i <= grid.n; ++i) {
             for (int j = 0; i + j <= grid.n; ++j) {
@@ -121,7 +121,8 @@ void registerTernaerBenchmarks()
     constexpr int FullTurn = 360;
     benchmark::RegisterBenchmark("Ternaergitter/rechnen", gitter);
     benchmark::RegisterBenchmark("Ternaergitter/bloße Schleife", gitterBloss);
-    benchmark::RegisterBenchmark("Ternaerdiagramm/drehen", frames)->Iterations(FullTurn);
+    benchmark::RegisterBenchmark("Ternaerdiagramm/drehen", frames, Bildgroesse)->Iterations(FullTurn);
+    benchmark::RegisterBenchmark("Ternaerdiagramm/drehen, 1920x1400", frames, QSize(1920, 1400))->Iterations(FullTurn);
     benchmark::RegisterBenchmark("Ternaerdiagramm/Dreiecke", dreiecke)->Iterations(FullTurn);
 }
 

@@ -155,7 +155,7 @@ struct Strecke {
 /// The pixels whose middles lie between two places, within 0 to size - 1.
 Strecke pixelsBetween(float from, float to, int size)
 {
-    const float limit = static_cast<float>(size);
+    const auto limit = static_cast<float>(size);
     return {static_cast<int>(std::ceil(std::clamp(from - 0.5F, 0.0F, limit))),
         static_cast<int>(std::floor(std::clamp(to - 0.5F, -1.0F, limit - 1)))};
 }

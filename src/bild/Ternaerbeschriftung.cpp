@@ -253,17 +253,16 @@ bool Beschrifter::labelEdge(const Kante& edge)
 bool Beschrifter::nameEdge(const Kante& edge, double numberReach)
 {
     const double line = m_masse.text.height;
-    for (const double share : {0.5, 0.4, 0.6, 0.3, 0.7}) {
+    constexpr std::array Places{0.5, 0.4, 0.6, 0.3, 0.7};
+    return std::ranges::any_of(Places, [&](double share) {
         const Punkt way = plus(placeOn(edge, share + 0.1), placeOn(edge, share - 0.1), -1);
         const std::string text = "at% " + m_inhalt.gitter.symbole.at(edge.to) + " " + std::string(arrowOf(way));
         const double width = m_masse.text.width(text);
         const Punkt normal = outwards(edge, share);
         const double distance = TickLength + 2 * TickGap + 2 * numberReach + reach(width, line, normal);
         const Punkt middle = plus(placeOn(edge, share), normal, distance);
-        if (place(text, boxAround(middle, width, line), Textrolle::Kante, edge.to))
-            return true;
-    }
-    return false;
+        return place(text, boxAround(middle, width, line), Textrolle::Kante, edge.to);
+    });
 }
 
 void Beschrifter::labelLines()

@@ -1,13 +1,14 @@
 #include "model/Ternaergroesse.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/CheckedArithmetic.h"
 
 namespace zerna {
 
-Ternaergroesse::Ternaergroesse(const clsCalc& calc, std::span<const Legierungskomponente> komponenten, int groesse)
-    : m_calc(calc)
+Ternaergroesse::Ternaergroesse(clsCalc calc, std::span<const Legierungskomponente> komponenten, int groesse)
+    : m_calc(std::move(calc))
 {
     if (komponenten.size() != m_anteile.size())
         throw Laufzeitfehler(Fehler::UngueltigesArgument);

@@ -13,7 +13,7 @@ class Ternaergroesse {
 public:
     /// Quantity `groesse` is one over compositions. Errors of the components' densities and valences reach the caller,
     /// error 5 for anything but three components or such a quantity.
-    Ternaergroesse(const clsCalc& calc, std::span<const Legierungskomponente> komponenten, int groesse);
+    Ternaergroesse(clsCalc calc, std::span<const Legierungskomponente> komponenten, int groesse);
 
     /// The value at a composition in at%; Unbekannt where it cannot be computed.
     float wert(const std::array<double, 3>& prozente);
