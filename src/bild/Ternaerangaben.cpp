@@ -4,6 +4,7 @@
 #include <memory>
 #include <utility>
 
+#include "bild/Konzentrationstexte.h"
 #include "core/Anzeigetext.h"
 #include "model/Ternaergroesse.h"
 #include "model/Werttext.h"
@@ -12,22 +13,11 @@ namespace zerna {
 
 namespace {
 
-/// "Fermienergie [eV]".
-std::string titelOf(int groesse)
-{
-    constexpr int Atomvolumen = 4;
-    const Groesse* const found = findReihengroesse(groesse);
-    if (found == nullptr)
-        return {};
-    const std::string title = std::string(found->name) + " [" + std::string(found->reiheneinheit) + "]";
-    return groesse == Atomvolumen ? title + " (Zahl in " + std::string(found->einheit) + ")" : title;
-}
-
-/// "Al: 2,375 g/cm³, Valenz 3", which no line break tears apart.
+/// "Al: 2,375 g/cm³, z = 3", which no line break tears apart.
 std::string textOf(const Legierungskomponente& k)
 {
-    const std::string text = k.element->symbol() + ": " + anzeigetext(werttext(k.dichte, "g/cm³")) + ", Valenz "
-        + anzeigetext(werttext(k.valenz));
+    const std::string text = k.element->symbol() + ": " + anzeigetext(werttext(k.dichte, "g/cm³"))
+        + ", z = " + anzeigetext(werttext(k.valenz));
     std::string unbroken;
     for (const char c : text)
         unbroken += c == ' ' ? std::string("\u00A0") : std::string(1, c);
@@ -51,7 +41,7 @@ Ternaerangaben ternaerangaben(
     angaben.gitter = ternaergitter(calc, komponenten, groesse, aufloesung);
     std::ranges::transform(
         komponenten, angaben.legierung.begin(), [](const Legierungskomponente& k) { return k.prozent / 100.0; });
-    angaben.titel = titelOf(groesse);
+    angaben.titel = groessentitel(*findReihengroesse(groesse));
     angaben.untertitel = untertitelOf(komponenten);
     const auto quantity = std::make_shared<Ternaergroesse>(calc, komponenten, groesse);
     angaben.groesse = [quantity](const Anteile3& anteile) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "bild/Dezimaltext.h"
 #include "bild/Textablage.h"
 #include "bild/Textumbruch.h"
 
@@ -94,8 +95,8 @@ double Aufteiler::placeTitles(double width, double height)
         umgebrochen(m_beiwerk.titel, room, 1, m_masse.titel.width), Pad / 2, Textrolle::Titel, m_masse.titel.height);
     const int lines = std::min(MostLines, static_cast<int>(ShareOfAlloy * height / line));
     if (lines > 0)
-        top = placeLines(
-            umgebrochen(m_beiwerk.untertitel, room, lines, m_masse.text.width), top, Textrolle::Untertitel, line);
+        top = placeLines(umgebrochen(mitDezimal(m_beiwerk.untertitel, m_stil.dezimal), room, lines, m_masse.text.width),
+            top, Textrolle::Untertitel, line);
     return std::ceil(top);
 }
 

@@ -78,8 +78,8 @@ TEST_F(TernaerlinieTest, IsTitledWithUnitsAndWhatWasUsed)
     EXPECT_EQ(ternaerangaben(calc, alloy, 4, 1).titel, "Atomvolumen [nm³] (Zahl in m³)");
     alloy[2].valenz = -1.5F;
     EXPECT_EQ(ternaerangaben(calc, alloy, 0, 1).untertitel,
-        "Al:\u00A02,375\u00A0g/cm³,\u00A0Valenz\u00A03 · Cu:\u00A08,02\u00A0g/cm³,\u00A0Valenz\u00A01 · "
-        "Mg:\u00A01,59\u00A0g/cm³,\u00A0Valenz\u00A0−1,5");
+        "Al:\u00A02,375\u00A0g/cm³,\u00A0z\u00A0=\u00A03 · Cu:\u00A08,02\u00A0g/cm³,\u00A0z\u00A0=\u00A01 · "
+        "Mg:\u00A01,59\u00A0g/cm³,\u00A0z\u00A0=\u00A0−1,5");
 }
 
 TEST(Ternaerlinien, AreJoinedAndFindTheirEnds)
