@@ -6,6 +6,12 @@
 
 namespace zerna {
 
+void Messdiagramm::setKurven(Kurvenbild bild)
+{
+    setBild(std::move(bild));
+    beginneNeu();
+}
+
 void Messdiagramm::setBeiwerk(Messbeiwerk beiwerk, Tabelle befunde)
 {
     setBeschriftung(std::move(beiwerk.untertitel), std::move(beiwerk.marken), std::move(beiwerk.hinweise));

@@ -8,8 +8,8 @@ namespace zerna {
 /// The diagram of measured curves, with the Friedel minima or 2kF of an alloy across it.
 class Messdiagramm : public Kurvendiagramm {
 public:
-    /// Shows other curves; `befunde` is the table of their maxima.
-    void setKurven(Kurvenbild bild) { setBild(std::move(bild)); }
+    /// Shows other curves, the whole of them.
+    void setKurven(Kurvenbild bild);
 
     /// Shows what follows of another alloy, and the maxima beside it.
     void setBeiwerk(Messbeiwerk beiwerk, Tabelle befunde);

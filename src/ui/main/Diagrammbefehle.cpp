@@ -46,7 +46,7 @@ void Diagrammbereich::addBefehle(Menue& menue)
         {.text = QStringLiteral("&Bei welchem Anteil? ..."),
             .name = "mnuAnteil",
             .tasten = {QKeySequence(Qt::CTRL | Qt::Key_F)},
-            .tun = [this] { emit anteilRequested(); }});
+            .tun = [this] { frageAnteil(); }});
     for (Diagrammseite* const seite : m_seiten)
         seite->addBefehle(menue);
 }

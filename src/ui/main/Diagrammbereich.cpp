@@ -123,8 +123,7 @@ void Diagrammbereich::createButtons()
     m_cmdAnteil->setAccessibleName(QStringLiteral("Bei welchem Anteil?"));
     folgeSchrift(
         m_cmdAnteil, [this] { m_cmdAnteil->setFixedSize(m_cmdAnteil->sizeHint().width(), feldhoehe(*m_cmdAnteil)); });
-    m_cmdAnteil->setToolTipText(QStringLiteral("Bei welchem Anteil hat die Größe einen Wert? (Strg+F)"));
-    connect(m_cmdAnteil, &StyledButton::clicked, this, &Diagrammbereich::anteilRequested);
+    connect(m_cmdAnteil, &StyledButton::clicked, this, &Diagrammbereich::frageAnteil);
     m_cmdKopieren = new StyledButton(QStringLiteral("K&opieren"), this);
     m_cmdKopieren->setObjectName(QStringLiteral("cmdDiagramm_Kopieren"));
     m_cmdKopieren->setToolTipText(QStringLiteral("Diagramm als Bild in die Zwischenablage"));
@@ -290,6 +289,15 @@ void Diagrammbereich::setTyp(Diagrammtyp typ)
             each->darunter()->setVisible(isShown);
     }
     m_cmdAnteil->setVisible(wahl().typ != Diagrammtyp::PSE);
+    m_cmdAnteil->setToolTipText(wahl().typ == Diagrammtyp::Messkurve
+            ? QStringLiteral("Bei welchem Anteil ist 2 kF = Kp? (Strg+F)")
+            : QStringLiteral("Bei welchem Anteil hat die Größe einen Wert? (Strg+F)"));
+}
+
+void Diagrammbereich::frageAnteil()
+{
+    const auto [groesse, wert] = seite(wahl().typ).suchfrage();
+    emit anteilRequested(groesse, wert);
 }
 
 void Diagrammbereich::aktualisieren(bool keepSelection)

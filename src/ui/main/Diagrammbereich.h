@@ -73,8 +73,8 @@ public:
 
 signals:
     void geschehen(const Schritt& schritt);
-    /// It is asked at which part the shown quantity has a value.
-    void anteilRequested();
+    /// It is asked at which part a quantity (-1: the chosen one) has a value (empty: that of the alloy).
+    void anteilRequested(int groesse, const QString& wert);
     /// Another series is drawn from now on.
     void schalterChanged();
     /// A value label has stepped the at% of a row.
@@ -94,6 +94,7 @@ private:
     void aktualisieren(bool keepSelection);
     void enableOutputs();
     void zeigeAngebot();
+    void frageAnteil();
     void waehleTyp(int position);
     void chooseType(Diagrammtyp typ);
     void setTyp(Diagrammtyp typ);

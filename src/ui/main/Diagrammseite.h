@@ -52,6 +52,14 @@ public:
     /// What stands below the area for this kind alone, a child of the panel; null for nothing.
     virtual QWidget* darunter() const { return nullptr; }
 
+    /// What the search at which part a quantity has a value begins with: the code of a quantity, -1 for the chosen one,
+    /// and a value, empty for the alloy's own.
+    struct Suchfrage {
+        int groesse = -1;
+        QString wert;
+    };
+    virtual Suchfrage suchfrage() const { return {}; }
+
     virtual void addBefehle(Menue&) { }
 
     /// Shows what a search has found, also in the diagrams that are drawn later.

@@ -8,6 +8,7 @@
 #include "bild/Messkurvenbild.h"
 #include "core/Datei.h"
 #include "model/Formeltext.h"
+#include "model/Groessen.h"
 #include "programm/Messkurvenoeffnung.h"
 #include "ui/controls/Knopfzeile.h"
 #include "ui/diagram/Diagrammflaeche.h"
@@ -205,6 +206,14 @@ void Messseite::zeigeBeiwerk(Messart art)
         std::move(befunde));
 }
 
+Diagrammseite::Suchfrage Messseite::suchfrage() const
+{
+    constexpr int Decimals = 3; // as in the table
+    const auto wanted = kp();
+    return {ergebniszeile(Kf2Zeile).kennzahl, wanted ? toQt(fixedText(*wanted, Decimals)) : QString()};
+}
+
+/// The main maximum of the chosen S(K) in 1/nm; none without one.
 std::optional<double> Messseite::kp() const
 {
     const auto index = static_cast<std::size_t>(m_gewaehlt);

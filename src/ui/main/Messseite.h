@@ -26,13 +26,11 @@ public:
     void zeichne(const Eingabe& eingabe) override;
     std::vector<QWidget*> tabOrder() const override;
     QWidget* darunter() const override;
+    Suchfrage suchfrage() const override; ///< 2kF = Kp of the chosen S(K)
 
     /// Adds the curves of files to the document; asks for one if there are none. Says why a file cannot be read.
     /// Whether there is a new curve.
     bool oeffne(const QStringList& dateien);
-
-    /// The main maximum of the chosen S(K) in 1/nm; none without one.
-    std::optional<double> kp() const;
 
 signals:
     void oeffnenRequested();
@@ -47,6 +45,7 @@ private:
     void aendere(const QString& schritt, void (*aenderung)(Messkurve&, int), int value);
     void entferne();
     void zeigeBeiwerk(Messart art);
+    std::optional<double> kp() const;
     const std::vector<Messkurve>& kurven() const { return *m_kurven; }
 
     Dialoge m_dialoge;

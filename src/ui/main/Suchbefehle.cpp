@@ -11,7 +11,7 @@ namespace zerna {
 
 void frmMain::connectSuche()
 {
-    connect(m_diagramm, &Diagrammbereich::anteilRequested, this, [this] { frageAnteil(-1, {}); });
+    connect(m_diagramm, &Diagrammbereich::anteilRequested, this, &frmMain::frageAnteil);
     connect(m_diagramm, &Diagrammbereich::geschehen, this, &frmMain::zeigeSuche);
     connect(m_diagramm, &Diagrammbereich::schalterChanged, this, &frmMain::zeigeSuche);
     connect(m_komposition, &Kompositionsbereich::befundGeaendert, this, &frmMain::zeigeSuche);

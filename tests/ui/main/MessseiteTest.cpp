@@ -72,6 +72,8 @@ TEST_F(MessseiteTest, ShowsMaximaBesideWhatFollowsOfTheAlloyWhileItIsTyped)
     QTest::keyClick(&find("tblMaxima"), Qt::Key_C, Qt::ControlModifier);
     EXPECT_THAT(
         clipboard(), testing::StartsWith("Kurve\tKp in 1/nm\tS(Kp)\t2 kF in 1/nm\tKp − 2 kF in 1/nm\r\ns.txt\t30.5"));
+    click("cmdDiagramm_Anteil");
+    EXPECT_EQ(text("txtSuche_Ziel"), lines()[0].substr(0, 6)) << "2 kF = Kp is looked for";
     choose("cmbMesskurve", "g.txt");
     EXPECT_EQ(lines().size(), 5U);
 }
