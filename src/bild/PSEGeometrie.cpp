@@ -6,11 +6,11 @@
 
 #include "bild/PSEKopf.h"
 #include "bild/PSESymbole.h"
-#include "bild/Ternaergeometrie.h"
+#include "bild/Rundteilung.h"
 #include "core/Anzeigetext.h"
-#include "core/CheckedArithmetic.h"
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
+#include "model/Wertebereich.h"
 #include "model/Werttext.h"
 
 namespace zerna {
@@ -49,7 +49,6 @@ constexpr double TickGap = 3; // pixels between a label of the y axis and its ti
 constexpr double TitleGap = 2; // and between the title and the labels
 
 struct Teilung {
-    double value = 0;
     double y = 0; ///< in tenths of the range
     std::string label; ///< as it is shown; empty for what is no number to show
 };
@@ -63,23 +62,51 @@ std::string divisionLabel(double value, double step, Dezimaltrenner dezimal)
     return anzeigetext(dezimal == Dezimaltrenner::Komma ? text : CommaToPoint(text));
 }
 
-/// Ten equal divisions of the range or, for a picture with them, round values in it. Without a range the lowest alone.
-std::vector<Teilung> divisions(const Bereich& range, const Bildstil& stil)
+/// The y axis: its divisions, the heights of short ticks between them, and its title.
+struct Einteilung {
+    std::vector<Teilung> teilungen;
+    std::vector<double> zwischen;
+    std::string titel;
+};
+
+/// Ten equal divisions of the range. Without a range the lowest alone.
+Einteilung equalDivisions(const Bereich& range, const Elementdiagramm& diagramm, Dezimaltrenner dezimal)
 {
+    Einteilung result{{}, {}, diagramm.reihe.titel};
     const double step = (range.max - range.min) / Divisions;
-    std::vector<Teilung> result;
-    if (stil.rundeTeilung && step > 0) {
-        for (const double value : axisTicks({toSingle(range.min), toSingle(range.max), true}))
-            result.push_back({value, (value - range.min) / step, divisionLabel(value, step, stil.dezimal)});
-        return result;
-    }
     for (int k = 0; k <= Divisions; ++k) {
-        const double value = range.min + k * step;
         const bool isShown = k == 0 || step > 0;
-        result.push_back(
-            {value, static_cast<double>(k), isShown ? divisionLabel(value, step, stil.dezimal) : std::string()});
+        result.teilungen.push_back(
+            {static_cast<double>(k), isShown ? divisionLabel(range.min + k * step, step, dezimal) : std::string()});
     }
     return result;
+}
+
+/// Round values, whose power of ten stands in the title, which names the unit that the numbers have.
+Einteilung roundDivisions(const Bereich& range, const Elementdiagramm& diagramm, int most, Dezimaltrenner dezimal)
+{
+    const Rundteilung teilung = rundteilung(range, most);
+    const auto height = [&](double value) { return (value - range.min) * Divisions / (range.max - range.min); };
+    const std::string& given = diagramm.reihe.titel;
+    const std::size_t bracket = given.rfind('[');
+    const std::string titel =
+        bracket == std::string::npos ? given : given.substr(0, bracket) + "[" + diagramm.einheit + "]";
+    Einteilung result{{}, {}, titelMitZehner(titel, teilung.zehner)};
+    for (const double value : teilung.haupt)
+        result.teilungen.push_back({height(value), anzeigetext(rundtext(value, teilung, true, dezimal))});
+    std::ranges::transform(teilung.neben, std::back_inserter(result.zwischen), height);
+    return result;
+}
+
+Einteilung divisions(
+    const Bereich& range, const Elementdiagramm& diagramm, const Bildstil& stil, double height, const Textmasse& masse)
+{
+    constexpr double LineSpacing = 1.5; // of labels
+    constexpr double AxisShare = 10.0 / 13;
+    if (!stil.rundeTeilung || !(range.max > range.min))
+        return equalDivisions(range, diagramm, stil.dezimal);
+    const auto most = static_cast<int>(AxisShare * height / (LineSpacing * masse.height));
+    return roundDivisions(range, diagramm, most, stil.dezimal);
 }
 
 /// What is left of the user scale where title and labels need more than its own strip left of the ticks, at most a
@@ -129,13 +156,15 @@ void layOutXAxis(PSEBild& bild, const Massstab& scale, int elements, const Textm
         bild.labels.push_back({caption, "OZ"});
 }
 
-void layOutYAxis(PSEBild& bild, const Massstab& scale, const std::vector<Teilung>& teilungen, const Textmasse& masse)
+void layOutYAxis(PSEBild& bild, const Massstab& scale, const Einteilung& einteilung, const Textmasse& masse)
 {
     const double right = scale.at(TickLeft, 0).x - TickGap;
     bild.labelRoom = right - (bild.achsentitel.position.x + masse.height + TitleGap);
     bild.lines.push_back({scale.at(0, 0), scale.at(0, Divisions)});
     double lastTop = scale.at(0, 0).y + masse.height;
-    for (const Teilung& teilung : teilungen) {
+    for (const double y : einteilung.zwischen)
+        bild.lines.push_back({scale.at(TickLeft / 2, y), scale.at(0, y)});
+    for (const Teilung& teilung : einteilung.teilungen) {
         const Punkt tick = scale.at(TickLeft, teilung.y);
         bild.lines.push_back({tick, scale.at(0, teilung.y)});
         const Punkt position{right - masse.width(teilung.label), tick.y - masse.height / 2};
@@ -144,21 +173,6 @@ void layOutYAxis(PSEBild& bild, const Massstab& scale, const std::vector<Teilung
             continue;
         lastTop = position.y;
         bild.labels.push_back({position, teilung.label});
-    }
-}
-
-/// Where round values are labelled there are short ticks between them.
-void layOutMinorTicks(PSEBild& bild, const Massstab& scale, const Bereich& range, const std::vector<Teilung>& teilungen)
-{
-    constexpr int Parts = 5;
-    if (teilungen.size() < 2)
-        return;
-    const double step = (teilungen[1].value - teilungen[0].value) / Parts;
-    const auto first = static_cast<int>(std::ceil((range.min - teilungen[0].value) / step));
-    const auto last = static_cast<int>(std::floor((range.max - teilungen[0].value) / step));
-    for (int i = first; i <= last; ++i) {
-        const double y = (teilungen[0].value + i * step - range.min) * Divisions / (range.max - range.min);
-        bild.lines.push_back({scale.at(TickLeft / 2, y), scale.at(0, y)});
     }
 }
 
@@ -246,19 +260,17 @@ PSEBild layOutPSE(const Elementdiagramm& diagramm, const PSEAnsicht& ansicht, co
     const bool both = ansicht.kristallin && diagramm.hatKristallin();
     const Bereich range = gerundeterBereich(
         gemeinsam(bereichMitErstemWert(reihe.y), both ? wertebereich(diagramm.kristallin.y) : Wertebereich()));
-    const std::vector<Teilung> teilungen = divisions(range, stil);
-    makeRoom(bild, reihe.x.size(), teilungen, masse);
+    const Einteilung einteilung = divisions(range, diagramm, stil, bild.feld.height, masse);
+    makeRoom(bild, reihe.x.size(), einteilung.teilungen, masse);
     const Massstab scale(reihe.x.size(), bild.feld);
     bild.ursprung = scale.at(0, 0);
-    layOutAxisTitle(bild, scale, reihe.titel, masse);
+    layOutAxisTitle(bild, scale, einteilung.titel, masse);
     layOutXAxis(bild, scale, static_cast<int>(reihe.x.size()), masse);
-    layOutYAxis(bild, scale, teilungen, masse);
+    layOutYAxis(bild, scale, einteilung, masse);
     std::ranges::transform(
         reihe.x, std::back_inserter(bild.spalten), [&](float number) { return scale.at(number, 0).x; });
     if (!(range.max > range.min))
         return bild;
-    if (stil.rundeTeilung)
-        layOutMinorTicks(bild, scale, range, teilungen);
     bild.kurve = layOutCurve(scale, reihe, range);
     if (both)
         bild.kristallin = layOutCurve(scale, diagramm.kristallin, range);

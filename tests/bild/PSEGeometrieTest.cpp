@@ -144,7 +144,8 @@ TEST(PSEGeometrieTest, EveryDivisionThatHasRoomIsLabelled)
         {"one value", {5, 5}, 60, "0|OZ|5|"},
         {"no value", {}, 60, "0|OZ|0|"},
         {"no single is as low as the range", {Unbekannt, 1}, 400, "−2,5·10³⁸|−5·10³⁷|"},
-        {"round values, point", {0, 7.5F}, 20, "0|OZ|0|2|4|6|8|", {.rundeTeilung = true}},
+        {"round values", {0, 7.5F}, 20, "0|OZ|0|1|2|3|4|5|6|7|8|", {.rundeTeilung = true}},
+        {"fewer large letters", {0, 7500}, 100, "0|OZ|0|2000|4000|6000|8000|", {.rundeTeilung = true}},
         {"point", {0, 1}, 200, "0|OZ|0|0.2|0.4|0.6|0.8|1|", {.dezimal = Dezimaltrenner::Punkt}},
     };
     for (const auto& row : rows)
@@ -153,6 +154,11 @@ TEST(PSEGeometrieTest, EveryDivisionThatHasRoomIsLabelled)
 
 TEST(PSEGeometrieTest, LongTextsKeepTheirUnit)
 {
+    Elementdiagramm large = diagramm({0, 75000});
+    large.einheit = "meV"; // what the numbers are in counts where the title is not the given one
+    EXPECT_EQ(layOut(large, {}, 20, {.rundeTeilung = true}).achsentitel.text, "Größe [10⁴ meV]");
+    EXPECT_EQ(layOut(large, {}, 20).achsentitel.text, "Größe [eV]");
+
     const auto width = [](std::string_view text) { return static_cast<double>(text.size()); };
     EXPECT_EQ(gekuerztMitEinheit("Dichte [g/cm³]", 20, width), "Dichte [g/cm³]");
     EXPECT_EQ(gekuerztMitEinheit("Größendichte [eV]", 12, width), "Grö… [eV]");

@@ -5,20 +5,19 @@
 #include <algorithm>
 #include <iterator>
 
-#include "ui/diagram/Striche.h"
+#include "bild/Kurvenfarben.h"
+
 #include "ui/platform/Farben.h"
 
 namespace zerna {
 
 namespace {
 
-constexpr QColor Kristallinfarbe(0xD5, 0x5E, 0x00); // apart from blue for every eye
-
 /// The colours of a picture.
 struct Farben {
     explicit Farben(const Bildstil& stil)
-        : kurve(stil.grau ? QColor(Qt::black) : colourOf(Blau))
-        , kristallin(stil.grau ? QColor(Qt::darkGray) : Kristallinfarbe)
+        : kurve(stil.grau ? QColor(Qt::black) : toQt(kurvenaussehen(0).farbe))
+        , kristallin(stil.grau ? QColor(Qt::darkGray) : toQt(kurvenaussehen(1).farbe))
         , legierung(stil.grau ? QColor(Qt::black) : Legierungsfarbe)
     {
     }
@@ -41,7 +40,7 @@ QPen curvePen(const QColor& colour, double width, bool dashed)
 {
     QPen pen(colour, width, Qt::SolidLine, dashed ? Qt::FlatCap : Qt::RoundCap, Qt::RoundJoin);
     if (dashed)
-        pen.setDashPattern({4, 2.5});
+        pen.setDashPattern({5, 3}); // in widths of the line, as all diagrams have it
     return pen;
 }
 
