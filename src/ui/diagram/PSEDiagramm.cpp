@@ -19,6 +19,7 @@ void PSEDiagramm::setElemente(Elementdiagramm elemente)
     m_elemente = std::move(elemente);
     m_layout = {};
     clearCursor();
+    left();
 }
 
 const PSELayout& PSEDiagramm::layout(const Leinwand& leinwand) const
@@ -35,10 +36,11 @@ void PSEDiagramm::paint(QPainter& painter, const Leinwand& leinwand) const
 void PSEDiagramm::paintCursor(QPainter& painter, const Leinwand& leinwand) const
 {
     constexpr double Radius = 6;
-    if (m_cursor < 0)
+    const int shown = m_zeiger < 0 ? m_cursor : m_zeiger;
+    if (shown < 0)
         return;
     const PSEBild& bild = layout(leinwand).bild;
-    const auto element = static_cast<std::size_t>(m_cursor);
+    const auto element = static_cast<std::size_t>(shown);
     bool isOnCurve = false;
     painter.setPen(QPen(Cursorfarbe, 2));
     painter.setRenderHint(QPainter::Antialiasing);
@@ -97,8 +99,18 @@ QString PSEDiagramm::cursorText() const
     return m_cursor < 0 ? QString() : elementText(static_cast<std::size_t>(m_cursor));
 }
 
+bool PSEDiagramm::hovered(const QPointF& position, const Leinwand& leinwand)
+{
+    const auto element = nearestElement(layout(leinwand).bild, position.x());
+    const int pointed = element ? static_cast<int>(*element) : -1;
+    return std::exchange(m_zeiger, pointed) != pointed;
+}
+
+bool PSEDiagramm::left() { return std::exchange(m_zeiger, -1) >= 0; }
+
 bool PSEDiagramm::keyPressed(int key, const Leinwand&)
 {
+    m_zeiger = -1; // the keys take over
     switch (key) {
     case Qt::Key_Left:
         moveCursor(m_cursor - 1);

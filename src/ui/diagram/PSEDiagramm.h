@@ -31,6 +31,8 @@ public:
     QString cursorText() const override;
     bool keyPressed(int key, const Leinwand& leinwand) override;
     void clearCursor() override;
+    bool hovered(const QPointF& position, const Leinwand& leinwand) override;
+    bool left() override;
     std::vector<Command> commands() override;
 
 private:
@@ -48,6 +50,7 @@ private:
     Elementdiagramm m_elemente;
     PSEAnsicht m_ansicht;
     int m_cursor = -1; // element under the keyboard cursor, -1 for none
+    int m_zeiger = -1; // element at which the mouse points, -1 for none
     LastResult<Aufnahme, PSELayout> m_layout;
 };
 

@@ -241,4 +241,15 @@ TEST(DiagrammTest, CurvesOverElementsRunBetweenPixelsButInTheBitmap)
     }
 }
 
+TEST(DiagrammTest, TheMouseMarksTheElementItPointsAt)
+{
+    const auto diagramm = pse();
+    const QImage plain = withCursor(*diagramm);
+    EXPECT_TRUE(diagramm->hovered({400, 100}, Flaeche));
+    EXPECT_NE(withCursor(*diagramm), plain);
+    EXPECT_FALSE(diagramm->hovered({401, 200}, Flaeche)) << "the same element";
+    EXPECT_TRUE(diagramm->left());
+    EXPECT_EQ(withCursor(*diagramm), plain);
+}
+
 } // namespace zerna
