@@ -26,8 +26,8 @@ const Groesse& reihengroesse(int groesse)
 
 } // namespace
 
-Mischungsreihe::Mischungsreihe(
-    const clsCalc& calc, std::span<const Legierungskomponente> komponenten, int variable, int groesse, Reihenart art)
+Mischungsreihe::Mischungsreihe(const clsCalc& calc, // NOLINT(modernize-pass-by-value): callers lend theirs
+    std::span<const Legierungskomponente> komponenten, int variable, int groesse, Reihenart art)
     : m_calc(calc)
     , m_groesse(&reihengroesse(groesse))
     , m_anzahl(komponenten.size())
