@@ -279,7 +279,8 @@ void Beschrifter::labelLines()
         return;
     for (std::size_t i = 0; i < m_inhalt.ticks.size(); ++i) {
         const double share = heightShare(m_inhalt.ticks[i], m_inhalt.range);
-        if (share > AtTheEnds && share < 1 - AtTheEnds)
+        const bool isTarget = m_beiwerk.ziel && static_cast<float>(m_inhalt.ticks[i]) == *m_beiwerk.ziel;
+        if (share > AtTheEnds && share < 1 - AtTheEnds && !isTarget)
             labelLine(m_inhalt.hoehenlinien[i], share, m_parts.skala.texte[i], Textrolle::Linie);
     }
 }

@@ -126,6 +126,21 @@ TEST_F(TernaerbildTest, ZoomLeavesTheColourBarAlone)
     EXPECT_EQ(rest(3), rest(1));
 }
 
+TEST_F(TernaerbildTest, TargetLineIsLabelledOnce)
+{
+    Ternaeraufnahme wanted = aufnahme(8, {640, 610}, Flach);
+    const auto counts = [&](float ziel) {
+        wanted.beiwerk.ziel = ziel;
+        wanted.beiwerk.ziellinien = hoehenlinien(wanted.inhalt->gitter, wanted.inhalt->triangles, ziel);
+        bild.zeige(wanted);
+        const auto& labels = bild.beschriftung().texte;
+        return std::pair(std::ranges::count(labels, "9,5", &Ternaertext::text), countOf(labels, Textrolle::Ziel));
+    };
+    EXPECT_EQ(counts(9.5F), std::pair(std::ptrdiff_t{1}, std::ptrdiff_t{1}));
+    EXPECT_EQ(counts(9.25F), std::pair(std::ptrdiff_t{1}, std::ptrdiff_t{1})) << "a line of its own";
+    EXPECT_EQ(counts(99).second, 0) << "beside the range";
+}
+
 TEST_F(TernaerbildTest, StyleIsObeyed)
 {
     constexpr QSize Size(500, 400);
