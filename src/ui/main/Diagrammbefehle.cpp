@@ -54,7 +54,7 @@ void Diagrammbereich::addBefehle(Menue& menue)
 void Diagrammbereich::zeigeGroesse(int groesse, int komponente)
 {
     Diagrammwahl shown = wahl();
-    if (shown.typ == zerna::Diagrammtyp::PSE)
+    if (shown.typ != zerna::Diagrammtyp::Ternaer)
         wechsleTyp(shown, zerna::Diagrammtyp::Konzentration);
     shown.groesse = groesse;
     shown.komponente = komponente;

@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
+#include <QScreen>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -17,6 +18,16 @@
 #include "ui/platform/QtText.h"
 
 namespace zerna {
+
+namespace {
+
+/// Whether the diagram has a quantity of alloys, which the search follows.
+bool zeigtGroesse(const Diagrammwahl& wahl)
+{
+    return wahl.typ == Diagrammtyp::Konzentration || wahl.typ == Diagrammtyp::Ternaer;
+}
+
+} // namespace
 
 frmZielsuche::frmZielsuche(Programm& programm, QWidget* parent)
     : QDialog(parent)
@@ -104,7 +115,7 @@ void frmZielsuche::zeige()
         return;
     const Diagrammwahl& wahl = m_programm.Dokument().diagramm;
     m_cmdPunkte->setVisible(wahl.typ == Diagrammtyp::Ternaer);
-    const int position = wahl.typ == Diagrammtyp::PSE ? -1 : m_cmbGroesse->findData(wahl.groesse);
+    const int position = zeigtGroesse(wahl) ? m_cmbGroesse->findData(wahl.groesse) : -1;
     if (wahl.typ == Diagrammtyp::Konzentration)
         m_anteil->setKomponente(wahl.komponente);
     m_anteil->setMischungsreihe(m_programm.settings().LoadSetting("Mischungsreihe", "0") == "1");
@@ -128,7 +139,7 @@ void frmZielsuche::showGroesse()
 void frmZielsuche::frage(int groesse, const QString& ziel)
 {
     const Diagrammwahl& wahl = m_programm.Dokument().diagramm;
-    const int asked = groesse < 0 && wahl.typ != Diagrammtyp::PSE ? wahl.groesse : groesse;
+    const int asked = groesse < 0 && zeigtGroesse(wahl) ? wahl.groesse : groesse;
     m_cmbGroesse->setCurrentIndex(std::max(0, m_cmbGroesse->findData(asked)));
     showGroesse();
     if (!ziel.isEmpty())
@@ -148,8 +159,12 @@ void frmZielsuche::frage(int groesse, const QString& ziel)
 void frmZielsuche::placeBeside()
 {
     constexpr int Margin = 8;
-    if (parentWidget() != nullptr && !testAttribute(Qt::WA_Moved))
-        move(parentWidget()->mapToGlobal(QPoint(Margin, parentWidget()->height() - height() - Margin)));
+    if (parentWidget() == nullptr || testAttribute(Qt::WA_Moved))
+        return;
+    const QRect available = parentWidget()->screen()->availableGeometry();
+    resize(size().boundedTo(available.size()));
+    const QPoint corner = parentWidget()->mapToGlobal(QPoint(Margin, parentWidget()->height() - height() - Margin));
+    move(qMax(corner.x(), available.left()), qMax(corner.y(), available.top()));
 }
 
 void frmZielsuche::suche()
