@@ -74,7 +74,11 @@ void Diagrammbereich::setMarken(const Suchmarken& marken)
 
 void Diagrammbereich::setMischungsreihe(bool an) { m_konzentration->setMischungsreihe(an); }
 
-void Diagrammbereich::kopierePunkte() { copyToClipboard(toQt(m_picDiagramm->ternaerzielpunkte())); }
+void Diagrammbereich::kopierePunkte()
+{
+    if (const std::string points = m_picDiagramm->ternaerzielpunkte(); !points.empty())
+        copyToClipboard(toQt(points));
+}
 
 bool Diagrammbereich::istDruckbar() const { return m_picDiagramm->istDiagramm(); }
 

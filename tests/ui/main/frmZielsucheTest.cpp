@@ -5,6 +5,8 @@
 #include <QTabWidget>
 #include <QTableWidget>
 
+#include <algorithm>
+
 #include "support/FakeDesk.h"
 #include "ui/controls/Befundzeile.h"
 #include "ui/main/Ergebnisgitter.h"
@@ -97,6 +99,22 @@ TEST_F(frmZielsucheTest, FollowsWhatIsEnteredAndChosen)
     find<QAction>("mnuMFE_Anteil").trigger();
     EXPECT_EQ(texts({"cmbSuche_Groesse", "cmbDiagramm"}), "Plasmonenenergie|Plasmonenenergie");
     EXPECT_EQ(line(0), "60|40") << "where the value is";
+}
+
+TEST_F(frmZielsucheTest, TheTernaryDiagramGivesThePointsOfTheValue)
+{
+    EXPECT_FALSE(find("cmdSuche_Punkte").isVisible());
+    type("txtFormel", "Al50Cu30Mg20");
+    QTest::keyClick(&find("txtFormel"), Qt::Key_Return);
+    choose("cmbDiagramm_Typ", "3 D - ternär");
+    type("txtSuche_Ziel", "9,5");
+    click("cmdSuche_Punkte");
+    const std::string points = clipboard();
+    EXPECT_EQ(points.substr(0, points.find('\n')), "Al [at%]\tCu [at%]\tMg [at%]\r");
+    EXPECT_GT(std::ranges::count(points, '\n'), 10);
+    type("txtSuche_Ziel", "99");
+    click("cmdSuche_Punkte");
+    EXPECT_EQ(clipboard(), points) << "nothing to be copied in its place";
 }
 
 TEST_F(frmZielsucheTest, TheNearestElementGetsARow)
