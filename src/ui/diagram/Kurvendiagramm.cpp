@@ -5,6 +5,7 @@
 #include <cmath>
 #include <utility>
 
+#include "ui/platform/Abdeckung.h"
 #include "ui/platform/Farben.h"
 
 namespace zerna {
@@ -89,9 +90,10 @@ void Kurvendiagramm::paintPlot(QPainter& painter, const Leinwand& leinwand) cons
 void Kurvendiagramm::paint(QPainter& painter, const Leinwand& leinwand) const
 {
     painter.fillRect(QRect(QPoint(0, 0), leinwand.size), Qt::white);
+    paintPlot(painter, leinwand);
+    deckeRandAb(painter, plot(leinwand), leinwand.size);
     paintRand(painter, leinwand);
     paintAchsen(painter, leinwand);
-    paintPlot(painter, leinwand);
 }
 
 void Kurvendiagramm::paintCursor(QPainter& painter, const Leinwand& leinwand) const

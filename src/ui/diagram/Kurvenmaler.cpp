@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "bild/Ausduennung.h"
+#include "ui/platform/Abdeckung.h"
 #include "ui/platform/Farben.h"
 
 namespace zerna {
@@ -264,9 +265,10 @@ void paintPlot(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& la
 void paintKurven(QPainter& painter, const Kurvenbild& bild, const Kurvenzeichnung& zeichnung, const Leinwand& leinwand)
 {
     painter.fillRect(QRect(QPoint(0, 0), leinwand.size), Qt::white);
+    paintPlot(painter, bild, zeichnung.layout, zeichnung.bahnen, leinwand);
+    deckeRandAb(painter, rectOf(zeichnung.layout.plot), leinwand.size);
     paintRand(painter, bild, zeichnung.layout, leinwand);
     paintAchsen(painter, zeichnung.layout, leinwand);
-    paintPlot(painter, bild, zeichnung.layout, zeichnung.bahnen, leinwand);
 }
 
 void paintKurven(QPainter& painter, const Kurvenbild& bild, const Leinwand& leinwand)

@@ -8,8 +8,10 @@
 #include <algorithm>
 #include <array>
 
+#include "bild/Dezimaltext.h"
 #include "core/Zahlentext.h"
 #include "model/Werttext.h"
+#include "ui/platform/Abdeckung.h"
 #include "ui/platform/Farben.h"
 #include "ui/platform/QtText.h"
 
@@ -86,6 +88,7 @@ void Ternaerbild::paint(QPainter& painter) const
     painter.setClipRect(toQt(m_parts.bild));
     paintDiagram(painter);
     painter.restore();
+    deckeRandAb(painter, toQt(m_parts.bild), m_aufnahme.size);
     paintTexts(painter, m_labels.texte);
     paintColourBar(painter);
     paintTexts(painter, m_parts.texte);
@@ -224,7 +227,8 @@ void Ternaerbild::paintTexts(QPainter& painter, const std::vector<Ternaertext>& 
         painter.setPen(isOfComponent && !m_aufnahme.stil.grau ? Komponentenfarben.at(text.komponente)
                 : text.rolle == Textrolle::Untertitel         ? QColor(Teilungsfarbe)
                                                               : QColor(Qt::black));
-        painter.drawText(box, Qt::AlignCenter | Qt::TextDontClip | Qt::TextSingleLine, toQt(text.text));
+        painter.drawText(box, Qt::AlignCenter | Qt::TextDontClip | Qt::TextSingleLine,
+            toQt(mitDezimal(text.text, m_aufnahme.stil.dezimal)));
     }
     painter.setFont(plain);
 }

@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QSvgRenderer>
 
 #include <gtest/gtest.h>
 
@@ -10,6 +11,7 @@
 #include "support/Zufallsdokument.h"
 #include "traeger/Dokumentfund.h"
 #include "ui/diagram/Bildausgabe.h"
+#include "ui/diagram/Kurvendiagramm.h"
 
 namespace zerna {
 
@@ -80,9 +82,36 @@ TEST_F(BilddateiTest, VectorPicturesHaveTheirSizeTheirLettersAndTheirTexts)
     }
 }
 
+TEST_F(BilddateiTest, CurvesThatLeaveThePlotStayInsideInEveryFile)
+{
+    Kurvenbild bild;
+    bild.titel = "Titel";
+    bild.x.bereich = {0, 100};
+    bild.y.bereich = {0, 1};
+    bild.kurven = {{"steil", {{0, -9}, {100, 10}}, {0, 0, 255}}};
+    Kurvendiagramm diagramm;
+    diagramm.setBild(bild);
+    vorgabe.legende = false;
+    const QRect plot = diagramm.plot(leinwandNach(vorgabe));
+    const auto arten = bildarten(diagramm.maler(), vorgabe, {}, {});
+    QImage shown(leinwandNach(vorgabe).size, QImage::Format_RGB32);
+    QPainter painter(&shown);
+    QSvgRenderer(QByteArray::fromStdString(arten.at(1).bytes().value()))
+        .render(&painter, QRectF(0, 0, pixelAusMillimeter(vorgabe.breite), pixelAusMillimeter(vorgabe.hoehe)));
+    const auto isBlue = [&](int x, int y) { return qBlue(shown.pixel(x, y)) > qRed(shown.pixel(x, y)) + 60; };
+    int inside = 0;
+    for (int y = 0; y < shown.height(); ++y) {
+        for (int x = 0; x < shown.width(); ++x) {
+            inside += plot.contains(x, y) && isBlue(x, y) ? 1 : 0;
+            ASSERT_FALSE(!plot.adjusted(-1, -1, 1, 1).contains(x, y) && isBlue(x, y)) << x << " " << y;
+        }
+    }
+    EXPECT_GT(inside, 20);
+}
+
 TEST_F(BilddateiTest, EveryPictureCarriesTheDocument)
 {
-    constexpr int Documents = 500;
+    constexpr int Documents = 150;
     addElements();
     vorgabe.breite = vorgabe.hoehe = vorgabe.aufloesung = 20;
     Zufallsdokument zufall(elements, 3);
