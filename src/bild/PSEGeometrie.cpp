@@ -251,11 +251,11 @@ Bereich gerundeterBereich(const Bereich& range)
 }
 
 PSEBild layOutPSE(const Elementdiagramm& diagramm, const PSEAnsicht& ansicht, const Bildstil& stil, int width,
-    int height, const Textmasse& masse)
+    int height, const Textmasse& masse, const Textbreite& titelbreite)
 {
     PSEBild bild;
     bild.feld = {0, 0, static_cast<double>(width), static_cast<double>(height)};
-    layOutKopf(bild, diagramm, ansicht, stil, masse);
+    layOutKopf(bild, diagramm, ansicht, stil, masse, titelbreite);
     const PSEReihe& reihe = diagramm.reihe;
     const bool both = ansicht.kristallin && diagramm.hatKristallin();
     const Bereich range = gerundeterBereich(

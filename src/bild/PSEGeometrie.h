@@ -67,12 +67,13 @@ Bereich bereichMitErstemWert(const std::vector<float>& values);
 /// otherwise fill less than 40 % of the height. An empty range stays as it is.
 Bereich gerundeterBereich(const Bereich& range);
 
-/// Lays the diagram out on an area of that size; the number of elements sets the scale. `masse` is of the labels' font.
+/// Lays the diagram out on an area of that size; the number of elements sets the scale. `masse` is of the labels' font,
+/// `titelbreite` of the picture's title, which is bold.
 /// Without a range the curve is missing and only the lowest division is labelled. Labels that would overlap are left
 /// out. The labels of the y axis end beside their ticks; where that takes more room than the scale leaves, it begins
 /// further to the right.
 PSEBild layOutPSE(const Elementdiagramm& diagramm, const PSEAnsicht& ansicht, const Bildstil& stil, int width,
-    int height, const Textmasse& masse);
+    int height, const Textmasse& masse, const Textbreite& titelbreite);
 
 /// The element nearest to column `x`; none without elements.
 std::optional<std::size_t> nearestElement(const PSEBild& bild, double x);

@@ -27,28 +27,28 @@ std::optional<double> takeRow(PSEBild& bild, double height, double lineHeight)
     return top;
 }
 
-void layOutTitel(PSEBild& bild, const Elementdiagramm& diagramm, const PSEAnsicht& ansicht, const Textmasse& masse)
+void layOutTitel(PSEBild& bild, const Elementdiagramm& diagramm, const PSEAnsicht& ansicht, double lineHeight,
+    const Textbreite& breite)
 {
     const double room = bild.feld.width - 2 * Rand;
-    const auto top = takeRow(bild, masse.height + Rand, masse.height);
+    const auto top = takeRow(bild, lineHeight + Rand, lineHeight);
     if (!top || room <= 0)
         return;
     std::string text = diagramm.titel;
     if (!ansicht.kristallin && !diagramm.untertitel.empty()) {
         const std::string full = text + ", " + diagramm.untertitel;
-        if (masse.width(full) <= room)
+        if (breite(full) <= room)
             text = full;
     }
-    text = gekuerztMitEinheit(text, room, masse.width);
-    bild.titel = {{(bild.feld.width - masse.width(text)) / 2, *top + Rand}, text};
+    bild.titel = {{Rand, *top + Rand}, gekuerztMitEinheit(text, room, breite)};
 }
 
 double sampleLength(Legendenzeichen zeichen) { return zeichen == Legendenzeichen::Legierung ? 10 : 24; }
 
-/// A row of entries in the middle of the picture, `length` long.
-void placeRow(PSEBild& bild, std::span<const Legendeneintrag> row, double length, double top, const Textmasse& masse)
+/// A row of entries.
+void placeRow(PSEBild& bild, std::span<const Legendeneintrag> row, double top, const Textmasse& masse)
 {
-    double x = (bild.feld.width - length) / 2;
+    double x = Rand;
     const double middle = top + masse.height / 2;
     for (Legendeneintrag eintrag : row) {
         const double sample = sampleLength(eintrag.zeichen);
@@ -78,7 +78,7 @@ void layOutLegende(PSEBild& bild, std::span<const Legendeneintrag> entries, cons
         const auto top = takeRow(bild, masse.height + Rand, masse.height);
         if (!top)
             return;
-        placeRow(bild, entries.first(count), length, *top + Rand / 2, masse);
+        placeRow(bild, entries.first(count), *top + Rand / 2, masse);
         entries = entries.subspan(count);
     }
 }
@@ -94,10 +94,10 @@ std::string gekuerztMitEinheit(std::string_view text, double width, const Textbr
 }
 
 void layOutKopf(PSEBild& bild, const Elementdiagramm& diagramm, const PSEAnsicht& ansicht, const Bildstil& stil,
-    const Textmasse& masse)
+    const Textmasse& masse, const Textbreite& titelbreite)
 {
     if (stil.titel && !diagramm.titel.empty())
-        layOutTitel(bild, diagramm, ansicht, masse);
+        layOutTitel(bild, diagramm, ansicht, masse.height, titelbreite);
     if (!stil.legende)
         return;
     std::vector<Legendeneintrag> legende;

@@ -33,7 +33,7 @@ PSEBild layOut(const Elementdiagramm& diagramm, const PSEAnsicht& ansicht, doubl
     const auto width = [](std::string_view text) {
         return 6.0 * static_cast<double>(std::ranges::count_if(text, [](char c) { return (c & 0xC0) != 0x80; }));
     };
-    return layOutPSE(diagramm, ansicht, stil, area, height, {width, labelHeight});
+    return layOutPSE(diagramm, ansicht, stil, area, height, {width, labelHeight}, width);
 }
 
 PSEBild layOut(std::vector<float> values, double labelHeight = 60)
@@ -96,7 +96,7 @@ TEST(PSEGeometrieTest, WideLabelsMoveTheScale)
 {
     const Elementdiagramm narrow = diagramm({0, 1});
     const auto width = [](std::string_view text) { return 60.0 * static_cast<double>(text.size()); };
-    const PSEBild bild = layOutPSE(narrow, {}, {}, 200, 1300, {width, 10});
+    const PSEBild bild = layOutPSE(narrow, {}, {}, 200, 1300, {width, 10}, width);
     EXPECT_EQ(bild.feld.left, 50) << "but not for ever";
     EXPECT_LT(bild.labelRoom, bild.widestLabel);
     EXPECT_EQ(layOut(narrow, {}).feld.left, 0) << "the given scale";

@@ -36,6 +36,12 @@ QFont scaled(QFont font, double factor)
     return font;
 }
 
+QFont bold(QFont font)
+{
+    font.setBold(true);
+    return font;
+}
+
 QPen curvePen(const QColor& colour, double width, bool dashed)
 {
     QPen pen(colour, width, Qt::SolidLine, dashed ? Qt::FlatCap : Qt::RoundCap, Qt::RoundJoin);
@@ -113,9 +119,10 @@ void paintAllTexts(QPainter& painter, const PSELayout& layout, const Farben& far
 {
     const PSEBild& bild = layout.bild;
     const double ascent = QFontMetricsF(layout.labelFont).ascent();
-    painter.setFont(layout.labelFont);
     painter.setPen(Qt::black);
+    painter.setFont(bold(layout.labelFont));
     paintTexts(painter, {bild.titel}, ascent);
+    painter.setFont(layout.labelFont);
     for (const Legendeneintrag& eintrag : bild.legende)
         paintTexts(painter, {eintrag.text}, ascent);
     paintTexts(painter, bild.labels, ascent);
@@ -133,8 +140,8 @@ PSELayout layOutPSE(const Elementdiagramm& diagramm, const PSEAnsicht& ansicht, 
 {
     constexpr double Smallest = 0.7;
     const auto laidOut = [&](const QFont& font) {
-        return PSELayout{
-            layOutPSE(diagramm, ansicht, leinwand.stil, leinwand.size.width(), leinwand.size.height(), textmasse(font)),
+        return PSELayout{layOutPSE(diagramm, ansicht, leinwand.stil, leinwand.size.width(), leinwand.size.height(),
+                             textmasse(font), textmasse(bold(font)).width),
             font};
     };
     PSELayout layout = laidOut(leinwand.font);
