@@ -50,8 +50,8 @@ inline constexpr double LabelGap = 2; ///< between a label and the tick beside i
 /// pixels. A label that would touch the one below it is left out.
 std::vector<Achsenmarke> yMarken(const Rechteck& plot, int controlHeight, const Bereich& y, double labelHeight);
 
-/// The eleven ticks of the x axis. Labels stay within the control's width; one that would touch the one before it or the
-/// last one is left out, so that both ends are named as long as there is room for two.
+/// The eleven ticks of the x axis. Labels stay within the control's width; one that would touch the one before it or
+/// the last one is left out, so that both ends are named as long as there is room for two.
 std::vector<Achsenmarke> xMarken(const Rechteck& plot, int controlWidth, const Bereich& x, const Textbreite& width);
 
 /// Top edge of the x labels.

@@ -21,8 +21,8 @@ std::string textOfSingle(float value, Dezimaltrenner trenner = Dezimaltrenner::K
 /// The same behind what a text holds already.
 void appendSingle(std::string& text, float value, Dezimaltrenner trenner = Dezimaltrenner::Komma);
 
-/// Shortest decimal text that reads back as the same double, laid out like the text of a single, behind what a text holds
-/// already; nothing for a value that is no finite number.
+/// Shortest decimal text that reads back as the same double, laid out like the text of a single, behind what a text
+/// holds already; nothing for a value that is no finite number.
 void appendDouble(std::string& text, double value, Dezimaltrenner trenner = Dezimaltrenner::Komma);
 
 /// 15 significant digits without trailing zeros, laid out like the text of a single.

@@ -10,8 +10,8 @@
 #include "model/Anteilseinheit.h"
 #include "model/Diagrammwahl.h"
 #include "model/Komposition.h"
-#include "model/Mischungsreihe.h"
 #include "model/Messkurve.h"
+#include "model/Mischungsreihe.h"
 
 /// The words that a file has for the program's codes.
 namespace zerna {

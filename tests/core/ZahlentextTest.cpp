@@ -22,7 +22,8 @@ TEST(Zahlentext, WritesTheShortestTextThatReadsBack)
     for (const auto& [value, text] : doubles)
         EXPECT_EQ(textOfDouble(value), text);
     const std::pair<double, const char*> exact[] = {{0.1 + 0.2, "0,30000000000000004"}, {-1e15, "-1E+15"},
-        {123456789012345, "123456789012345"}, {5e-324, "5E-324"}, {-0.0, "0"}, {std::numeric_limits<double>::infinity(), ""}};
+        {123456789012345, "123456789012345"}, {5e-324, "5E-324"}, {-0.0, "0"},
+        {std::numeric_limits<double>::infinity(), ""}};
     for (const auto& [value, text] : exact) {
         std::string all = "x";
         appendDouble(all, value);

@@ -87,8 +87,8 @@ void frmMain::zeigeStand(const Verlauf::Stand& stand, const Verlauf::Stand& vorh
     const Dokument& now = stand.dokument;
     const Dokument& before = vorher.dokument;
     const bool isOtherAlloy = now.eingabe != before.eingabe;
-    const bool isOtherDiagram = now.diagramm != before.diagramm || now.kurven != before.kurven
-        || now.messkurven != before.messkurven;
+    const bool isOtherDiagram =
+        now.diagramm != before.diagramm || now.kurven != before.kurven || now.messkurven != before.messkurven;
     const bool isOtherWeighing = now.wiegen != before.wiegen && !isOtherAlloy;
     if (*now.vergleich != *before.vergleich)
         showPanel(2);
