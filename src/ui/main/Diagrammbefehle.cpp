@@ -54,6 +54,9 @@ void Diagrammbereich::addBefehle(Menue& menue)
 void Diagrammbereich::zeigeGroesse(int groesse, int komponente)
 {
     Diagrammwahl shown = wahl();
+    const bool isMeasured = shown.typ == zerna::Diagrammtyp::Messkurve; // beside which 2kF is asked for
+    if (isMeasured && groesse == seite(shown.typ).suchfrage().groesse)
+        return;
     if (shown.typ != zerna::Diagrammtyp::Ternaer)
         wechsleTyp(shown, zerna::Diagrammtyp::Konzentration);
     shown.groesse = groesse;
