@@ -18,7 +18,6 @@ namespace {
 
 constexpr QSize Bildgroesse(1200, 800);
 constexpr std::array<float, MaxKomponenten> Prozente{40, 20, 20, 10, 10};
-constexpr Punkt Legierungspunkt{40, 11.5};
 
 /// A picture with all that it may have: titles, notes, the mixture dashed and the alloy as a point.
 Kurvenbild vollesBild()
@@ -36,7 +35,7 @@ Kurvenbild vollesBild()
     bild.y = {"Fermienergie [eV]", yBereich(smallest, largest), "eV"};
     bild.kurven = {{"die anderen wie eingetragen", {}, {0, 0, 255}},
         {"Mischungsreihe", {}, {200, 80, 0}, Linienart::Gestrichelt},
-        {"die Legierung", {Legierungspunkt}, {200, 30, 30}, Linienart::Keine, Punktzeichen::Kreis}};
+        {"die Legierung", {{40, reihe.at(40)}}, {200, 30, 30}, Linienart::Keine, Punktzeichen::Kreis}};
     for (std::size_t i = 0; i < reihe.size(); ++i) {
         bild.kurven[0].punkte.push_back({static_cast<double>(i), reihe.at(i)});
         bild.kurven[1].punkte.push_back({static_cast<double>(i), reihe.at(i) * 0.95});
