@@ -114,6 +114,7 @@ void taste(benchmark::State& state)
 {
     const Fenster fenster;
     auto& field = fenster.find<QLineEdit>("txtProzent_0");
+    field.window()->resize(1280, 800); // the diagram beside it is in sight
     Malzaehler paintings;
     fenster.find<QWidget>("pic").installEventFilter(&paintings);
     field.setFocus();
