@@ -2,10 +2,10 @@
 
 #include <utility>
 
+#include "bild/Konzentrationstexte.h"
 #include "bild/Messkurvenbild.h"
 #include "core/Unbekannt.h"
 #include "model/Elementdiagramm.h"
-#include "model/Formeltext.h"
 #include "ui/diagram/Kurvendiagramm.h"
 #include "ui/diagram/PSEDiagramm.h"
 #include "ui/diagram/Ternaerdiagramm.h"
@@ -66,8 +66,7 @@ std::unique_ptr<Diagramm> messdiagramm(Rechenkern& kern, const Dokument& dokumen
     auswertung.setKurven(dokument.messkurven);
     const Messart art = dokument.messkurven->back().art;
     Kurvenbild bild = messkurvenbild(auswertung, art);
-    Messbeiwerk beiwerk =
-        messbeiwerk(kern.calc(), art, bild.x.bereich, formeltext(dokument.eingabe, Formelschrift::Tiefgestellt));
+    Messbeiwerk beiwerk = messbeiwerk(kern.calc(), art, bild.x.bereich, legierungstext(dokument.eingabe));
     bild.untertitel = std::move(beiwerk.untertitel);
     bild.marken = std::move(beiwerk.marken);
     bild.hinweise = std::move(beiwerk.hinweise);

@@ -133,8 +133,8 @@ bool Ternaerdiagramm::doubleClicked()
 std::vector<Diagramm::Command> Ternaerdiagramm::commands()
 {
     std::vector<Command> commands{
-        {QStringLiteral("Draufsicht"), [this] { m_ansicht.flach = true; }},
-        {QStringLiteral("Räumlich"), [this] { m_ansicht.flach = false; }},
+        {QStringLiteral("Draufsicht"), [this] { m_ansicht.flach = true; }, m_ansicht.flach},
+        {QStringLiteral("Räumlich"), [this] { m_ansicht.flach = false; }, !m_ansicht.flach},
     };
     if (!m_beiwerk.ziellinien.empty())
         commands.push_back(

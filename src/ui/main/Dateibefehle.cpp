@@ -113,8 +113,14 @@ void Dateibefehle::oeffneArgumente(const QStringList& argumente)
     else if (first.startsWith(QLatin1Char('-')))
         m_programm.boxes().show(Icon::Exclamation, Programmtitel,
             "Die Option \"" + fromQt(first) + "\" gibt es nicht.\r\nAufruf: zerna [DATEI]");
-    else
-        oeffne(first);
+    else if (!m_dateien.istGeaendert() || !istOffen(pathFromUtf8(fromQt(first))))
+        oeffne(first); // else what was restored is newer than the file
+}
+
+bool Dateibefehle::istOffen(const std::filesystem::path& datei) const
+{
+    std::error_code ignored;
+    return std::filesystem::equivalent(datei, pathFromUtf8(m_dateien.offen().name), ignored);
 }
 
 void Dateibefehle::setzeFort(const OffeneDatei& datei)

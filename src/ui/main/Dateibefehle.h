@@ -57,6 +57,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool istOffen(const std::filesystem::path& datei) const;
     void addSpeichern(Menue& menue);
     void zeigeErsetztes(bool istErsetzt);
     void zeigeGespeichertes(bool istGespeichert);

@@ -5,9 +5,9 @@
 
 #include <algorithm>
 
+#include "bild/Konzentrationstexte.h"
 #include "bild/Messkurvenbild.h"
 #include "core/Datei.h"
-#include "model/Formeltext.h"
 #include "model/Groessen.h"
 #include "programm/Messkurvenoeffnung.h"
 #include "ui/controls/Knopfzeile.h"
@@ -201,8 +201,8 @@ void Messseite::zeigeBeiwerk(Messart art)
     Tabelle befunde = messtabelle(m_auswertung.vergleich(art, calc), kurven(), art);
     m_tafel->zeige(befunde);
     m_tafel->setColumnHidden(0, std::ranges::count(kurven(), art, &Messkurve::art) == 1); // their names
-    diagramm.setBeiwerk(messbeiwerk(calc, art, diagramm.bild().x.bereich,
-                            formeltext(programm().gerechneteEingabe(), Formelschrift::Tiefgestellt)),
+    diagramm.setBeiwerk(
+        messbeiwerk(calc, art, diagramm.bild().x.bereich, legierungstext(programm().gerechneteEingabe())),
         std::move(befunde));
 }
 

@@ -95,8 +95,14 @@ TEST_F(DateibefehleTest, DroppedAndNamedFilesAreOpened)
         "Zerna öffnet eine Datei auf einmal. Bitte nur eine hierher ziehen.\n"
         "Zerna öffnet eine Datei auf einmal; im Aufruf stehen 2.\r\nAufruf: zerna [DATEI]\n"
         "Die Option \"-x\" gibt es nicht.\r\nAufruf: zerna [DATEI]\n");
-    window->oeffneArgumente({QString::fromStdString((folder / "Al-Cu.zerna").string())});
+    const QString file = QString::fromStdString((folder / "Al-Cu.zerna").string());
+    window->oeffneArgumente({file});
     EXPECT_EQ(title(), "Al-Cu.zerna[*] – Zerna");
+    type("txtProzent_0", "77");
+    const std::size_t asked = boxes.asked.size();
+    window->oeffneArgumente({file});
+    EXPECT_EQ(text("txtProzent_0"), "77") << "as it was restored";
+    EXPECT_EQ(boxes.asked.size(), asked);
 }
 
 /// Nothing of the document before is seen, and nothing of the file is lost when its at% come.
