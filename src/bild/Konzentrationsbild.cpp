@@ -145,6 +145,7 @@ private:
         if (zweite == nullptr || zweite == &m_groesse)
             return;
         m_result.bild.rechts = Achse{groessentitel(*zweite), {}, std::string(zweite->reiheneinheit)};
+        m_result.bild.rechts->rund = true;
         add({std::string(zweite->name) + " (rechte Achse)", punkte(reihe(zweite->kennzahl, m_art)), Zweitfarbe,
             Linienart::Strichpunkt, Punktzeichen::Keines, true});
     }
