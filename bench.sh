@@ -10,9 +10,9 @@ fail() {
 }
 
 "$root/packaging/install-debian-packages.sh" bench
-cmake -S "$root" --preset release -B "$root/build/bench" -DZERNA_BENCH=ON -DZERNA_WINDOW=ON ||
+cmake -S "$root" --preset release -DZERNA_BENCH=ON -DZERNA_WINDOW=ON ||
     fail "Die Messungen ließen sich nicht einrichten."
-cmake --build "$root/build/bench" --target zerna_bench zerna_aufwand || fail "Die Messungen ließen sich nicht übersetzen."
-"$root/build/bench/bin/zerna_bench" "$@"
+cmake --build "$root/build/release" --target zerna_bench zerna_aufwand || fail "Die Messungen ließen sich nicht übersetzen."
+"$root/build/release/bin/zerna_bench" "$@"
 echo
-"$root/build/bench/bin/zerna_aufwand"
+"$root/build/release/bin/zerna_aufwand"
