@@ -12,12 +12,16 @@ constexpr double RoundingError = 1e-9; // in steps
 
 int exponentOf(double value) { return static_cast<int>(std::floor(std::log10(std::abs(value)) + RoundingError)); }
 
-/// The multiples of a step in a range.
+/// The multiples of a step in a range; none where doubles are too coarse to tell them apart.
 std::vector<double> multiples(const Bereich& bereich, double step)
 {
+    constexpr double Distinct = 0x1p52; // steps from 0
     std::vector<double> values;
+    const double first = std::ceil(bereich.min / step - RoundingError);
     const double last = std::floor(bereich.max / step + RoundingError);
-    for (double k = std::ceil(bereich.min / step - RoundingError); k <= last; ++k)
+    if (!(std::max(std::abs(first), std::abs(last)) < Distinct))
+        return values;
+    for (double k = first; k <= last; ++k)
         values.push_back(k * step + 0.0); // no -0
     return values;
 }

@@ -23,6 +23,7 @@ TEST(RundteilungTest, ValuesAreRoundAndBetweenFiveAndTen)
         {"small", {1.2e-11, 6.8e-11}, 10, "2|3|4|5|6|", 29, -11},
         {"large", {0, 250000}, 10, "0|0,5|1,0|1,5|2,0|2,5|", 26, 5},
         {"nothing", {1, 1}, 10, "", 0, 0},
+        {"too far from zero to count in steps", {1e20, 1e20 + 32768}, 10, "", 0, 20},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
