@@ -14,8 +14,10 @@ double spanOf(const Bereich& bereich) { return bereich.max - bereich.min; }
 Bereich inside(double min, double span, const Bereich& whole)
 {
     constexpr double Smallest = 1e-5; // of the whole: single precision has no more to show
-    span = std::clamp(span, Smallest * spanOf(whole), spanOf(whole));
-    min = std::clamp(min, whole.min, whole.max - span);
+    if (span >= spanOf(whole)) // exactly: rounding must not leave a last bit zoomed
+        return whole;
+    span = std::max(span, Smallest * spanOf(whole));
+    min = std::clamp(min, whole.min, std::max(whole.min, whole.max - span));
     return {min, std::min(whole.max, min + span)};
 }
 

@@ -94,6 +94,20 @@ TEST(KurvenansichtTest, CrosshairStepsOverGapsChangesCurvesAndTheViewFollows)
     EXPECT_FALSE(layoutOf(bild, ansicht).kerntexte.empty()) << "there is a limit";
 }
 
+TEST(KurvenansichtTest, ZoomedOutAgainIsNotZoomed)
+{
+    Kurvenbild bild = zweiGroessen();
+    for (int i = 1; i < 200; ++i) {
+        bild.x.bereich = {0.1 * i, 0.1 * i + 1.0 / i};
+        bild.y.bereich = {-1.0 / i, 0.7 * i};
+        Kurvenansicht ansicht;
+        ansicht.zoome(bild, layoutOf(bild), {10, 10}, 1);
+        EXPECT_TRUE(ansicht.ausschnitt());
+        ansicht.zoome(bild, layoutOf(bild, ansicht), {200, 100}, -3);
+        EXPECT_FALSE(ansicht.ausschnitt()) << i;
+    }
+}
+
 TEST(KurvenansichtTest, WhatIsShownStaysWhileItMeetsTheAxes)
 {
     Kurvenbild bild = zweiGroessen();
