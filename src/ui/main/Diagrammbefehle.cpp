@@ -60,7 +60,8 @@ void Diagrammbereich::zeigeGroesse(int groesse, int komponente)
     if (shown.typ != zerna::Diagrammtyp::Ternaer)
         wechsleTyp(shown, zerna::Diagrammtyp::Konzentration);
     shown.groesse = groesse;
-    shown.komponente = komponente;
+    if (seite(shown.typ).hatKomponente())
+        shown.komponente = komponente;
     shown = passendeWahl(shown, m_eingabe.anzahl());
     if (shown == wahl())
         return;

@@ -52,7 +52,8 @@ public:
     /// Chooses the ternary diagram, if there are three rows.
     void selectTernary() { chooseType(Diagrammtyp::Ternaer); }
 
-    /// Shows a quantity of the alloy over a component, as a step of its own if it is not shown already.
+    /// Shows a quantity of the alloy, over a component where one runs along an axis, as a step of its own if it is not
+    /// shown already.
     void zeigeGroesse(int groesse, int komponente);
 
     /// Adds the curves of files to the document and shows them; asks for one if there are none.

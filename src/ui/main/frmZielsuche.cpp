@@ -48,8 +48,10 @@ void frmZielsuche::createControls()
     m_cmbGroesse->setObjectName(QStringLiteral("cmbSuche_Groesse"));
     for (const int kennzahl : legierungsgroessen())
         m_cmbGroesse->addItem(toQt(findReihengroesse(kennzahl)->name), kennzahl);
-    connect(m_cmbGroesse, &QComboBox::activated, this,
-        [this] { emit wahlRequested(groesse(), m_anteil->frage().komponente); });
+    connect(m_cmbGroesse, &QComboBox::activated, this, [this] {
+        showGroesse();
+        verlangeWahl();
+    });
     m_txtZiel = new Wertfeld(this);
     m_txtZiel->setObjectName(QStringLiteral("txtSuche_Ziel"));
     m_txtZiel->setEigenerVerlauf(true);
@@ -67,7 +69,10 @@ void frmZielsuche::createControls()
 
 void frmZielsuche::connectSeiten()
 {
-    connect(m_anteil, &Anteilsseite::komponenteChosen, this, [this](int row) { emit wahlRequested(groesse(), row); });
+    connect(m_anteil, &Anteilsseite::komponenteChosen, this, [this](int row) {
+        m_anteil->setKomponente(row);
+        verlangeWahl();
+    });
     connect(m_anteil, &Anteilsseite::mischungsreiheChosen, this, &frmZielsuche::mischungsreiheChosen);
     connect(m_anteil, &Anteilsseite::uebernommen, this,
         [this](const Eingabe& eingabe) { emit uebernommen(eingabe, {QStringLiteral("Anteil übernehmen")}); });
@@ -139,7 +144,9 @@ void frmZielsuche::showGroesse()
 void frmZielsuche::frage(int groesse, const QString& ziel)
 {
     const Diagrammwahl& wahl = m_programm.Dokument().diagramm;
-    const int asked = groesse < 0 && zeigtGroesse(wahl) ? wahl.groesse : groesse;
+    const bool isPSE = wahl.typ == Diagrammtyp::PSE;
+    const std::optional<int> shown = isPSE ? wahl.andereGroesse : std::optional(wahl.groesse);
+    const int asked = groesse < 0 && (isPSE || zeigtGroesse(wahl)) ? shown.value_or(groesse) : groesse;
     m_cmbGroesse->setCurrentIndex(std::max(0, m_cmbGroesse->findData(asked)));
     showGroesse();
     if (!ziel.isEmpty())
@@ -149,10 +156,16 @@ void frmZielsuche::frage(int groesse, const QString& ziel)
     show();
     raise();
     activateWindow();
-    emit wahlRequested(this->groesse(), m_anteil->frage().komponente);
-    zeige();
+    verlangeWahl();
     m_txtZiel->setFocus(Qt::OtherFocusReason);
     m_txtZiel->selectAll();
+}
+
+/// The diagram is to show what is asked for. It need not change for that, so the search is made anew in any case.
+void frmZielsuche::verlangeWahl()
+{
+    emit wahlRequested(groesse(), m_anteil->frage().komponente);
+    zeige();
 }
 
 /// Over the results: composition and diagram stay to be seen. A place that the user has chosen is kept.

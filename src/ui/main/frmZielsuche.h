@@ -50,6 +50,7 @@ private:
     void connectSeiten();
     void layOut();
     void showGroesse();
+    void verlangeWahl();
     void placeBeside();
     void suche();
     void nenneMarken(std::optional<float> ziel);

@@ -117,6 +117,22 @@ TEST_F(frmZielsucheTest, TheTernaryDiagramGivesThePointsOfTheValue)
     EXPECT_EQ(clipboard(), points) << "nothing to be copied in its place";
 }
 
+TEST_F(frmZielsucheTest, ItsListsChooseBesideEveryDiagram)
+{
+    choose("cmbSuche_Groesse", "Valenz");
+    EXPECT_EQ(texts({"cmbDiagramm", "txtSuche_Ziel", "lblSuche_Einheit"}), "Valenz|2,2|e/a");
+    choose("cmbElement_2", "Si");
+    click("cmdKom_0");
+    choose("cmbDiagramm_Typ", "3 D - ternär");
+    choose("cmbSuche_Komponente", "Cu");
+    EXPECT_EQ(text("cmbSuche_Komponente"), "Cu");
+    EXPECT_NE(find<QAction>("mnuRueckgaengig").text(), QStringLiteral("&Rückgängig: Diagramm: Valenz"))
+        << "nothing has changed there";
+    choose("cmbDiagramm_Typ", "PSE");
+    QTest::keyClick(window.get(), Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(texts({"cmbDiagramm_Typ", "cmbDiagramm", "cmbSuche_Groesse"}), "2 D|Valenz|Valenz");
+}
+
 TEST_F(frmZielsucheTest, TheNearestElementGetsARow)
 {
     find<QTabWidget>("tabSuche").setCurrentIndex(1);
