@@ -16,11 +16,18 @@ namespace {
 constexpr double RightStrip = 60; // for the labels of the right axis
 constexpr double MinorTickLength = 4;
 
+/// The range, or a wider one where doubles do not tell its pixels apart.
 Bereich visible(const Bereich& bereich)
 {
-    if (bereich.max > bereich.min && std::isfinite(bereich.max - bereich.min))
+    constexpr double Narrowest = 1e-9; // of the values
+    constexpr double Smallest = 1e-280;
+    constexpr double Widened = 1e-3;
+    const double size = std::max(std::abs(bereich.min), std::abs(bereich.max));
+    const double span = bereich.max - bereich.min;
+    if (std::isfinite(span) && span > std::max(Smallest, Narrowest * size))
         return bereich;
-    return std::isfinite(bereich.min) ? Bereich{bereich.min - 1, bereich.min + 1} : Bereich{0, 1};
+    const double more = std::max(1.0, Widened * size);
+    return std::isfinite(size) ? Bereich{bereich.min - more, bereich.min + more} : Bereich{0, 1};
 }
 
 /// A layout while it is made: the strips first, then the axes in what is left.

@@ -160,4 +160,15 @@ TEST(KurvenlayoutTest, RoundLabelsHaveTheirPowerOfTenInTheTitle)
     EXPECT_EQ(layOut(bild, 600, 400, {}, masse).ausschnitt.y, (Bereich{1, 3})) << "an empty range";
 }
 
+TEST(KurvenlayoutTest, RangesTooNarrowForDoublesAreWidened)
+{
+    for (const Bereich& range :
+        {Bereich{1e30, 1e30}, {-1e20, -1e20 + 16384}, {0, 5e-324}, {0, 1e-310}, {1, 1 + 1e-15}, {-1e30, 1e30}}) {
+        const Kurvenlayout layout =
+            layOut(achsenbild({"", range, "", true}, {"", range, "", true}), 600, 400, {}, masse);
+        EXPECT_GT(std::ranges::count_if(layout.kerntexte, [](const Textstelle& text) { return !text.text.empty(); }), 4)
+            << range.min;
+    }
+}
+
 } // namespace zerna
