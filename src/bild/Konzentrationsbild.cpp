@@ -1,6 +1,7 @@
 #include "bild/Konzentrationsbild.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -11,6 +12,7 @@
 #include "core/Anzeigetext.h"
 #include "core/CheckedArithmetic.h"
 #include "core/Zahlentext.h"
+#include "model/Anteile.h"
 
 namespace zerna {
 
@@ -46,6 +48,17 @@ bool sindGleich(const Reihe& a, const Reihe& b)
         difference = std::max(difference, std::abs(static_cast<double>(a.at(i)) - b.at(i)));
     }
     return difference <= Gleich * largest;
+}
+
+/// None where the series cannot be computed, though that of the alloy can.
+template <class Make>
+std::optional<Reihe> orNothing(Make&& make)
+{
+    try {
+        return make();
+    } catch (const Laufzeitfehler&) {
+        return std::nullopt;
+    }
 }
 
 /// The values of the curves on one side; none without any.
@@ -129,12 +142,14 @@ private:
     {
         if (m_art == Reihenart::Summe100)
             return;
-        const Reihe mischung = reihe(m_groesse.kennzahl, Reihenart::Summe100);
-        if (sindGleich(m_result.reihe, mischung)) {
+        const auto mischung = orNothing([&] { return reihe(m_groesse.kennzahl, Reihenart::Summe100); });
+        if (!mischung)
+            return;
+        if (sindGleich(m_result.reihe, *mischung)) {
             m_result.bild.kurven.front().name = reihenname(m_groesse, Reihenart::Summe100);
             return;
         }
-        add({reihenname(m_groesse, Reihenart::Summe100), punkte(mischung), kurvenaussehen(0).farbe,
+        add({reihenname(m_groesse, Reihenart::Summe100), punkte(*mischung), kurvenaussehen(0).farbe,
             Linienart::Gestrichelt});
         sage(abweichungsgrund(m_groesse, m_eingabe, m_wahl.komponente, m_art));
     }
@@ -144,10 +159,13 @@ private:
         const Groesse* const zweite = m_wahl.zweiteGroesse ? findReihengroesse(*m_wahl.zweiteGroesse) : nullptr;
         if (zweite == nullptr || zweite == &m_groesse)
             return;
+        const auto werte = orNothing([&] { return reihe(zweite->kennzahl, m_art); });
+        if (!werte)
+            return sage(std::string(zweite->name) + " hat hier keine Werte.");
         m_result.bild.rechts = Achse{groessentitel(*zweite), {}, std::string(zweite->reiheneinheit)};
         m_result.bild.rechts->rund = true;
-        add({std::string(zweite->name) + " (rechte Achse)", punkte(reihe(zweite->kennzahl, m_art)), Zweitfarbe,
-            Linienart::Strichpunkt, Punktzeichen::Keines, true});
+        add({std::string(zweite->name) + " (rechte Achse)", punkte(*werte), Zweitfarbe, Linienart::Strichpunkt,
+            Punktzeichen::Keines, true});
     }
 
     void addGehaltene(std::span<const GehalteneKurve> kurven)
@@ -192,27 +210,50 @@ private:
             ++row;
         if (row == eingabe.anzahl() || !eingabe.istVollstaendig() || eingabe.hindernis())
             return std::nullopt;
-        try {
+        return orNothing([&] {
             const Legierung legierung = eingabe.legierung().value();
             return Mischungsreihe(m_calc, legierung.komponenten(), row, m_groesse.kennzahl, m_art).reihe();
-        } catch (const Laufzeitfehler&) {
-            return std::nullopt;
-        }
+        });
     }
 
     /// The alloy as the results have it.
     void addLegierung()
     {
         const double x = m_eingabe.prozentInKraft(m_wahl.komponente).wert;
-        const float mixed = rechner(m_groesse.kennzahl, Reihenart::Summe100).wert(x);
-        const float value = m_groesse.kennzahl == GroesseDichte ? mittlereDichte() : mixed;
+        const bool isDichte = m_groesse.kennzahl == GroesseDichte;
+        const float value = orUnbekannt([&] { return isDichte ? mittlereDichte() : eigenerWert(); });
         if (istUnbekannt(value) || x < 0 || x > 100)
             return;
-        if (m_art == Reihenart::Summe100 && std::abs(mixed - value) > Gleich * std::abs(value))
-            sage(abweichungsgrund(m_groesse, m_eingabe, m_wahl.komponente, m_art));
+        nenneAbweichung(orUnbekannt([&] { return rechner(m_groesse.kennzahl, Reihenart::Summe100).wert(x); }), value);
         const std::string text = anzeigetext(FormatValue(value, m_groesse.einheit));
         add({legierungsname(m_eingabe) + (text.empty() ? ": 0" : ": " + text), {{x, value}}, Legierungsfarbe,
             Linienart::Keine, Punktzeichen::Kreis});
+    }
+
+    /// Says why the mixture does not lead through the alloy.
+    void nenneAbweichung(float mischung, float legierung)
+    {
+        const auto [smallest, largest] = endValues(m_result.reihe);
+        const double size = std::max({std::abs(legierung), std::abs(smallest), std::abs(largest)});
+        if (istUnbekannt(mischung) || std::abs(mischung - legierung) <= Gleich * size)
+            return;
+        if (m_groesse.kennzahl != GroesseDichte)
+            sage("Die Mischungsreihe führt nicht durch die Legierung: Deren Anteile ergeben zusammen nicht 100 %, oder "
+                 "die der anderen Komponenten heben sich auf.");
+        else if (m_art == Reihenart::Summe100)
+            sage(abweichungsgrund(m_groesse, m_eingabe, m_wahl.komponente, m_art));
+    }
+
+    /// With the at% as they are entered, also where these do not sum up to 100.
+    float eigenerWert() const
+    {
+        const auto komponenten = m_legierung.komponenten();
+        std::array<double, MaxKomponenten> prozente{};
+        std::ranges::transform(komponenten, prozente.begin(), &Legierungskomponente::prozent);
+        const auto teile = anteile(komponenten);
+        clsCalc scratch = m_calc;
+        setComposition(scratch, std::span(teile).first(komponenten.size()), prozente);
+        return wert(m_groesse, scratch);
     }
 
     /// Intended: by at%, as in the results.

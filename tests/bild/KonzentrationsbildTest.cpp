@@ -64,6 +64,19 @@ TEST_F(KonzentrationsbildTest, ACurveThroughTheAlloyStandsAlone)
     EXPECT_EQ(names(bild(8).bild), "Anteile wie eingetragen|Mischungsreihe (Summe 100 %)|");
 }
 
+/// Zinc takes away what copper adds: without aluminium nothing would be left to share.
+TEST_F(KonzentrationsbildTest, ThePointIsTheAlloysOwnWhereTheMixtureIsAnother)
+{
+    eingabe.setAnzahl(3);
+    eingabe.waehleElement(2, "Zn");
+    eingabe.setProzent(0, "100");
+    eingabe.setProzent(1, "20");
+    const Kurvenbild valenz = bild(0).bild;
+    EXPECT_EQ(valenz.kurven[1].punkte[100].y, 3);
+    EXPECT_NEAR(valenz.kurven[2].punkte[0].y, 3 + 0.2 * 1 - 0.2 * 2, 1e-6);
+    EXPECT_TRUE(valenz.hinweise.back().starts_with("Die Mischungsreihe führt nicht")) << valenz.hinweise.back();
+}
+
 TEST_F(KonzentrationsbildTest, DensitiesAndVolumesSayWhatTheyAre)
 {
     EXPECT_EQ(bild(4).bild.titel, "Atomvolumen [nm³] (Zahl in m³) über at% Al");
@@ -74,6 +87,15 @@ TEST_F(KonzentrationsbildTest, DensitiesAndVolumesSayWhatTheyAre)
     schalter.mischungsreihe = true;
     EXPECT_EQ(bild(GroesseDichte).bild.hinweise[0],
         "Das Ergebnis mittelt die Dichten über die at%, die Mischungsreihe teilt Masse durch Volumen.");
+}
+
+TEST_F(KonzentrationsbildTest, TheGivenCurveIsThereWithoutWhatNeedsMore)
+{
+    elements.Item("Cu")->setMasse(Unbekannt);
+    wahl.zweiteGroesse = 8;
+    const Kurvenbild dichte = bild(GroesseDichte).bild;
+    EXPECT_EQ(names(dichte), "Dichten über at% gemittelt|Al60Cu40: 4,625 g/cm³|");
+    EXPECT_EQ(dichte.hinweise.at(0), "Fermienergie hat hier keine Werte.");
 }
 
 /// Copper leaves 1,2 electrons to an aluminium of 40 at%, but the mixture begins at 3.
