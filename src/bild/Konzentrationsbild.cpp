@@ -11,8 +11,8 @@
 #include "bild/Kurvenfarben.h"
 #include "core/Anzeigetext.h"
 #include "core/CheckedArithmetic.h"
-#include "core/Zahlentext.h"
 #include "model/Anteile.h"
+#include "model/Werttext.h"
 
 namespace zerna {
 
@@ -225,9 +225,8 @@ private:
         if (istUnbekannt(value) || x < 0 || x > 100)
             return;
         nenneAbweichung(orUnbekannt([&] { return rechner(m_groesse.kennzahl, Reihenart::Summe100).wert(x); }), value);
-        const std::string text = anzeigetext(FormatValue(value, m_groesse.einheit));
-        add({legierungsname(m_eingabe) + (text.empty() ? ": 0" : ": " + text), {{x, value}}, Legierungsfarbe,
-            Linienart::Keine, Punktzeichen::Kreis});
+        add({legierungsname(m_eingabe) + ": " + anzeigetext(werttext(value, m_groesse.einheit)), {{x, value}},
+            Legierungsfarbe, Linienart::Keine, Punktzeichen::Kreis});
     }
 
     /// Says why the mixture does not lead through the alloy.

@@ -2,6 +2,8 @@
 
 #include <vector>
 
+#include "core/Anzeigetext.h"
+#include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
 #include "model/Formeltext.h"
 
@@ -14,6 +16,14 @@ constexpr int Stellen = 6; // of numbers that are read, not computed with
 std::string prozenttext(const Eingabe& eingabe, int zeile)
 {
     return textWithDigits(eingabe.prozentInKraft(zeile).wert, Stellen);
+}
+
+/// "z = 3", "Dichte unbekannt" or the like.
+std::string angabe(std::string_view vor, float wert, std::string_view einheit, std::string_view ohneWert)
+{
+    if (istUnbekannt(wert))
+        return std::string(ohneWert);
+    return std::string(vor) + anzeigetext(textWithDigits(wert, Stellen)) + std::string(einheit);
 }
 
 bool istErsteMit(const Eingabe& eingabe, int zeile)
@@ -47,6 +57,12 @@ std::string legierungsname(const Eingabe& eingabe)
     return name + " at%";
 }
 
+std::string komponententext(const std::string& symbol, float dichte, float valenz)
+{
+    return symbol + ": " + angabe("", dichte == 0 ? Unbekannt : dichte, " g/cm³", "Dichte unbekannt") + ", "
+        + angabe("z = ", valenz, "", "z unbekannt");
+}
+
 std::string legierungstext(const Eingabe& eingabe)
 {
     std::string text = legierungsname(eingabe);
@@ -54,8 +70,8 @@ std::string legierungstext(const Eingabe& eingabe)
         const Eingabe::Zeile& zeile = eingabe.zeile(i);
         if (!zeile.element || !istErsteMit(eingabe, i))
             continue;
-        text += (i == 0 ? " – " : "; ") + zeile.element->symbol() + ": " + textWithDigits(zeile.inKraft.dichte, Stellen)
-            + " g/cm³, z = " + textWithDigits(zeile.inKraft.valenz, Stellen);
+        text += (i == 0 ? " – " : "; ")
+            + komponententext(zeile.element->symbol(), zeile.inKraft.dichte, zeile.inKraft.valenz);
     }
     return text;
 }

@@ -13,6 +13,9 @@ std::string groessentitel(const Groesse& groesse);
 /// The alloy in short: "Al60Cu40", or its parts where no formula can be written.
 std::string legierungsname(const Eingabe& eingabe);
 
+/// A component with what is computed with: "Al: 2,377 g/cm³, z = 3".
+std::string komponententext(const std::string& symbol, float dichte, float valenz);
+
 /// The alloy with densities and valences that are computed with: "Al60Cu40 – Al: 2,37 g/cm³, z = 3; Cu: …".
 std::string legierungstext(const Eingabe& eingabe);
 

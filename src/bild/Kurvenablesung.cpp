@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "core/Zahlentext.h"
+#include "model/Werttext.h"
 
 namespace zerna {
 
@@ -13,13 +14,9 @@ namespace {
 
 constexpr double Nan = std::numeric_limits<double>::quiet_NaN();
 
-std::string werttext(double wert, const std::string& einheit)
+std::string gelesenerWert(double wert, const std::string& einheit)
 {
-    if (!std::isfinite(wert))
-        return "unbekannt";
-    if (wert == 0) // of which the formatter makes nothing
-        return "0 " + einheit;
-    return FormatValue(static_cast<float>(wert), einheit);
+    return std::isfinite(wert) ? werttext(static_cast<float>(wert), einheit) : "unbekannt";
 }
 
 /// Two decimals, and more where the range is so small that they would not tell its pixels apart.
@@ -42,7 +39,7 @@ std::string otherQuantity(const Kurvenbild& bild, const Kurvenpunkt& punkt)
         const double wert = wertBei(kurve.punkte, punkt.x);
         if (kurve.rechts == bild.kurven[punkt.kurve].rechts || !std::isfinite(wert))
             continue;
-        return "; " + kurve.name + (kurve.name.empty() ? "" : ": ") + werttext(wert, axisOf(bild, kurve).einheit);
+        return "; " + kurve.name + (kurve.name.empty() ? "" : ": ") + gelesenerWert(wert, axisOf(bild, kurve).einheit);
     }
     return {};
 }
@@ -121,7 +118,7 @@ std::string ablesung(const Kurvenbild& bild, const Kurvenpunkt& punkt, const Ber
     const bool areSeveral = std::ranges::count_if(bild.kurven, [](const Kurve& k) { return !k.name.empty(); }) > 1;
     const std::string name = areSeveral && !kurve.name.empty() ? kurzname(kurve) + ": " : "";
     return name + fixedText(punkt.x, decimalsOf(x)) + ' ' + bild.x.einheit + " - "
-        + werttext(punkt.y, axisOf(bild, kurve).einheit) + otherQuantity(bild, punkt);
+        + gelesenerWert(punkt.y, axisOf(bild, kurve).einheit) + otherQuantity(bild, punkt);
 }
 
 Kurvenpunkt naechsterPunkt(const Kurvenbild& bild, const Kurvenpunkt& from, int steps, double pixel)

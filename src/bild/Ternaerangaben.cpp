@@ -5,9 +5,8 @@
 #include <utility>
 
 #include "bild/Konzentrationstexte.h"
-#include "core/Anzeigetext.h"
+#include "core/Zahlentext.h"
 #include "model/Ternaergroesse.h"
-#include "model/Werttext.h"
 
 namespace zerna {
 
@@ -16,12 +15,7 @@ namespace {
 /// "Al: 2,375 g/cm³, z = 3", which no line break tears apart.
 std::string textOf(const Legierungskomponente& k)
 {
-    const std::string text = k.element->symbol() + ": " + anzeigetext(werttext(k.dichte, "g/cm³"))
-        + ", z = " + anzeigetext(werttext(k.valenz));
-    std::string unbroken;
-    for (const char c : text)
-        unbroken += c == ' ' ? std::string("\u00A0") : std::string(1, c);
-    return unbroken;
+    return ReplaceText(komponententext(k.element->symbol(), k.dichte, k.valenz), " ", "\u00A0");
 }
 
 std::string untertitelOf(std::span<const Legierungskomponente> komponenten)

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "bild/Konzentrationstexte.h"
 #include "model/EingabeFixture.h"
 #include "model/Varianten.h"
 
@@ -84,6 +85,10 @@ TEST_F(KonzentrationsbildTest, DensitiesAndVolumesSayWhatTheyAre)
     EXPECT_TRUE(bild(4).bild.kurven.back().name.ends_with("·10⁻²⁹ m³")) << bild(4).bild.kurven.back().name;
     EXPECT_EQ(bild(GroesseDichte).bild.hinweise[0],
         "Die Kurve mittelt die Dichten über die at%, die Mischungsreihe teilt Masse durch Volumen.");
+    eingabe.waehleElement(1, "At");
+    EXPECT_EQ(legierungstext(eingabe), "Al60At40 – Al: 2,377 g/cm³, z = 3; At: Dichte unbekannt, z = 7")
+        << "as pictures of measured curves say it";
+    eingabe.waehleElement(1, "Cu");
     schalter.mischungsreihe = true;
     EXPECT_EQ(bild(GroesseDichte).bild.hinweise[0],
         "Das Ergebnis mittelt die Dichten über die at%, die Mischungsreihe teilt Masse durch Volumen.");
