@@ -116,6 +116,13 @@ std::vector<Gitterdreieck> triangulate(const Ternaergitter& gitter)
     return triangles;
 }
 
+bool istZusammensetzung(const Anteile3& anteile)
+{
+    constexpr double Rounding = 1e-5; // of at% as they are typed
+    return std::ranges::all_of(anteile, [](double share) { return share >= 0 && share <= 1; })
+        && std::abs(anteile[0] + anteile[1] + anteile[2] - 1) <= Rounding;
+}
+
 std::optional<double> interpolated(const Ternaergitter& gitter, const Anteile3& anteile)
 {
     const double a = std::clamp(anteile[0], 0.0, 1.0) * gitter.n;

@@ -84,6 +84,9 @@ struct Gitterdreieck {
 /// The triangles of the surface, all the same way round; those with a missing value are left out.
 std::vector<Gitterdreieck> triangulate(const Ternaergitter& gitter);
 
+/// Whether the shares have a place in the triangle: none is negative, and they sum up to 1.
+bool istZusammensetzung(const Anteile3& anteile);
+
 /// The value of the surface at a composition, interpolated between the grid's points; no value beside a hole.
 std::optional<double> interpolated(const Ternaergitter& gitter, const Anteile3& anteile);
 

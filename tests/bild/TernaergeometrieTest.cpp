@@ -82,6 +82,10 @@ TEST(Zusammensetzung, HasItsPlaceInTheTriangle)
     EXPECT_NEAR(std::hypot(back[0] - 0.2, back[1] - 0.5, back[2] - 0.3), 0, 1e-9);
     EXPECT_FALSE(compositionAt({0, -0.29, 0})) << "below the base line";
     EXPECT_FALSE(compositionAt({-0.4, 0, 0})) << "left of the triangle";
+    EXPECT_TRUE(istZusammensetzung({1, 0, 0}));
+    EXPECT_TRUE(istZusammensetzung({0.3333333F, 0.3333333F, 0.3333334F})) << "as typed";
+    EXPECT_FALSE(istZusammensetzung({0.6, 0.5, -0.1}));
+    EXPECT_FALSE(istZusammensetzung({0.2, 0.2, 0.1})) << "its point would be that of another alloy";
 }
 
 TEST(Ternaerflaeche, IsInterpolatedAndHasHoles)

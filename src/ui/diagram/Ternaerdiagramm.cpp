@@ -2,7 +2,6 @@
 
 #include <QPainter>
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -26,9 +25,7 @@ void Ternaerdiagramm::setAngaben(Ternaerangaben angaben)
     m_groesse = std::move(angaben.groesse);
     m_beiwerk.titel = std::move(angaben.titel);
     m_beiwerk.untertitel = std::move(angaben.untertitel);
-    const bool liesInside =
-        std::ranges::all_of(angaben.legierung, [](double share) { return share >= 0 && share <= 1; });
-    m_beiwerk.legierung = liesInside ? std::optional(angaben.legierung) : std::nullopt;
+    m_beiwerk.legierung = istZusammensetzung(angaben.legierung) ? std::optional(angaben.legierung) : std::nullopt;
     findZiellinien();
 }
 
