@@ -185,6 +185,8 @@ void Dateibefehle::droppe(const QMimeData& data)
     QStringList files;
     for (const QUrl& url : data.urls())
         files << (url.isLocalFile() ? url.toLocalFile() : url.toString());
+    if (files.isEmpty()) // an empty list
+        return;
     QTimer::singleShot(0, this, [this, files] {
         m_window.activateWindow();
         const bool areMeasured = std::ranges::all_of(
