@@ -7,6 +7,7 @@
 #include "bild/Achsenteilung.h"
 #include "bild/Dezimaltext.h"
 #include "bild/Rundteilung.h"
+#include "bild/Textablage.h"
 #include "bild/Textumbruch.h"
 
 namespace zerna {
@@ -224,6 +225,7 @@ void Aufbau::placeMarks()
     constexpr double Gap = 4;
     const Rechteck& plot = m_layout.plot;
     const Bereich& x = m_layout.ausschnitt.x;
+    Textablage places(plot);
     for (const Linienmarke& marke : m_bild.marken) {
         if (marke.text.empty() || marke.x < x.min || marke.x > x.max)
             continue;
@@ -231,13 +233,9 @@ void Aufbau::placeMarks()
         const double width = m_normal.width(marke.text);
         const bool fitsRight = column + Gap + width <= plot.left + plot.width;
         Rechteck box{fitsRight ? column + Gap : column - Gap - width, plot.top + Gap, width, m_normal.height};
-        const auto touches = [&](const Textstelle& other) {
-            return box.left < other.box.left + other.box.width && other.box.left < box.left + box.width
-                && box.top < other.box.top + other.box.height && other.box.top < box.top + box.height;
-        };
-        while (std::ranges::any_of(m_layout.markentexte, touches))
+        while (box.bottom() <= plot.bottom() && !places.belege(box))
             box.top += m_normal.height;
-        if (box.left >= plot.left && box.top + box.height <= plot.top + plot.height)
+        if (box.bottom() <= plot.bottom())
             m_layout.markentexte.push_back({marke.text, box, {}});
     }
 }
