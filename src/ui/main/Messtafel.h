@@ -1,32 +1,21 @@
 #pragma once
 
-#include <QTableWidget>
-
-#include "model/Tabelle.h"
+#include "ui/main/Wertetafel.h"
 
 namespace zerna {
 
-/// The maxima of measured curves, a line each, a few of them to be seen at once. Ctrl+C copies the selected lines below
-/// their heads, with a decimal point.
-class Messtafel : public QTableWidget {
+/// The maxima of measured curves, a line each, a few of them to be seen at once. They are copied with a decimal point.
+class Messtafel : public Wertetafel {
     Q_OBJECT
 
 public:
     explicit Messtafel(QWidget* parent = nullptr);
 
-    /// Shows a table, numbers with a comma.
+    /// Shows a table whose numbers have a decimal point.
     void zeige(Tabelle tabelle);
-
-protected:
-    void contextMenuEvent(QContextMenuEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void takeHeight();
-    void copySelection() const;
-    void copyAll() const;
-
-    Tabelle m_tabelle; // with a decimal point
 };
 
 } // namespace zerna
