@@ -58,6 +58,9 @@ private:
     void placeXAxis();
     void placeMarks();
     void placeSideTitles(const Achsenteilung& left, const Achsenteilung& right);
+    void placeTitle(const std::string& title, double column);
+    void placeXTitle(Textstelle title);
+    Schrift titleFont(const Achsenteilung& left, const Achsenteilung& right) const;
 
     const Kurvenbild& m_bild;
     const Bildstil& m_stil;
@@ -65,6 +68,7 @@ private:
     Textmasse m_normal;
     bool m_zoomed;
     Schrift m_labels; // of the axes of `kern`
+    Schrift m_titles; // of all axes
     Kurvenlayout m_layout;
 };
 
@@ -111,6 +115,10 @@ Kurvenlayout Aufbau::make(double width, double height, const Ausschnitt& ausschn
     const Achsenteilung right = m_bild.rechts ? yTeilung(*m_bild.rechts, ausschnitt.rechts, room) : Achsenteilung();
     m_labels = left.schrift;
     if (m_stil.rundeTeilung)
+        m_titles = titleFont(left, right);
+    if (rand.xTitel)
+        placeXTitle(std::move(*rand.xTitel));
+    if (m_stil.rundeTeilung)
         placeSideTitles(left, right);
     if (m_layout.istLeer())
         return m_layout;
@@ -129,7 +137,6 @@ void Aufbau::placeSideTitles(const Achsenteilung& left, const Achsenteilung& rig
 {
     constexpr double Edge = 2;
     constexpr double TitleLines = 1.25;
-    constexpr double SmallestTitle = 0.7;
     Rechteck& plot = m_layout.plot;
     const Rechteck& kern = m_layout.kern;
     const auto strip = [&](const Achse& achse, const Achsenteilung& teilung) {
@@ -140,19 +147,44 @@ void Aufbau::placeSideTitles(const Achsenteilung& left, const Achsenteilung& rig
     plot.left = std::ceil(kern.left + strip(m_bild.y, left));
     const double end = m_bild.rechts ? strip(*m_bild.rechts, right) : m_normal.width("00");
     plot.width = std::max(0.0, std::floor(kern.left + kern.width - end - plot.left));
-    const auto title = [&](const Achse& achse, const Achsenteilung& teilung, double column) {
-        const std::string whole = titelMitZehner(achse.titel, teilung.zehner);
-        const Schrift schrift{std::clamp(plot.height / std::max(1.0, m_normal.width(whole)), SmallestTitle, 1.0)};
-        const Textmasse masse = m_masse(schrift);
-        const std::string text = gekuerzt(whole, plot.height, masse.width);
-        const double length = masse.width(text);
-        if (!text.empty())
-            m_layout.texte.push_back(
-                {text, {column, plot.top + (plot.height - length) / 2, masse.height, length}, schrift, true});
-    };
-    title(m_bild.y, left, kern.left + Edge);
+    placeTitle(titelMitZehner(m_bild.y.titel, left.zehner), kern.left + Edge);
     if (m_bild.rechts)
-        title(*m_bild.rechts, right, kern.left + kern.width - Edge - m_normal.height);
+        placeTitle(titelMitZehner(m_bild.rechts->titel, right.zehner), kern.left + kern.width - Edge - m_normal.height);
+}
+
+/// The title of an upright axis in the middle of it, as far as the picture's edge leaves it there.
+void Aufbau::placeTitle(const std::string& title, double column)
+{
+    const Rechteck& plot = m_layout.plot;
+    const Rechteck& kern = m_layout.kern;
+    const Textmasse masse = m_masse(m_titles);
+    const std::string text = gekuerztMitEinheit(title, kern.height, masse.width);
+    if (text.empty())
+        return;
+    const double length = masse.width(text);
+    const double middle = plot.top + (plot.height - length) / 2;
+    const double top = std::max(kern.top, std::min(middle, kern.top + kern.height - length));
+    m_layout.texte.push_back({text, {column, top, masse.height, length}, m_titles, true});
+}
+
+/// As large as the longest title of an upright axis allows.
+Schrift Aufbau::titleFont(const Achsenteilung& left, const Achsenteilung& right) const
+{
+    constexpr double SmallestTitle = 0.75;
+    double longest = m_normal.width(titelMitZehner(m_bild.y.titel, left.zehner));
+    if (m_bild.rechts)
+        longest = std::max(longest, m_normal.width(titelMitZehner(m_bild.rechts->titel, right.zehner)));
+    return {std::clamp(m_layout.kern.height / std::max(1.0, longest), SmallestTitle, 1.0)};
+}
+
+/// The title of the lower axis is as large as those of the others.
+void Aufbau::placeXTitle(Textstelle title)
+{
+    const double width = m_masse(m_titles).width(title.text);
+    title.box.left += (title.box.width - width) / 2;
+    title.box.width = width;
+    title.schrift = m_titles;
+    m_layout.texte.push_back(std::move(title));
 }
 
 void Aufbau::placeYAxis(const Achsenteilung& teilung)

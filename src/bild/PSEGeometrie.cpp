@@ -7,6 +7,7 @@
 #include "bild/PSEKopf.h"
 #include "bild/PSESymbole.h"
 #include "bild/Rundteilung.h"
+#include "bild/Textumbruch.h"
 #include "core/Anzeigetext.h"
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"

@@ -85,14 +85,6 @@ void layOutLegende(PSEBild& bild, std::span<const Legendeneintrag> entries, cons
 
 } // namespace
 
-std::string gekuerztMitEinheit(std::string_view text, double width, const Textbreite& breite)
-{
-    const std::size_t bracket = text.ends_with(']') ? text.rfind(" [") : std::string_view::npos;
-    const std::string unit(bracket == std::string_view::npos ? "" : text.substr(bracket));
-    const std::string head = gekuerzt(text.substr(0, bracket), width - breite(unit), breite);
-    return head.empty() ? head : head + unit;
-}
-
 void layOutKopf(PSEBild& bild, const Elementdiagramm& diagramm, const PSEAnsicht& ansicht, const Bildstil& stil,
     const Textmasse& masse, const Textbreite& titelbreite)
 {

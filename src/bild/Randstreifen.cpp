@@ -27,12 +27,20 @@ struct Eintrag {
 
 using Legendenzeile = std::vector<Eintrag>;
 
+/// A single point ends with its value, which is whole or not there at all.
+std::string entryText(const Kurve& kurve, double room, const Textbreite& width)
+{
+    const std::size_t value = kurve.linie == Linienart::Keine ? kurve.name.rfind(": ") : std::string::npos;
+    std::string text = gekuerztVor(value, kurve.name, room, width);
+    return text.empty() ? gekuerzt(kurve.name.substr(0, value), room, width) : text;
+}
+
 std::vector<Legendenzeile> legendRows(const Kurvenbild& bild, double room, const Textbreite& width)
 {
     std::vector<Legendenzeile> rows;
     double left = room;
     for (std::size_t i = 0; i < bild.kurven.size(); ++i) {
-        std::string name = gekuerzt(bild.kurven[i].name, room - SampleLength - SampleGap, width);
+        std::string name = entryText(bild.kurven[i], room - SampleLength - SampleGap, width);
         if (name.empty())
             continue;
         const double length = width(name);
@@ -97,7 +105,8 @@ Auswahl::Auswahl(const Kurvenbild& bild, const Bereich& x, double width, double 
     if (stil.legende)
         m_legend = taken(legendRows(bild, m_room, m_masse.width));
     const int zehner = stil.rundeTeilung ? rundteilung(x, 2).zehner : 0;
-    m_xTitle = taken(umgebrochen(titelMitZehner(bild.x.titel, zehner), m_room, 1, m_masse.width));
+    const std::string xTitle = gekuerztMitEinheit(titelMitZehner(bild.x.titel, zehner), m_room, m_masse.width);
+    m_xTitle = taken(xTitle.empty() ? Zeilen() : Zeilen{xTitle});
     m_notes = taken(notes());
     if (!stil.rundeTeilung)
         m_sideTitles = taken(sideTitles());
@@ -153,7 +162,7 @@ void Auswahl::placeSideTitles(Randstreifen& rand, double top) const
         return;
     const double room = m_bild.rechts ? m_room / 2 - LabelColumn : m_room;
     const auto place = [&](const std::string& title, bool isRight) {
-        const std::string text = gekuerzt(title, room, m_masse.width);
+        const std::string text = gekuerztMitEinheit(title, room, m_masse.width);
         const double width = m_masse.width(text);
         if (!text.empty())
             rand.texte.push_back(
@@ -169,7 +178,7 @@ void Auswahl::placeXTitle(Randstreifen& rand, double top) const
     if (m_xTitle.empty())
         return;
     const double width = m_masse.width(m_xTitle.front());
-    rand.texte.push_back({m_xTitle.front(), {(m_width - width) / 2, top, width, m_masse.height}, {}});
+    rand.xTitel = Textstelle{m_xTitle.front(), {(m_width - width) / 2, top, width, m_masse.height}, {}};
 }
 
 void Auswahl::placeLegend(Randstreifen& rand, double top) const

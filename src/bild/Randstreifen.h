@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,6 +31,7 @@ struct Linienprobe {
 struct Randstreifen {
     Rechteck kern; ///< what is left for the axes, in whole pixels
     std::vector<Textstelle> texte;
+    std::optional<Textstelle> xTitel; ///< of the lower axis, beside `texte`
     std::vector<Linienprobe> legende;
 };
 

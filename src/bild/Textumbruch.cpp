@@ -46,6 +46,21 @@ std::string gekuerzt(std::string_view text, double room, const Textbreite& width
     return {};
 }
 
+std::string gekuerztVor(std::size_t end, std::string_view text, double room, const Textbreite& width)
+{
+    if (width(text) <= room)
+        return std::string(text);
+    const std::string rest(text.substr(std::min(end, text.size())));
+    const std::string head = gekuerzt(text.substr(0, end), room - width(rest), width);
+    return head.empty() ? head : head + rest;
+}
+
+std::string gekuerztMitEinheit(std::string_view text, double room, const Textbreite& width)
+{
+    const bool hasUnit = text.ends_with(']') || text.ends_with(')');
+    return gekuerztVor(hasUnit ? text.rfind(" [") : std::string_view::npos, text, room, width);
+}
+
 std::vector<std::string> umgebrochen(std::string_view text, double room, int lines, const Textbreite& width)
 {
     std::vector<std::string> result;

@@ -156,6 +156,18 @@ TEST(KurvenlayoutTest, RoundLabelsHaveTheirPowerOfTenInTheTitle)
     EXPECT_EQ(labels(print).substr(0, 24), "−3.25|−3.00|−2.75|");
     EXPECT_EQ(print.texte.back().text, "R_H [10⁻¹¹ m³/As]");
     EXPECT_TRUE(print.texte.back().senkrecht);
+    bild.rechts = Achse{"Dichte der Legierung [10⁻¹¹ g/cm³]", {0, 10}};
+    const auto titles = [&](double height) {
+        std::string all;
+        for (const Textstelle& t : layOut(bild, 320, height, {.rundeTeilung = true}, masse).texte)
+            all += t.schrift.grad == 0.75 ? t.text + '|' : "";
+        return all;
+    };
+    EXPECT_EQ(titles(160), "Al [at%]|R_H [10⁻¹¹ m³/As]|Dichte der… [10⁻¹¹ g/cm³]|") << "in one size";
+    EXPECT_EQ(titles(60), "") << "a unit is whole or absent";
+    bild.rechts.reset();
+    bild.kurven = {{"Al60Cu40Zn: 9,25·10⁻¹¹ m³", {{1, 1}}, {}, Linienart::Keine, Punktzeichen::Kreis}};
+    EXPECT_EQ(layOut(bild, 200, 330, {.rundeTeilung = true}, masse).texte.front().text, "Al60Cu…: 9,25·10⁻¹¹ m³");
     bild.y.bereich = {2, 2};
     EXPECT_EQ(layOut(bild, 600, 400, {}, masse).ausschnitt.y, (Bereich{1, 3})) << "an empty range";
 }

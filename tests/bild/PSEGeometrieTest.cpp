@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <tuple>
 
-#include "bild/PSEKopf.h"
+#include "bild/Textumbruch.h"
 #include "core/Unbekannt.h"
 
 namespace zerna {
@@ -163,6 +163,7 @@ TEST(PSEGeometrieTest, LongTextsKeepTheirUnit)
     EXPECT_EQ(gekuerztMitEinheit("Dichte [g/cm³]", 20, width), "Dichte [g/cm³]");
     EXPECT_EQ(gekuerztMitEinheit("Größendichte [eV]", 12, width), "Grö… [eV]");
     EXPECT_EQ(gekuerztMitEinheit("Dichte [eV]", 5, width), "");
+    EXPECT_EQ(gekuerztMitEinheit("Volumen [l] (Zahl in m)", 22, width), "Vol… [l] (Zahl in m)");
 }
 
 TEST(PSEGeometrieTest, SymbolsCoverNoLineAndNoOtherSymbol)
