@@ -11,7 +11,7 @@
 /// A diagram of curves over one axis as a value: what is drawn, not how. Texts are UTF-8 and shown as they stand.
 namespace zerna {
 
-enum class Linienart { Keine, Durchgezogen, Gestrichelt, Gepunktet, Strichpunkt };
+enum class Linienart { Keine, Durchgezogen, Gestrichelt, Gepunktet, Strichpunkt, StrichZweipunkt };
 enum class Punktzeichen { Keines, Kreis, Quadrat, Dreieck, Raute };
 
 /// A line through points, signs at them, or both.

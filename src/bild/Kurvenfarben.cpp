@@ -11,13 +11,13 @@ using enum Punktzeichen;
 
 constexpr std::array<Kurvenaussehen, Kurvenfarben> Aussehen{{
     {{0, 0, 255}, Durchgezogen, Kreis},
-    {{200, 80, 0}, Gestrichelt, Quadrat},
-    {{0, 125, 90}, Strichpunkt, Dreieck},
-    {{190, 90, 150}, Gepunktet, Raute},
-    {{40, 140, 200}, Durchgezogen, Quadrat},
-    {{0, 0, 0}, Gestrichelt, Kreis},
+    {{200, 80, 0}, Strichpunkt, Quadrat},
+    {{0, 125, 90}, Gepunktet, Dreieck},
+    {{190, 90, 150}, StrichZweipunkt, Raute},
     {{120, 60, 20}, Strichpunkt, Raute},
-    {{90, 80, 0}, Gepunktet, Dreieck},
+    {{0, 0, 0}, Gepunktet, Kreis},
+    {{90, 80, 0}, StrichZweipunkt, Dreieck},
+    {{40, 140, 200}, Gestrichelt, Quadrat},
 }};
 
 } // namespace

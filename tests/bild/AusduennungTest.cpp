@@ -72,6 +72,9 @@ TEST(KurvenfarbenTest, AnyTwoDifferInDashOrClearlyInLightness)
     const auto light = [](std::size_t i) { return leuchtdichte(kurvenaussehen(i).farbe) + 0.05; };
     for (std::size_t i = 0; i < Kurvenfarben; ++i) {
         EXPECT_GE(1.05 / light(i), Legible) << i;
+        const Linienart linie = kurvenaussehen(i).linie;
+        EXPECT_EQ(linie == Linienart::Durchgezogen, i == 0) << i;
+        EXPECT_EQ(linie == Linienart::Gestrichelt, i == Kurvenfarben - 1) << i << ": the mixture is dashed";
         for (std::size_t k = 0; k < i; ++k) {
             const bool isOther = kurvenaussehen(i).linie != kurvenaussehen(k).linie;
             const double contrast = std::max(light(i), light(k)) / std::min(light(i), light(k));

@@ -65,6 +65,9 @@ QPen penOf(const Kurve& kurve, const Bildstil& stil)
     case Linienart::Strichpunkt:
         dashes({6, 2.5, 1.2, 2.5});
         break;
+    case Linienart::StrichZweipunkt:
+        dashes({6, 2, 1.2, 2, 1.2, 2});
+        break;
     }
     return pen;
 }
