@@ -12,6 +12,7 @@ struct Bildstil {
     double linienbreite = 1.5; ///< of curves, in logical pixels
     bool titel = true; ///< with quantity, component and alloy above the picture
     bool legende = true;
+    bool bildschirm = true; ///< with notes for who is at the screen
 
     bool operator==(const Bildstil&) const = default;
 };

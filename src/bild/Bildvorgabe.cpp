@@ -77,7 +77,8 @@ Bildstil stilNach(const Bildvorgabe& vorgabe)
         .grau = vorgabe.grau,
         .linienbreite = pixelAusPunkt(vorgabe.linienbreite),
         .titel = vorgabe.titel,
-        .legende = vorgabe.legende};
+        .legende = vorgabe.legende,
+        .bildschirm = false};
 }
 
 Bildvorgabe gemerkteBildvorgabe(const Settings& settings)

@@ -34,6 +34,9 @@ struct Bildvorgabe {
 inline constexpr double Einspaltig = 85;
 inline constexpr double Zweispaltig = 175;
 
+/// The least height at which a picture of one column has all its texts, mm.
+inline constexpr double EinspaltigeHoehe = 65;
+
 /// One of the numbers: what it is called, its key among the settings, its unit and its limits.
 struct Bildmass {
     std::string_view name;

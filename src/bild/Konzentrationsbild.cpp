@@ -135,6 +135,7 @@ private:
     Reihe reihe(int groesse, Reihenart art) const { return rechner(groesse, art).reihe(); }
 
     void add(Kurve kurve) { m_result.bild.kurven.push_back(std::move(kurve)); }
+    void sageAmBildschirm(std::string hinweis) { m_result.bild.bildschirmhinweise.push_back(std::move(hinweis)); }
     void sage(std::string hinweis) { m_result.bild.hinweise.push_back(std::move(hinweis)); }
 
     /// The mixture where the given series is another curve.
@@ -180,7 +181,7 @@ private:
                 ++hidden;
         }
         if (hidden > 0)
-            sage(hidden == 1
+            sageAmBildschirm(hidden == 1
                     ? "Eine festgehaltene Kurve zeigt eine andere Größe und ist verborgen."
                     : std::to_string(hidden) + " festgehaltene Kurven zeigen andere Größen und sind verborgen.");
     }
@@ -198,8 +199,8 @@ private:
             ++drawn;
         }
         if (const std::size_t missing = varianten.size() - drawn; missing > 0)
-            sage(missing == 1 ? "Eine Variante ist nicht gezeichnet."
-                              : std::to_string(missing) + " Varianten sind nicht gezeichnet.");
+            sageAmBildschirm(missing == 1 ? "Eine Variante ist nicht gezeichnet."
+                                          : std::to_string(missing) + " Varianten sind nicht gezeichnet.");
     }
 
     std::optional<Reihe> variantenreihe(const Eingabe& eingabe) const

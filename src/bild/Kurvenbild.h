@@ -48,7 +48,8 @@ struct Kurvenbild {
     std::optional<Achse> rechts; ///< a second quantity
     std::vector<Kurve> kurven; ///< drawn in this order
     std::vector<Linienmarke> marken;
-    std::vector<std::string> hinweise; ///< lines under the picture
+    std::vector<std::string> hinweise; ///< lines under the picture, with the legend
+    std::vector<std::string> bildschirmhinweise; ///< more of them that leave the screen with no picture
 };
 
 } // namespace zerna

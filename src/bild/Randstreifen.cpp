@@ -54,6 +54,18 @@ std::vector<Legendenzeile> legendRows(const Kurvenbild& bild, double room, const
     return rows;
 }
 
+/// What the strips leave to plot and labels: in a figure the plot has two fifths of the height or nearly.
+double heightOfAxes(double height, double line, const Bildstil& stil)
+{
+    constexpr double ShareOfAxes = 0.6;
+    constexpr double LinesOfAxes = 8;
+    constexpr double ShareInFigure = 0.37;
+    constexpr double LinesInFigure = 5;
+    if (!stil.rundeTeilung)
+        return std::max(ShareOfAxes * height, LinesOfAxes * line);
+    return std::max(ShareInFigure * height, LinesInFigure * line) + 1.5 * line + TickLength + LabelGap;
+}
+
 /// The strips while they are chosen, the most important first.
 class Auswahl {
 public:
@@ -67,8 +79,9 @@ private:
     double blockHeight(std::size_t lines) const;
     template <class Rows>
     Rows taken(Rows rows);
+    Zeilen wrapped(const std::string& text, const Textbreite& width);
     Zeilen sideTitles() const;
-    Zeilen notes() const;
+    Zeilen notes(const Bildstil& stil) const;
     double placeLines(Randstreifen& rand, double top, const Zeilen& lines, const Schrift& schrift = {}) const;
     void placeSideTitles(Randstreifen& rand, double top) const;
     void placeXTitle(Randstreifen& rand, double top) const;
@@ -96,22 +109,19 @@ Auswahl::Auswahl(const Kurvenbild& bild, const Bereich& x, double width, double 
     , m_room(width - 2 * LabelColumn)
     , m_masse(masse({}))
 {
-    constexpr double ShareOfAxes = 0.6;
-    constexpr double LinesOfAxes = 8;
-    constexpr int TitleLines = 2;
-    m_left = height - std::max(ShareOfAxes * height, LinesOfAxes * m_masse.height) - BlockGap * m_masse.height;
+    m_left = height - heightOfAxes(height, m_masse.height, stil) - BlockGap * m_masse.height;
     if (stil.titel)
-        m_title = taken(umgebrochen(bild.titel, m_room, TitleLines, masse(Titelschrift).width));
-    if (stil.legende)
-        m_legend = taken(legendRows(bild, m_room, m_masse.width));
+        m_title = wrapped(bild.titel, masse(Titelschrift).width);
     const int zehner = stil.rundeTeilung ? rundteilung(x, 2).zehner : 0;
     const std::string xTitle = gekuerztMitEinheit(titelMitZehner(bild.x.titel, zehner), m_room, m_masse.width);
     m_xTitle = taken(xTitle.empty() ? Zeilen() : Zeilen{xTitle});
-    m_notes = taken(notes());
+    if (stil.legende)
+        m_legend = taken(legendRows(bild, m_room, m_masse.width));
     if (!stil.rundeTeilung)
         m_sideTitles = taken(sideTitles());
     if (stil.titel)
-        m_alloy = taken(umgebrochen(bild.untertitel, m_room, TitleLines, m_masse.width));
+        m_alloy = wrapped(bild.untertitel, m_masse.width);
+    m_notes = taken(notes(stil));
 }
 
 /// A block stands a little off its neighbour.
@@ -130,6 +140,13 @@ Rows Auswahl::taken(Rows rows)
     return rows;
 }
 
+/// In at most two lines, the last one shortened where there is no room for more.
+Auswahl::Zeilen Auswahl::wrapped(const std::string& text, const Textbreite& width)
+{
+    const int lines = blockHeight(2) <= m_left ? 2 : 1;
+    return taken(umgebrochen(text, m_room, lines, width));
+}
+
 /// What the title says already is not said again.
 Auswahl::Zeilen Auswahl::sideTitles() const
 {
@@ -139,12 +156,18 @@ Auswahl::Zeilen Auswahl::sideTitles() const
     return (left.empty() && right.empty()) || isSaid ? Zeilen() : Zeilen{left};
 }
 
-Auswahl::Zeilen Auswahl::notes() const
+Auswahl::Zeilen Auswahl::notes(const Bildstil& stil) const
 {
     constexpr int LinesPerNote = 3;
     Zeilen lines;
-    for (const std::string& hinweis : m_bild.hinweise)
-        std::ranges::move(umgebrochen(hinweis, m_room, LinesPerNote, m_masse.width), std::back_inserter(lines));
+    const auto add = [&](const std::vector<std::string>& hinweise) {
+        for (const std::string& hinweis : hinweise)
+            std::ranges::move(umgebrochen(hinweis, m_room, LinesPerNote, m_masse.width), std::back_inserter(lines));
+    };
+    if (stil.legende)
+        add(m_bild.hinweise);
+    if (stil.bildschirm)
+        add(m_bild.bildschirmhinweise);
     return lines;
 }
 

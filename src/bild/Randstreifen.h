@@ -35,8 +35,9 @@ struct Randstreifen {
     std::vector<Linienprobe> legende;
 };
 
-/// Strips for which there is no room are left out, so that most of the height stays with the axes: the alloy goes
-/// first, then the titles of upright axes, the notes, the title of the lower axis, the legend, the title.
+/// Strips for which there is no room are left out, so that most of the height stays with the axes (in a figure nearly
+/// two fifths of it with the plot): the notes go first, then the alloy, the titles of upright axes, the legend, the
+/// title of the lower axis, the title.
 Randstreifen randstreifen(const Kurvenbild& bild, const Bereich& x, double width, double height, const Bildstil& stil,
     const Schriftmasse& masse);
 

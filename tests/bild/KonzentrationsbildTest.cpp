@@ -136,8 +136,8 @@ TEST_F(KonzentrationsbildTest, OtherCurvesAreDrawnWhereTheyHaveTheQuantity)
     ASSERT_TRUE(find(both, "Al60Cu40 über Al"));
     EXPECT_EQ(find(both, "Al60Cu40 über Al")->punkte[60].y, kept.werte[60]);
     EXPECT_TRUE(find(both, "Al10Cu90"));
-    EXPECT_EQ(both.hinweise[1], "Eine festgehaltene Kurve zeigt eine andere Größe und ist verborgen.");
-    EXPECT_EQ(both.hinweise[2], "2 Varianten sind nicht gezeichnet.");
+    EXPECT_EQ(both.bildschirmhinweise[0], "Eine festgehaltene Kurve zeigt eine andere Größe und ist verborgen.");
+    EXPECT_EQ(both.bildschirmhinweise[1], "2 Varianten sind nicht gezeichnet.");
 
     wahl.zweiteGroesse = 0;
     const Kurvenbild second = bild(8, {curves, {}}).bild;

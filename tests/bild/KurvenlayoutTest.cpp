@@ -116,6 +116,30 @@ TEST(KurvenlayoutTest, NoSizeIsTooSmall)
     }
 }
 
+TEST(KurvenlayoutTest, AFigureOfOneColumnHasAllItsTexts)
+{
+    Kurvenbild bild = vollesBild(1);
+    bild.kurven.resize(3);
+    bild.hinweise = {"Warum."};
+    bild.bildschirmhinweise = {"Verborgen."};
+    const auto texts = [&](const Bildstil& stil, double height) {
+        std::string all;
+        const Kurvenlayout layout = layOut(bild, 321, height, stil, masse);
+        EXPECT_GE(layout.plot.height, 0.37 * height - 1);
+        for (const Textstelle& t : layout.texte)
+            all += t.text + '|';
+        return all;
+    };
+    Bildstil figure{.rundeTeilung = true, .bildschirm = false};
+    for (const char* const text : {"Größe [m³/As] über", "Al 60 at%", "Al [at%]", "Namen 2", "Dichte [g/cm³]"})
+        EXPECT_NE(texts(figure, 270).find(text), std::string::npos) << text;
+    EXPECT_NE(texts(figure, 600).find("Warum."), std::string::npos);
+    EXPECT_EQ(texts(figure, 600).find("Verborgen."), std::string::npos) << "on the screen only";
+    figure.legende = false;
+    EXPECT_EQ(texts(figure, 600).find("Warum."), std::string::npos) << "explains the legend";
+    EXPECT_NE(texts({}, 600).find("Verborgen."), std::string::npos);
+}
+
 TEST(KurvenlayoutTest, AxesKeepTheGivenPlacesInsideTheStrips)
 {
     const Kurvenlayout alone = layOut(achsenbild({"", {0, 100}}, {"", {0, 1}}), 460, 330, {}, masse);

@@ -16,9 +16,10 @@ namespace {
 
 constexpr double PaperRatio = 3; // of what paper holds as images
 
-Leinwand withRatio(Leinwand leinwand, double devicePixelRatio)
+Leinwand onPaper(Leinwand leinwand)
 {
-    leinwand.devicePixelRatio = devicePixelRatio;
+    leinwand.devicePixelRatio = PaperRatio;
+    leinwand.stil.bildschirm = false;
     return leinwand;
 }
 
@@ -47,7 +48,7 @@ void paintPage(QPrinter& printer, const Bildmaler& maler, const Leinwand& leinwa
     const double scale = std::min(room.width() / size.width(), room.height() / size.height());
     painter.translate((room.width() - scale * size.width()) / 2, 0);
     painter.scale(scale, scale);
-    maler(painter, withRatio(leinwand, PaperRatio));
+    maler(painter, onPaper(leinwand));
 }
 
 } // namespace

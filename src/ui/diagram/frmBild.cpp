@@ -229,7 +229,8 @@ void frmBild::waehleBreite(int index)
         return;
     }
     const double breite = Spalten.at(static_cast<std::size_t>(index));
-    const double hoehe = std::round(m_vorgabe.hoehe / m_vorgabe.breite * breite);
+    const double sameShape = std::round(m_vorgabe.hoehe / m_vorgabe.breite * breite);
+    const double hoehe = breite == Einspaltig ? std::max(EinspaltigeHoehe, sameShape) : sameShape;
     m_txtMass[Breite]->setWert(number(breite), false);
     m_txtMass[Hoehe]->setWert(number(hoehe), false);
     geaendert();

@@ -88,7 +88,7 @@ TEST_F(frmBildTest, PreviewShowsWhatIsChosenInItsProportions)
     widths.setFocus();
     QTest::keyClick(&widths, Qt::Key_Up);
     EXPECT_EQ(find<QLineEdit>("txtBreite").text(), "85");
-    EXPECT_EQ(find<QLineEdit>("txtHoehe").text(), "56") << "in proportion";
+    EXPECT_EQ(find<QLineEdit>("txtHoehe").text(), "65") << "not so low that texts would be missing";
     type("txtHoehe", "100");
     EXPECT_EQ(widths.currentIndex(), 0);
     type("txtBreite", "50");
@@ -99,7 +99,7 @@ TEST_F(frmBildTest, PreviewShowsWhatIsChosenInItsProportions)
         QTest::keyClick(&find<QWidget>(box), Qt::Key_Space);
     QTest::keyClick(&find<QComboBox>("cmbDezimal"), Qt::Key_Down);
     preview.grab();
-    EXPECT_EQ(painted.stil, (Bildstil{false, Dezimaltrenner::Punkt, true, 4.0 / 3, false, false}));
+    EXPECT_EQ(painted.stil, (Bildstil{false, Dezimaltrenner::Punkt, true, 4.0 / 3, false, false, false}));
     EXPECT_EQ(painted.size, QSize(188, 377)) << "50 and 100 mm";
 }
 

@@ -104,7 +104,7 @@ TEST_F(KurvenmenueTest, UpToSixCurvesAreKeptWithTheDocument)
     EXPECT_EQ(programm->Dokument().kurven->size(), 5U);
     EXPECT_NE(names().find("|Al50Cu50 über Al|"), std::string::npos) << names();
     choose("cmbDiagramm", "Valenz");
-    EXPECT_NE(bild().hinweise.back().find("5 festgehaltene Kurven"), std::string::npos);
+    EXPECT_NE(bild().bildschirmhinweise.back().find("5 festgehaltene Kurven"), std::string::npos);
 }
 
 TEST_F(KurvenmenueTest, VariantsAndASecondQuantityAreDrawnOnDemand)
