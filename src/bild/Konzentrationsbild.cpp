@@ -134,7 +134,13 @@ private:
 
     Reihe reihe(int groesse, Reihenart art) const { return rechner(groesse, art).reihe(); }
 
-    void add(Kurve kurve) { m_result.bild.kurven.push_back(std::move(kurve)); }
+    /// Each curve is a series of its own.
+    void add(Kurve kurve)
+    {
+        kurve.reihe = static_cast<int>(m_result.bild.kurven.size());
+        m_result.bild.kurven.push_back(std::move(kurve));
+    }
+
     void sageAmBildschirm(std::string hinweis) { m_result.bild.bildschirmhinweise.push_back(std::move(hinweis)); }
     void sage(std::string hinweis) { m_result.bild.hinweise.push_back(std::move(hinweis)); }
 
@@ -167,6 +173,7 @@ private:
         m_result.bild.rechts->rund = true;
         add({std::string(zweite->name) + " (rechte Achse)", punkte(*werte), Zweitfarbe, Linienart::Strichpunkt,
             Punktzeichen::Keines, true});
+        m_result.bild.kurven.back().reihe = m_result.bild.kurven.front().reihe;
     }
 
     void addGehaltene(std::span<const GehalteneKurve> kurven)

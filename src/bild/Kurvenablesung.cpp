@@ -32,12 +32,13 @@ const Achse& axisOf(const Kurvenbild& bild, const Kurve& kurve)
     return kurve.rechts && bild.rechts ? *bild.rechts : bild.y;
 }
 
-/// The value of the other quantity at x, of its first curve that has one.
+/// The value of the other quantity at x, of the first curve of the same series that has one.
 std::string otherQuantity(const Kurvenbild& bild, const Kurvenpunkt& punkt)
 {
+    const Kurve& own = bild.kurven[punkt.kurve];
     for (const Kurve& kurve : bild.kurven) {
         const double wert = wertBei(kurve.punkte, punkt.x);
-        if (kurve.rechts == bild.kurven[punkt.kurve].rechts || !std::isfinite(wert))
+        if (kurve.reihe != own.reihe || kurve.rechts == own.rechts || !std::isfinite(wert))
             continue;
         return "; " + kurve.name + (kurve.name.empty() ? "" : ": ") + gelesenerWert(wert, axisOf(bild, kurve).einheit);
     }

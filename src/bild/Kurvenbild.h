@@ -22,6 +22,7 @@ struct Kurve {
     Linienart linie = Linienart::Durchgezogen;
     Punktzeichen zeichen = Punktzeichen::Keines;
     bool rechts = false; ///< measured on the right axis
+    int reihe = 0; ///< curves of one series are read out together
 };
 
 /// A line across the plot at one value of x, such as 2kF over a structure factor or an answer of the search.

@@ -145,6 +145,8 @@ TEST_F(KonzentrationsbildTest, OtherCurvesAreDrawnWhereTheyHaveTheQuantity)
     EXPECT_EQ(second.rechts->titel, "Valenz [e/a]");
     EXPECT_EQ(std::ranges::count_if(second.kurven, &Kurve::rechts), 2) << names(second);
     for (const Kurve& kurve : second.kurven) {
+        const bool isGiven = &kurve == second.kurven.data() || kurve.name.starts_with("Valenz");
+        EXPECT_EQ(kurve.reihe == second.kurven.front().reihe, isGiven) << kurve.name;
         const Bereich range = second.rechts->bereich;
         EXPECT_TRUE(!kurve.rechts || (kurve.punkte[50].y > range.min && kurve.punkte[50].y < range.max)) << kurve.name;
     }

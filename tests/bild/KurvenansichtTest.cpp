@@ -60,6 +60,8 @@ TEST(KurvenablesungTest, TheNearestCurveIsReadOutWithItsValueThere)
         EXPECT_EQ(ablesung(bild, *punkt, {0, 100}), row.text);
     }
     Kurvenbild single = bild;
+    single.kurven[0].reihe = 1;
+    EXPECT_EQ(ablesung(single, {0, 20, 0}, {0, 100}), "EF: 20,00 at% Al - 0 eV") << "the density is another series'";
     single.rechts.reset();
     single.kurven.resize(1);
     const auto inGap = punktBei(single, layout, layout.links.punkt(50, 5));
