@@ -182,10 +182,15 @@ private:
         for (const GehalteneKurve& kurve : kurven) {
             const bool isRight = m_result.bild.rechts && kurve.groesse == m_wahl.zweiteGroesse;
             const Kurvenaussehen look = kurvenaussehen(++m_looks);
-            if (isRight || kurve.groesse == m_groesse.kennzahl)
-                add({kurvenname(kurve), punkte(kurve.werte), look.farbe, look.linie, Punktzeichen::Keines, isRight});
-            else
+            if (!isRight && kurve.groesse != m_groesse.kennzahl) {
                 ++hidden;
+                continue;
+            }
+            add({kurvenname(kurve), punkte(kurve.werte), look.farbe, look.linie, Punktzeichen::Keines, isRight});
+            if (kurve.symbol != m_symbol) {
+                m_result.bild.kurven.back().einheit = "at% " + kurve.symbol;
+                m_result.bild.x.titel = "at%"; // of whichever component
+            }
         }
         if (hidden > 0)
             sageAmBildschirm(hidden == 1

@@ -118,7 +118,8 @@ std::string ablesung(const Kurvenbild& bild, const Kurvenpunkt& punkt, const Ber
     const Kurve& kurve = bild.kurven.at(punkt.kurve);
     const bool areSeveral = std::ranges::count_if(bild.kurven, [](const Kurve& k) { return !k.name.empty(); }) > 1;
     const std::string name = areSeveral && !kurve.name.empty() ? kurzname(kurve) + ": " : "";
-    return name + fixedText(punkt.x, decimalsOf(x)) + ' ' + bild.x.einheit + " - "
+    const std::string& einheit = kurve.einheit.empty() ? bild.x.einheit : kurve.einheit;
+    return name + fixedText(punkt.x, decimalsOf(x)) + ' ' + einheit + " - "
         + gelesenerWert(punkt.y, axisOf(bild, kurve).einheit) + otherQuantity(bild, punkt);
 }
 

@@ -23,8 +23,8 @@ double wertBei(std::span<const Punkt> punkte, double x);
 /// The place that a position on the plot means: the value of the nearest line at that x, or a sign close by.
 std::optional<Kurvenpunkt> punktBei(const Kurvenbild& bild, const Kurvenlayout& layout, const Punkt& position);
 
-/// "42,50 at% Al - 9,48 eV" with the units of the axes; with several named curves its name comes first, and the value
-/// of a second quantity of the same series follows.
+/// "42,50 at% Al - 9,48 eV" with the units of the axes or of the curve; with several named curves its name comes first,
+/// and the value of a second quantity of the same series follows.
 std::string ablesung(const Kurvenbild& bild, const Kurvenpunkt& punkt, const Bereich& x);
 
 /// Where a step along a curve leads: `steps` points on, each at least a pixel away and not in a gap.

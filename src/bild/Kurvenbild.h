@@ -23,6 +23,7 @@ struct Kurve {
     Punktzeichen zeichen = Punktzeichen::Keines;
     bool rechts = false; ///< measured on the right axis
     int reihe = 0; ///< curves of one series are read out together
+    std::string einheit = {}; ///< of x where it is not that of the axis: "at% Mg"
 };
 
 /// A line across the plot at one value of x, such as 2kF over a structure factor or an answer of the search.

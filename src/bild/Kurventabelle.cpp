@@ -4,6 +4,17 @@
 
 namespace zerna {
 
+namespace {
+
+/// Where curves run over different components, each says which is its own.
+std::string spaltenname(const Kurvenbild& bild, const Kurve& kurve)
+{
+    const bool isSaid = bild.x.titel == bild.x.einheit || !kurve.einheit.empty();
+    return kurve.name + (isSaid ? "" : " (" + bild.x.einheit + ')');
+}
+
+} // namespace
+
 Tabelle kurventabelle(const Kurvenbild& bild, Dezimaltrenner trenner)
 {
     Tabelle tabelle{{{bild.x.titel, true}}, {}};
@@ -13,7 +24,7 @@ Tabelle kurventabelle(const Kurvenbild& bild, Dezimaltrenner trenner)
         if (kurve.linie == Linienart::Keine)
             continue;
         const Achse& achse = kurve.rechts && bild.rechts ? *bild.rechts : bild.y;
-        tabelle.spalten.push_back({kurve.name + " [" + achse.einheit + ']', true});
+        tabelle.spalten.push_back({spaltenname(bild, kurve) + " [" + achse.einheit + ']', true});
         for (std::size_t i = 0; i < tabelle.zeilen.size(); ++i) {
             const double y = i < kurve.punkte.size() ? kurve.punkte[i].y : NAN;
             tabelle.zeilen[i].push_back(std::isnan(y) ? "" : textOfSingle(static_cast<float>(y), trenner));

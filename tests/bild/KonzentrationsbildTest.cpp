@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "bild/Konzentrationstexte.h"
+#include "bild/Kurvenablesung.h"
+#include "bild/Kurventabelle.h"
 #include "model/EingabeFixture.h"
 #include "model/Varianten.h"
 
@@ -151,6 +153,22 @@ TEST_F(KonzentrationsbildTest, OtherCurvesAreDrawnWhereTheyHaveTheQuantity)
         EXPECT_TRUE(!kurve.rechts || (kurve.punkte[50].y > range.min && kurve.punkte[50].y < range.max)) << kurve.name;
     }
     EXPECT_FALSE(bild(0).bild.rechts) << "the same quantity twice";
+}
+
+TEST_F(KonzentrationsbildTest, EachCurveSaysItsOwnComponent)
+{
+    std::array curves{gehalteneKurve(bild(8), eingabe, wahl, schalter)};
+    EXPECT_EQ(bild(8, {curves, {}}).bild.x.titel, "at% Al");
+    curves[0].symbol = "Mg";
+    const Kurvenbild both = bild(8, {curves, {}}).bild;
+    EXPECT_TRUE(ablesung(both, {2, 10, 1}, {0, 100}).starts_with("Al60Cu40 über Mg: 10,00 at% Mg - "));
+    EXPECT_TRUE(ablesung(both, {0, 10, 1}, {0, 100}).starts_with("Anteile wie eingetragen: 10,00 at% Al - "));
+    EXPECT_EQ(both.x.titel, "at%");
+    const Tabelle table = kurventabelle(both, Dezimaltrenner::Komma);
+    EXPECT_EQ(table.spalten[0].name, "at%");
+    EXPECT_EQ(table.spalten[1].name, "Anteile wie eingetragen (at% Al) [eV]");
+    EXPECT_EQ(table.spalten[3].name, "Al60Cu40 über Mg [eV]");
+    EXPECT_EQ(bild(0, {curves, {}}).bild.x.titel, "at% Al") << "the kept curve is hidden";
 }
 
 } // namespace zerna
