@@ -17,12 +17,28 @@ std::size_t previous(std::string_view text, std::size_t end)
     return end;
 }
 
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+bool isUnit(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '%'; }
+
+/// Where the next line may begin: "Al: 2,7 g/cm³" and "z = 1" stay whole.
+std::size_t nextBlank(std::string_view text, std::size_t from)
+{
+    for (std::size_t i = text.find(' ', from); i < text.size(); i = text.find(' ', i + 1)) {
+        const char before = i > 0 ? text[i - 1] : ' ';
+        const char behind = i + 1 < text.size() ? text[i + 1] : ' ';
+        const bool isWithin = (isDigit(before) && isUnit(behind)) || (before == ':' && isDigit(behind));
+        if (!isWithin && before != '=' && behind != '=')
+            return i;
+    }
+    return text.size();
+}
+
 /// How many bytes of the text are a line of their own: up to the last blank that lets it fit, or up to the first one.
 std::size_t lineLength(std::string_view text, double room, const Textbreite& width)
 {
-    std::size_t length = std::min(text.find(' '), text.size());
+    std::size_t length = nextBlank(text, 0);
     while (length < text.size()) {
-        const std::size_t next = std::min(text.find(' ', length + 1), text.size());
+        const std::size_t next = nextBlank(text, length + 1);
         if (width(text.substr(0, next)) > room)
             break;
         length = next;

@@ -20,7 +20,7 @@ std::string gekuerztVor(std::size_t end, std::string_view text, double room, con
 /// A title, shortened in front of its unit in brackets and what is said about its numbers: "Fermien… [eV]".
 std::string gekuerztMitEinheit(std::string_view text, double room, const Textbreite& width);
 
-/// The text broken at blanks into at most `lines` lines, the last one shortened.
+/// The text broken at blanks into at most `lines` lines, the last one shortened. Numbers keep names and units.
 std::vector<std::string> umgebrochen(std::string_view text, double room, int lines, const Textbreite& width);
 
 } // namespace zerna

@@ -99,6 +99,7 @@ TEST(TextumbruchTest, LinesBreakAtBlanksAndTheLastIsShortened)
     EXPECT_EQ(lines("Größe über Öl und Fett", 7, 2), "Größe|über Ö…|");
     EXPECT_EQ(lines("Höhenmessung", 5, 3), "Höhe…|");
     EXPECT_EQ(lines("weit", 1, 1), "");
+    EXPECT_EQ(lines("Al; Mg: 1,584 g/cm³, z = 2; Cu", 17, 9), "Al;|Mg: 1,584 g/cm³,|z = 2; Cu|") << "units stay";
 }
 
 } // namespace zerna
