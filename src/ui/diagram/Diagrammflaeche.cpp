@@ -50,6 +50,15 @@ void Diagrammflaeche::showDiagramm(Diagramm& diagramm, Qt::FocusPolicy focus)
     update();
 }
 
+/// Keys undo what the mouse has done; views of the ternary diagram are undone like input.
+void Diagrammflaeche::takeFocus()
+{
+    if (m_display->isVisible())
+        m_display->setFocus(Qt::MouseFocusReason);
+    else if (m_diagramm != &m_ternaer)
+        setFocus(Qt::MouseFocusReason);
+}
+
 /// After a change of how the diagram is looked at.
 void Diagrammflaeche::updateDiagramm()
 {
@@ -264,6 +273,7 @@ void Diagrammflaeche::mouseMoveEvent(QMouseEvent* event)
     m_lastPosition = event->position();
     m_dragging = m_dragging && event->buttons().testFlag(Qt::LeftButton);
     if (m_dragging && m_diagramm->draggedTo(event->position(), way, leinwand())) {
+        takeFocus();
         updateDiagramm();
         nenneAnsicht(QStringLiteral("Maus %1").arg(m_drags));
         return;
@@ -285,6 +295,7 @@ void Diagrammflaeche::wheelEvent(QWheelEvent* event)
     if (!m_diagramm->wheelTurnedAt(event->position(), event->angleDelta().y() / Notch, leinwand()))
         return QWidget::wheelEvent(event);
     event->accept();
+    takeFocus();
     updateDiagramm();
     nenneAnsicht(QStringLiteral("Rad"));
 }

@@ -98,6 +98,7 @@ private:
     Leinwand leinwand() const { return leinwandOf(*this); }
     void showDiagramm(Diagramm& diagramm, Qt::FocusPolicy focus);
     void placeDisplay();
+    void takeFocus();
     void updateDiagramm();
     void addCommands(QMenu& menu);
     void addOutputs(QMenu& menu);

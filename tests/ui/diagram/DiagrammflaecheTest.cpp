@@ -119,6 +119,21 @@ TEST_F(DiagrammflaecheTest, WheelBandAndKeysZoomAndLeadBack)
     }
 }
 
+TEST_F(DiagrammflaecheTest, WheelAndBandBringTheKeysThatUndoThem)
+{
+    auto& pic = find("pic");
+    const auto hasFocus = [&](auto&& zoom) {
+        find("txtProzent_0").setFocus();
+        zoom();
+        return window->focusWidget() == &display();
+    };
+    EXPECT_TRUE(hasFocus([&] { turnWheel(pic.rect().center(), 1); }));
+    EXPECT_TRUE(hasFocus([&] {
+        QTest::mousePress(&flaeche(), Qt::LeftButton, {}, pic.mapTo(&flaeche(), QPoint(50, 50)));
+        moveMouse(flaeche(), pic.mapTo(&flaeche(), QPoint(90, 90)), Qt::LeftButton);
+    }));
+}
+
 TEST_F(DiagrammflaecheTest, ZoomStaysWithOtherValuesAndGoesWithAnotherPicture)
 {
     const auto& pic = find("pic");
