@@ -1,9 +1,11 @@
 #include "model/Anteilsuebernahme.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numeric>
 #include <vector>
 
+#include "core/CheckedArithmetic.h"
 #include "core/Zahlentext.h"
 #include "model/Drittelement.h"
 
@@ -41,6 +43,27 @@ Eingabe mitAnteilen(Eingabe eingabe, std::span<const double> prozente)
     return eingabe;
 }
 
+/// With the greatest row above the balance row chosen so that what is left for that one comes nearest to `rest`: the
+/// rows are summed up in single precision.
+static Eingabe mitRest(const Eingabe& eingabe, int greatest, double rest)
+{
+    const int last = eingabe.anzahl() - 1;
+    const auto deviation = [&](const Eingabe& e) { return std::abs(e.prozentInKraft(last).wert - toSingle(rest)); };
+    const double middle = eingabe.prozentInKraft(greatest).wert - rest + eingabe.prozentInKraft(last).wert;
+    Eingabe best = eingabe;
+    for (const double step : {1e-5, 1e-6}) {
+        for (int i = 0; i <= 20 && deviation(best) > 0; ++i) {
+            const int offset = i % 2 == 0 ? i / 2 : -(i + 1) / 2; // 0, -1, 1, -2, …
+            Eingabe other = eingabe;
+            const double part = (std::round(middle / step) + offset) * step;
+            other.setProzent(greatest, textWithDigits(part, 8));
+            if (deviation(other) < deviation(best))
+                best = std::move(other);
+        }
+    }
+    return best;
+}
+
 Eingabe mitElement(Eingabe eingabe, std::string_view key, double prozent)
 {
     const Legierung before = eingabe.legierung().value();
@@ -51,7 +74,13 @@ Eingabe mitElement(Eingabe eingabe, std::string_view key, double prozent)
     const int row = eingabe.anzahl();
     eingabe.setAnzahl(row + 1);
     eingabe.waehleElement(row, key);
-    return mitAnteilen(std::move(eingabe), parts);
+    const auto greatest = std::max_element(parts.begin(), parts.end() - 1) - parts.begin();
+    const Anteilseinheit einheit = eingabe.einheit();
+    Eingabe result = mitAnteilen(std::move(eingabe), parts);
+    result.setEinheit(Anteilseinheit::Atom);
+    result = mitRest(result, static_cast<int>(greatest), prozent);
+    result.setEinheit(einheit);
+    return result;
 }
 
 } // namespace zerna

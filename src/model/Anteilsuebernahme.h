@@ -20,7 +20,8 @@ std::string uebernahmesatz(const Anteilsfrage& frage, std::span<const double> pr
 /// The alloy with these at%, one per row in use. The unit in which parts are typed stays.
 Eingabe mitAnteilen(Eingabe eingabe, std::span<const double> prozente);
 
-/// The alloy with another element at `prozent` at% in a row of its own, the last one; the others keep their ratio.
+/// The alloy with another element at `prozent` at% in a row of its own, the last one; the others keep their ratio
+/// but for the rounding, which the greatest of them takes.
 /// Error 9 without room for a row, error 11 for at% that sum up to 0. The alloy has to be complete.
 Eingabe mitElement(Eingabe eingabe, std::string_view key, double prozent);
 

@@ -1,5 +1,7 @@
 #include "model/Anteilsuebernahme.h"
 
+#include <random>
+
 #include "model/Anteilssuche.h"
 #include "model/Drittelement.h"
 #include "model/EingabeFixture.h"
@@ -67,6 +69,13 @@ TEST_F(AnteilsuebernahmeTest, AnElementGetsARowAsTheRankingHasIt)
     EXPECT_EQ(taken.prozentInKraft(1).text, "37");
     EXPECT_EQ(taken.prozentInKraft(2).text, "7,5");
     EXPECT_FLOAT_EQ(ergebnis(calc, taken, 8), best.wert);
+    std::mt19937 random(7);
+    for (int i = 0; i < 100; ++i) {
+        eingabe.setProzent(0, textWithDigits(std::uniform_real_distribution<float>(0, 100)(random), 7));
+        for (const float prozent : {10.0F, 7.5F, 40.0F, 75.0F})
+            EXPECT_EQ(mitElement(eingabe, "Mg", prozent).prozentInKraft(2).wert, prozent)
+                << eingabe.prozentInKraft(0).text;
+    }
     eingabe.setAnzahl(5);
     for (int row = 2; row < 5; ++row)
         eingabe.waehleElement(row, "Mg");
