@@ -62,6 +62,19 @@ double anteil(const Nullstelle& stelle, const Funktion& f, double ziel)
     return rundeste(best, Decimals).value_or(best.mitte());
 }
 
+/// The place of the nearest value, as round as single precision lets it be: rounding makes it fall beside the end.
+Loesung naechste(double x, const Reihenwert& wert, double ziel)
+{
+    const float found = wert(x);
+    for (int decimals = 4; decimals <= 6; ++decimals) {
+        const double round = gerundet(x, decimals);
+        const float value = wert(round);
+        if (!istUnbekannt(value) && std::abs(value - ziel) <= std::abs(found - ziel) + 8 * Stelle * std::abs(found))
+            return {round, value};
+    }
+    return {x, found};
+}
+
 } // namespace
 
 /// What rounding to singles makes of a value stays within eight units of the last place; a root is the middle of the
@@ -82,7 +95,7 @@ Zielantwort sucheZiel(const Reihenwert& wert, double ziel)
             antwort.loesungen.push_back({prozent, wert(prozent)});
     }
     if (found.stellen.empty() && found.naechste)
-        antwort.naechste = {found.naechste->x, wert(found.naechste->x)};
+        antwort.naechste = naechste(found.naechste->x, wert, ziel);
     return antwort;
 }
 

@@ -4,6 +4,7 @@
 #include <random>
 #include <tuple>
 
+#include "model/Komposition.h"
 #include "support/RechnerTest.h"
 
 namespace zerna {
@@ -88,6 +89,18 @@ TEST_F(AnteilssucheTest, SaysWhyThereIsNothingToList)
         "Keine Zusammensetzung hat 12 eV. Am nächsten kommt 10,70927 eV bei 33,33333 at% Al.");
     EXPECT_EQ(antwortsatz({}, frage, "Al"), "Die Größe hat bei keiner Zusammensetzung einen Wert.");
     EXPECT_EQ(antwortsatz({{{50, 12}}, false, {}}, frage, "Al"), "");
+}
+
+TEST_F(AnteilssucheTest, TheEndIsTheNearestThoughRoundingFavoursAPlaceBesideIt)
+{
+    std::vector<Legierungskomponente> alloy;
+    for (const auto& [symbol, prozent] : {std::pair("Al", 40.0F), {"Cu", 35}, {"Mg", 25}}) {
+        const auto& element = elements.Item(symbol);
+        alloy.push_back({element, prozent, dichteFor(*element, dichteauswahl(*element).front()), element->Valenz()});
+    }
+    alloy.front().dichte = 2.7F;
+    const Zielantwort antwort = sucheAnteil(calc, alloy, {5, -2e-10F, 0, Reihenart::Summe100});
+    EXPECT_EQ(antwort.naechste.value().prozent, 0);
 }
 
 TEST_F(AnteilssucheTest, AnAnswerMeansTheCompositionThatHasTheValue)
