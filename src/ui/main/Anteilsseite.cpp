@@ -55,7 +55,10 @@ void Anteilsseite::layOut()
 {
     auto* const form = new QFormLayout;
     form->addRow(QStringLiteral("Gesucht ist der Anteil &von:"), m_cmbKomponente);
-    form->addRow(m_chkMischungsreihe);
+    auto* const series = new QHBoxLayout;
+    series->addWidget(m_chkMischungsreihe);
+    series->addStretch();
+    form->addRow(series);
     auto* const column = new QVBoxLayout(this);
     column->setSpacing(8);
     column->addLayout(form);

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QSignalBlocker>
 
+#include <algorithm>
 #include <utility>
 
 #include "ui/platform/Schriftfolge.h"
@@ -14,10 +15,11 @@ Suchliste::Suchliste(QWidget* parent)
     : Wertetafel(parent)
 {
     setAlternatingRowColors(true);
-    horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     folgeSchrift(this, [this] {
         verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
         setMinimumHeight(5 * (fontMetrics().height() + 6));
+        verteile();
     });
     connect(this, &QTableWidget::currentCellChanged, this, &Suchliste::gewaehltChanged);
     connect(this, &QTableWidget::cellDoubleClicked, this, &Suchliste::uebernehmen);
@@ -31,8 +33,31 @@ void Suchliste::zeige(Tabelle tabelle)
         Wertetafel::zeige(std::move(tabelle));
         if (rowCount() > 0)
             setCurrentCell(qBound(0, current, rowCount() - 1), 0);
+        verteile();
     }
     emit gewaehltChanged();
+}
+
+/// Each column has room for its whole numbers; what is left over goes to those in equal parts.
+void Suchliste::verteile()
+{
+    resizeColumnsToContents();
+    const int left = viewport()->width() - horizontalHeader()->length();
+    const auto isZahl = [](const Tabelle::Spalte& spalte) { return spalte.istZahl; };
+    const auto count = static_cast<int>(std::ranges::count_if(tabelle().spalten, isZahl));
+    for (int column = columnCount() - 1, rest = left, open = count; column >= 0 && open > 0 && rest > 0; --column) {
+        if (!isZahl(tabelle().spalten.at(static_cast<std::size_t>(column))))
+            continue;
+        const int share = rest / open--;
+        setColumnWidth(column, columnWidth(column) + share);
+        rest -= share;
+    }
+}
+
+void Suchliste::resizeEvent(QResizeEvent* event)
+{
+    Wertetafel::resizeEvent(event);
+    verteile();
 }
 
 void Suchliste::keyPressEvent(QKeyEvent* event)

@@ -23,6 +23,10 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void verteile();
 };
 
 } // namespace zerna

@@ -21,6 +21,8 @@ public:
     void kopiere() const;
 
 protected:
+    const Tabelle& tabelle() const { return m_tabelle; }
+
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 

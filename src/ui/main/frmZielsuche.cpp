@@ -108,7 +108,7 @@ void frmZielsuche::layOut()
         QStringLiteral("Die Punkte der Linie mit dem gesuchten Wert im ternären Diagramm als Tabelle kopieren"));
     connect(m_cmdPunkte, &StyledButton::clicked, this, &frmZielsuche::punkteRequested);
     column->addLayout(knopfzeile({m_cmdPunkte, close}));
-    resize(460, 480);
+    resize(540, 480);
 }
 
 int frmZielsuche::groesse() const { return m_cmbGroesse->currentData().toInt(); }

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QHeaderView>
 #include <QTabWidget>
 #include <QTableWidget>
 
@@ -131,6 +132,26 @@ TEST_F(frmZielsucheTest, ItsListsChooseBesideEveryDiagram)
     choose("cmbDiagramm_Typ", "PSE");
     QTest::keyClick(window.get(), Qt::Key_F, Qt::ControlModifier);
     EXPECT_EQ(texts({"cmbDiagramm_Typ", "cmbDiagramm", "cmbSuche_Groesse"}), "2 D|Valenz|Valenz");
+}
+
+TEST_F(frmZielsucheTest, NumbersAreShownWhole)
+{
+    type("txtFormel", "Al33,33333Cu33,33333Mg33,33334");
+    QTest::keyClick(&find("txtFormel"), Qt::Key_Return);
+    click("chkSuche_Mischungsreihe");
+    choose("cmbDiagramm", "Hall-Koeffizient");
+    for (const int page : {0, 1}) {
+        find<QTabWidget>("tabSuche").setCurrentIndex(page);
+        const QTableWidget& table = page == 0 ? answers() : elements();
+        ASSERT_GT(table.rowCount(), 0);
+        const QHeaderView& head = *table.horizontalHeader();
+        EXPECT_EQ(head.length(), table.viewport()->width()) << page;
+        for (int column = 0; column < table.columnCount(); ++column) {
+            const QString widest = cell(table, 0, column);
+            EXPECT_GT(head.sectionSize(column), table.fontMetrics().horizontalAdvance(widest)) << page;
+            EXPECT_GE(head.sectionSize(column), head.sectionSizeHint(column)) << page;
+        }
+    }
 }
 
 TEST_F(frmZielsucheTest, TheNearestElementGetsARow)
