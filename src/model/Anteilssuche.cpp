@@ -17,6 +17,14 @@ std::string zahl(float value, std::string_view einheit)
 
 } // namespace
 
+std::string zielhindernis(const Eingabefeld& ziel)
+{
+    if (!ziel.fehler)
+        return {};
+    const bool isEmpty = ziel.text.find_first_not_of(' ') == std::string::npos;
+    return isEmpty ? "Einen Wert eintragen, der gesucht wird." : ziel.fehler->text();
+}
+
 Zielantwort sucheAnteil(
     const clsCalc& calc, std::span<const Legierungskomponente> komponenten, const Anteilsfrage& frage)
 {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/Zahlentext.h"
+#include "model/Eingabefeld.h"
 #include "model/Mischungsreihe.h"
 #include "model/Zielsuche.h"
 
@@ -31,6 +32,9 @@ struct Suchmarken {
 
     bool operator==(const Suchmarken&) const = default;
 };
+
+/// Why what was typed is no value to look for; empty if it is.
+std::string zielhindernis(const Eingabefeld& ziel);
 
 /// All its answers. Errors of the components and of the question reach the caller, as those of Mischungsreihe do.
 Zielantwort sucheAnteil(

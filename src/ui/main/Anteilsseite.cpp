@@ -88,7 +88,7 @@ void Anteilsseite::setMischungsreihe(bool an)
 }
 
 /// Why there can be no answer; empty if there can.
-std::string Anteilsseite::hindernis(std::optional<float> ziel) const
+std::string Anteilsseite::hindernis(const Eingabefeld& ziel) const
 {
     const Eingabe& eingabe = m_programm.Eingabe();
     if (eingabe.anzahl() == 1)
@@ -97,14 +97,14 @@ std::string Anteilsseite::hindernis(std::optional<float> ziel) const
         return hindernis->grund;
     if (!eingabe.istVollstaendig())
         return "Es sind nicht alle Anteile eingetragen.";
-    return ziel ? std::string() : "Einen Wert eintragen, der gesucht wird.";
+    return zielhindernis(ziel);
 }
 
-void Anteilsseite::suche(int groesse, std::optional<float> ziel)
+void Anteilsseite::suche(int groesse, const Eingabefeld& ziel)
 {
     listKomponenten();
     m_frage.groesse = groesse;
-    m_frage.ziel = ziel.value_or(0);
+    m_frage.ziel = ziel.fehler ? 0 : ziel.wert;
     m_antwort = {};
     std::string grund = hindernis(ziel);
     Tabelle tabelle;

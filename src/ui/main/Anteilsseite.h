@@ -2,8 +2,6 @@
 
 #include <QWidget>
 
-#include <optional>
-
 #include "model/Anteilssuche.h"
 #include "programm/Programm.h"
 
@@ -24,7 +22,7 @@ public:
     explicit Anteilsseite(Programm& programm, QWidget* parent = nullptr);
 
     /// Looks for the value; without one, or where there can be no answer, it says why.
-    void suche(int groesse, std::optional<float> ziel);
+    void suche(int groesse, const Eingabefeld& ziel);
 
     void setKomponente(int row);
     void setMischungsreihe(bool an);
@@ -44,7 +42,7 @@ private:
     void createControls();
     void layOut();
     void listKomponenten();
-    std::string hindernis(std::optional<float> ziel) const;
+    std::string hindernis(const Eingabefeld& ziel) const;
     void showState(const std::string& hindernis);
     std::array<double, MaxKomponenten> gewaehlteAnteile() const;
     void satzClicked();

@@ -65,7 +65,7 @@ void Drittelementseite::layOut()
     column->addLayout(knopfzeile({m_cmdUebernehmen, m_cmdKopieren}));
 }
 
-void Drittelementseite::suche(int groesse, std::optional<float> ziel)
+void Drittelementseite::suche(int groesse, const Eingabefeld& ziel)
 {
     m_groesse = groesse;
     m_ziel = ziel;
@@ -82,7 +82,7 @@ std::string Drittelementseite::hindernis() const
         return hindernis->grund;
     if (!eingabe.istVollstaendig())
         return "Es sind nicht alle Anteile eingetragen.";
-    return m_ziel ? std::string() : "Einen Wert eintragen, der gesucht wird.";
+    return zielhindernis(m_ziel);
 }
 
 void Drittelementseite::rank()
@@ -98,7 +98,7 @@ void Drittelementseite::rank()
             const Legierung legierung = m_programm.Eingabe().legierung().value();
             const Groesse& groesse = *findReihengroesse(m_groesse);
             m_rangliste = drittelemente(m_programm.Calc(), m_programm.ElementCollection(), legierung.komponenten(),
-                prozent.wert, groesse, *m_ziel);
+                prozent.wert, groesse, m_ziel.wert);
             tabelle = rangtabelle(m_rangliste, groesse, Dezimaltrenner::Komma);
             for (std::size_t i = 0; i < Koepfe.size(); ++i)
                 tabelle.spalten.at(i).name = Koepfe.at(i);

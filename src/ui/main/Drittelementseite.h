@@ -2,8 +2,6 @@
 
 #include <QWidget>
 
-#include <optional>
-
 #include "model/Drittelement.h"
 #include "programm/Programm.h"
 
@@ -23,7 +21,7 @@ public:
     explicit Drittelementseite(Programm& programm, QWidget* parent = nullptr);
 
     /// Ranks the elements; where that is not possible it says why.
-    void suche(int groesse, std::optional<float> ziel);
+    void suche(int groesse, const Eingabefeld& ziel);
 
     /// Puts the focus on the ranking, if there is one.
     void gehZuAntworten();
@@ -40,7 +38,7 @@ private:
 
     Programm& m_programm;
     int m_groesse = 0;
-    std::optional<float> m_ziel;
+    Eingabefeld m_ziel;
     Rangliste m_rangliste;
     Wertfeld* m_txtProzent = nullptr;
     Suchliste* m_liste = nullptr;

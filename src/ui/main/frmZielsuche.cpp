@@ -185,8 +185,9 @@ void frmZielsuche::suche()
     const Eingabefeld typed = zahlenfeld(fromQt(m_txtZiel->text()));
     m_txtZiel->setFehler(typed.fehler ? toQt(typed.fehler->text()) : QString());
     const std::optional<float> ziel = typed.fehler ? std::nullopt : std::optional(typed.wert);
-    m_anteil->suche(groesse(), ziel);
-    m_drittes->suche(groesse(), ziel);
+    m_anteil->suche(groesse(), typed);
+    m_drittes->suche(groesse(), typed);
+    m_cmdPunkte->setEnabled(ziel.has_value());
     nenneMarken(ziel);
 }
 

@@ -84,6 +84,8 @@ TEST_F(frmZielsucheTest, FollowsWhatIsEnteredAndChosen)
     EXPECT_EQ(
         satz("lblSuche_Anteil"), "Keine Zusammensetzung hat 12 eV. Am nächsten kommt 11,65869 eV bei 100 at% Al.");
     type("txtSuche_Ziel", "12x");
+    EXPECT_EQ(satz("lblSuche_Anteil").substr(0, 19), "Keine gültige Zahl");
+    type("txtSuche_Ziel", "");
     EXPECT_EQ(satz("lblSuche_Anteil"), "Einen Wert eintragen, der gesucht wird.");
     type("txtSuche_Ziel", "9.5");
     EXPECT_EQ(line(0), "41,64005|58,35995") << "with a point";
@@ -116,6 +118,8 @@ TEST_F(frmZielsucheTest, TheTernaryDiagramGivesThePointsOfTheValue)
     type("txtSuche_Ziel", "99");
     click("cmdSuche_Punkte");
     EXPECT_EQ(clipboard(), points) << "nothing to be copied in its place";
+    type("txtSuche_Ziel", "abc");
+    EXPECT_FALSE(isEnabled("cmdSuche_Punkte"));
 }
 
 TEST_F(frmZielsucheTest, ItsListsChooseBesideEveryDiagram)
