@@ -151,6 +151,8 @@ void frmZielsuche::frage(int groesse, const QString& ziel)
     showGroesse();
     if (!ziel.isEmpty())
         m_txtZiel->setWert(ziel, false);
+    if (groesse >= 0)
+        m_seiten->setCurrentWidget(m_anteil);
     if (!isVisible())
         placeBeside();
     show();

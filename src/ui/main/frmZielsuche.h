@@ -30,7 +30,8 @@ public:
     /// Looks again: the alloy or the choice of the diagram may be another one.
     void zeige();
 
-    /// Shows itself with a question about a quantity (-1: that of the diagram) and a value (empty: the alloy's own).
+    /// Shows itself with a question about a quantity (-1: that of the diagram, on the page used last) and a value
+    /// (empty: the alloy's own).
     void frage(int groesse, const QString& ziel);
 
 signals:

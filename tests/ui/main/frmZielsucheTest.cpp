@@ -102,6 +102,10 @@ TEST_F(frmZielsucheTest, FollowsWhatIsEnteredAndChosen)
     find<QAction>("mnuMFE_Anteil").trigger();
     EXPECT_EQ(texts({"cmbSuche_Groesse", "cmbDiagramm"}), "Plasmonenenergie|Plasmonenenergie");
     EXPECT_EQ(line(0), "60|40") << "where the value is";
+    find<QTabWidget>("tabSuche").setCurrentIndex(1);
+    choose("cmbDiagramm_Typ", "Messkurve");
+    click("cmdDiagramm_Anteil");
+    EXPECT_EQ(find<QTabWidget>("tabSuche").currentIndex(), 0) << "its question is about a part";
 }
 
 TEST_F(frmZielsucheTest, TheTernaryDiagramGivesThePointsOfTheValue)
