@@ -25,15 +25,16 @@ Befundzeile::Befundzeile(QWidget* parent)
     zeige({}, Ton::Hinweis);
 }
 
-void Befundzeile::zeige(const QString& befund, Ton ton)
+void Befundzeile::zeige(const QString& befund, Ton ton, bool fuehrtHin)
 {
     m_befund = befund;
     m_ton = ton;
     setToolTip(befund);
     setAccessibleName(befund);
-    setFocusPolicy(befund.isEmpty() ? Qt::NoFocus : Qt::StrongFocus);
-    setCursor(befund.isEmpty() ? Qt::ArrowCursor : Qt::PointingHandCursor);
-    setEnabled(!befund.isEmpty());
+    const bool isActive = fuehrtHin && !befund.isEmpty();
+    setFocusPolicy(isActive ? Qt::StrongFocus : Qt::NoFocus);
+    setCursor(isActive ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    setEnabled(isActive);
     updateGeometry();
     update();
 }
@@ -71,7 +72,7 @@ void Befundzeile::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.fillRect(QRect(0, 2, Bar, height() - 4), colour());
     QFont shown = font();
-    shown.setUnderline(underMouse());
+    shown.setUnderline(isEnabled() && underMouse());
     painter.setFont(shown);
     painter.setPen(colour());
     painter.drawText(rect().adjusted(Bar + Gap, 0, 0, 0), Wrapped, m_befund);

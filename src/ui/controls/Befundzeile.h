@@ -14,8 +14,8 @@ public:
 
     explicit Befundzeile(QWidget* parent = nullptr);
 
-    /// Empty for nothing.
-    void zeige(const QString& befund, Ton ton);
+    /// Empty for nothing. One that leads nowhere is only read: it takes neither clicks nor the focus.
+    void zeige(const QString& befund, Ton ton, bool fuehrtHin = true);
     const QString& befund() const { return m_befund; }
 
     QSize sizeHint() const override;

@@ -140,7 +140,7 @@ void Anteilsseite::showState(const std::string& hindernis)
     }
     m_cmdUebernehmen->setEnabled(isPossible);
     m_cmdKopieren->setEnabled(hasAnswer);
-    m_lblSatz->zeige(gezeigt(toQt(satz)), Befundzeile::Ton::Hinweis);
+    m_lblSatz->zeige(gezeigt(toQt(satz)), Befundzeile::Ton::Hinweis, hasAnswer && !isPossible);
 }
 
 std::array<double, MaxKomponenten> Anteilsseite::gewaehlteAnteile() const

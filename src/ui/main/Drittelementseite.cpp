@@ -108,7 +108,7 @@ void Drittelementseite::rank()
         }
     }
     m_liste->zeige(std::move(tabelle));
-    m_lblSatz->zeige(toQt(satz), Befundzeile::Ton::Hinweis);
+    m_lblSatz->zeige(toQt(satz), Befundzeile::Ton::Hinweis, false);
     for (StyledButton* const button : {m_cmdUebernehmen, m_cmdKopieren})
         button->setEnabled(!m_rangliste.elemente.empty());
 }

@@ -32,8 +32,6 @@ bool zeigtGroesse(const Diagrammwahl& wahl)
 frmZielsuche::frmZielsuche(Programm& programm, QWidget* parent)
     : QDialog(parent)
     , m_programm(programm)
-    , m_anteil(new Anteilsseite(programm, this))
-    , m_drittes(new Drittelementseite(programm, this))
 {
     setObjectName(QStringLiteral("frmZielsuche"));
     setWindowTitle(QStringLiteral("Bei welchem Anteil?"));
@@ -42,6 +40,7 @@ frmZielsuche::frmZielsuche(Programm& programm, QWidget* parent)
     layOut();
 }
 
+/// In the order of the tab key, which begins at the value: the quantity is mostly that of the diagram.
 void frmZielsuche::createControls()
 {
     m_cmbGroesse = new QComboBox(this);
@@ -65,6 +64,15 @@ void frmZielsuche::createControls()
     m_lblEinheit = new QLabel(this);
     m_lblEinheit->setObjectName(QStringLiteral("lblSuche_Einheit"));
     m_lblEinheit->setTextFormat(Qt::PlainText);
+    m_seiten = new QTabWidget(this);
+    m_seiten->setObjectName(QStringLiteral("tabSuche"));
+    m_anteil = new Anteilsseite(m_programm, m_seiten);
+    m_drittes = new Drittelementseite(m_programm, m_seiten);
+    m_cmdPunkte = new StyledButton(QStringLiteral("Pun&kte kopieren"), this);
+    m_cmdPunkte->setObjectName(QStringLiteral("cmdSuche_Punkte"));
+    m_cmdPunkte->setToolTipText(
+        QStringLiteral("Die Punkte der Linie mit dem gesuchten Wert im ternären Diagramm als Tabelle kopieren"));
+    connect(m_cmdPunkte, &StyledButton::clicked, this, &frmZielsuche::punkteRequested);
 }
 
 void frmZielsuche::connectSeiten()
@@ -91,8 +99,6 @@ void frmZielsuche::layOut()
     auto* const caption = new QLabel(QStringLiteral("Gesuchter &Wert:"), this);
     caption->setBuddy(m_txtZiel);
     form->addRow(caption, ziel);
-    m_seiten = new QTabWidget(this);
-    m_seiten->setObjectName(QStringLiteral("tabSuche"));
     m_seiten->addTab(m_anteil, QStringLiteral("A&nteil"));
     m_seiten->addTab(m_drittes, QStringLiteral("Weiteres &Element"));
     auto* const close = new StyledButton(QStringLiteral("S&chließen"), this);
@@ -102,11 +108,6 @@ void frmZielsuche::layOut()
     column->setSpacing(10);
     column->addLayout(form);
     column->addWidget(m_seiten, 1);
-    m_cmdPunkte = new StyledButton(QStringLiteral("Pun&kte kopieren"), this);
-    m_cmdPunkte->setObjectName(QStringLiteral("cmdSuche_Punkte"));
-    m_cmdPunkte->setToolTipText(
-        QStringLiteral("Die Punkte der Linie mit dem gesuchten Wert im ternären Diagramm als Tabelle kopieren"));
-    connect(m_cmdPunkte, &StyledButton::clicked, this, &frmZielsuche::punkteRequested);
     column->addLayout(knopfzeile({m_cmdPunkte, close}));
     resize(540, 480);
 }

@@ -142,6 +142,27 @@ TEST_F(frmZielsucheTest, ItsListsChooseBesideEveryDiagram)
     EXPECT_EQ(texts({"cmbDiagramm_Typ", "cmbDiagramm", "cmbSuche_Groesse"}), "2 D|Valenz|Valenz");
 }
 
+TEST_F(frmZielsucheTest, TheTabKeyGoesFromTheValueToThePageAndItsButtons)
+{
+    QString order;
+    QWidget* focus = &find("txtSuche_Ziel");
+    for (int page = 1; page >= 0; --page) {
+        find<QTabWidget>("tabSuche").setCurrentIndex(page);
+        type("txtSuche_Ziel", page == 0 ? "99" : "9,5"); // no answer: the message is only read
+        focus->setFocus();
+        do {
+            QTest::keyClick(focus, Qt::Key_Tab);
+            focus = find("frmZielsuche").focusWidget();
+            order += focus->objectName() + ' ';
+        } while (focus != &find("txtSuche_Ziel"));
+    }
+    EXPECT_EQ(order.toStdString(),
+        "qt_tabwidget_tabbar txtSuche_Prozent tblSuche_Elemente cmdSuche_Element cmdSuche_Rangliste "
+        "cmdSuche_Schliessen cmbSuche_Groesse txtSuche_Ziel "
+        "qt_tabwidget_tabbar cmbSuche_Komponente chkSuche_Mischungsreihe tblSuche_Anteile cmdSuche_Schliessen "
+        "cmbSuche_Groesse txtSuche_Ziel ");
+}
+
 TEST_F(frmZielsucheTest, NumbersAreShownWhole)
 {
     type("txtFormel", "Al33,33333Cu33,33333Mg33,33334");
