@@ -39,7 +39,7 @@ struct Bild {
         optionen.check();
         const Bildvorgabe vorgabe = optionen.vorgabe();
         if (!optionen.schrift.empty() && !QFontDatabase::hasFamily(toQt(optionen.schrift)))
-            throw Datenfehler("--schrift " + gekuerzt(optionen.schrift) + ": Diese Schrift gibt es hier nicht");
+            throw Aufruffehler("--schrift " + gekuerzt(optionen.schrift) + ": diese Schrift gibt es hier nicht");
         const Dokument dokument = load(umgebung);
         const Rechenkern& kern = umgebung.kern();
         const auto bild =

@@ -161,6 +161,10 @@ Diagrammwahl Bildoptionen::wahl(const std::optional<Diagrammwahl>& inFile, const
         result.komponente = static_cast<int>(indexOfVariable(variabel, kern.elements(), kern.komponenten()));
     if (!zweite.text.empty())
         result.zweiteGroesse = reihenkennzahl(zweite);
+    if (!zweite.text.empty() && result.zweiteGroesse == result.groesse)
+        throw Aufruffehler("--zweite-groesse " + gekuerzt(zweite.text) + ": erwartet wird eine andere als die erste");
+    if (varianten && !inFile)
+        throw Aufruffehler("--varianten gibt es nur mit einer Datei, in der Legierungen gemerkt sind");
     result.varianten = result.varianten || varianten;
     if (!schritte.text.empty())
         result.aufloesung = gitteraufloesung(schritte);

@@ -64,8 +64,14 @@ TEST_F(cliTest, PicturesAreMadeWithoutADisplayAndCarryTheirAlloy)
     for (const char* const text : {"<title>Fermienergie [eV] über at% Cu</title>",
              "<desc>Al60Cu30Mg10 – Al: 2,5 g/cm³, z = 2,5;", ">2 Kf [1/nm]</text>", ">100</text>"})
         EXPECT_NE(texts.find(text), std::string::npos) << text << texts;
-    EXPECT_EQ(run("bild --art elemente --groesse 13 --schrift Nixda --ziel e.png").text,
-        "zerna-cli: --schrift Nixda: Diese Schrift gibt es hier nicht\n");
+    for (const auto& [options, refusal] :
+        {std::pair("--schrift Nixda", "--schrift Nixda: diese Schrift gibt es hier nicht"),
+            {"--zweite-groesse 8", "--zweite-groesse 8: erwartet wird eine andere als die erste"},
+            {"--varianten", "--varianten gibt es nur mit einer Datei, in der Legierungen gemerkt sind"}}) {
+        const Answer answer = run(std::string("bild --groesse 8 --ziel e.png Al60Cu40 ") + options);
+        EXPECT_EQ(answer.text, std::string("zerna-cli: ") + refusal + '\n');
+        EXPECT_EQ(answer.status, 2);
+    }
     EXPECT_EQ(run("bild --groesse 8 --ziel e.svg Al=60 Cu=30").text,
         "zerna-cli: Die Anteile ergeben nicht 100 %, das Bild trägt keine Legierung\n");
     EXPECT_EQ(run("groessen e.svg").status, 1);
