@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QTabWidget>
 #include <QTableWidget>
 
@@ -98,6 +99,9 @@ TEST_F(frmZielsucheTest, FollowsWhatIsEnteredAndChosen)
     EXPECT_EQ(text("cmbDiagramm_Element"), "Cu");
     choose("cmbDiagramm", "Valenz");
     EXPECT_EQ(texts({"cmbSuche_Groesse", "txtSuche_Ziel", "lblSuche_Einheit"}), "Valenz|2,2|e/a");
+    choose("cmbSuche_Groesse", "Fermienergie");
+    EXPECT_EQ(texts({"cmbDiagramm", "lblSuche_Einheit"}), "Fermienergie|eV");
+    EXPECT_EQ(grid().wertUndEinheitIn(7), find<QLineEdit>("txtSuche_Ziel").text() + " eV");
     emit grid().menuRequested(6, {});
     find<QAction>("mnuMFE_Anteil").trigger();
     EXPECT_EQ(texts({"cmbSuche_Groesse", "cmbDiagramm"}), "Plasmonenenergie|Plasmonenenergie");
