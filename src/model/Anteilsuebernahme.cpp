@@ -11,6 +11,31 @@
 
 namespace zerna {
 
+namespace {
+
+/// With the greatest row above the balance row chosen so that what is left for that one comes nearest to `rest`: the
+/// rows are summed up in single precision.
+Eingabe mitRest(const Eingabe& eingabe, int greatest, double rest)
+{
+    const int last = eingabe.anzahl() - 1;
+    const auto deviation = [&](const Eingabe& e) { return std::abs(e.prozentInKraft(last).wert - toSingle(rest)); };
+    const double middle = eingabe.prozentInKraft(greatest).wert - rest + eingabe.prozentInKraft(last).wert;
+    Eingabe best = eingabe;
+    for (const double step : {1e-5, 1e-6}) {
+        for (int i = 0; i <= 20 && deviation(best) > 0; ++i) {
+            const int offset = i % 2 == 0 ? i / 2 : -(i + 1) / 2; // 0, -1, 1, -2, …
+            Eingabe other = eingabe;
+            const double part = (std::round(middle / step) + offset) * step;
+            other.setProzent(greatest, textWithDigits(part, 8));
+            if (deviation(other) < deviation(best))
+                best = std::move(other);
+        }
+    }
+    return best;
+}
+
+} // namespace
+
 bool istUebernehmbar(std::span<const double> prozente)
 {
     constexpr double Tolerance = 1e-4; // at%
@@ -41,27 +66,6 @@ Eingabe mitAnteilen(Eingabe eingabe, std::span<const double> prozente)
     eingabe.gleicheAus();
     eingabe.setEinheit(einheit);
     return eingabe;
-}
-
-/// With the greatest row above the balance row chosen so that what is left for that one comes nearest to `rest`: the
-/// rows are summed up in single precision.
-static Eingabe mitRest(const Eingabe& eingabe, int greatest, double rest)
-{
-    const int last = eingabe.anzahl() - 1;
-    const auto deviation = [&](const Eingabe& e) { return std::abs(e.prozentInKraft(last).wert - toSingle(rest)); };
-    const double middle = eingabe.prozentInKraft(greatest).wert - rest + eingabe.prozentInKraft(last).wert;
-    Eingabe best = eingabe;
-    for (const double step : {1e-5, 1e-6}) {
-        for (int i = 0; i <= 20 && deviation(best) > 0; ++i) {
-            const int offset = i % 2 == 0 ? i / 2 : -(i + 1) / 2; // 0, -1, 1, -2, …
-            Eingabe other = eingabe;
-            const double part = (std::round(middle / step) + offset) * step;
-            other.setProzent(greatest, textWithDigits(part, 8));
-            if (deviation(other) < deviation(best))
-                best = std::move(other);
-        }
-    }
-    return best;
 }
 
 Eingabe mitElement(Eingabe eingabe, std::string_view key, double prozent)
