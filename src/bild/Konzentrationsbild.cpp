@@ -171,7 +171,7 @@ private:
             return sage(std::string(zweite->name) + " hat hier keine Werte.");
         m_result.bild.rechts = Achse{groessentitel(*zweite), {}, std::string(zweite->einheit)};
         m_result.bild.rechts->rund = true;
-        add({std::string(zweite->name) + " (rechte Achse)", punkte(*werte), Zweitfarbe, Linienart::Strichpunkt,
+        add({std::string(zweite->name) + std::string(RechteAchse), punkte(*werte), Zweitfarbe, Linienart::Strichpunkt,
             Punktzeichen::Keines, true});
         m_result.bild.kurven.back().reihe = m_result.bild.kurven.front().reihe;
     }

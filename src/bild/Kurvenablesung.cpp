@@ -32,6 +32,12 @@ const Achse& axisOf(const Kurvenbild& bild, const Kurve& kurve)
     return kurve.rechts && bild.rechts ? *bild.rechts : bild.y;
 }
 
+/// Without what the legend adds: the value of a single point in "Al60Cu40: 9,4835 eV", the axis.
+std::string kurzname(const Kurve& kurve)
+{
+    return kurve.name.substr(0, kurve.name.find(kurve.punkte.size() == 1 ? ": " : RechteAchse));
+}
+
 /// The value of the other quantity at x, of the first curve of the same series that has one.
 std::string otherQuantity(const Kurvenbild& bild, const Kurvenpunkt& punkt)
 {
@@ -40,7 +46,8 @@ std::string otherQuantity(const Kurvenbild& bild, const Kurvenpunkt& punkt)
         const double wert = wertBei(kurve.punkte, punkt.x);
         if (kurve.reihe != own.reihe || kurve.rechts == own.rechts || !std::isfinite(wert))
             continue;
-        return "; " + kurve.name + (kurve.name.empty() ? "" : ": ") + gelesenerWert(wert, axisOf(bild, kurve).einheit);
+        return "; " + kurzname(kurve) + (kurve.name.empty() ? "" : ": ")
+            + gelesenerWert(wert, axisOf(bild, kurve).einheit);
     }
     return {};
 }
@@ -69,12 +76,6 @@ std::optional<Kurvenpunkt> signAt(const Kurvenbild& bild, const Kurvenlayout& la
         }
     }
     return found;
-}
-
-/// A single point has its value in the legend: "Al60Cu40: 9,4835 eV".
-std::string kurzname(const Kurve& kurve)
-{
-    return kurve.punkte.size() == 1 ? kurve.name.substr(0, kurve.name.find(": ")) : kurve.name;
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "bild/Achsen.h"
@@ -13,6 +14,9 @@ namespace zerna {
 
 enum class Linienart { Keine, Durchgezogen, Gestrichelt, Gepunktet, Strichpunkt, StrichZweipunkt };
 enum class Punktzeichen { Keines, Kreis, Quadrat, Dreieck, Raute };
+
+/// Behind the name of a curve on the right axis in the legend.
+inline constexpr std::string_view RechteAchse = " (rechte Achse)";
 
 /// A line through points, signs at them, or both.
 struct Kurve {

@@ -19,7 +19,7 @@ Kurvenbild zweiGroessen()
     bild.y = {"", {-10, 10}, "eV"};
     bild.rechts = Achse{"", {0, 4}, "g/cm³"};
     bild.kurven = {{"EF", {{0, -5}, {20, 0}, {40, 5}, {50, Gap}, {60, 5}, {100, 5}}, {}},
-        {"Dichte", {{0, 1}, {100, 3}}, {}}, {"Legierung", {{30, 9}}, {}}};
+        {"Dichte (rechte Achse)", {{0, 1}, {100, 3}}, {}}, {"Legierung", {{30, 9}}, {}}};
     bild.kurven[1].rechts = true;
     bild.kurven[2].linie = Linienart::Keine;
     bild.kurven[2].zeichen = Punktzeichen::Kreis;
