@@ -107,7 +107,7 @@ public:
         m_result.bild.titel = groessentitel(m_groesse) + " über at% " + m_symbol;
         m_result.bild.untertitel = legierungstext(m_eingabe);
         m_result.bild.x = {"at% " + m_symbol, {0, 100}, "at% " + m_symbol};
-        m_result.bild.y = {groessentitel(m_groesse), {}, std::string(m_groesse.einheit)};
+        m_result.bild.y = {groessentitel(m_groesse), {}, ableseeinheit(m_groesse)};
         add({reihenname(m_groesse, m_art), punkte(m_result.reihe), kurvenaussehen(0).farbe});
         addMischung();
         addZweite();
@@ -169,7 +169,7 @@ private:
         const auto werte = orNothing([&] { return reihe(zweite->kennzahl, m_art); });
         if (!werte)
             return sage(std::string(zweite->name) + " hat hier keine Werte.");
-        m_result.bild.rechts = Achse{groessentitel(*zweite), {}, std::string(zweite->einheit)};
+        m_result.bild.rechts = Achse{groessentitel(*zweite), {}, ableseeinheit(*zweite)};
         m_result.bild.rechts->rund = true;
         add({std::string(zweite->name) + std::string(RechteAchse), punkte(*werte), Zweitfarbe, Linienart::Strichpunkt,
             Punktzeichen::Keines, true});

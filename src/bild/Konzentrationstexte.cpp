@@ -35,15 +35,20 @@ bool istErsteMit(const Eingabe& eingabe, int zeile)
     return true;
 }
 
+/// Intended: the unit over compositions is not always that of the number, which is said behind it.
+std::string zahleinheit(const Groesse& groesse)
+{
+    return groesse.einheit == groesse.reiheneinheit ? "" : " (Zahl in " + std::string(groesse.einheit) + ")";
+}
+
 } // namespace
 
 std::string groessentitel(const Groesse& groesse)
 {
-    std::string titel = std::string(groesse.name) + " [" + std::string(groesse.reiheneinheit) + "]";
-    if (groesse.einheit != groesse.reiheneinheit)
-        titel += " (Zahl in " + std::string(groesse.einheit) + ")";
-    return titel;
+    return std::string(groesse.name) + " [" + std::string(groesse.reiheneinheit) + "]" + zahleinheit(groesse);
 }
+
+std::string ableseeinheit(const Groesse& groesse) { return std::string(groesse.reiheneinheit) + zahleinheit(groesse); }
 
 std::string legierungsname(const Eingabe& eingabe)
 {

@@ -10,6 +10,9 @@ namespace zerna {
 /// "Fermienergie [eV]"; where the numbers are in another unit than the given label, it says so.
 std::string groessentitel(const Groesse& groesse);
 
+/// What stands behind a value that is read out: "eV", "nm³ (Zahl in m³)".
+std::string ableseeinheit(const Groesse& groesse);
+
 /// The alloy in short: "Al60Cu40", or its parts where no formula can be written.
 std::string legierungsname(const Eingabe& eingabe);
 

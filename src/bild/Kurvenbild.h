@@ -40,7 +40,7 @@ struct Linienmarke {
 struct Achse {
     std::string titel; ///< quantity with unit
     Bereich bereich; ///< data units
-    std::string einheit = {}; ///< behind a value that is read out, the true one: "eV", "at% Al"
+    std::string einheit = {}; ///< behind a value that is read out: "eV", "at% Al"
     bool rund = false; ///< ticks at round values in every style, not ten equal divisions
 
     bool operator==(const Achse&) const = default;
