@@ -38,9 +38,10 @@ def flags(command):
 
 
 def hidden_names(file):
-    """What a source names in its unnamed namespaces, roughly."""
-    names = set()
-    for block in re.findall(r"^namespace \{$(.*?)^\} // namespace$", file.read_text(encoding="utf-8"), re.M | re.S):
+    """What no two sources of a unit may both name: what stands in unnamed namespaces, roughly, and main."""
+    text = file.read_text(encoding="utf-8")
+    names = {"main"} if re.search(r"^int main\(", text, re.M) else set()
+    for block in re.findall(r"^namespace \{$(.*?)^\} // namespace$", text, re.M | re.S):
         names.update(re.findall(r"^(?:\w[^\n(={;]*[ &*>])(\w+)(?:\(|\{| =|;| :|\n\{)", block, re.M))
         names.update(re.findall(r"^(?:struct|class|enum class|enum|using) (\w+)", block, re.M))
     return names

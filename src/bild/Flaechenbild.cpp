@@ -147,13 +147,13 @@ float lightAt(const Dreieck& d, float x, float y, float share, const Flaechensti
 }
 
 /// Pixels from the first to the last; none if the last comes before the first.
-struct Strecke {
+struct Pixelstrecke {
     int first = 0;
     int last = -1;
 };
 
 /// The pixels whose middles lie between two places, within 0 to size - 1.
-Strecke pixelsBetween(float from, float to, int size)
+Pixelstrecke pixelsBetween(float from, float to, int size)
 {
     const auto limit = static_cast<float>(size);
     return {static_cast<int>(std::ceil(std::clamp(from - 0.5F, 0.0F, limit))),
@@ -224,13 +224,13 @@ void Flaechenbild::fill(const Flaechenecke& a, const Flaechenecke& b, const Flae
     const Dreieck d = dreieckOf(corners, area, stil);
     const Farbtafel& table = colourTable(stil.grau);
     const bool isPlain = d.levels.empty() && stil.meshOpacity <= 0;
-    const Strecke rows = pixelsBetween(std::min({a.y, b.y, c.y}), std::max({a.y, b.y, c.y}), m_height);
+    const Pixelstrecke rows = pixelsBetween(std::min({a.y, b.y, c.y}), std::max({a.y, b.y, c.y}), m_height);
     for (int row = rows.first; row <= rows.last; ++row) {
         const float y = static_cast<float>(row) + 0.5F - a.y;
         const auto [from, to] = spanOf(d, y);
         if (!(from <= to))
             continue;
-        const Strecke columns = pixelsBetween(a.x + from, a.x + to, m_width);
+        const Pixelstrecke columns = pixelsBetween(a.x + from, a.x + to, m_width);
         for (int column = columns.first; column <= columns.last; ++column) {
             const float x = static_cast<float>(column) + 0.5F - a.x;
             const std::size_t place = placeOf(column, row);
@@ -254,8 +254,8 @@ void Flaechenbild::seam(
     const float alongX = (b.x - a.x) / length;
     const float alongY = (b.y - a.y) / length;
     const Farbtafel& table = colourTable(stil.grau);
-    const Strecke rows = pixelsBetween(std::min(a.y, b.y) - 1, std::max(a.y, b.y) + 1, m_height);
-    const Strecke columns = pixelsBetween(std::min(a.x, b.x) - 1, std::max(a.x, b.x) + 1, m_width);
+    const Pixelstrecke rows = pixelsBetween(std::min(a.y, b.y) - 1, std::max(a.y, b.y) + 1, m_height);
+    const Pixelstrecke columns = pixelsBetween(std::min(a.x, b.x) - 1, std::max(a.x, b.x) + 1, m_width);
     for (int row = rows.first; row <= rows.last; ++row) {
         for (int column = columns.first; column <= columns.last; ++column) {
             const float x = static_cast<float>(column) + 0.5F - a.x;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdint>
 
 namespace zerna {
 
@@ -21,8 +22,8 @@ std::vector<double> multiples(const Bereich& bereich, double step)
     const double last = std::floor(bereich.max / step + RoundingError);
     if (!(std::max(std::abs(first), std::abs(last)) < Distinct))
         return values;
-    for (double k = first; k <= last; ++k)
-        values.push_back(k * step + 0.0); // no -0
+    for (auto k = static_cast<std::int64_t>(first); k <= static_cast<std::int64_t>(last); ++k)
+        values.push_back(static_cast<double>(k) * step);
     return values;
 }
 

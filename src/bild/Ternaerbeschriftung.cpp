@@ -14,7 +14,7 @@ namespace zerna {
 
 namespace {
 
-constexpr double TickLength = 6;
+constexpr double EdgeTick = 6;
 constexpr double TickGap = 3;
 constexpr double Digits = 0.85; // height of digits, in lines
 constexpr Anteile3 Mitte{1.0 / 3, 1.0 / 3, 1.0 / 3};
@@ -211,7 +211,7 @@ void Beschrifter::labelAxis()
     const auto isLabelled = beschriftete(m_inhalt.ticks, length, line, m_inhalt.range);
     for (std::size_t i = 0; i < m_inhalt.ticks.size(); ++i) {
         const Punkt tick = at(corner, heightShare(m_inhalt.ticks[i], m_inhalt.range) * SurfaceHeight);
-        const Punkt end{tick.x - TickLength, tick.y};
+        const Punkt end{tick.x - EdgeTick, tick.y};
         m_result.striche.push_back({tick, end});
         const std::string& text = m_parts.skala.texte[i];
         const double textWidth = width(text);
@@ -240,10 +240,10 @@ bool Beschrifter::labelEdge(const Kante& edge)
             m_flach ? unitOf(plus(from, at(along(third, edge.to, share), 0), -1)) : outwards(edge, share);
         const std::string text = fixedText(percent, 0);
         const double width = m_masse.text.width(text);
-        const Punkt middle = plus(from, direction, TickLength + TickGap + reach(width, line, direction));
+        const Punkt middle = plus(from, direction, EdgeTick + TickGap + reach(width, line, direction));
         if (!place(text, boxAround(middle, width, line), Textrolle::Kante, edge.to))
             continue;
-        m_result.striche.push_back({from, plus(from, direction, TickLength)});
+        m_result.striche.push_back({from, plus(from, direction, EdgeTick)});
         hasLabels = true;
     }
     return hasLabels;
@@ -259,7 +259,7 @@ bool Beschrifter::nameEdge(const Kante& edge, double numberReach)
         const std::string text = "at% " + m_inhalt.gitter.symbole.at(edge.to) + " " + std::string(arrowOf(way));
         const double width = m_masse.text.width(text);
         const Punkt normal = outwards(edge, share);
-        const double distance = TickLength + 2 * TickGap + 2 * numberReach + reach(width, line, normal);
+        const double distance = EdgeTick + 2 * TickGap + 2 * numberReach + reach(width, line, normal);
         const Punkt middle = plus(placeOn(edge, share), normal, distance);
         return place(text, boxAround(middle, width, line), Textrolle::Kante, edge.to);
     });

@@ -9,7 +9,7 @@ namespace zerna {
 namespace {
 
 /// All digits of a single that are sure.
-std::string zahl(float value, std::string_view einheit)
+std::string zahlMitEinheit(float value, std::string_view einheit)
 {
     constexpr int Sure = 7;
     return textWithDigits(value, Sure) + ' ' + std::string(einheit);
@@ -55,15 +55,16 @@ std::string anteiltext(double prozent, Dezimaltrenner trenner)
 std::string antwortsatz(const Zielantwort& antwort, const Anteilsfrage& frage, std::string_view symbol)
 {
     const std::string_view einheit = findReihengroesse(frage.groesse)->einheit;
-    const std::string ziel = zahl(frage.ziel, einheit);
+    const std::string ziel = zahlMitEinheit(frage.ziel, einheit);
     if (antwort.ueberall)
         return "Jede Zusammensetzung hat " + ziel + ".";
     if (!antwort.loesungen.empty())
         return {};
     if (!antwort.naechste)
         return "Die Größe hat bei keiner Zusammensetzung einen Wert.";
-    return "Keine Zusammensetzung hat " + ziel + ". Am nächsten kommt " + zahl(antwort.naechste->wert, einheit)
-        + " bei " + anteiltext(antwort.naechste->prozent) + " at% " + std::string(symbol) + ".";
+    return "Keine Zusammensetzung hat " + ziel + ". Am nächsten kommt "
+        + zahlMitEinheit(antwort.naechste->wert, einheit) + " bei " + anteiltext(antwort.naechste->prozent) + " at% "
+        + std::string(symbol) + ".";
 }
 
 } // namespace zerna

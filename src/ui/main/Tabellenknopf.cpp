@@ -11,8 +11,8 @@ namespace zerna {
 namespace {
 
 constexpr std::string_view Schluessel = "Tabelle_Dezimaltrenner";
-constexpr std::string_view Punkt = "Punkt";
-constexpr std::string_view Komma = "Komma";
+constexpr std::string_view Punktwort = "Punkt";
+constexpr std::string_view Kommawort = "Komma";
 
 } // namespace
 
@@ -65,7 +65,7 @@ QAction* Tabellenknopf::addChoice(const QString& caption, const QString& name, D
     showChoice();
     connect(m_cmdTrenner, &StyledButton::clicked, action, showChoice); // which may have been made elsewhere
     connect(action, &QAction::triggered, this, [this, trenner] {
-        m_settings.SaveSetting(Schluessel, trenner == Dezimaltrenner::Punkt ? Punkt : Komma);
+        m_settings.SaveSetting(Schluessel, trenner == Dezimaltrenner::Punkt ? Punktwort : Kommawort);
         emit copyRequested(trenner);
     });
     return action;
@@ -73,7 +73,7 @@ QAction* Tabellenknopf::addChoice(const QString& caption, const QString& name, D
 
 Dezimaltrenner tabellentrenner(const Settings& settings)
 {
-    return settings.LoadSetting(Schluessel, Komma) == Punkt ? Dezimaltrenner::Punkt : Dezimaltrenner::Komma;
+    return settings.LoadSetting(Schluessel, Kommawort) == Punktwort ? Dezimaltrenner::Punkt : Dezimaltrenner::Komma;
 }
 
 } // namespace zerna
