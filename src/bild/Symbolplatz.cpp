@@ -30,7 +30,7 @@ bool crosses(const Strecke& line, const Rechteck& area)
         const double way = to - from;
         if (way == 0)
             return from >= low && from <= high;
-        const auto [first, last] = std::minmax((low - from) / way, (high - from) / way);
+        const auto [first, last] = std::minmax({(low - from) / way, (high - from) / way}); // by value
         begin = std::max(begin, first);
         end = std::min(end, last);
         return begin <= end;
