@@ -31,7 +31,7 @@ Bereich scaled(const Bereich& shown, double part, double factor, const Bereich& 
 /// The part between two places of a range, 0 at its lower end.
 Bereich between(const Bereich& shown, double a, double b, const Bereich& whole)
 {
-    const auto [low, high] = std::minmax(std::clamp(a, 0.0, 1.0), std::clamp(b, 0.0, 1.0));
+    const auto [low, high] = std::minmax({std::clamp(a, 0.0, 1.0), std::clamp(b, 0.0, 1.0)});
     return inside(shown.min + low * spanOf(shown), (high - low) * spanOf(shown), whole);
 }
 
