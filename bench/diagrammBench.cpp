@@ -110,11 +110,11 @@ public:
 };
 
 /// One key in an at% field until nothing is left to do and everything is painted.
-void taste(benchmark::State& state)
+void taste(benchmark::State& state, const QSize& size)
 {
     const Fenster fenster;
     auto& field = fenster.find<QLineEdit>("txtProzent_0");
-    field.window()->resize(1280, 800); // the diagram beside it is in sight
+    field.window()->resize(size); // the diagram beside it is in sight
     Malzaehler paintings;
     fenster.find<QWidget>("pic").installEventFilter(&paintings);
     field.setFocus();
@@ -151,7 +151,8 @@ void registerDiagrammBenchmarks()
     benchmark::RegisterBenchmark("Dichtereihe/rechnen", dichte);
     benchmark::RegisterBenchmark("Dichtereihe/bloße Schleife", dichteBloss);
     registerZeichenBenchmarks();
-    benchmark::RegisterBenchmark("Diagramm/Taste", taste)->Iterations(Tasten);
+    benchmark::RegisterBenchmark("Diagramm/Taste", taste, QSize(1280, 800))->Iterations(Tasten);
+    benchmark::RegisterBenchmark("Diagramm/Taste, 2560x1600", taste, QSize(2560, 1600))->Iterations(Tasten);
 }
 
 } // namespace zerna

@@ -165,6 +165,37 @@ void printTime(const char* name, const char* counter, double ziel, const MedianR
     std::printf("%s %7.2f ms <= %2.0f  %s\n", column(text).c_str(), ms, ziel, verdict(ms <= ziel));
 }
 
+void registerBenchmarks()
+{
+    registerParserBenchmarks();
+    registerLegierungBenchmarks();
+    registerElementdateiBenchmarks();
+    registerBearbeitungBenchmarks();
+    registerEinwaageBenchmarks();
+    registerStapelBenchmarks();
+#ifdef ZERNA_WINDOW
+    registerPeriodentafelBenchmarks();
+    registerTernaerBenchmarks();
+    registerDiagrammBenchmarks();
+#endif
+}
+
+void printResults(const MedianReporter& reporter)
+{
+    std::cout << std::flush;
+    std::printf("\n%s gemessen   Ziel\n", column("Verhältnisse der Mediane dieses Laufs").c_str());
+    for (const auto& verhaeltnis : Verhaeltnisse)
+        printRatio(verhaeltnis, reporter);
+    printEdit("Bearbeitung/2 Komponenten", reporter);
+    printEdit("Bearbeitung/5 Komponenten", reporter);
+    printTime("Diagramm/neu zeichnen", nullptr, 2, reporter);
+    printTime("Diagramm/Taste", "p50_ms", 8, reporter);
+    printTime("Diagramm/Taste", "p99_ms", 8, reporter);
+    printTime("Diagramm/Taste, 2560x1600", "p99_ms", 12, reporter);
+    printTime("Ternaerdiagramm/drehen", "p99_ms", 16, reporter);
+    printTime("Ternaerdiagramm/drehen, 1920x1400", "p99_ms", 16, reporter);
+}
+
 } // namespace
 
 } // namespace zerna
@@ -183,32 +214,14 @@ int main(int argc, char** argv)
     if (benchmark::ReportUnrecognizedArguments(count, pointers.data()))
         return 2;
 
-    zerna::registerParserBenchmarks();
-    zerna::registerLegierungBenchmarks();
-    zerna::registerElementdateiBenchmarks();
-    zerna::registerBearbeitungBenchmarks();
-    zerna::registerEinwaageBenchmarks();
-    zerna::registerStapelBenchmarks();
 #ifdef ZERNA_WINDOW
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    zerna::registerPeriodentafelBenchmarks();
-    zerna::registerTernaerBenchmarks();
-    zerna::registerDiagrammBenchmarks();
 #endif
+    zerna::registerBenchmarks();
     zerna::MedianReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
 
-    std::cout << std::flush;
-    std::printf("\n%s gemessen   Ziel\n", zerna::column("Verhältnisse der Mediane dieses Laufs").c_str());
-    for (const auto& verhaeltnis : zerna::Verhaeltnisse)
-        zerna::printRatio(verhaeltnis, reporter);
-    zerna::printEdit("Bearbeitung/2 Komponenten", reporter);
-    zerna::printEdit("Bearbeitung/5 Komponenten", reporter);
-    zerna::printTime("Diagramm/neu zeichnen", nullptr, 2, reporter);
-    zerna::printTime("Diagramm/Taste", "p50_ms", 8, reporter);
-    zerna::printTime("Diagramm/Taste", "p99_ms", 8, reporter);
-    zerna::printTime("Ternaerdiagramm/drehen", "p99_ms", 16, reporter);
-    zerna::printTime("Ternaerdiagramm/drehen, 1920x1400", "p99_ms", 16, reporter);
+    zerna::printResults(reporter);
     return reporter.failed() ? 1 : 0;
 }
