@@ -127,6 +127,8 @@ void Bildoptionen::checkOptions(Diagrammtyp chosen) const
     require(ohneSymbole, "--ohne-symbole", Diagrammtyp::PSE);
     require(flach, "--flach", Diagrammtyp::Ternaer);
     require(!schritte.text.empty(), "--schritte", Diagrammtyp::Ternaer);
+    if (!groesse.text.empty() && chosen == Diagrammtyp::Messkurve)
+        throw Aufruffehler("--groesse gibt es bei --art messkurve nicht");
 }
 
 void Bildoptionen::check() const
