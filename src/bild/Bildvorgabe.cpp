@@ -25,8 +25,6 @@ constexpr std::array<std::pair<std::string_view, bool Bildvorgabe::*>, 4> Schalt
     {"Bild_RundeTeilung", &Bildvorgabe::rundeTeilung},
 }};
 
-constexpr std::string_view truth(bool isOn) { return isOn ? "1" : "0"; }
-
 } // namespace
 
 std::span<const Bildmass> bildmasse()
@@ -87,7 +85,7 @@ Bildvorgabe gemerkteBildvorgabe(const Settings& settings)
     for (const Bildmass& mass : bildmasse())
         vorgabe.*mass.wert = masszahl(mass, settings.LoadSetting(mass.schluessel, {})).value_or(vorgabe.*mass.wert);
     for (const auto& [key, isOn] : Schalter)
-        vorgabe.*isOn = settings.LoadSetting(key, truth(vorgabe.*isOn)) == truth(true);
+        vorgabe.*isOn = settings.istAn(key, vorgabe.*isOn);
     vorgabe.schrift = settings.LoadSetting(Schriftschluessel, vorgabe.schrift);
     if (settings.LoadSetting(Dezimalschluessel, ",") == ".")
         vorgabe.dezimal = Dezimaltrenner::Punkt;
@@ -102,7 +100,7 @@ void merkeBildvorgabe(Settings& settings, const Bildvorgabe& vorgabe)
     for (const Bildmass& mass : bildmasse())
         settings.SaveSetting(mass.schluessel, textOfDouble(vorgabe.*mass.wert));
     for (const auto& [key, isOn] : Schalter)
-        settings.SaveSetting(key, truth(vorgabe.*isOn));
+        settings.setAn(key, vorgabe.*isOn);
     settings.SaveSetting(Schriftschluessel, vorgabe.schrift);
     settings.SaveSetting(Dezimalschluessel, std::string(1, static_cast<char>(vorgabe.dezimal)));
     settings.SaveSetting(Artschluessel, Arten.at(static_cast<std::size_t>(vorgabe.art)));

@@ -46,7 +46,16 @@ public:
             m_store.setValue(m_application, Section, key, value);
     }
 
+    /// The same for a switch, kept as "1" or "0".
+    bool istAn(std::string_view key, bool standard = false) const
+    {
+        return LoadSetting(key, truth(standard)) == truth(true);
+    }
+    void setAn(std::string_view key, bool an) { SaveSetting(key, truth(an)); }
+
 private:
+    static constexpr std::string_view truth(bool an) { return an ? "1" : "0"; }
+
     static constexpr std::string_view Section = "Settings";
 
     SettingsStore& m_store;

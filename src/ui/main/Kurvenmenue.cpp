@@ -14,7 +14,7 @@ Kurvenmenue::Kurvenmenue(Programm& programm, QWidget* parent)
 {
     setObjectName(QStringLiteral("mnuKurven"));
     m_mischungsreihe = addSchalter(QStringLiteral("&Mischungsreihe (Summe 100 %)"), "mnuMischungsreihe",
-        "Mischungsreihe", &Kurvenschalter::mischungsreihe);
+        Mischungsreihenschluessel, &Kurvenschalter::mischungsreihe);
     m_ganzeKurve =
         addSchalter(QStringLiteral("&Ganze Kurve zeigen"), "mnuGanzeKurve", "GanzeKurve", &Kurvenschalter::ganzeKurve);
     QMenu* const zweite = addMenu(QStringLiteral("&Zweite Größe"));
@@ -48,14 +48,14 @@ QAction* Kurvenmenue::add(const QString& text, const char* name, void (Kurvenmen
 QAction* Kurvenmenue::addSchalter(
     const QString& text, const char* name, std::string_view key, bool Kurvenschalter::*value)
 {
-    m_schalter.*value = m_programm.settings().LoadSetting(key, "0") == "1";
+    m_schalter.*value = m_programm.settings().istAn(key);
     QAction* const action = addAction(text);
     action->setObjectName(QLatin1String(name));
     action->setCheckable(true);
     action->setChecked(m_schalter.*value);
     connect(action, &QAction::toggled, this, [this, key, value](bool on) {
         m_schalter.*value = on;
-        m_programm.settings().SaveSetting(key, on ? "1" : "0");
+        m_programm.settings().setAn(key, on);
         emit schalterChanged();
     });
     return action;

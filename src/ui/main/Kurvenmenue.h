@@ -2,11 +2,16 @@
 
 #include <QMenu>
 
+#include <string_view>
+
 #include "bild/Konzentrationsbild.h"
 #include "programm/Programm.h"
 #include "ui/controls/Schritt.h"
 
 namespace zerna {
+
+/// The setting of the switch for the true mixture, which the search has, too.
+inline constexpr std::string_view Mischungsreihenschluessel = "Mischungsreihe";
 
 /// What a concentration diagram shows besides the curve of the alloy, and how: the menu of the button below the area,
 /// which is a submenu of the menu bar and of the context menu, too. The switches are remembered, the rest is the

@@ -17,11 +17,6 @@ namespace {
 constexpr const char* Symbolschluessel = "PSE_Symbole";
 constexpr const char* Kristallinschluessel = "PSE_Kristallin";
 
-bool istAn(const Settings& settings, const char* key, bool standard)
-{
-    return settings.LoadSetting(key, standard ? "1" : "0") == "1";
-}
-
 } // namespace
 
 PSEseite::PSEseite(Programm& programm, Diagrammflaeche& flaeche, QWidget* parent)
@@ -42,8 +37,8 @@ PSEseite::PSEseite(Programm& programm, Diagrammflaeche& flaeche, QWidget* parent
     row->addWidget(m_chkSymbole);
     row->addWidget(m_chkKristallin);
     row->addStretch();
-    this->flaeche().setPSEAnsicht({.kristallin = istAn(programm.settings(), Kristallinschluessel, false),
-        .symbole = istAn(programm.settings(), Symbolschluessel, true)});
+    this->flaeche().setPSEAnsicht({.kristallin = programm.settings().istAn(Kristallinschluessel),
+        .symbole = programm.settings().istAn(Symbolschluessel, true)});
     zeigeSchalter();
     for (QCheckBox* const box : {m_chkSymbole, m_chkKristallin})
         connect(box, &QCheckBox::clicked, this, &PSEseite::stelleUm);
@@ -65,8 +60,8 @@ void PSEseite::stelleUm()
 {
     const PSEAnsicht ansicht{.kristallin = m_chkKristallin->isChecked(), .symbole = m_chkSymbole->isChecked()};
     flaeche().setPSEAnsicht(ansicht);
-    programm().settings().SaveSetting(Symbolschluessel, ansicht.symbole ? "1" : "0");
-    programm().settings().SaveSetting(Kristallinschluessel, ansicht.kristallin ? "1" : "0");
+    programm().settings().setAn(Symbolschluessel, ansicht.symbole);
+    programm().settings().setAn(Kristallinschluessel, ansicht.kristallin);
 }
 
 void PSEseite::zeigeSchalter()

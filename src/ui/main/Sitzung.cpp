@@ -154,8 +154,8 @@ void Sitzung::ende()
     }
 }
 
-bool Sitzung::stelltWiederHer(const Settings& settings) { return settings.LoadSetting(Schluessel, "0") == "1"; }
+bool Sitzung::stelltWiederHer(const Settings& settings) { return settings.istAn(Schluessel); }
 
-void Sitzung::setWiederherstellen(Settings& settings, bool yes) { settings.SaveSetting(Schluessel, yes ? "1" : "0"); }
+void Sitzung::setWiederherstellen(Settings& settings, bool yes) { settings.setAn(Schluessel, yes); }
 
 } // namespace zerna
