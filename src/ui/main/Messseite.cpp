@@ -20,7 +20,7 @@ namespace zerna {
 Messseite::Messseite(Programm& programm, Diagrammflaeche& flaeche, Dialoge dialoge, QWidget* parent)
     : Diagrammseite(programm, flaeche, parent)
     , m_dialoge(dialoge)
-    , m_tafel(new Messtafel(parent))
+    , m_tafel(new Messtafel(programm.settings(), parent))
 {
     m_tafel->setObjectName(QStringLiteral("tblMaxima"));
     createLists();
@@ -142,6 +142,8 @@ void Messseite::aendere(const QString& schritt, void (*aenderung)(Messkurve&, in
 {
     std::vector<Messkurve> changed = kurven();
     aenderung(changed.at(static_cast<std::size_t>(m_gewaehlt)), value);
+    if (changed == kurven())
+        return;
     programm().Dokument().messkurven = std::move(changed);
     emit umgestellt({schritt});
 }

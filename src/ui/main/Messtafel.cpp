@@ -8,8 +8,8 @@
 
 namespace zerna {
 
-Messtafel::Messtafel(QWidget* parent)
-    : Wertetafel(parent)
+Messtafel::Messtafel(const Settings& settings, QWidget* parent)
+    : Wertetafel(settings, parent)
 {
     setAccessibleName(QStringLiteral("Maxima der Messkurven"));
     horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);

@@ -11,8 +11,8 @@
 
 namespace zerna {
 
-Suchliste::Suchliste(QWidget* parent)
-    : Wertetafel(parent)
+Suchliste::Suchliste(const Settings& settings, QWidget* parent)
+    : Wertetafel(settings, parent)
 {
     setAlternatingRowColors(true);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);

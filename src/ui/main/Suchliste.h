@@ -9,7 +9,7 @@ class Suchliste : public Wertetafel {
     Q_OBJECT
 
 public:
-    explicit Suchliste(QWidget* parent = nullptr);
+    explicit Suchliste(const Settings& settings, QWidget* parent = nullptr);
 
     /// Shows a table; the current line stays as long as there is one in its place.
     void zeige(Tabelle tabelle);

@@ -5,8 +5,10 @@
 #include <QKeyEvent>
 #include <QMenu>
 
+#include <algorithm>
 #include <utility>
 
+#include "ui/main/Tabellenknopf.h"
 #include "ui/platform/Anzeige.h"
 #include "ui/platform/Zwischenablage.h"
 
@@ -26,8 +28,9 @@ QString shown(const Tabelle::Spalte& spalte, const std::string& text)
 
 } // namespace
 
-Wertetafel::Wertetafel(QWidget* parent)
+Wertetafel::Wertetafel(const Settings& settings, QWidget* parent)
     : QTableWidget(parent)
+    , m_settings(settings)
 {
     setSelectionBehavior(SelectRows);
     setEditTriggers(NoEditTriggers);
@@ -60,7 +63,20 @@ void Wertetafel::fillColumn(int column)
         setItem(row, column, made(shown(spalte, m_tabelle.zeilen[static_cast<std::size_t>(row)][index])));
 }
 
-void Wertetafel::kopiere() const { copyToClipboard(toQt(alsText(mitKopf(m_tabelle)))); }
+void Wertetafel::copy(Tabelle table) const
+{
+    const auto trenner = static_cast<char>(tabellentrenner(m_settings));
+    for (std::size_t column = 0; column < table.spalten.size(); ++column) {
+        for (auto& line : table.zeilen) {
+            if (table.spalten[column].istZahl)
+                std::ranges::replace_if(
+                    line[column], [](char c) { return c == ',' || c == '.'; }, trenner);
+        }
+    }
+    copyToClipboard(toQt(alsText(mitKopf(table))));
+}
+
+void Wertetafel::kopiere() const { copy(m_tabelle); }
 
 void Wertetafel::copySelection() const
 {
@@ -69,7 +85,7 @@ void Wertetafel::copySelection() const
     Tabelle selected{m_tabelle.spalten, {}};
     for (const QModelIndex& index : selectionModel()->selectedRows())
         selected.zeilen.push_back(m_tabelle.zeilen.at(static_cast<std::size_t>(index.row())));
-    copyToClipboard(toQt(alsText(mitKopf(selected))));
+    copy(std::move(selected));
 }
 
 void Wertetafel::keyPressEvent(QKeyEvent* event)

@@ -15,6 +15,7 @@
 #include "ui/main/Anteilsseite.h"
 #include "ui/main/Diagrammseite.h"
 #include "ui/main/Drittelementseite.h"
+#include "ui/main/Kurvenmenue.h"
 #include "ui/platform/QtText.h"
 
 namespace zerna {
@@ -55,12 +56,8 @@ void frmZielsuche::createControls()
     m_txtZiel->setObjectName(QStringLiteral("txtSuche_Ziel"));
     m_txtZiel->setEigenerVerlauf(true);
     connect(m_txtZiel, &Wertfeld::textChanged, this, &frmZielsuche::suche);
-    connect(m_txtZiel, &Wertfeld::returnPressed, this, [this] {
-        if (m_seiten->currentIndex() == 0)
-            m_anteil->gehZuAntworten();
-        else
-            m_drittes->gehZuAntworten();
-    });
+    connect(m_txtZiel, &Wertfeld::returnPressed, this,
+        [this] { qobject_cast<Suchseite*>(m_seiten->currentWidget())->gehZuAntworten(); });
     m_lblEinheit = new QLabel(this);
     m_lblEinheit->setObjectName(QStringLiteral("lblSuche_Einheit"));
     m_lblEinheit->setTextFormat(Qt::PlainText);
@@ -124,7 +121,7 @@ void frmZielsuche::zeige()
     const int position = zeigtGroesse(wahl) ? m_cmbGroesse->findData(wahl.groesse) : -1;
     if (wahl.typ == Diagrammtyp::Konzentration)
         m_anteil->setKomponente(wahl.komponente);
-    m_anteil->setMischungsreihe(m_programm.settings().LoadSetting("Mischungsreihe", "0") == "1");
+    m_anteil->setMischungsreihe(m_programm.settings().istAn(Mischungsreihenschluessel));
     if (position >= 0 && position != m_cmbGroesse->currentIndex()) {
         m_cmbGroesse->setCurrentIndex(position);
         showGroesse();
@@ -188,8 +185,8 @@ void frmZielsuche::suche()
     const Eingabefeld typed = zahlenfeld(fromQt(m_txtZiel->text()));
     m_txtZiel->setFehler(typed.fehler ? toQt(typed.fehler->text()) : QString());
     const std::optional<float> ziel = typed.fehler ? std::nullopt : std::optional(typed.wert);
-    m_anteil->suche(groesse(), typed);
-    m_drittes->suche(groesse(), typed);
+    for (Suchseite* const seite : {static_cast<Suchseite*>(m_anteil), static_cast<Suchseite*>(m_drittes)})
+        seite->suche(groesse(), typed);
     m_cmdPunkte->setEnabled(ziel.has_value());
     nenneMarken(ziel);
 }
