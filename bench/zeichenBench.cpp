@@ -95,7 +95,7 @@ Malvorlage malvorlage(const Kurvenbild& bild, const QFont& font)
     for (std::size_t i = 0; i < 2; ++i) {
         vorlage.linien.push_back(zeichnung.bahnen[i].linien.front().translated(corner));
         const auto& [index, left, right, row] = layout.legende.at(i);
-        vorlage.proben.push_back(QPolygonF() << QPointF(left, row) << QPointF(right, row));
+        vorlage.proben.emplace_back(QList<QPointF>{{left, row}, {right, row}});
     }
     vorlage.legierung = zeichnung.bahnen[2].zeichen.front() + corner;
     vorlage.probe = {(layout.legende[2].left + layout.legende[2].right) / 2, layout.legende[2].row};
