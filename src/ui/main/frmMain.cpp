@@ -64,6 +64,15 @@ QScrollArea* scrolling(QWidget* panel)
     return area;
 }
 
+/// The program's picture in the sizes of title bars and task lists, the small ones drawn for their size.
+QIcon programmsymbol()
+{
+    QIcon symbol;
+    for (const int size : {16, 24, 32, 48, 64, 128})
+        symbol.addFile(QStringLiteral(":/zerna-%1.png").arg(size));
+    return symbol;
+}
+
 /// Shows which of the switches is on.
 void checkOnly(std::span<StyledButton* const> switches, int on)
 {
@@ -79,7 +88,7 @@ frmMain::frmMain(Programm& programm, Dialoge dialoge)
 {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(toQt(Programmtitel));
-    setWindowIcon(QIcon(QStringLiteral(":/zerna.svg")));
+    setWindowIcon(programmsymbol());
     createControls();
     createCalculatorPanel(dialoge);
     m_dateien = new Dateibefehle(programm, dialoge, *this);
