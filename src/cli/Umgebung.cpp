@@ -47,8 +47,12 @@ void Umgebung::load()
         m_kern.loadFile(pathFromUtf8(daten));
     else if (kind != std::filesystem::file_type::not_found)
         m_kern.loadFile(beside);
-    else
+    else {
         m_kern.loadBuiltIn();
+        std::cerr << "zerna-cli: Die Datei " << zitiert(utf8FromPath(beside), Dateinamenlaenge)
+                  << " fehlt; es gelten nur die sechs eingebauten Elemente H bis C. Abhilfe: Zerna neu installieren, "
+                     "eine Elementdatei dieses Namens in den Ordner legen oder mit --daten nennen\n";
+    }
 }
 
 void Umgebung::loadAlloy(std::span<const std::string> komponenten, Anteilseinheit einheit)

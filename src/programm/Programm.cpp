@@ -1,11 +1,13 @@
 #include "programm/Programm.h"
 
+#include <iostream>
 #include <string>
 #include <system_error>
 
 #include "core/Elementdatei.h"
 #include "core/Exportdatei.h"
 #include "core/Kuerzung.h"
+#include "core/Zahlentext.h"
 #include "dokument/Dokumentdatei.h"
 #include "programm/EingebauteTabelle.h"
 
@@ -108,10 +110,12 @@ bool Programm::provideDataFile()
 
 void Programm::ShowDataFileMissing(std::string_view name, const std::string& reason)
 {
-    m_boxes.show(Icon::Exclamation, "Zerna - Loader",
-        "Sie benötigen eine neuere Version der Datei '" + std::string(name)
-            + "'.\r\nProgramm kann nicht ausgeführt werden.\r\n\r\n" + utf8FromPath(dataFile()) + ":\r\n" + reason
-            + ".\r\nDen Schreibschutz des Ordners aufheben oder eine lesbare Datei dieses Namens hineinlegen.");
+    const std::string text = "Sie benötigen eine neuere Version der Datei '" + std::string(name)
+        + "'.\r\nProgramm kann nicht ausgeführt werden.\r\n\r\n" + utf8FromPath(dataFile()) + ":\r\n" + reason
+        + ".\r\nAbhilfe: Zerna neu installieren, eine lesbare Datei dieses Namens in den Ordner legen oder seinen "
+          "Schreibschutz aufheben (dann legt der nächste Start eine mit sechs Elementen an).";
+    std::cerr << ReplaceText(text, "\r\n", "\n") << '\n'; // for those who start the program from a terminal or a menu
+    m_boxes.show(Icon::Exclamation, "Zerna - Loader", text);
 }
 
 /// Why a program without elements can do nothing, and what helps.

@@ -105,6 +105,20 @@ TEST_F(cliTest, MissesTheProgramThatMakesPictures)
     EXPECT_EQ(answer.status, 1);
 }
 
+TEST_F(cliTest, FindsItsTableThroughALinkAndSaysWhenThereIsNone)
+{
+    std::filesystem::create_symlink(ZERNA_BIN_DIR "/zerna-cli", folder / "rechner");
+    EXPECT_EQ(run("formel 1; ./rechner formel z_Al").text, "1\n3\n");
+    std::filesystem::remove(folder / "rechner");
+    std::filesystem::copy_file(ZERNA_BIN_DIR "/zerna-cli", folder / "rechner");
+    const std::string hint = "zerna-cli: Die Datei \"" + (folder / "elemente.dat").string()
+        + "\" fehlt; es gelten nur die sechs eingebauten Elemente H bis C. Abhilfe: Zerna neu installieren, ";
+    const std::string text = run("formel 1; ./rechner formel z_He").text;
+    EXPECT_TRUE(text.starts_with("1\n" + hint)) << text;
+    EXPECT_TRUE(text.ends_with(" nennen\n0\n")) << text;
+    EXPECT_FALSE(std::filesystem::exists(folder / "elemente.dat")) << "the command line writes none";
+}
+
 TEST_F(cliTest, ListsTakeNoMoreMemoryTheLongerTheyAre)
 {
 #ifdef __SANITIZE_ADDRESS__ // takes terabytes of addresses

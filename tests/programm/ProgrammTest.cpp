@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <map>
 
+#include "core/Zahlentext.h"
 #include "programm/EingebauteTabelle.h"
 #include "support/FakeServices.h"
 #include "support/FilesTest.h"
@@ -134,17 +135,19 @@ TEST_F(ProgrammTest, EndsWithAMessageWhenThereIsNoDataFile)
     const auto says = [this](const std::filesystem::path& file, const std::string& cause) {
         const std::string text = "Sie benötigen eine neuere Version der Datei 'elemente.dat'.\r\nProgramm kann nicht "
                                  "ausgeführt werden.\r\n\r\n"
-            + file.string() + ":\r\n" + cause;
+            + file.string() + ":\r\n" + cause + "\r\nAbhilfe: Zerna neu installieren, ";
         const Box& box = boxes.shown.back();
         EXPECT_TRUE(box.caption == "Zerna - Loader" && box.text.starts_with(text)) << box.text;
     };
     {
         const FullDisk disk(100);
         EXPECT_FALSE(start());
-        says(dataFile, "Datenträger voll");
+        says(dataFile, "Datenträger voll (so groß darf eine Datei hier nicht werden).");
     }
     Programm nowhere(boxes, settings, folder / "fehlt");
+    testing::internal::CaptureStderr();
     EXPECT_FALSE(start(nowhere));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), ReplaceText(boxes.shown.back().text, "\r\n", "\n") + "\n");
     says(folder / "fehlt/elemente.dat", "Pfad nicht gefunden.");
     EXPECT_FALSE(window || std::filesystem::exists(dataFile));
     const std::pair<std::function<void()>, const char*> rows[] = {
