@@ -1,7 +1,8 @@
 #!/bin/bash
 # Installs the Debian packages that are missing for a purpose; asks for nothing if none is.
 #   program  build and run the program      tests  build and run the tests
-#   bench    build and run the benchmarks   ci     all of these, and format, lint and fuzz targets
+#   bench    build and run the benchmarks   package  make and check the packages
+#   ci       all of these, and format, lint and fuzz targets
 set -euo pipefail
 
 tools=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev zlib1g-dev libexpat1-dev)
@@ -9,15 +10,17 @@ window=(qt6-base-dev qt6-svg-dev qt6-translations-l10n fonts-dejavu-core)
 program=("${tools[@]}" "${window[@]}" qt6-wayland)
 tests=("${tools[@]}" "${window[@]}" libgtest-dev libgmock-dev python3 python3-jsonschema)
 bench=("${tools[@]}" "${window[@]}" libbenchmark-dev libmuparser-dev)
-ci=("${program[@]}" "${tests[@]}" "${bench[@]}" clang-14 clang-format-14 clang-tidy-14 libclang-rt-14-dev)
+package=("${program[@]}" python3 gzip dpkg-dev desktop-file-utils appstream libxml2-utils lintian man-db debootstrap)
+ci=("${program[@]}" "${tests[@]}" "${bench[@]}" "${package[@]}" clang-14 clang-format-14 clang-tidy-14 libclang-rt-14-dev)
 
 case ${1:-program} in
 program) wanted=("${program[@]}") ;;
 tests) wanted=("${tests[@]}") ;;
+package) wanted=("${package[@]}") ;;
 ci) wanted=("${ci[@]}") ;;
 bench) wanted=("${bench[@]}") ;;
 *)
-    echo "Aufruf: ${0##*/} [program|tests|ci|bench]" >&2
+    echo "Aufruf: ${0##*/} [program|tests|bench|package|ci]" >&2
     exit 2
     ;;
 esac
