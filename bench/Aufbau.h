@@ -15,6 +15,8 @@ namespace zerna {
 /// The data file that the build has made.
 inline constexpr std::string_view Datenpfad = ZERNA_BENCH_DATA;
 
+inline constexpr int FermienergieCode = 8; ///< code of the quantity that diagrams are measured with
+
 /// Nobody looks at messages while time is taken.
 class StummeMeldungen : public MessageBoxes {
 public:

@@ -10,7 +10,8 @@
 
 namespace zerna {
 
-/// The same formulas from ready numbers, without a check anywhere.
+/// The same formulas from ready numbers, without a check anywhere: each quantity by itself, or tightly, with all that
+/// several of them share computed once.
 class BloesseLegierung {
 public:
     using Groessen = std::array<float, 18>;
@@ -36,6 +37,12 @@ public:
 
     void recalculate()
     {
+        recalculateBasis();
+        m_kf2 = static_cast<float>(m_kf2Factor * std::pow(electrons(), 1.0 / 3.0));
+    }
+
+    void recalculateBasis()
+    {
         float valenz = 0;
         float molvolumen = 0;
         float dichte = 0;
@@ -49,7 +56,6 @@ public:
         m_dichte = static_cast<float>(dichte / 100.0);
         molvolumen = static_cast<float>(molvolumen / 100.0);
         m_teilchen = static_cast<float>(AvogadroProKubikmeter / molvolumen);
-        m_kf2 = static_cast<float>(m_kf2Factor * std::pow(electrons(), 1.0 / 3.0));
     }
 
     Groessen quantities() const
@@ -65,6 +71,28 @@ public:
             systemEnergy(),
             static_cast<float>(
                 m_teilchen * (2.0 / 3.0) * KubiknanometerInKubikmeter * m_valenz * fermi() * ElektronvoltInJoule)};
+    }
+
+    /// Of the basis alone.
+    Groessen tightQuantities() const
+    {
+        const double n = electrons();
+        const double root = std::cbrt(n);
+        const double squared = root * root;
+        const double wurzel = std::sqrt(n);
+        const float fermi = static_cast<float>(m_fermiFactor * squared);
+        const double joule = fermi * ElektronvoltInJoule;
+        const float kf2 = static_cast<float>(m_kf2Factor * root);
+        const float wavelength = static_cast<float>(2 * Pi / kf2);
+        const double radius = 5.0 / 4.0 * wavelength;
+        return {m_valenz, static_cast<float>(m_teilchen * 1e-27), m_dichte, static_cast<float>(1.0 / m_teilchen),
+            static_cast<float>(1 / n * m_hallFactor), static_cast<float>(1 / squared * m_thermoFactor),
+            static_cast<float>(m_plasmonFactor * wurzel), fermi, kf2, wavelength, static_cast<float>(radius),
+            static_cast<float>(n * 1e-27), static_cast<float>(radius * radius * radius * m_teilchen * (Pi / 6 * 1e-27)),
+            static_cast<float>(3.0 / 2.0 * m_valenz / fermi), static_cast<float>(joule / m_boltzmann),
+            static_cast<float>(3.0 / 5.0 * fermi),
+            static_cast<float>(joule * joule * std::sqrt(joule) * m_systemFactor),
+            static_cast<float>(n * (2.0 / 3.0) * KubiknanometerInKubikmeter * joule)};
     }
 
 private:
@@ -95,6 +123,8 @@ private:
     float m_thermoFactor = static_cast<float>(
         -2 * m_boltzmann * m_boltzmann * m_mass / (m_planck * m_planck * m_charge * std::pow(3 / Pi, 2.0 / 3.0)));
     float m_hallFactor = static_cast<float>(-1 / m_charge);
+    double m_systemFactor = std::pow(m_mass, 3.0 / 2.0) * 2 / 5 * std::sqrt(2.0) / Pi / Pi / std::pow(m_planck, 3)
+        * (ElektronvoltInJoule / NanometerInMeter);
     float m_valenz = 0;
     float m_dichte = 0;
     float m_teilchen = 0;

@@ -13,8 +13,6 @@
 
 namespace zerna {
 
-inline constexpr int FermienergieCode = 8; ///< code of the quantity that diagrams are measured with
-
 /// The program with its window, five components and the Fermi energy in the diagram.
 class Fenster {
 public:

@@ -26,6 +26,7 @@ void registerElementdateiBenchmarks();
 void registerBearbeitungBenchmarks();
 void registerEinwaageBenchmarks();
 void registerStapelBenchmarks();
+void registerReiheBenchmarks();
 void registerPeriodentafelBenchmarks();
 void registerTernaerBenchmarks();
 void registerDiagrammBenchmarks();
@@ -51,24 +52,30 @@ constexpr std::array Verhaeltnisse{
     Verhaeltnis{"muParser : Formel \"sqrt(4)+pow(2;3)\"", "muParser/sqrt(4)+pow(2;3)", "Formel/sqrt(4)+pow(2;3)",
         Mindestens, 10},
     Verhaeltnis{"muParser : Formel \"z_Cu\"", "muParser/z_Cu", "Formel/z_Cu", Mindestens, 10},
-    Verhaeltnis{"Zahl \"3\" : from_chars+to_chars", "Zahl/3", "from_chars+to_chars/3", Hoechstens, 3},
-    Verhaeltnis{"Zahl \"1,5\" : from_chars+to_chars", "Zahl/1,5", "from_chars+to_chars/1,5", Hoechstens, 3},
-    Verhaeltnis{"Zahl \"63,546\" : from_chars+to_chars", "Zahl/63,546", "from_chars+to_chars/63,546", Hoechstens, 3},
+    Verhaeltnis{"Formel \"3/2\" : Abstieg+to_chars", "Formel/3/2", "Abstieg/3/2", Hoechstens, 2},
+    Verhaeltnis{"Formel \"2*e-1\" : Abstieg+to_chars", "Formel/2*e-1", "Abstieg/2*e-1", Hoechstens, 2},
+    Verhaeltnis{"Formel \"sqrt(4)+pow(2;3)\" : Abstieg+to_chars", "Formel/sqrt(4)+pow(2;3)", "Abstieg/sqrt(4)+pow(2;3)",
+        Hoechstens, 2},
+    Verhaeltnis{"Formel \"z_Cu\" : Abstieg+to_chars", "Formel/z_Cu", "Abstieg/z_Cu", Hoechstens, 2},
+    Verhaeltnis{"Zahl \"3\" : from_chars+to_chars", "Zahl/3", "from_chars+to_chars/3", Hoechstens, 1.3},
+    Verhaeltnis{"Zahl \"1,5\" : from_chars+to_chars", "Zahl/1,5", "from_chars+to_chars/1,5", Hoechstens, 1.3},
+    Verhaeltnis{"Zahl \"63,546\" : from_chars+to_chars", "Zahl/63,546", "from_chars+to_chars/63,546", Hoechstens, 1.3},
     Verhaeltnis{"Legierung, Zahlen : bloße Schleife", "Legierung/Zahlen", "Legierung/bloße Schleife", Hoechstens, 3},
-    Verhaeltnis{"Legierung, Formeln : bloße Schleife", "Legierung/Formeln", "Legierung/bloße Schleife", OhneZiel, 0},
-    Verhaeltnis{"Legierung, Zahlen : Schleife, einmal", "Legierung/Zahlen", "Legierung/Schleife, einmal", OhneZiel, 0},
+    Verhaeltnis{"Legierung, Formeln : Zahlen", "Legierung/Formeln", "Legierung/Zahlen", Hoechstens, 1.1},
+    Verhaeltnis{"Legierung auf einmal : Schleife, einmal", "Legierung/auf einmal", "Legierung/Schleife, einmal",
+        Hoechstens, 1.5},
     Verhaeltnis{
-        "Legierung auf einmal : Schleife, einmal", "Legierung/auf einmal", "Legierung/Schleife, einmal", OhneZiel, 0},
+        "Legierung auf einmal : enge Schleife", "Legierung/auf einmal", "Legierung/enge Schleife", Hoechstens, 4},
     Verhaeltnis{
         "Bearbeitung bis zu den Größen : Formeln", "Bearbeitung/Größen", "Bearbeitung/bloße Formeln", Hoechstens, 1.5},
     Verhaeltnis{"Stapel, Zeile zu Zeile : bloße Formeln", "Stapel/Zeilen", "Stapel/bloße Formeln", Hoechstens, 30},
-    Verhaeltnis{"Elemente laden : lesen und kopieren", "Elementdatei/laden", "Elementdatei/kopieren", Hoechstens, 2},
+    Verhaeltnis{"Elemente laden : lesen und kopieren", "Elementdatei/laden", "Elementdatei/kopieren", Hoechstens, 1.7},
     Verhaeltnis{"Periodentafel : 103 Rechtecke", "Periodentafel/zeichnen", "Periodentafel/Rechtecke", Hoechstens, 1.3},
     Verhaeltnis{
         "Ternärgitter : bloße Schleife", "Ternaergitter/rechnen", "Ternaergitter/bloße Schleife", Hoechstens, 2.5},
     Verhaeltnis{"Ternärdiagramm : Dreiecke füllen", "Ternaerdiagramm/drehen", "Ternaerdiagramm/Dreiecke", OhneZiel, 0},
     Verhaeltnis{"Reihe : bloße Schleife", "Reihe/rechnen", "Reihe/bloße Schleife", Hoechstens, 2.5},
-    Verhaeltnis{"Dichtereihe : bloße Schleife", "Dichtereihe/rechnen", "Dichtereihe/bloße Schleife", Hoechstens, 2.5},
+    Verhaeltnis{"Dichtereihe : bloße Schleife", "Dichtereihe/rechnen", "Dichtereihe/bloße Schleife", Hoechstens, 1.5},
     Verhaeltnis{"Diagramm : bloßes Zeichnen", "Diagramm/neu zeichnen", "Diagramm/nur zeichnen", Hoechstens, 1.2},
 };
 
@@ -173,6 +180,7 @@ void registerBenchmarks()
     registerBearbeitungBenchmarks();
     registerEinwaageBenchmarks();
     registerStapelBenchmarks();
+    registerReiheBenchmarks();
 #ifdef ZERNA_WINDOW
     registerPeriodentafelBenchmarks();
     registerTernaerBenchmarks();

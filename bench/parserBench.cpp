@@ -6,7 +6,9 @@
 #include <benchmark/benchmark.h>
 #include <muParser.h>
 
+#include "bench/Abstieg.h"
 #include "bench/Aufbau.h"
+#include "core/Zahlentext.h"
 
 namespace zerna {
 
@@ -56,6 +58,19 @@ void formelMuParser(benchmark::State& state, const char* text)
     }
 }
 
+void formelAbstieg(benchmark::State& state, std::string_view text)
+{
+    Aufbau aufbau;
+    const Abstieg::Groesse known{"z_Cu", aufbau.elements.Item("Cu")->Valenz()};
+    const std::string value = valueByDescent(text, known);
+    if (doubleFromText(value) != doubleFromText(aufbau.parser.Parse(text)))
+        state.SkipWithError("rechnet anders als die Formel");
+    for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
+        benchmark::DoNotOptimize(text);
+        benchmark::DoNotOptimize(valueByDescent(text, known));
+    }
+}
+
 void zahl(benchmark::State& state, std::string_view text)
 {
     Aufbau aufbau;
@@ -84,6 +99,7 @@ void registerParserBenchmarks()
     for (const Formel& f : Formeln) {
         benchmark::RegisterBenchmark(("Formel/"s + f.text).c_str(), formel, f.text);
         benchmark::RegisterBenchmark(("muParser/"s + f.text).c_str(), formelMuParser, f.muParser);
+        benchmark::RegisterBenchmark(("Abstieg/"s + f.text).c_str(), formelAbstieg, f.text);
     }
     for (const Zahl& z : Zahlen) {
         benchmark::RegisterBenchmark(("Zahl/"s + z.name).c_str(), zahl, z.getippt);

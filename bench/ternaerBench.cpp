@@ -15,7 +15,6 @@ namespace zerna {
 
 namespace {
 
-constexpr int FermienergieCode = 8;
 constexpr int Feinste = 10;
 constexpr QSize Bildgroesse(1000, 700);
 
