@@ -16,6 +16,7 @@ void ElementCollection::Add(Element element, std::string_view key)
     if (!m_positions.try_emplace(std::string(key), m_elements.size()).second)
         throw Laufzeitfehler(Fehler::SchluesselVergeben);
     m_elements.push_back(std::move(element));
+    ++m_stand;
 }
 
 const ElementCollection::Element& ElementCollection::Item(int position) const
@@ -33,21 +34,23 @@ const ElementCollection::Element& ElementCollection::Item(std::string_view key) 
     return m_elements[found->second];
 }
 
-ElementCollection::Element ElementCollection::find(std::string_view key, bool ignoringCase) const
+const ElementCollection::Element& ElementCollection::find(std::string_view key, bool ignoringCase) const
 {
+    static const Element None;
     if (const auto found = m_positions.find(key); found != m_positions.end())
         return m_elements[found->second];
     if (!ignoringCase)
-        return nullptr;
+        return None;
     const auto found = std::ranges::find_if(
         m_elements, [wanted = lowerCase(key)](const Element& e) { return lowerCase(e->symbol()) == wanted; });
-    return found == m_elements.end() ? nullptr : *found;
+    return found == m_elements.end() ? None : *found;
 }
 
 void ElementCollection::clear()
 {
     m_positions.clear();
     m_elements.clear();
+    ++m_stand;
 }
 
 } // namespace zerna

@@ -25,9 +25,12 @@ public:
     const Element& Item(std::string_view key) const;
 
     /// The item of that key, null if there is none; with `ignoringCase` the first whose key differs in case only.
-    Element find(std::string_view key, bool ignoringCase = false) const;
+    const Element& find(std::string_view key, bool ignoringCase = false) const;
 
     int Count() const { return static_cast<int>(m_elements.size()); }
+
+    /// Another number after each change of what is found here (not of what the elements hold).
+    std::size_t Stand() const { return m_stand; }
 
     void clear();
 
@@ -38,11 +41,19 @@ private:
     struct Hash {
         using is_transparent = void;
         // Not noexcept, so that the library keeps each key's hash instead of computing it anew at every step.
-        std::size_t operator()(std::string_view key) const { return std::hash<std::string_view>()(key); }
+        // A symbol has one to three bytes, so this is done before the library's is called.
+        std::size_t operator()(std::string_view key) const
+        {
+            std::size_t hash = 0;
+            for (const char c : key)
+                hash = 257 * hash + static_cast<unsigned char>(c);
+            return hash;
+        }
     };
 
     std::vector<Element> m_elements;
     std::unordered_map<std::string, std::size_t, Hash, std::equal_to<>> m_positions; // from 0
+    std::size_t m_stand = 0;
 };
 
 } // namespace zerna

@@ -31,19 +31,6 @@ Lesung readHexNumber(std::string_view text, double& value)
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
-/// Reads a text of a few digits and nothing else: most valences and shares, worth a shorter way.
-bool readDigits(std::string_view text, double& value)
-{
-    constexpr std::size_t ExactDigits = 15;
-    if (text.size() > ExactDigits || !std::ranges::all_of(text, isDigit))
-        return false;
-    std::int64_t whole = 0;
-    for (const char c : text)
-        whole = 10 * whole + (c - '0');
-    value = static_cast<double>(whole);
-    return true;
-}
-
 /// A decimal text on its way into the form that from_chars reads: no plus sign, a point, an "e".
 class Dezimaltext {
 public:
@@ -144,7 +131,7 @@ Lesung read(std::string_view text, double& value)
         return Lesung::KeineZahl;
     if (text.front() == '&')
         return readHexNumber(text, value);
-    if (readDigits(text, value))
+    if (readPlainNumber(text, value))
         return Lesung::Zahl;
     Dezimaltext decimal(text);
     const std::string_view number = decimal.normalised();
@@ -160,6 +147,35 @@ Lesung read(std::string_view text, double& value)
 }
 
 } // namespace
+
+// It rounds as exactly as the long way: a double holds so many digits and the power of ten, so only the quotient
+// rounds.
+bool readPlainNumber(std::string_view text, double& value)
+{
+    constexpr std::array PowersOfTen{
+        1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    constexpr std::size_t ExactDigits = PowersOfTen.size() - 1;
+    if (text.size() > ExactDigits + 1)
+        return false;
+    std::int64_t whole = 0;
+    std::size_t separator = text.size(); // where it stands
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (isDigit(text[i]))
+            whole = 10 * whole + (text[i] - '0');
+        else if ((text[i] == ',' || text[i] == '.') && separator == text.size())
+            separator = i;
+        else
+            return false;
+    }
+    const bool hasSeparator = separator < text.size();
+    const std::size_t digits = text.size() - (hasSeparator ? 1 : 0);
+    if (digits == 0 || digits > ExactDigits)
+        return false;
+    value = static_cast<double>(whole);
+    if (hasSeparator)
+        value /= PowersOfTen.at(digits - separator);
+    return true;
+}
 
 bool readNumber(std::string_view text, double& value)
 {

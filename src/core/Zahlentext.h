@@ -56,6 +56,10 @@ float singleFromText(std::string_view text);
 /// error 6).
 bool readNumber(std::string_view text, double& value);
 
+/// A number of at most 15 digits, maybe with a separator and nothing else, as nearly all that are typed; false, and the
+/// value left alone, for any other text.
+bool readPlainNumber(std::string_view text, double& value);
+
 /// The text as a single; false, and the value left alone, for a text that is no number and for a number too large.
 bool readSingle(std::string_view text, float& value);
 

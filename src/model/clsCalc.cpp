@@ -190,7 +190,6 @@ void clsCalc::Neu_Berechnen()
 /// the particle number density, which comes from the molar volume.
 void clsCalc::berechne(std::span<const Legierungskomponente> komponenten)
 {
-    Kf_2(); // of what it was before
     try {
         float valenz = 0;
         float molvolumen = 0; // cm³/mol, times 100
@@ -208,11 +207,11 @@ void clsCalc::berechne(std::span<const Legierungskomponente> komponenten)
             molvolumen = toSingle(molvolumen + quotient(prozent * masse, k.dichte));
             dichte = toSingle(dichte + k.dichte * prozent);
         }
-        m_valenz = toSingle(valenz / 100.0);
-        m_dichte = toSingle(dichte / 100.0);
+        const float valenzProAtom = toSingle(valenz / 100.0);
+        const float mittlereDichte = toSingle(dichte / 100.0);
         molvolumen = toSingle(molvolumen / 100.0);
-        m_teilchenzahldichte = molvolumen == 0 ? Unbekannt : toSingle(AvogadroProKubikmeter / molvolumen);
-        Kf_2_Berechnen();
+        setBasis(molvolumen == 0 ? Unbekannt : toSingle(AvogadroProKubikmeter / molvolumen), valenzProAtom);
+        m_dichte = mittlereDichte;
     } catch (const Laufzeitfehler&) {
         berechnungGescheitert();
     }
@@ -220,7 +219,7 @@ void clsCalc::berechne(std::span<const Legierungskomponente> komponenten)
 
 void clsCalc::berechnungGescheitert()
 {
-    Kf_2();
+    Kf_2(); // of what it was before
     m_valenz = Unbekannt;
     m_teilchenzahldichte = Unbekannt;
     m_dichte = Unbekannt;
@@ -261,14 +260,19 @@ void clsCalc::Kf_2_Berechnen() const
 float clsCalc::valenzOf(const clsElement& element, GeleseneValenz& gelesen)
 {
     const std::string& text = element.Valenz_Temp();
-    if (gelesen.gilt && gelesen.text == text)
+    if (gelesen.gilt(text, m_elements.Stand()))
         return gelesen.valenz;
-    const std::string result = m_parser.Parse(text);
+    std::vector<Valenzbezug> bezuege;
+    const std::string result = m_parser.Parse(text, &bezuege);
     if (m_parser.LastError())
         throw Laufzeitfehler(static_cast<Fehler>(m_parser.LastError()->Nummer));
-    // A reference to another element (z_Cu) is looked up each time.
-    gelesen = {text, singleFromText(result), text.find('_') == std::string::npos};
+    gelesen = {text, singleFromText(result), m_elements.Stand(), std::move(bezuege), true};
     return gelesen.valenz;
+}
+
+bool clsCalc::GeleseneValenz::gilt(std::string_view heute, std::size_t heutigerStand) const
+{
+    return istGelesen && text == heute && stand == heutigerStand && std::ranges::all_of(bezuege, &Valenzbezug::gilt);
 }
 
 bool clsCalc::hasParticles() const { return m_teilchenzahldichte != 0 && !istUnbekannt(m_teilchenzahldichte); }

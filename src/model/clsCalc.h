@@ -4,6 +4,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/ElementCollection.h"
 #include "core/Unbekannt.h"
@@ -104,11 +105,16 @@ public:
     float Friedelminima(int n) const;
 
 private:
-    /// The last valence text of a slot and what it came to: recalculations by far outnumber edits.
+    /// The last valence text of a slot and what it came to: recalculations by far outnumber edits. A formula comes to
+    /// the same as long as it finds the same elements and they have the valences that it took.
     struct GeleseneValenz {
         std::string text;
         float valenz = 0;
-        bool gilt = false;
+        std::size_t stand = 0; // of the elements
+        std::vector<Valenzbezug> bezuege;
+        bool istGelesen = false;
+
+        bool gilt(std::string_view heute, std::size_t heutigerStand) const;
     };
 
     /// The Fermi energy (eV) of the electron density (1/m³) that it was asked for last.

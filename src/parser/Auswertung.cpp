@@ -38,6 +38,13 @@ auto located(std::size_t position, Arithmetic&& arithmetic)
 
 bool isOperator(char c) { return c == '+' || c == '-' || c == '*' || c == '/' || c == '^'; }
 
+/// Whether a text is an ASCII word, which is given in lower case.
+bool isWord(std::string_view text, std::string_view word)
+{
+    return std::ranges::equal(
+        text, word, {}, [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
+}
+
 /// A part of the formula as it may appear in a message: names whole, nothing absurd.
 std::string quoted(std::string_view text)
 {
@@ -122,9 +129,10 @@ void Termstapel::grow()
     m_terms = m_many;
 }
 
-Auswertung::Auswertung(std::string_view text, const ElementCollection& elements)
+Auswertung::Auswertung(std::string_view text, const ElementCollection& elements, std::vector<Valenzbezug>* bezuege)
     : m_text(text)
     , m_elements(elements)
+    , m_bezuege(bezuege)
 {
 }
 
@@ -215,23 +223,24 @@ double Auswertung::operand(std::string_view text, std::size_t position) const
     double number = 0;
     if (located(position, [&] { return readNumber(text, number); }))
         return number;
-    const std::string name = lowerCase(text.substr(0, 3));
-    if (text.size() == 2 && name == "pi")
+    if (isWord(text, "pi"))
         return KonstantePi;
-    if (name == "e")
+    if (isWord(text, "e"))
         return KonstanteE;
-    if (name.starts_with("z_"))
+    if (isWord(text.substr(0, 2), "z_"))
         return valenceOf(text.substr(2), position);
     abort(Fehler::TypenUnvertraeglich, "\"" + quoted(text) + "\" ist keine Zahl", position);
 }
 
 double Auswertung::valenceOf(std::string_view key, std::size_t position) const
 {
-    const auto element = m_elements.find(key, true);
+    const ElementCollection::Element& element = m_elements.find(key, true);
     if (!element)
         abort(Fehler::UngueltigesArgument, "Element \"" + quoted(key) + "\" ist nicht bekannt", position);
     if (istUnbekannt(element->Valenz()))
         abort(Fehler::UngueltigesArgument, "Valenz von \"" + quoted(key) + "\" ist nicht bekannt", position);
+    if (m_bezuege != nullptr)
+        m_bezuege->push_back({element, element->Valenz()});
     return located(position, [&] { return throughText(element->Valenz()); });
 }
 

@@ -9,8 +9,8 @@
 #include <utility>
 #include <vector>
 
-#include "core/ElementCollection.h"
 #include "core/Laufzeitfehler.h"
+#include "parser/Formelwert.h"
 
 namespace zerna {
 
@@ -62,7 +62,8 @@ private:
 /// One evaluation of a formula without blanks: evaluate once, then read what else came out.
 class Auswertung {
 public:
-    Auswertung(std::string_view text, const ElementCollection& elements);
+    /// The elements whose valences are taken are added to `bezuege` unless that is null.
+    Auswertung(std::string_view text, const ElementCollection& elements, std::vector<Valenzbezug>* bezuege);
     Auswertung(const Auswertung&) = delete;
     Auswertung& operator=(const Auswertung&) = delete;
 
@@ -95,6 +96,7 @@ private:
 
     std::string_view m_text;
     const ElementCollection& m_elements;
+    std::vector<Valenzbezug>* m_bezuege;
     Termstapel m_terms;
     int m_depth = 0;
     bool m_hexadecimal = false;

@@ -43,12 +43,16 @@ Formelfehler formelfehler(const Abbruch& abbruch, std::string_view formula)
 
 } // namespace
 
-Formelwert formelwert(std::string_view formula, const ElementCollection& elements)
+Formelwert formelwert(std::string_view formula, const ElementCollection& elements, std::vector<Valenzbezug>* bezuege)
 {
+    Formelwert result;
+    if (readPlainNumber(formula, result.wert)) { // worth a shorter way: most valences
+        result.text = textOfDouble(result.wert);
+        return result;
+    }
     const bool hasBlanks = formula.find(' ') != std::string_view::npos;
     const std::string compact = hasBlanks ? removeBlanks(formula) : std::string();
-    Auswertung auswertung(hasBlanks ? compact : formula, elements);
-    Formelwert result;
+    Auswertung auswertung(hasBlanks ? compact : formula, elements, bezuege);
     try {
         const double value = auswertung.evaluate();
         result.text = auswertung.hexadecimal() ? "0x" + hexDigits(value) : textOfDouble(value);

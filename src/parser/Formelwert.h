@@ -20,6 +20,15 @@ struct Formelfehler {
 /// Caption of the messages about formulas.
 inline constexpr std::string_view Formelmeldungstitel = "Formelparser";
 
+/// An element whose valence a formula took.
+struct Valenzbezug {
+    ElementCollection::Element element;
+    float valenz = 0;
+
+    /// Whether it would take the same again.
+    bool gilt() const { return element->Valenz() == valenz; }
+};
+
 /// What a formula comes to.
 struct Formelwert {
     std::string text = "0"; ///< 15 significant digits with decimal comma, or "0x" and hexadecimal digits
@@ -34,7 +43,9 @@ struct Formelwert {
 ///
 /// Operators + - * / ^ (all left-associative, so 2^3^2 is 64; no signs: -3 is an error, 0-3 is not), parentheses,
 /// functions of arguments separated by ";", the constants pi and e, numbers with comma or point, exponents and "&H".
-Formelwert formelwert(std::string_view formula, const ElementCollection& elements);
+/// The elements whose valences it took are added to `bezuege`.
+Formelwert formelwert(
+    std::string_view formula, const ElementCollection& elements, std::vector<Valenzbezug>* bezuege = nullptr);
 
 /// The formula with its blanks removed.
 /// Intended: the first of two adjacent blanks hides the second, which stays, and the last character is not examined.

@@ -20,9 +20,9 @@ std::string clsParser::FormatLastResult(std::string_view format) const
     return format == "Standard" ? textOfDouble(m_lastResult) : std::string();
 }
 
-std::string clsParser::Parse(std::string_view formula)
+std::string clsParser::Parse(std::string_view formula, std::vector<Valenzbezug>* bezuege)
 {
-    Formelwert value = formelwert(formula, m_elements);
+    Formelwert value = formelwert(formula, m_elements, bezuege);
     for (const std::string& text : value.meldungen)
         m_boxes.show(Icon::None, Formelmeldungstitel, text);
     m_lastResult = value.wert; // after the boxes, in which another formula may have been evaluated

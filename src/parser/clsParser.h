@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/MessageBoxes.h"
 #include "parser/Formelwert.h"
@@ -18,8 +19,9 @@ public:
     std::string FormatLastResult(std::string_view format) const;
 
     /// The formula's value as text, see Formelwert. Any error makes it "0", see LastError. An unknown function counts
-    /// as 0 in the formula and is shown in a message box once the evaluation is over.
-    std::string Parse(std::string_view formula);
+    /// as 0 in the formula and is shown in a message box once the evaluation is over. The elements whose valences it
+    /// took are added to `bezuege`.
+    std::string Parse(std::string_view formula, std::vector<Valenzbezug>* bezuege = nullptr);
 
     /// The name of function `index`, 0 to FunctionCount - 1; empty for any other.
     std::string_view FunctionName(int index) const;

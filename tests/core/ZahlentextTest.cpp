@@ -1,5 +1,7 @@
 #include "core/Zahlentext.h"
 
+#include <random>
+
 #include "core/Unbekannt.h"
 #include "support/FilesTest.h"
 
@@ -77,6 +79,24 @@ TEST(Zahlentext, ReadsWhatPeopleType)
         {"1" + zeros + "e-30", 6}};
     for (const auto& [text, error] : errors)
         EXPECT_EQ(errorNumber([&text = text] { doubleFromText(text); }), error) << text;
+}
+
+TEST(Zahlentext, ReadsPlainNumbersAsExactlyAsAnyOther)
+{
+    std::mt19937 random(1);
+    for (int i = 0; i < 50000; ++i) {
+        std::string text = std::to_string(random() * (std::uint64_t{1} << 20U));
+        text = std::string(random() % 4, '0').append(text, 0, 1 + random() % 11);
+        if (const std::size_t place = random() % 20; place <= text.size())
+            text.insert(place, 1, random() % 2 == 0 ? ',' : '.');
+        double value = 0;
+        ASSERT_TRUE(readPlainNumber(text, value)) << text;
+        ASSERT_EQ(value, doubleFromText(text + "e0")) << text;
+    }
+    double untouched = 7;
+    for (const char* const text : {"", ",", "1,2.3", "-1", "+1", " 1", "1e3", "&H1", "1234567890123456", "z_Cu"})
+        EXPECT_FALSE(readPlainNumber(text, untouched)) << text;
+    EXPECT_EQ(untouched, 7);
 }
 
 TEST(Zahlentext, ShowsAndReadsFields)

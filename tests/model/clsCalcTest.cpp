@@ -76,6 +76,22 @@ TEST_F(clsCalcTest, AFailedRecalculationMakesAllUnknownButKf2)
     EXPECT_EQ(errorNumber([&] { calc.Element_Add(5, "Al", 1); }), 9);
 }
 
+TEST_F(clsCalcTest, AFormulaFollowsTheElementsThatItNames)
+{
+    count = 1;
+    elements.Item("Al")->setValenz_Temp("z_cu/2");
+    for (const float valence : {2.0F, 3.0F, Unbekannt, 4.0F}) {
+        elements.Item("Cu")->setValenz(valence);
+        calc.Element_Add(0, "Al", 100);
+        EXPECT_EQ(calc.Valenz(), istUnbekannt(valence) ? Unbekannt : valence / 2);
+    }
+    auto nearer = std::make_shared<clsElement>(files, boxes);
+    nearer->setValenz(5);
+    elements.Add(nearer, "cu");
+    calc.Element_Add(0, "Al", 100);
+    EXPECT_EQ(calc.Valenz(), 2.5F) << "another element goes by that name now";
+}
+
 TEST_F(clsCalcTest, QuantitiesWithoutAValue)
 {
     count = 0;

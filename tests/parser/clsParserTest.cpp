@@ -40,6 +40,9 @@ TEST_F(clsParserTest, LastResultAndError)
         EXPECT_EQ(parser.Parse(formula), value);
         EXPECT_FALSE(parser.LastError());
     }
+    for (const char* const number : {"007,50", ",5", "3,", "0.00001", "123456789012345", "0,1234567890123456", "0"})
+        EXPECT_EQ(parser.Parse(number), parser.Parse("(" + std::string(number) + ")"));
+    parser.Parse("1234,5");
     EXPECT_EQ(parser.FormatLastResult("Scientific"), "1,23E+03");
     EXPECT_EQ(parser.FormatLastResult("Standard"), "1234,5");
     EXPECT_EQ(parser.FormatLastResult("Fixed"), "");

@@ -33,6 +33,8 @@ ZERNA_COUNTED(zahlen, double, wide, "_ZN5zerna14doubleFromTextESt17basic_string_
     (std::string_view text), (text))
 ZERNA_COUNTED(zahlen, bool, number, "_ZN5zerna10readNumberESt17basic_string_viewIcSt11char_traitsIcEERd",
     (std::string_view text, double& value), (text, value))
+ZERNA_COUNTED(zahlen, bool, plain, "_ZN5zerna15readPlainNumberESt17basic_string_viewIcSt11char_traitsIcEERd",
+    (std::string_view text, double& value), (text, value))
 ZERNA_COUNTED(zahlen, float, parse, "_ZN5zerna10ParseValueESt17basic_string_viewIcSt11char_traitsIcEE",
     (std::string_view text), (text))
 ZERNA_COUNTED(rechnungen, void, alloy,
