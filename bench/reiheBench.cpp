@@ -87,10 +87,9 @@ void dichteBloss(benchmark::State& state)
             others += dichten[j];
         others /= static_cast<double>(dichten.size() - 1);
         Reihe values{};
-        for (std::size_t i = 0; i < values.size(); ++i) {
-            const auto x = static_cast<double>(i);
-            values[i] = static_cast<float>((dichten[0] * x + others * (100 - x)) / 100);
-        }
+        for (int i = 0; i <= 100; ++i)
+            values[static_cast<std::size_t>(i)] =
+                static_cast<float>((static_cast<double>(dichten[0]) * i + others * (100 - i)) / 100);
         benchmark::DoNotOptimize(values);
     }
 }

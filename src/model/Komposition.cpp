@@ -98,14 +98,15 @@ Eingabefeld ausgleich(std::span<const float> prozente)
 {
     constexpr int Stellen = 7;
     constexpr float Klein = 0.01F;
+    constexpr float FirstWithExponent = 1e15F;
     float sum = 0;
     for (const float prozent : prozente)
         sum = toSingle(static_cast<double>(sum) + prozent);
     const float rest = toSingle(100.0 - sum);
     // Mostly the shortest text is short enough, and reads back as what it was made of.
     std::string text = textOfSingle(rest);
-    const bool isShort = text.size() <= Stellen && text.find('E') == std::string::npos;
-    if (isShort && (rest == 0 || std::abs(rest) >= Klein))
+    const bool isPlain = rest == 0 || (std::abs(rest) >= Klein && std::abs(rest) < FirstWithExponent);
+    if (isPlain && text.size() <= Stellen)
         return {std::move(text), rest};
     return zahlenfeld(textWithDigits(rest, Stellen));
 }

@@ -1,12 +1,47 @@
 #include "model/Konzentrationsreihe.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "core/CheckedArithmetic.h"
 #include "core/Zahlentext.h"
 
 namespace zerna {
+
+namespace {
+
+/// The part (of 1) that each of so many others has at 0, 1, … 100 at% of one component, the same in every alloy.
+constexpr auto Restanteile = [] {
+    std::array<std::array<double, std::tuple_size_v<Reihe>>, MaxKomponenten> anteile{};
+    for (std::size_t others = 1; others < anteile.size(); ++others) {
+        for (std::size_t i = 0; i < anteile[others].size(); ++i)
+            anteile[others][i] = (100.0 - static_cast<double>(i)) / static_cast<double>(others) / 100;
+    }
+    return anteile;
+}();
+
+struct Dichtesummen {
+    double own = 0;
+    double others = 0;
+};
+
+/// The density of the variable component and the sum of the others'. Error 9 for a row outside, error 5 for an unknown
+/// density.
+Dichtesummen dichtesummen(std::span<const float> dichten, int variable)
+{
+    if (variable < 0 || static_cast<std::size_t>(variable) >= dichten.size() || dichten.size() > MaxKomponenten)
+        throw Laufzeitfehler(Fehler::IndexAusserhalb);
+    if (std::ranges::any_of(dichten, istUnbekannt))
+        throw Laufzeitfehler(Fehler::UngueltigesArgument);
+    const auto index = static_cast<std::size_t>(variable);
+    Dichtesummen summen{dichten[index]};
+    for (std::size_t j = 0; j < dichten.size(); ++j)
+        summen.others += j == index ? 0 : dichten[j];
+    return summen;
+}
+
+} // namespace
 
 std::string_view reiheneinheit(int groesse)
 {
@@ -31,23 +66,22 @@ Reihe konzentrationsreihe(
 
 float dichtewert(std::span<const float> dichten, int variable, double x)
 {
-    if (variable < 0 || static_cast<std::size_t>(variable) >= dichten.size() || dichten.size() > MaxKomponenten)
-        throw Laufzeitfehler(Fehler::IndexAusserhalb);
-    if (std::ranges::any_of(dichten, istUnbekannt))
-        throw Laufzeitfehler(Fehler::UngueltigesArgument);
-    const auto index = static_cast<std::size_t>(variable);
-    double others = 0;
-    for (std::size_t j = 0; j < dichten.size(); ++j)
-        others += j == index ? 0 : dichten[j];
-    const double share = quotient(100 - x, static_cast<double>(dichten.size()) - 1) / 100;
-    return toSingle(dichten[index] * x / 100 + share * others);
+    const auto [own, others] = dichtesummen(dichten, variable);
+    return toSingle(own * x / 100 + quotient(100 - x, static_cast<double>(dichten.size()) - 1) / 100 * others);
 }
 
 Reihe dichtereihe(std::span<const float> dichten, int variable)
 {
     Reihe reihe{};
-    for (std::size_t i = 0; i < reihe.size(); ++i)
-        reihe.at(i) = dichtewert(dichten, variable, static_cast<double>(i));
+    reihe.front() = dichtewert(dichten, variable, 0);
+    reihe.back() = dichtewert(dichten, variable, 100);
+    // All others lie between the two, so a single holds them, too.
+    const auto [own, others] = dichtesummen(dichten, variable);
+    const auto& anteile = Restanteile.at(dichten.size() - 1);
+    for (int i = 1; i < 100; ++i) {
+        const auto step = static_cast<std::size_t>(i);
+        reihe[step] = static_cast<float>(own * i / 100 + anteile[step] * others);
+    }
     return reihe;
 }
 

@@ -55,6 +55,19 @@ TEST_F(ReihenTest, FaultsReachTheCaller)
         EXPECT_EQ(errorNumber(action), error) << name;
 }
 
+TEST_F(ReihenTest, TheDensitySeriesIsTheDensityAtEachPercent)
+{
+    const std::array dichten{2.7F, 8.96F, 7.134F, 0.1F, 1e38F};
+    for (std::size_t size = 2; size <= dichten.size(); ++size) {
+        for (int variable = 0; variable < static_cast<int>(size); ++variable) {
+            const auto some = std::span(dichten).first(size);
+            const Reihe reihe = dichtereihe(some, variable);
+            for (int i = 0; i <= 100; ++i)
+                ASSERT_EQ(reihe.at(static_cast<std::size_t>(i)), dichtewert(some, variable, i)) << size << ' ' << i;
+        }
+    }
+}
+
 TEST_F(ReihenTest, FaultsOfAComponentReachTheCaller)
 {
     struct Row {
