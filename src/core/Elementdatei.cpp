@@ -1,5 +1,8 @@
 #include "core/Elementdatei.h"
 
+#include <memory>
+#include <vector>
+
 #include "core/Elementspalten.h"
 #include "core/Exportdatei.h"
 
@@ -27,8 +30,10 @@ void loadElements(Dateinummern& files, int number, MessageBoxes& boxes, ElementC
     const std::function<void(const ElementCollection::Element&, int)>& each)
 {
     const std::int32_t count = readCount(files.at(number));
+    const auto table = std::make_shared<std::vector<clsElement>>(); // one block, which each of its elements keeps alive
+    table->reserve(static_cast<std::size_t>(count));
     for (int i = 1; i <= count; ++i) {
-        auto element = std::make_shared<clsElement>(files, boxes);
+        const ElementCollection::Element element(table, &table->emplace_back(files, boxes));
         element->setDateinummer(number);
         element->Daten_Lesen();
         if (each)
