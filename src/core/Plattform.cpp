@@ -78,7 +78,7 @@ std::optional<std::tm> lastWriteTime(const std::filesystem::path& path)
 
 bool libraryHasFunction(const std::string& library, const std::string& function)
 {
-    HMODULE handle = LoadLibraryA(library.c_str());
+    HMODULE handle = LoadLibraryW(pathFromUtf8(library).c_str());
     if (handle == nullptr)
         return false;
     const bool found = GetProcAddress(handle, function.c_str()) != nullptr;

@@ -28,12 +28,25 @@ std::FILE* failedWith(int error)
     return nullptr;
 }
 
+/// What errno would be for the platform's last error.
+int lastError()
+{
+    const std::error_code error(static_cast<int>(GetLastError()), std::system_category());
+    const std::error_condition condition = error.default_error_condition();
+    return condition.category() == std::generic_category() ? condition.value() : EIO;
+}
+
+bool isFolder(const std::filesystem::path& path)
+{
+    std::error_code unknown;
+    return std::filesystem::is_directory(path, unknown);
+}
+
 } // namespace
 
 std::FILE* openFile(const std::filesystem::path& path, const char* mode)
 {
-    std::error_code unknown;
-    if (std::filesystem::is_directory(path, unknown))
+    if (isFolder(path)) // opening it would mean "access denied"
         return failedWith(EISDIR);
     std::FILE* const file = _wfopen(path.c_str(), std::filesystem::path(mode).c_str());
     if (file == nullptr || GetFileType(reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(file)))) == FILE_TYPE_DISK)
@@ -42,7 +55,10 @@ std::FILE* openFile(const std::filesystem::path& path, const char* mode)
     return failedWith(ENXIO);
 }
 
-std::FILE* openStream(const std::filesystem::path& path) { return _wfopen(path.c_str(), L"rb"); }
+std::FILE* openStream(const std::filesystem::path& path)
+{
+    return isFolder(path) ? failedWith(EISDIR) : _wfopen(path.c_str(), L"rb");
+}
 
 std::ptrdiff_t readSome(std::FILE* file, std::span<char> bytes)
 {
@@ -54,11 +70,8 @@ std::FILE* createFile(const std::filesystem::path& path, bool)
     // Nobody can delete it while it is open, since deleting is not shared.
     const HANDLE handle = CreateFileW(path.c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_NEW,
         FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (handle == INVALID_HANDLE_VALUE) {
-        const DWORD error = GetLastError();
-        const bool missing = error == ERROR_PATH_NOT_FOUND || error == ERROR_FILE_NOT_FOUND;
-        return failedWith(error == ERROR_FILE_EXISTS ? EEXIST : missing ? ENOENT : EACCES);
-    }
+    if (handle == INVALID_HANDLE_VALUE)
+        return failedWith(lastError());
     return _fdopen(_open_osfhandle(reinterpret_cast<std::intptr_t>(handle), _O_BINARY), "w+b");
 }
 
@@ -75,8 +88,9 @@ bool moveInto(const std::filesystem::path& target, const std::filesystem::path& 
             || MoveFileExW(path.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING) != 0);
     if (moved)
         return true;
+    const int error = lastError();
     DeleteFileW(path.c_str());
-    errno = EACCES;
+    errno = error;
     return false;
 }
 

@@ -16,8 +16,8 @@ std::string enter(const std::filesystem::path& folder)
     std::filesystem::current_path(folder, failed);
     if (!failed)
         return {};
-    return "Der Ordner \"" + utf8FromPath(folder) + "\" lässt sich nicht öffnen: " + systemfehler(failed.value()).what()
-        + ".";
+    const int error = failed.default_error_condition().value(); // an errno on every platform
+    return "Der Ordner \"" + utf8FromPath(folder) + "\" lässt sich nicht öffnen: " + systemfehler(error).what() + ".";
 }
 
 } // namespace

@@ -46,9 +46,10 @@ Entpackt entpackt(std::string_view gepackt, std::size_t hoechstens)
 
 std::string gepackt(std::string_view bytes)
 {
-    uLongf size = compressBound(bytes.size());
+    const auto count = static_cast<uLong>(bytes.size()); // a document, far below 4 GB
+    uLongf size = compressBound(count);
     std::string result(size, '\0');
-    if (compress(reinterpret_cast<Bytef*>(result.data()), &size, zlibBytes(bytes), bytes.size()) != Z_OK)
+    if (compress(reinterpret_cast<Bytef*>(result.data()), &size, zlibBytes(bytes), count) != Z_OK)
         throw std::bad_alloc();
     result.resize(size);
     return result;

@@ -1,9 +1,8 @@
 #include "core/clsFileHandler.h"
 
-#include <sys/stat.h>
-
 #include "support/FilesTest.h"
 #include "support/FullDisk.h"
+#include "support/Geraet.h"
 
 namespace zerna {
 
@@ -27,12 +26,11 @@ TEST_F(clsFileHandlerTest, WritesAndReadsLines)
 
 TEST_F(clsFileHandlerTest, SaysWhyAFileIsNotOpened)
 {
-    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
     const std::tuple<std::string, int, const char*> rows[] = {{"", 1, ""}, {path, 3, ""},
         {path, 1, "Datei nicht gefunden"}, {path + "/a.dat", 0, "Pfad nicht gefunden"},
-        {folder.path(), 1, "Fehler beim Zugriff auf Pfad/Datei (das ist ein Ordner)"},
-        {folder / "pipe", 0, "Fehler beim Zugriff auf Pfad/Datei (das ist keine gewöhnliche Datei)"},
-        {"/dev/zero", 2, "Fehler beim Zugriff auf Pfad/Datei (das ist keine gewöhnliche Datei)"}};
+        {folder.path().string(), 1, "Fehler beim Zugriff auf Pfad/Datei (das ist ein Ordner)"},
+        {makePipe(folder / "pipe").string(), 0, "Fehler beim Zugriff auf Pfad/Datei (das ist keine gewöhnliche Datei)"},
+        {Geraet, 2, "Fehler beim Zugriff auf Pfad/Datei (das ist keine gewöhnliche Datei)"}};
     for (const auto& [name, modus, message] : rows) {
         EXPECT_FALSE(handler.OpenFile(name, modus) || handler.FileEnd() || std::filesystem::exists(path)) << name;
         EXPECT_EQ(boxes.shown.empty() ? "" : boxes.shown.back().text, message);

@@ -1,7 +1,5 @@
 #include "programm/Programm.h"
 
-#include <sys/stat.h>
-
 #include <algorithm>
 #include <map>
 
@@ -10,6 +8,7 @@
 #include "support/FakeServices.h"
 #include "support/FilesTest.h"
 #include "support/FullDisk.h"
+#include "support/Geraet.h"
 
 namespace zerna {
 
@@ -155,7 +154,7 @@ TEST_F(ProgrammTest, EndsWithAMessageWhenThereIsNoDataFile)
             "Datei nicht gefunden (die Verknüpfung führt zu keiner Datei)."},
         {[&] { std::filesystem::create_directory(dataFile); },
             "Fehler beim Zugriff auf Pfad/Datei (das ist ein Ordner)."},
-        {[&] { ASSERT_EQ(mkfifo(dataFile.c_str(), 0600), 0); },
+        {[&] { ASSERT_EQ(makePipe(dataFile), dataFile); },
             "Fehler beim Zugriff auf Pfad/Datei (das ist keine gewöhnliche Datei)."}};
     for (const auto& [make, cause] : rows) {
         make();

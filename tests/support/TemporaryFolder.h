@@ -1,9 +1,9 @@
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <string>
 
 namespace zerna {
@@ -13,8 +13,10 @@ class TemporaryFolder {
 public:
     TemporaryFolder()
     {
-        std::string name = (std::filesystem::temp_directory_path() / "zerna-XXXXXX").string();
-        m_path = mkdtemp(name.data());
+        std::random_device random;
+        do
+            m_path = std::filesystem::temp_directory_path() / ("zerna-" + std::to_string(random()));
+        while (!std::filesystem::create_directory(m_path));
     }
     ~TemporaryFolder()
     {
