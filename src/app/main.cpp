@@ -47,8 +47,11 @@ int main(int argc, char** argv)
 {
     zerna::surviveFileSizeLimit();
     zerna::QtMessageBoxes boxes;
-    // The platform's own dialogs would speak the platform's language; the toolkit's speak German like the program.
+#ifndef Q_OS_WIN
+    // The platform's own dialogs would speak the platform's language; the toolkit's speak German like the program. On
+    // Windows they are what users know, with their places and recent folders.
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+#endif
     const zerna::Anwendung application(argc, argv, boxes);
     QApplication::setStyle(new zerna::LesbarerStil);
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));

@@ -10,6 +10,8 @@
 #include <QPushButton>
 #include <QStringList>
 
+#include <utility>
+
 #include "core/Datei.h"
 #include "programm/Exportziel.h"
 #include "ui/platform/Dateispalten.h"
@@ -18,6 +20,13 @@
 namespace zerna {
 
 namespace {
+
+/// The folder of a path as far as it is there, and the rest of the path.
+std::pair<QString, QString> splitAtMissing(const QString& path)
+{
+    const QString folder = toQt(utf8FromPath(vorhandenerOrdner(pathFromUtf8(fromQt(path)))));
+    return {folder, path.mid(QDir(folder).filePath(QStringLiteral("x")).size() - 1)};
+}
 
 /// A dialog that answers with the name as it was typed and leaves it to the program to judge it. The toolkit's own
 /// takes a name apart at quotation marks, and one that is too long it greys its button for and says nothing.
@@ -38,9 +47,9 @@ public:
     /// Shows a path again that may not exist.
     void offer(const QString& path)
     {
-        const std::filesystem::path folder = vorhandenerOrdner(pathFromUtf8(fromQt(path)));
-        setDirectory(toQt(utf8FromPath(folder)));
-        name().setText(path.mid(directory().filePath(QStringLiteral("x")).size() - 1));
+        const auto [folder, rest] = splitAtMissing(path);
+        setDirectory(folder);
+        name().setText(rest);
     }
 
     /// Folder and name.
@@ -77,6 +86,44 @@ private:
     }
 };
 
+/// The platform's own dialog. Replacing a file is the program's question.
+class Systemdialog : public QFileDialog {
+public:
+    Systemdialog(const QString& title, const QStringList& filters)
+        : QFileDialog(QApplication::activeWindow(), title, QDir::currentPath())
+    {
+        setAcceptMode(AcceptSave);
+        setFileMode(AnyFile);
+        setOption(DontConfirmOverwrite);
+        setNameFilters(filters);
+    }
+
+    void offer(const QString& path)
+    {
+        const auto [folder, rest] = splitAtMissing(path);
+        setDirectory(folder);
+        if (!rest.isEmpty() && !rest.contains(QLatin1Char('/'))) // it opens no dialog for a name that it would refuse
+            selectFile(rest);
+    }
+
+    QString path() const { return selectedFiles().value(0); }
+};
+
+template <class Dialog>
+std::optional<SaveFileDialog::Choice> ask(
+    const QString& title, const QStringList& filters, const std::optional<SaveFileDialog::Choice>& refused)
+{
+    Dialog dialog(title, filters);
+    if (refused) {
+        dialog.selectNameFilter(filters.value(refused->filterIndex - 1));
+        dialog.offer(toQt(refused->path));
+    }
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    const auto filter = static_cast<int>(filters.indexOf(dialog.selectedNameFilter()));
+    return SaveFileDialog::Choice{fromQt(dialog.path()), qMax(0, filter) + 1};
+}
+
 } // namespace
 
 std::optional<SaveFileDialog::Choice> QtSaveFileDialog::choose(
@@ -86,15 +133,8 @@ std::optional<SaveFileDialog::Choice> QtSaveFileDialog::choose(
     for (const Exportart& art : arten)
         filters << toQt(art.beschreibung);
     m_title = toQt(title);
-    Speicherdialog dialog(m_title, filters);
-    if (refused) {
-        dialog.selectNameFilter(filters.value(refused->filterIndex - 1));
-        dialog.offer(toQt(refused->path));
-    }
-    if (dialog.exec() != QDialog::Accepted)
-        return std::nullopt;
-    const auto filter = static_cast<int>(filters.indexOf(dialog.selectedNameFilter()));
-    return Choice{fromQt(dialog.path()), qMax(0, filter) + 1};
+    return QApplication::testAttribute(Qt::AA_DontUseNativeDialogs) ? ask<Speicherdialog>(m_title, filters, refused)
+                                                                    : ask<Systemdialog>(m_title, filters, refused);
 }
 
 bool QtSaveFileDialog::confirmReplace(std::string_view name)
