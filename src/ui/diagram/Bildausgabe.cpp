@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPrinterInfo>
 
 #include <algorithm>
 
@@ -80,6 +81,15 @@ QImage imageOf(const Bildmaler& maler, const Leinwand& leinwand)
 Exportart bitmap(const Bildmaler& maler, const Leinwand& leinwand)
 {
     return {"Bitmap (*.bmp)", "", ".bmp", [=] { return encoded(imageOf(maler, leinwand), "BMP"); }, true};
+}
+
+bool canPrint()
+{
+#ifdef Q_OS_WIN
+    return !QPrinterInfo::availablePrinterNames().isEmpty();
+#else
+    return true;
+#endif
 }
 
 void printPicture(QWidget* parent, const Bildmaler& maler, const Leinwand& leinwand)

@@ -23,6 +23,9 @@ QImage imageOf(const Bildmaler& maler, const Leinwand& leinwand);
 /// The export of a picture as a bitmap.
 Exportart bitmap(const Bildmaler& maler, const Leinwand& leinwand);
 
+/// Whether asking for a printer shows a dialog. Where there is no printer, Windows shows none; others offer a file.
+bool canPrint();
+
 /// Asks for a printer and prints the picture as large as the page allows, laid out as on the screen, with the date
 /// below it.
 void printPicture(QWidget* parent, const Bildmaler& maler, const Leinwand& leinwand);

@@ -151,7 +151,14 @@ void Diagrammflaeche::savePicture()
         SaveFileDialog::Choice{fromQt(QDir::currentPath()) + '/', static_cast<int>(vorgabe.art) + 1});
 }
 
-void Diagrammflaeche::print() { printPicture(this, m_diagramm->maler(), leinwand()); }
+void Diagrammflaeche::print()
+{
+    if (canPrint())
+        printPicture(this, m_diagramm->maler(), leinwand());
+    else
+        m_programm.boxes().show(Icon::Exclamation, Programmtitel,
+            "Es ist kein Drucker eingerichtet. „Bild speichern“ gibt das Diagramm auch als PDF-Dokument aus.");
+}
 
 void Diagrammflaeche::contextMenuEvent(QContextMenuEvent* event)
 {
