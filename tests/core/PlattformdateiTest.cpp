@@ -21,7 +21,7 @@ struct PlattformdateiTest : FilesTest {
         return std::distance(std::filesystem::directory_iterator(folder.path()), {});
     }
 
-    const std::filesystem::path target = folder / u8"ä ß.dat";
+    const std::filesystem::path target = folder / "ä ß.dat";
 };
 
 TEST_F(PlattformdateiTest, WhatIsNoFileIsSaidBeforeItIsOpened)

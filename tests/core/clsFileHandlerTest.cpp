@@ -1,5 +1,6 @@
 #include "core/clsFileHandler.h"
 
+#include "core/Datei.h"
 #include "support/FilesTest.h"
 #include "support/FullDisk.h"
 #include "support/Geraet.h"
@@ -7,7 +8,7 @@
 namespace zerna {
 
 struct clsFileHandlerTest : FilesTest {
-    const std::string path = (folder / "ä.dat").string();
+    const std::string path = utf8FromPath(folder / "ä.dat");
     clsFileHandler handler{files, boxes};
 };
 

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "core/Datei.h"
 #include "support/FakeServices.h"
 #include "support/FullDisk.h"
 #include "support/RechnerTest.h"
@@ -56,7 +57,7 @@ TEST_F(DokumentverwaltungTest, KnowsItsFileAndWhetherItIsChanged)
     enter("60");
     EXPECT_FALSE(dateien.istGeaendert()) << "without a file";
     EXPECT_FALSE(dateien.speichere()) << "cancelled";
-    save.answer = {(folder / "Größe").string(), 1};
+    save.answer = {utf8FromPath(folder / "Größe"), 1};
     ASSERT_TRUE(dateien.speichere());
     EXPECT_EQ(dateien.name(), "Größe.zerna");
     EXPECT_EQ(stored("Größe.zerna"), programm.Dokument());
@@ -70,7 +71,7 @@ TEST_F(DokumentverwaltungTest, KnowsItsFileAndWhetherItIsChanged)
     ASSERT_TRUE(dateien.neu());
     EXPECT_EQ(dateien.name() + entered(), "50");
     EXPECT_EQ(programm.Eingabe().zeile(1).element->symbol(), "Cu");
-    open.answer = (folder / "Größe.zerna").string();
+    open.answer = utf8FromPath(folder / "Größe.zerna");
     ASSERT_TRUE(dateien.oeffne());
     EXPECT_EQ(dateien.name() + entered(), "Größe.zerna62");
     EXPECT_THAT(boxes.asked, testing::IsEmpty());

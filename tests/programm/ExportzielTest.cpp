@@ -31,7 +31,7 @@ TEST_F(ExportzielTest, ExtensionIsAppendedOrChoosesTheKind)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        const Exportziel ziel = exportziel((folder / row.typed).string(), row.chosen, row.arten);
+        const Exportziel ziel = exportziel(utf8FromPath(folder / row.typed), row.chosen, row.arten);
         EXPECT_EQ(ziel.name, row.file);
         EXPECT_EQ(ziel.art, row.art);
         EXPECT_EQ(ziel.ordner, folder.path());

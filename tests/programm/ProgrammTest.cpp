@@ -4,6 +4,7 @@
 #include <map>
 
 #include "core/Zahlentext.h"
+#include "core/Plattform.h"
 #include "programm/EingebauteTabelle.h"
 #include "support/FakeServices.h"
 #include "support/FilesTest.h"
@@ -64,7 +65,7 @@ private:
 struct ProgrammTest : FilesTest {
     using Box = RecordingBoxes::Box;
 
-    ProgrammTest() { writeBytes(folder / "zerna", ""); }
+    ProgrammTest() { writeBytes(folder / Programmdatei, ""); }
 
     bool start() { return start(programm); }
 

@@ -15,6 +15,7 @@
 #include <string>
 #include <vector>
 
+#include "core/Plattform.h"
 #include "programm/Programm.h"
 #include "support/FakeServices.h"
 #include "support/RecordingBoxes.h"
@@ -28,7 +29,7 @@ namespace zerna {
 struct FakeDesk : testing::Test {
     FakeDesk()
     {
-        writeBytes(folder / "zerna", "");
+        writeBytes(folder / Programmdatei, "");
         std::filesystem::copy_file(ZERNA_BIN_DIR "/elemente.dat", folder / "elemente.dat");
     }
 

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <random>
 #include <string>
+#include <string_view>
 
 namespace zerna {
 
@@ -27,7 +28,12 @@ public:
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
     const std::filesystem::path& path() const { return m_path; }
-    std::filesystem::path operator/(const std::filesystem::path& name) const { return m_path / name; }
+
+    /// The name is UTF-8, whatever the platform takes a char for.
+    std::filesystem::path operator/(std::string_view name) const
+    {
+        return m_path / std::filesystem::path(std::u8string(name.begin(), name.end()));
+    }
 
 private:
     std::filesystem::path m_path;

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 
+#include "core/Datei.h"
 #include "dokument/Dokumentdatei.h"
 #include "support/FakeDesk.h"
 #include "support/ModalDialog.h"
@@ -51,7 +52,7 @@ TEST_F(SitzungTest, AnEditIsKeptWithinASecondAndOfferedAfterACrash)
     EXPECT_EQ(text("txtProzent_0") + "|" + text("lblMFE_7"), "60|" + fermi);
     EXPECT_TRUE(window->isWindowModified()) << "its file cannot be read";
     writeBytes(folder / "ä.zerna", schreibe(before));
-    Sitzung saved(*programm, folder / "neu", [this] { return OffeneDatei{(folder / "ä.zerna").string(), 0}; });
+    Sitzung saved(*programm, folder / "neu", [this] { return OffeneDatei{utf8FromPath(folder / "ä.zerna"), 0}; });
     saved.geaendert();
     ASSERT_TRUE(QTest::qWaitFor([this] { return std::filesystem::exists(folder / "neu" / "sitzung-0.zerna"); }, 900));
     std::filesystem::create_directory(folder / "gesichert");
