@@ -50,6 +50,7 @@ try {
     app.option_defaults()->group("Optionen");
     app.add_option("--daten", umgebung.daten, "Elementdatei statt elemente.dat neben dem Programm")
         ->option_text("DATEI");
+    app.allow_windows_style_options(false); // a path may begin with a slash there too
     app.require_subcommand(1);
     defineCommands(app, umgebung);
     translate(app);
