@@ -3,24 +3,9 @@
 #include <algorithm>
 
 #include "core/Zahlentext.h"
-#include "core/Zeichensatz.h"
+#include "model/Groessennamen.h"
 
 namespace zerna {
-
-namespace {
-
-const Groesse* findErgebnis(std::string_view entry)
-{
-    const std::string wanted = lowerCase(entry);
-    const auto isMeant = [&](const Groesse& g) {
-        const bool hasCode = g.kennzahl >= 0 && wanted == std::to_string(g.kennzahl);
-        return hasCode || wanted == lowerCase(g.bezeichnung()) || wanted == lowerCase(g.name);
-    };
-    const auto found = wanted.empty() ? ergebniszeilen().end() : std::ranges::find_if(ergebniszeilen(), isMeant);
-    return found == ergebniszeilen().end() ? nullptr : &*found;
-}
-
-} // namespace
 
 Groessenauswahl groessenauswahl(std::string_view liste)
 {
@@ -33,7 +18,7 @@ Groessenauswahl groessenauswahl(std::string_view liste)
     for (std::size_t begin = 0; begin <= liste.size();) {
         const std::size_t end = std::min(liste.find(',', begin), liste.size());
         const std::string_view entry = trimmed(liste.substr(begin, end - begin));
-        const Groesse* const groesse = findErgebnis(entry);
+        const Groesse* const groesse = findeGroesse(entry, Groessenart::Ergebnis);
         if (groesse == nullptr)
             return {{}, '"' + std::string(entry) + '"'};
         auswahl.groessen.push_back(groesse);

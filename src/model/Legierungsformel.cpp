@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "core/Elementvorschlag.h"
 #include "core/Kuerzung.h"
 #include "core/Zahlentext.h"
 #include "core/Zeichensatz.h"
@@ -266,7 +267,13 @@ private:
         if (!meant && letters.size() > symbol.size())
             meant = m_elements.find(letters, true);
         fail(ort(), "Element " + zitiert(symbol) + " ist nicht bekannt",
-            meant ? "Groß und klein wie in " + meant->symbol() + " schreiben." : "");
+            meant ? "Groß und klein wie in " + meant->symbol() + " schreiben." : nearest(symbol, letters));
+    }
+
+    std::string nearest(std::string_view symbol, std::string_view letters) const
+    {
+        std::string sentence = elementvorschlag(letters, m_elements);
+        return sentence.empty() && symbol != letters ? elementvorschlag(symbol, m_elements) : sentence;
     }
 
     void failUnexpected(std::size_t ort)

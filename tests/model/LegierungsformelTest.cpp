@@ -91,7 +91,8 @@ TEST_F(LegierungsformelTest, ErrorsNameTheCharacter)
     } rows[]{
         {"", "Es ist kein Element angegeben. Zum Beispiel Al60Cu40 schreiben."},
         {"60", "Es ist kein Element angegeben (Zeichen 3). Zum Beispiel Al60Cu40 schreiben."},
-        {"Al60Xx40", "Element \"Xx\" ist nicht bekannt (Zeichen 5)"},
+        {"Al60Xx40", "Element \"Xx\" ist nicht bekannt (Zeichen 5). Meinten Sie Xe?"},
+        {"Al60Kupfer40", "Element \"Kupfer\" ist nicht bekannt (Zeichen 5). Meinten Sie Cu?"},
         {"al60cu40", "Element \"al\" ist nicht bekannt (Zeichen 1). Groß und klein wie in Al schreiben."},
         {"AL60", "Element \"A\" ist nicht bekannt (Zeichen 1). Groß und klein wie in Al schreiben."},
         {"Al₆₀Cu₄₀Qq", "Element \"Qq\" ist nicht bekannt (Zeichen 9)"}, // characters, not bytes

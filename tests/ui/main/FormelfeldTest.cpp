@@ -52,7 +52,7 @@ TEST_F(FormelfeldTest, WhatIsNoAlloyIsToldAndChangesNothing)
     enter("Al60Xx");
     EXPECT_EQ(zusammensetzung(), "2|Al|50|Cu|50");
     EXPECT_EQ(text("txtFormel"), "Al60Xx");
-    EXPECT_EQ(zeile(), "Element \"Xx\" ist nicht bekannt (Zeichen 5)");
+    EXPECT_EQ(zeile(), "Element \"Xx\" ist nicht bekannt (Zeichen 5). Meinten Sie Xe?");
     QTest::keyClick(&find("txtFormel"), Qt::Key_Backspace);
     EXPECT_EQ(zeile(), "Element \"X\" ist nicht bekannt (Zeichen 5)");
     QTest::keyClick(&find("txtFormel"), Qt::Key_Escape);
