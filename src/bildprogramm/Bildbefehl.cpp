@@ -61,7 +61,7 @@ struct Bild {
         const auto& file = umgebung.dokument();
         Dokument dokument = file.value_or(Dokument(kern.elements()));
         dokument.eingabe = kern.eingabe();
-        dokument.diagramm = optionen.wahl(file ? std::optional(file->diagramm) : std::nullopt, kern);
+        dokument.diagramm = optionen.wahl(file, kern);
         return dokument;
     }
 

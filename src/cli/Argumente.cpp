@@ -1,11 +1,14 @@
 #include "cli/Argumente.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
+#include <iterator>
+#include <optional>
 
+#include "core/Elementvorschlag.h"
 #include "core/Kuerzung.h"
-#include "model/Groessen.h"
-#include "model/PSEReihe.h"
+#include "core/Namensnaehe.h"
 #include "model/Ternaergitter.h"
 #include "programm/Rechenkern.h"
 
@@ -40,6 +43,53 @@ std::string optionWithoutValue(const CLI::App& app, const std::vector<std::strin
     }
     return {};
 }
+
+/// The whole number that a text is.
+std::optional<int> wholeNumber(const std::string& text)
+{
+    int value = 0;
+    const char* const end = text.data() + text.size();
+    const auto read = std::from_chars(text.data(), end, value);
+    return read.ec == std::errc() && read.ptr == end ? std::optional(value) : std::nullopt;
+}
+
+/// Whether a text names any quantity.
+bool isName(const std::string& text)
+{
+    constexpr std::array Alle{Groessenart::Ergebnis, Groessenart::Legierung, Groessenart::Element};
+    return std::ranges::any_of(Alle, [&](Groessenart art) { return findeGroesse(text, art) != nullptr; });
+}
+
+/// The names of the commands, or the long options, that can stand where the call went wrong.
+std::vector<std::string> known(const CLI::App& app, bool isCommand)
+{
+    std::vector<std::string> names;
+    const CLI::App& befehl = chosen(app);
+    if (isCommand) {
+        for (const CLI::App* const command : befehl.get_subcommands({}))
+            names.push_back(command->get_name());
+        return names;
+    }
+    for (const CLI::App* const level : {&befehl, &app}) {
+        for (const CLI::Option* const option : level->get_options())
+            std::ranges::transform(
+                option->get_lnames(), std::back_inserter(names), [](const std::string& name) { return "--" + name; });
+    }
+    return names;
+}
+
+/// Another sentence behind one without its full stop.
+std::string satzende(const std::string& satz) { return satz.empty() ? satz : ". " + satz; }
+
+std::vector<const clsElement*> elementsOf(std::span<const Legierungskomponente> alloy)
+{
+    std::vector<const clsElement*> elements;
+    for (const Legierungskomponente& komponente : alloy)
+        elements.push_back(komponente.element.get());
+    return elements;
+}
+
+constexpr const char* Hilfehinweis = " (Hilfe: zerna-cli --hilfe)";
 
 /// The first required argument of the command that is not there; empty if all are.
 std::string missingArgument(const CLI::App& befehl)
@@ -81,28 +131,34 @@ CLI::Option* Ganzzahl::define(CLI::App& befehl, const char* optionName, const ch
 
 int Ganzzahl::wert() const
 {
-    int value = 0;
-    const char* const end = text.data() + text.size();
-    const auto read = std::from_chars(text.data(), end, value);
-    if (read.ec != std::errc() || read.ptr != end)
-        throw Aufruffehler("Ungültiger Wert: " + name + " = " + gekuerzt(text) + " (Hilfe: zerna-cli --hilfe)");
-    return value;
+    if (const auto value = wholeNumber(text))
+        return *value;
+    throw Aufruffehler("Ungültiger Wert: " + name + " = " + gekuerzt(text) + Hilfehinweis);
 }
 
-int reihenkennzahl(const Ganzzahl& groesse)
+CLI::Option* Groessenangabe::define(CLI::App& befehl, const char* optionName, const char* beschreibung)
 {
-    const int kennzahl = groesse.wert();
-    if (findReihengroesse(kennzahl) == nullptr)
-        throw Aufruffehler(groesse.name + " " + std::to_string(kennzahl) + ": erwartet wird " + reihenkennzahlen());
-    return kennzahl;
+    return Ganzzahl::define(befehl, optionName, beschreibung)->option_text("GROESSE");
 }
 
-int elementkennzahl(const Ganzzahl& groesse)
+int Groessenangabe::kennzahl(Groessenart art) const
 {
-    const int kennzahl = groesse.wert();
-    if (!istPSEGroesse(kennzahl))
-        throw Aufruffehler(groesse.name + " " + std::to_string(kennzahl) + ": keine Eigenschaft der Elemente");
-    return kennzahl;
+    const auto number = wholeNumber(text); // "08" is one, too
+    if (const Groesse* const groesse = findeGroesse(number ? std::to_string(*number) : text, art))
+        return groesse->kennzahl;
+    const std::string near = number ? std::string() : vorschlag(text, eingabenamen(art));
+    if (!number && !isName(text))
+        throw Aufruffehler("Ungültiger Wert: " + name + " = " + gekuerzt(text) + near + Hilfehinweis);
+    const std::string given = name + " " + (number ? std::to_string(*number) : text);
+    if (art == Groessenart::Element)
+        throw Aufruffehler(given + ": keine Eigenschaft der Elemente" + near);
+    throw Aufruffehler(given + ": erwartet wird " + reihenkennzahlen());
+}
+
+void Groessenangabe::check() const
+{
+    if (!wholeNumber(text) && !isName(text))
+        kennzahl(Groessenart::Legierung);
 }
 
 int gitteraufloesung(const Ganzzahl& aufloesung)
@@ -120,13 +176,23 @@ void requireTernaer(std::size_t anzahl)
         throw Aufruffehler("Ein ternäres Diagramm hat drei Komponenten, angegeben sind " + std::to_string(anzahl));
 }
 
+void requireDistinct(std::span<const Legierungskomponente> alloy)
+{
+    for (const Legierungskomponente& komponente : alloy) {
+        if (std::ranges::count(alloy, komponente.element, &Legierungskomponente::element) > 1)
+            throw Aufruffehler("Element " + zitiert(komponente.element->symbol())
+                + " steht mehrmals in der Legierung, erwartet wird eine Komponente je Element");
+    }
+}
+
 std::size_t indexOfVariable(
     const std::string& symbol, const ElementCollection& elements, std::span<const Legierungskomponente> alloy)
 {
     const auto wanted = elements.find(symbol, true);
     const auto found = std::ranges::find(alloy, wanted, &Legierungskomponente::element);
     if (!wanted || found == alloy.end())
-        throw Aufruffehler("--variabel " + gekuerzt(symbol) + ": keine Komponente der Legierung");
+        throw Aufruffehler("--variabel " + gekuerzt(symbol) + ": keine Komponente der Legierung"
+            + satzende(elementvorschlag(symbol, elementsOf(alloy))));
     return static_cast<std::size_t>(found - alloy.begin());
 }
 
@@ -138,8 +204,12 @@ std::string aufruffehler(const CLI::App& app, const CLI::ParseError& error, int 
     const CLI::App& befehl = chosen(app);
     const bool lacksCommand = befehl.get_require_subcommand_min() > 0;
     if (const std::vector<std::string> unknown = app.remaining(true); !unknown.empty()) {
-        const bool isCommand = lacksCommand && !unknown.front().starts_with('-');
-        return (isCommand ? "Unbekannter Befehl " : "Unbekanntes Argument ") + gekuerzt(unknown.front());
+        const std::string& first = unknown.front();
+        const bool isOption = first.starts_with('-');
+        const bool isCommand = lacksCommand && !isOption;
+        const std::string near =
+            isOption || isCommand ? vorschlag(first.substr(0, first.find('=')), known(app, isCommand)) : std::string();
+        return (isCommand ? "Unbekannter Befehl " : "Unbekanntes Argument ") + gekuerzt(first) + near;
     }
     if (const std::string missing = missingArgument(befehl); !missing.empty())
         return "Es fehlt das Argument " + missing;

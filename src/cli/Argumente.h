@@ -8,6 +8,7 @@
 
 #include "core/ElementCollection.h"
 #include "model/Anteilseinheit.h"
+#include "model/Groessennamen.h"
 #include "model/Legierung.h"
 
 namespace zerna {
@@ -31,6 +32,9 @@ struct Tabellenform {
     bool json = false;
 };
 
+/// Throws Aufruffehler for an alloy that has two components of one element, which a line could not tell apart.
+void requireDistinct(std::span<const Legierungskomponente> alloy);
+
 /// A whole number behind an option. Throws Aufruffehler for any other text.
 struct Ganzzahl {
     CLI::Option* define(CLI::App& befehl, const char* name, const char* beschreibung);
@@ -40,11 +44,19 @@ struct Ganzzahl {
     std::string text;
 };
 
-/// The code of a quantity over compositions. Throws Aufruffehler for any other number.
-int reihenkennzahl(const Ganzzahl& groesse);
+/// What the help says of it.
+inline constexpr const char* Groessenhilfe = "Name oder Kennzahl der Größe (alle: zerna-cli kennzahlen)";
 
-/// The code of a property of the elements. Throws Aufruffehler for any other number.
-int elementkennzahl(const Ganzzahl& groesse);
+/// A quantity behind an option, by its code or its name.
+struct Groessenangabe : Ganzzahl {
+    CLI::Option* define(CLI::App& befehl, const char* name, const char* beschreibung);
+
+    /// Its code. Throws Aufruffehler for what is none of that kind.
+    int kennzahl(Groessenart art) const;
+
+    /// Throws Aufruffehler for what is neither a number nor a quantity of any kind.
+    void check() const;
+};
 
 /// The resolution of a ternary diagram. Throws Aufruffehler for any other number.
 int gitteraufloesung(const Ganzzahl& aufloesung);

@@ -6,19 +6,16 @@
 #include "cli/Argumente.h"
 #include "cli/Befehl.h"
 #include "cli/Bildoptionen.h"
+#include "cli/Elementbefehle.h"
 #include "cli/Stapel.h"
 #include "cli/Suche.h"
 #include "cli/Umgebung.h"
-#include "core/ElementCsv.h"
-#include "core/Elementdatei.h"
 #include "core/Kuerzung.h"
 #include "core/Plattform.h"
 #include "model/Einwaage.h"
 #include "model/Ergebnisse.h"
 #include "model/Groessentabelle.h"
-#include "model/Konzentrationsreihe.h"
-#include "model/PSEReihe.h"
-#include "model/Ternaergitter.h"
+#include "model/Wertetabellen.h"
 
 namespace zerna {
 
@@ -67,8 +64,10 @@ struct Groessenliste {
         umgebung.loadAlloy(komponenten.texte, komponenten.einheit());
         umgebung.nenneBefund();
         Rechenkern& kern = umgebung.kern();
-        const Tabelle tabelle =
-            lehrbuch ? lehrbuchtabelle(kern.calc(), kern.komponenten()) : groessentabelle(kern.calc());
+        const Unbekanntes unbekanntes = form.json ? Unbekanntes::Leer : Unbekanntes::Weglassen;
+        const Tabelle tabelle = lehrbuch
+            ? lehrbuchtabelle(kern.calc(), kern.komponenten(), Dezimaltrenner::Punkt, unbekanntes)
+            : groessentabelle(kern.calc(), unbekanntes);
         put(form.json ? alsJson(tabelle) : alsText(tabelle), ausgabe.datei);
     }
 
@@ -107,14 +106,15 @@ struct Konzentration {
     {
         befehl.add_option("--variabel", variabel, "Komponente entlang der Achse")->required()->option_text("SYMBOL");
         schritt.define(befehl, "--schritt", "Schrittweite in at%, 1 bis 100");
-        groesse.define(befehl, "--groesse", "Kennzahl der Größe")->required();
+        groesse.define(befehl, "--groesse", Groessenhilfe)->required();
+        form.define(befehl);
         komponenten.define(befehl);
         ausgabe.define(befehl);
     }
 
     void run(Umgebung& umgebung) const
     {
-        const int kennzahl = reihenkennzahl(groesse);
+        const int kennzahl = groesse.kennzahl(Groessenart::Legierung);
         const int step = schritt.wert();
         if (step < 1 || step > 100)
             throw Aufruffehler("--schritt " + std::to_string(step) + ": erwartet wird 1 bis 100");
@@ -125,7 +125,10 @@ struct Konzentration {
         const Reihe werte = kennzahl == GroesseDichte
             ? dichtereihe(dichten(alloy), index)
             : konzentrationsreihe(umgebung.kern().calc(), alloy, index, kennzahl);
-        put(reihendatei(alloy[variable].element->symbol(), reiheneinheit(kennzahl), werte, step), ausgabe.datei);
+        const std::string& symbol = alloy[variable].element->symbol();
+        put(form.json ? alsJson(reihentabelle(symbol, *findReihengroesse(kennzahl), werte, step))
+                      : reihendatei(symbol, reiheneinheit(kennzahl), werte, step),
+            ausgabe.datei);
     }
 
     static std::vector<float> dichten(std::span<const Legierungskomponente> alloy)
@@ -137,7 +140,8 @@ struct Konzentration {
 
     std::string variabel;
     Ganzzahl schritt{{}, "1"};
-    Ganzzahl groesse;
+    Groessenangabe groesse;
+    Tabellenform form;
     Komponenten komponenten;
     Ausgabe ausgabe;
 };
@@ -146,41 +150,51 @@ struct PSE {
     void define(CLI::App& befehl)
     {
         ausgabe.define(befehl);
-        groesse.define(befehl, "--groesse", "Kennzahl der Größe")->required();
+        groesse.define(befehl, "--groesse", Groessenhilfe)->required();
+        form.define(befehl);
     }
 
     void run(Umgebung& umgebung) const
     {
-        const int kennzahl = elementkennzahl(groesse);
+        const int kennzahl = groesse.kennzahl(Groessenart::Element);
         umgebung.load();
-        put(psedatei(pseReihe(umgebung.kern().elements(), umgebung.kern().calc(), kennzahl)), ausgabe.datei);
+        const ElementCollection& elements = umgebung.kern().elements();
+        const PSEReihe reihe = pseReihe(elements, umgebung.kern().calc(), kennzahl);
+        put(form.json ? alsJson(psetabelle(elements, *findGroesse(kennzahl), reihe)) : psedatei(reihe), ausgabe.datei);
     }
 
     Ausgabe ausgabe;
-    Ganzzahl groesse;
+    Groessenangabe groesse;
+    Tabellenform form;
 };
 
 struct Ternaer {
     void define(CLI::App& befehl)
     {
         aufloesung.define(befehl, "--aufloesung", "Auflösung, 1 bis 10")->required();
-        groesse.define(befehl, "--groesse", "Kennzahl der Größe")->required();
+        groesse.define(befehl, "--groesse", Groessenhilfe)->required();
+        form.define(befehl);
         komponenten.define(befehl);
         ausgabe.define(befehl);
     }
 
     void run(Umgebung& umgebung) const
     {
-        const int kennzahl = reihenkennzahl(groesse);
+        const int kennzahl = groesse.kennzahl(Groessenart::Legierung);
         const int resolution = gitteraufloesung(aufloesung);
         umgebung.loadAlloy(komponenten.texte, komponenten.einheit());
-        requireTernaer(umgebung.kern().komponenten().size());
-        put(ternaerdatei(ternaergitter(umgebung.kern().calc(), umgebung.kern().komponenten(), kennzahl, resolution)),
+        const auto alloy = umgebung.kern().komponenten();
+        requireTernaer(alloy.size());
+        if (form.json)
+            requireDistinct(alloy);
+        const Ternaergitter gitter = ternaergitter(umgebung.kern().calc(), alloy, kennzahl, resolution);
+        put(form.json ? alsJson(ternaertabelle(*findReihengroesse(kennzahl), gitter)) : ternaerdatei(gitter),
             ausgabe.datei);
     }
 
     Ganzzahl aufloesung;
-    Ganzzahl groesse;
+    Groessenangabe groesse;
+    Tabellenform form;
     Komponenten komponenten;
     Ausgabe ausgabe;
 };
@@ -221,6 +235,7 @@ struct Wiegen {
 struct Friedel {
     void define(CLI::App& befehl)
     {
+        form.define(befehl);
         komponenten.define(befehl);
         ausgabe.define(befehl);
     }
@@ -228,14 +243,16 @@ struct Friedel {
     void run(Umgebung& umgebung) const
     {
         umgebung.loadAlloy(komponenten.texte, komponenten.einheit());
-        const std::string datei = friedeldatei(umgebung.kern().calc());
+        const clsCalc& calc = umgebung.kern().calc();
+        const std::string datei = friedeldatei(calc);
         if (datei.empty()) {
             umgebung.nenneBefund();
             throw Datenfehler("Mit diesen Werten hat die Legierung keine Friedelminima");
         }
-        put(datei, ausgabe.datei);
+        put(form.json ? alsJson(friedeltabelle(calc)) : datei, ausgabe.datei);
     }
 
+    Tabellenform form;
     Komponenten komponenten;
     Ausgabe ausgabe;
 };
@@ -255,52 +272,6 @@ struct Bild {
     Bildoptionen optionen;
 };
 
-struct Exportieren {
-    void define(CLI::App& befehl) { befehl.add_option("csv", csv, "Zieldatei")->required()->option_text("CSV"); }
-
-    void run(Umgebung& umgebung) const
-    {
-        umgebung.load();
-        std::vector<ElementRecord> records;
-        for (const auto& element : umgebung.kern().elements())
-            records.push_back(element->record());
-        writeFile(csv, writeElementCsv(records));
-    }
-
-    std::string csv;
-};
-
-struct Importieren {
-    void define(CLI::App& befehl)
-    {
-        befehl.add_option("csv", csv, "Tabelle")->required()->option_text("CSV");
-        befehl.add_option("dat", dat, "Zieldatei")->required()->option_text("DAT");
-    }
-
-    void run(Umgebung&) const
-    {
-        try {
-            saveElements(pathFromUtf8(dat), readElementCsv(readFile(csv)));
-        } catch (const Tabellenfehler& error) {
-            throw Datenfehler("Datei " + zitiert(csv, Dateinamenlaenge) + ": " + error.what());
-        } catch (const Laufzeitfehler& error) {
-            throw Datenfehler("Datei " + zitiert(dat, Dateinamenlaenge) + ": " + error.what());
-        }
-    }
-
-    std::string csv;
-    std::string dat;
-};
-
-void addElemente(CLI::App& app, Umgebung& umgebung)
-{
-    CLI::App& elemente = *app.add_subcommand("elemente", "Elementdaten umwandeln");
-    elemente.group("Befehle");
-    elemente.require_subcommand(1);
-    addBefehl<Exportieren>(elemente, umgebung, "exportieren", "Elementdaten als CSV-Tabelle");
-    addBefehl<Importieren>(elemente, umgebung, "importieren", "Elementdatei aus einer CSV-Tabelle");
-}
-
 } // namespace
 
 void defineBefehle(CLI::App& app, Umgebung& umgebung)
@@ -315,7 +286,7 @@ void defineBefehle(CLI::App& app, Umgebung& umgebung)
     addBefehl<Wiegen>(app, umgebung, "wiegen", "Sollmassen für eine Gesamtmasse");
     addBefehl<Friedel>(app, umgebung, "friedel", "Friedelminima als Datei für Zeichenprogramme");
     addBefehl<Bild>(app, umgebung, Bildname, Bildbeschreibung);
-    addElemente(app, umgebung);
+    defineElementbefehle(app, umgebung);
 }
 
 } // namespace zerna

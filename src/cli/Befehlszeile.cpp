@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "cli/Argumente.h"
+#include "cli/Befehl.h"
 #include "cli/Umgebung.h"
 #include "core/Kuerzung.h"
 #include "core/Plattform.h"
@@ -16,6 +17,8 @@ namespace {
 constexpr int Fehlgeschlagen = 1;
 constexpr int Aufruf = 2;
 
+/// German words in the help of the program and, handed down to them, of all commands that are added later; these have
+/// no help flag of CLI11's own.
 void translate(CLI::App& app)
 {
     const auto formatter = std::make_shared<CLI::Formatter>();
@@ -28,9 +31,7 @@ void translate(CLI::App& app)
     formatter->label("Positionals", "Argumente");
     formatter->label("REQUIRED", "(nötig)");
     app.formatter(formatter);
-    app.set_help_flag("-h,--hilfe,--help", "Diese Hilfe zeigen")->group("Optionen");
-    for (CLI::App* const command : app.get_subcommands({}))
-        translate(*command);
+    app.set_help_flag();
 }
 
 int fail(int status, const std::string& reason)
@@ -52,8 +53,9 @@ try {
         ->option_text("DATEI");
     app.allow_windows_style_options(false); // a path may begin with a slash there too
     app.require_subcommand(1);
-    defineCommands(app, umgebung);
     translate(app);
+    defineCommands(app, umgebung);
+    addHilfe(app, "");
     try {
         app.parse(argc, argv);
         std::cout.flush();

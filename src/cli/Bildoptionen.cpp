@@ -50,11 +50,11 @@ void Bildoptionen::define(CLI::App& befehl)
         .add_option(
             "--art", art, "konzentration, ternaer, elemente oder messkurve; sonst die der Datei oder konzentration")
         ->option_text("ART");
-    groesse.define(befehl, "--groesse", "Kennzahl der Größe, nötig ohne Datei");
+    groesse.define(befehl, "--groesse", "Name oder Kennzahl der Größe, nötig ohne Datei");
     befehl.add_option("--variabel", variabel, "Komponente entlang der Achse, sonst die erste")->option_text("SYMBOL");
     befehl.add_flag("--mischungsreihe", schalter.mischungsreihe, "Nur die Kurve, auf der die Summe 100 % ist");
     befehl.add_flag("--ganze-kurve", schalter.ganzeKurve, "Achse für alle Werte der Kurve");
-    zweite.define(befehl, "--zweite-groesse", "Kennzahl einer zweiten Größe, Achse rechts");
+    zweite.define(befehl, "--zweite-groesse", "Zweite Größe, Achse rechts");
     befehl.add_flag("--varianten", varianten, "Auch die in der Datei gemerkten Legierungen");
     befehl.add_flag("--kristallin", kristallin, "Elemente: auch mit der kristallinen Dichte");
     befehl.add_flag("--ohne-symbole", ohneSymbole, "Elemente: ohne Symbole an den Punkten");
@@ -139,12 +139,12 @@ void Bildoptionen::check() const
     if (komponenten.texte.empty() && typ() != Diagrammtyp::PSE)
         throw Aufruffehler("Es fehlt das Argument komponenten (Hilfe: zerna-cli --hilfe)");
     if (!groesse.text.empty())
-        groesse.wert();
+        groesse.check();
 }
 
-Diagrammwahl Bildoptionen::wahl(const std::optional<Diagrammwahl>& inFile, const Rechenkern& kern) const
+Diagrammwahl Bildoptionen::wahl(const std::optional<Dokument>& file, const Rechenkern& kern) const
 {
-    Diagrammwahl result = inFile.value_or(Diagrammwahl{.aufloesung = FeinsteAufloesung, .ansicht = {}});
+    Diagrammwahl result = file ? file->diagramm : Diagrammwahl{.aufloesung = FeinsteAufloesung, .ansicht = {}};
     const auto chosen = typ();
     const bool isOther = chosen && chosen != result.typ;
     if (chosen)
@@ -154,18 +154,18 @@ Diagrammwahl Bildoptionen::wahl(const std::optional<Diagrammwahl>& inFile, const
         return result;
     const bool isPSE = result.typ == Diagrammtyp::PSE;
     if (!groesse.text.empty())
-        result.groesse = isPSE ? elementkennzahl(groesse) : reihenkennzahl(groesse);
-    else if (!inFile || isOther)
+        result.groesse = groesse.kennzahl(isPSE ? Groessenart::Element : Groessenart::Legierung);
+    else if (!file || isOther)
         throw Aufruffehler("Es fehlt das Argument --groesse (Hilfe: zerna-cli --hilfe)");
     if (result.typ == Diagrammtyp::Ternaer)
         requireTernaer(kern.komponenten().size());
     if (!variabel.empty())
         result.komponente = static_cast<int>(indexOfVariable(variabel, kern.elements(), kern.komponenten()));
     if (!zweite.text.empty())
-        result.zweiteGroesse = reihenkennzahl(zweite);
+        result.zweiteGroesse = zweite.kennzahl(Groessenart::Legierung);
     if (!zweite.text.empty() && result.zweiteGroesse == result.groesse)
         throw Aufruffehler("--zweite-groesse " + gekuerzt(zweite.text) + ": erwartet wird eine andere als die erste");
-    if (varianten && !inFile)
+    if (varianten && (!file || file->vergleich->varianten.empty()))
         throw Aufruffehler("--varianten gibt es nur mit einer Datei, in der Legierungen gemerkt sind");
     result.varianten = result.varianten || varianten;
     if (!schritte.text.empty())

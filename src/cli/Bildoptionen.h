@@ -9,6 +9,7 @@
 #include "bild/Bildvorgabe.h"
 #include "bild/Konzentrationsbild.h"
 #include "cli/Argumente.h"
+#include "model/Dokument.h"
 
 namespace zerna {
 
@@ -26,11 +27,11 @@ struct Bildoptionen {
 
     /// The chosen diagram of an alloy, which is computed; what was not chosen is as in the file that it comes from, if
     /// it does. Throws Aufruffehler.
-    Diagrammwahl wahl(const std::optional<Diagrammwahl>& inFile, const Rechenkern& kern) const;
+    Diagrammwahl wahl(const std::optional<Dokument>& file, const Rechenkern& kern) const;
 
     std::string art;
-    Ganzzahl groesse;
-    Ganzzahl zweite;
+    Groessenangabe groesse;
+    Groessenangabe zweite;
     std::string variabel;
     bool varianten = false;
     Kurvenschalter schalter;

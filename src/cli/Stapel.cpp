@@ -9,10 +9,12 @@
 #include "cli/Umgebung.h"
 #include "core/Datei.h"
 #include "core/Kuerzung.h"
+#include "core/Namensnaehe.h"
 #include "core/Plattformdatei.h"
 #include "core/Zahlentext.h"
 #include "core/Zeilenleser.h"
 #include "model/Groessenauswahl.h"
+#include "model/Groessennamen.h"
 #include "model/Legierungsliste.h"
 #include "programm/Dokumentoeffnung.h"
 #include "programm/Stapelrechner.h"
@@ -172,7 +174,8 @@ void Stapel::run(Umgebung& umgebung, std::span<const std::string> dateien, Antei
     const Groessenauswahl auswahl = groessenauswahl(groessen);
     if (!auswahl.unbekannt.empty())
         throw Aufruffehler("--groessen " + gekuerzt(auswahl.unbekannt) + ": erwartet werden Kennzahlen ("
-            + reihenkennzahlen() + ") oder Namen von Größen, durch Komma getrennt");
+            + reihenkennzahlen() + ") oder Namen von Größen, durch Komma getrennt"
+            + vorschlag(auswahl.unbekannt, eingabenamen(Groessenart::Ergebnis)));
     const auto form = jsonzeilen ? Legierungsliste::Form::Json : Legierungsliste::Form::Text;
     umgebung.load();
     Stapellauf lauf(umgebung.kern(), einheit, Legierungsliste(auswahl.groessen, form), dateien.size() > 1);

@@ -30,16 +30,6 @@ void requireSum(std::span<const Legierungskomponente> alloy)
             "Die Anteile ergeben zusammen 0 at%, neben einem weiteren Element haben sie kein Verhältnis");
 }
 
-/// A row would not tell which of them it means.
-void requireDistinct(std::span<const Legierungskomponente> alloy)
-{
-    for (const Legierungskomponente& komponente : alloy) {
-        if (std::ranges::count(alloy, komponente.element, &Legierungskomponente::element) > 1)
-            throw Aufruffehler("Element " + zitiert(komponente.element->symbol())
-                + " steht mehrmals in der Legierung, erwartet wird eine Komponente je Element");
-    }
-}
-
 /// For JSON: keys that do not depend on the quantity.
 Tabelle withKeys(Tabelle tabelle, std::span<const Legierungskomponente> alloy, std::string_view einheit)
 {
@@ -56,7 +46,7 @@ Tabelle withKeys(Tabelle tabelle, std::span<const Legierungskomponente> alloy, s
 
 void Suche::define(CLI::App& befehl)
 {
-    groesse.define(befehl, "--groesse", "Kennzahl der Größe")->required();
+    groesse.define(befehl, "--groesse", Groessenhilfe)->required();
     befehl.add_option("--ziel", ziel, "gesuchter Wert")->required()->option_text("ZAHL");
     befehl.add_option("--variabel", variabel, "Komponente, deren Anteil gesucht wird")->option_text("SYMBOL");
     befehl.add_flag("--mischungsreihe", mischungsreihe,
@@ -71,7 +61,7 @@ void Suche::define(CLI::App& befehl)
 
 void Suche::run(Umgebung& umgebung) const
 {
-    const int kennzahl = reihenkennzahl(groesse);
+    const int kennzahl = groesse.kennzahl(Groessenart::Legierung);
     const float wanted = zahl("--ziel", ziel);
     if (dritte.empty())
         return searchPart(umgebung, kennzahl, wanted);

@@ -21,7 +21,7 @@ private:
     void searchPart(Umgebung& umgebung, int kennzahl, float wanted) const;
     void rankElements(Umgebung& umgebung, int kennzahl, float wanted) const;
 
-    Ganzzahl groesse;
+    Groessenangabe groesse;
     std::string ziel;
     std::string variabel;
     bool mischungsreihe = false;

@@ -119,6 +119,8 @@ void Umgebung::nenneBefund()
         std::cerr << "zerna-cli: " << befundgrund(m_kern.eingabe(), *lage.befund) << '\n';
 }
 
+bool Umgebung::nennt(std::string_view argument) const { return std::ranges::find(aufruf, argument) != aufruf.end(); }
+
 void put(const std::string& text, const std::string& file)
 {
     if (file.empty())

@@ -42,6 +42,9 @@ public:
     /// What else the file holds that the alloy comes from; nothing if it comes from none.
     const std::optional<Dokument>& dokument() const { return m_dokument; }
 
+    /// Whether the call has that argument.
+    bool nennt(std::string_view argument) const;
+
     std::string daten; ///< the data file that was asked for; empty for none
     std::vector<std::string> aufruf; ///< the arguments of the call
 

@@ -123,6 +123,16 @@ std::string friedeldatei(const clsCalc& calc)
     return text;
 }
 
+Tabelle friedeltabelle(const clsCalc& calc)
+{
+    Tabelle tabelle{{{"name"}, {"n", true}, {"wert", true}, {"einheit"}}, {}};
+    const float wavelength = wavelengthOf(calc);
+    for (int n = 0; n < Friedelzeilen && !istUnbekannt(wavelength); ++n)
+        tabelle.zeilen.push_back({"Friedelminimum", std::to_string(n),
+            textOfSingle(toSingle(friedelradius(wavelength, n)), Dezimaltrenner::Punkt), "nm"});
+    return tabelle;
+}
+
 std::string kopierteZahl(int index, std::string_view text)
 {
     if (index >= Friedelzeile)

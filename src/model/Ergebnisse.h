@@ -7,6 +7,7 @@
 
 #include "model/Groessen.h"
 #include "model/Komponentenzeile.h"
+#include "model/Tabelle.h"
 
 /// The result lines of an alloy as texts, and what is copied and saved of them.
 namespace zerna {
@@ -51,6 +52,9 @@ std::string ergebnisdatei(
 /// The content of a Friedel-minimum file for a plotting program: for each of the first eleven minima a vertical mark
 /// from height 50 to 55 and a break line, 33 lines; nothing if the Friedel wavelength is unknown.
 std::string friedeldatei(const clsCalc& calc);
+
+/// The radii of the same minima: which quantity, n, radius and unit; no lines if the wavelength is unknown.
+Tabelle friedeltabelle(const clsCalc& calc);
 
 /// The number of a shown value as it is copied: up to the first blank, so the mantissa only, with a decimal point.
 /// `index` is the line; the text of line 10 and higher loses its first seven characters first.

@@ -8,32 +8,36 @@ namespace zerna {
 
 namespace {
 
-/// Name, number and unit of a line; nothing if the number is unknown.
-std::vector<std::string> groessenzeile(const Groesse& zeile, const clsCalc& calc, Dezimaltrenner trenner)
+/// Name, number and unit of a line; nothing if it is to be left out.
+std::vector<std::string> groessenzeile(
+    const Groesse& zeile, const clsCalc& calc, Dezimaltrenner trenner, Unbekanntes unbekanntes)
 {
     const float value = wert(zeile, calc);
-    if (istUnbekannt(value))
+    const bool isKnown = !istUnbekannt(value);
+    if (!isKnown && unbekanntes == Unbekanntes::Weglassen)
         return {};
-    return {std::string(zeile.bezeichnung()), textOfSingle(value, trenner), std::string(zeile.einheit)};
+    return {std::string(zeile.bezeichnung()), isKnown ? textOfSingle(value, trenner) : std::string(),
+        std::string(zeile.einheit)};
 }
 
 } // namespace
 
-Tabelle groessentabelle(const clsCalc& calc)
+Tabelle groessentabelle(const clsCalc& calc, Unbekanntes unbekanntes)
 {
     Tabelle tabelle{{{"name"}, {"wert", true}, {"einheit"}}, {}};
     for (const Groesse& zeile : ergebniszeilen()) {
-        if (auto zellen = groessenzeile(zeile, calc, Dezimaltrenner::Punkt); !zellen.empty())
+        if (auto zellen = groessenzeile(zeile, calc, Dezimaltrenner::Punkt, unbekanntes); !zellen.empty())
             tabelle.zeilen.push_back(std::move(zellen));
     }
     return tabelle;
 }
 
-Tabelle lehrbuchtabelle(const clsCalc& calc, std::span<const Legierungskomponente> komponenten, Dezimaltrenner trenner)
+Tabelle lehrbuchtabelle(const clsCalc& calc, std::span<const Legierungskomponente> komponenten, Dezimaltrenner trenner,
+    Unbekanntes unbekanntes)
 {
     Tabelle tabelle{{{"name"}, {"wert", true}, {"einheit"}, {"lehrbuch", true}, {"lehrbucheinheit"}}, {}};
     for (const Groesse& zeile : ergebniszeilen()) {
-        auto zellen = groessenzeile(zeile, calc, trenner);
+        auto zellen = groessenzeile(zeile, calc, trenner, unbekanntes);
         if (zellen.empty())
             continue;
         if (const Lehrbucheintrag* const eintrag = abweichungImErgebnis(zeile.zeile)) {

@@ -8,13 +8,15 @@
 
 namespace zerna {
 
-/// All quantities of the alloy: name, shortest text of the single, unit. Unknown values are left out. The Friedel
-/// minimum is the first one.
-Tabelle groessentabelle(const clsCalc& calc);
+/// What becomes of quantities without a value: no line, or one without a number.
+enum class Unbekanntes { Weglassen, Leer };
+
+/// All quantities of the alloy: name, shortest text of the single, unit. The Friedel minimum is the first one.
+Tabelle groessentabelle(const clsCalc& calc, Unbekanntes unbekanntes = Unbekanntes::Weglassen);
 
 /// The same with the textbook's value and its unit in the lines that depart from it. `komponenten` are those of the
 /// alloy.
 Tabelle lehrbuchtabelle(const clsCalc& calc, std::span<const Legierungskomponente> komponenten,
-    Dezimaltrenner trenner = Dezimaltrenner::Punkt);
+    Dezimaltrenner trenner = Dezimaltrenner::Punkt, Unbekanntes unbekanntes = Unbekanntes::Weglassen);
 
 } // namespace zerna

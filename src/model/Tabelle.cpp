@@ -93,7 +93,7 @@ std::string alsJson(const Tabelle& tabelle)
         for (std::size_t i = 0; i < zeile.size(); ++i) {
             const Tabelle::Spalte& spalte = tabelle.spalten.at(i);
             json.append(i == 0 ? "" : ", ").append(inQuotes(spalte.name)).append(": ");
-            json += spalte.istZahl ? zeile[i] : inQuotes(zeile[i]);
+            json += !spalte.istZahl ? inQuotes(zeile[i]) : zeile[i].empty() ? "null" : zeile[i];
         }
         json += '}';
     }

@@ -29,7 +29,7 @@ std::string alsCsv(const Tabelle& tabelle);
 /// An HTML table with a heading; numbers end at the right. Lines with fewer cells than columns end in empty ones.
 std::string alsHtml(const Tabelle& tabelle);
 
-/// A JSON array with an object per line, keyed by the columns' names.
+/// A JSON array with an object per line, keyed by the columns' names. An empty number is null.
 std::string alsJson(const Tabelle& tabelle);
 
 } // namespace zerna

@@ -72,6 +72,8 @@ TEST_F(cliTest, PicturesAreMadeWithoutADisplayAndCarryTheirAlloy)
         EXPECT_EQ(answer.text, std::string("zerna-cli: ") + refusal + '\n');
         EXPECT_EQ(answer.status, 2);
     }
+    EXPECT_EQ(run("bild --ziel e.png --varianten a.svg").text,
+        "zerna-cli: --varianten gibt es nur mit einer Datei, in der Legierungen gemerkt sind\n");
     EXPECT_EQ(run("bild --groesse 8 --ziel e.svg Al=60 Cu=30").text,
         "zerna-cli: Die Anteile ergeben nicht 100 %, das Bild trägt keine Legierung\n");
     EXPECT_EQ(run("groessen e.svg").status, 1);
