@@ -8,7 +8,7 @@ set -euo pipefail
 tools=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev zlib1g-dev libexpat1-dev)
 window=(qt6-base-dev qt6-svg-dev qt6-translations-l10n fonts-dejavu-core)
 program=("${tools[@]}" "${window[@]}" qt6-wayland)
-tests=("${tools[@]}" "${window[@]}" libgtest-dev libgmock-dev python3 python3-jsonschema)
+tests=("${tools[@]}" "${window[@]}" qt6-base-private-dev libgtest-dev libgmock-dev python3 python3-jsonschema)
 bench=("${tools[@]}" "${window[@]}" libbenchmark-dev libmuparser-dev)
 package=("${program[@]}" python3 gzip dpkg-dev desktop-file-utils appstream libxml2-utils lintian man-db debootstrap)
 ci=("${program[@]}" "${tests[@]}" "${bench[@]}" "${package[@]}" clang-14 clang-format-14 clang-tidy-14 libclang-rt-14-dev)

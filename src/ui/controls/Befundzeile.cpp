@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
+#include "ui/platform/Ansage.h"
 #include "ui/platform/Farben.h"
 
 namespace zerna {
@@ -18,6 +19,7 @@ constexpr int Wrapped = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
 
 Befundzeile::Befundzeile(QWidget* parent)
     : QAbstractButton(parent)
+    , m_ansage(new Ansage(this, QAccessible::Alert))
 {
     QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
@@ -27,10 +29,14 @@ Befundzeile::Befundzeile(QWidget* parent)
 
 void Befundzeile::zeige(const QString& befund, Ton ton, bool fuehrtHin)
 {
-    m_befund = befund;
     m_ton = ton;
-    setToolTip(befund);
-    setAccessibleName(befund);
+    if (befund != m_befund) {
+        m_befund = befund;
+        setToolTip(befund);
+        setAccessibleName(befund);
+        if (!befund.isEmpty())
+            m_ansage->merke();
+    }
     const bool isActive = fuehrtHin && !befund.isEmpty();
     setFocusPolicy(isActive ? Qt::StrongFocus : Qt::NoFocus);
     setCursor(isActive ? Qt::PointingHandCursor : Qt::ArrowCursor);

@@ -4,6 +4,8 @@
 
 namespace zerna {
 
+class Ansage;
+
 /// A line that says what is the matter and, when it is clicked or Enter is pressed on it, leads there. It keeps its
 /// place while it has nothing to say, so that what stands below stays still; a long text takes further lines.
 class Befundzeile : public QAbstractButton {
@@ -29,6 +31,7 @@ protected:
 private:
     QColor colour() const;
 
+    Ansage* m_ansage;
     QString m_befund;
     Ton m_ton = Ton::Hinweis;
 };

@@ -1,6 +1,6 @@
 #include "ui/controls/Kurzmeldung.h"
 
-#include <QAccessible>
+#include "ui/platform/Ansage.h"
 
 namespace zerna {
 
@@ -13,14 +13,14 @@ Kurzmeldung::Kurzmeldung(QWidget* parent)
 
 void Kurzmeldung::zeige(const QString& text)
 {
+    if (text.isEmpty() && m_text.isEmpty())
+        return;
     m_text = text;
-    fit();
     setToolTip(text);
     setAccessibleName(text);
-    if (text.isEmpty())
-        return;
-    QAccessibleEvent spoken(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&spoken);
+    fit();
+    if (!text.isEmpty())
+        sageSofort(*this);
 }
 
 void Kurzmeldung::fit() { setText(fontMetrics().elidedText(m_text, Qt::ElideRight, width())); }

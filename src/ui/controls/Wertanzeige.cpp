@@ -5,9 +5,9 @@
 #include <QKeyEvent>
 #include <QPainter>
 
-#include "ui/platform/Farben.h"
-
+#include "ui/platform/Ansage.h"
 #include "ui/platform/Anzeige.h"
+#include "ui/platform/Farben.h"
 
 namespace zerna {
 
@@ -26,9 +26,18 @@ QFont fitting(QFont font, const QString& text, int width)
 
 Wertanzeige::Wertanzeige(QWidget* parent)
     : QLabel(parent)
+    , m_ansage(new Ansage(this, QAccessible::ValueChanged))
 {
     setFocusPolicy(Qt::StrongFocus);
     setTextFormat(Qt::PlainText);
+}
+
+void Wertanzeige::zeige(const QString& shown)
+{
+    if (shown == text())
+        return;
+    setText(shown);
+    m_ansage->merke();
 }
 
 void Wertanzeige::setEinheit(const QString& einheit, int numberWidth, int margin)

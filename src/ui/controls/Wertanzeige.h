@@ -4,6 +4,8 @@
 
 namespace zerna {
 
+class Ansage;
+
 /// One result value: number and unit stand in columns, so that the units of all lines are aligned. It paints the number
 /// with a true minus sign and a power of ten; its text stays the given one. Takes the keyboard
 /// focus; Ctrl+C copies what it shows, the right mouse button or the menu key asks for its menu, a click, Enter or the
@@ -13,6 +15,9 @@ class Wertanzeige : public QLabel {
 
 public:
     explicit Wertanzeige(QWidget* parent = nullptr);
+
+    /// Shows a text; screen readers are told once the user pauses.
+    void zeige(const QString& text);
 
     /// The unit that texts end in, and the width of the number column in front of it (0: text as one piece), which has
     /// a margin on both sides so that numbers and units stand below those of fields.
@@ -49,6 +54,7 @@ protected:
 private:
     void paintFocus(QPainter& painter) const;
 
+    Ansage* m_ansage;
     QString m_einheit;
     bool m_blass = false;
     int m_numberWidth = 0; // logical pixels

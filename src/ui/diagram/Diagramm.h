@@ -26,6 +26,13 @@ public:
         std::optional<bool> an = {}; ///< of a switch
     };
 
+    /// A key that the diagram knows, and what it does.
+    struct Taste {
+        QString text;
+        int key = 0;
+        Qt::KeyboardModifiers held = {};
+    };
+
     virtual ~Diagramm() = default;
 
     virtual void paint(QPainter& painter, const Leinwand& leinwand) const = 0;
@@ -51,6 +58,13 @@ public:
 
     /// What is under the keyboard cursor; empty without one.
     virtual QString cursorText() const { return {}; }
+
+    /// What it shows, as it is read out: in a few words, and more of it.
+    virtual QString name() const { return {}; }
+    virtual QString beschreibung() const { return {}; }
+
+    /// The keys of a diagram; none of a message.
+    virtual std::vector<Taste> tasten() const { return {}; }
 
     virtual bool keyPressed(int /*key*/, const Leinwand&) { return false; }
     virtual void clearCursor() { }

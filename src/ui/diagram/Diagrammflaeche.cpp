@@ -11,6 +11,7 @@
 #include "programm/Exportieren.h"
 #include "ui/diagram/Bildausgabe.h"
 #include "ui/diagram/Bilddatei.h"
+#include "ui/diagram/DiagrammZugang.h"
 #include "ui/diagram/conDisplay.h"
 #include "ui/diagram/frmBild.h"
 #include "ui/platform/Farben.h"
@@ -72,6 +73,8 @@ void Diagrammflaeche::showKonzentration()
     showDiagramm(m_display->diagramm(), Qt::NoFocus); // the display takes the keys itself
     placeDisplay();
 }
+
+bool Diagrammflaeche::zeigtKonzentration() const { return m_diagramm == &m_display->diagramm(); }
 
 void Diagrammflaeche::showPSE(Elementdiagramm elemente)
 {
@@ -236,8 +239,9 @@ void Diagrammflaeche::paintEvent(QPaintEvent*)
     }
     m_diagramm->paint(painter, leinwand());
     m_diagramm->paintCursor(painter, leinwand());
+    const QString ablesung = m_ternaer.cursorText();
     if (std::exchange(m_readingIsOld, false) && m_diagramm == &m_ternaer) // read once the picture is there
-        emit positionChanged(m_ternaer.positionText(m_lastPosition, leinwand()));
+        emit positionChanged(ablesung.isEmpty() ? m_ternaer.positionText(m_lastPosition, leinwand()) : ablesung);
     if (hasFocus()) {
         painter.setPen(QPen(fokusfarbe(palette(), Qt::white), 2)); // diagrams are white in every theme
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
@@ -318,18 +322,22 @@ void Diagrammflaeche::leaveEvent(QEvent* event)
 
 void Diagrammflaeche::keyPressEvent(QKeyEvent* event)
 {
+    const Ansicht before = ansicht();
     if (!m_diagramm->keyPressedWith(event->key(), event->modifiers(), leinwand()))
         return QWidget::keyPressEvent(event);
     if (const QString text = m_diagramm->cursorText(); !text.isEmpty())
         emit positionChanged(text);
     updateDiagramm();
-    nenneAnsicht(QStringLiteral("Tasten"));
+    if (ansicht() != before)
+        nenneAnsicht(QStringLiteral("Tasten"));
+    sageAblesung(m_display->isVisible() ? static_cast<QWidget&>(*m_display) : *this);
 }
 
 void Diagrammflaeche::focusOutEvent(QFocusEvent* event)
 {
     QWidget::focusOutEvent(event);
     m_diagramm->clearCursor();
+    sageAblesung(*this);
     update();
 }
 

@@ -60,6 +60,7 @@ public:
 
     /// What is shown.
     const Diagramm& diagramm() const { return *m_diagramm; }
+    bool zeigtKonzentration() const; ///< and the display in it paints that
 
     /// Puts what is shown on the clipboard, at the screen's full resolution.
     void copyPicture();

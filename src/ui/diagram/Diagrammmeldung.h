@@ -10,6 +10,7 @@ public:
     explicit Diagrammmeldung(QString text = {});
 
     void paint(QPainter& painter, const Leinwand& leinwand) const override;
+    QString name() const override { return m_text.simplified(); }
 
 private:
     QString m_text;

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <utility>
 
+#include "core/Zahlentext.h"
 #include "ui/platform/Abdeckung.h"
 #include "ui/platform/Farben.h"
 
@@ -148,6 +149,42 @@ QString Kurvendiagramm::cursorText() const
     if (!m_hatBild || !kreuz)
         return {};
     return toQt(ablesung(m_bild, *kreuz, m_ansicht.ausschnitt().value_or(ganzerAusschnitt(m_bild)).x));
+}
+
+QString Kurvendiagramm::name() const { return m_hatBild ? toQt(m_bild.titel) : QString(); }
+
+/// The alloy, the axis and the curves: "… - at% Al von 0 bis 100 - Al60Cu40, Variante 2".
+QString Kurvendiagramm::beschreibung() const
+{
+    if (!m_hatBild)
+        return {};
+    const Achse& x = m_bild.x;
+    const auto bound = [](double value) { return textWithDigits(static_cast<float>(value), 5); };
+    std::string text = m_bild.untertitel + (m_bild.untertitel.empty() ? "" : " - ")
+        + (x.einheit.empty() ? x.titel : x.einheit) + " von " + bound(x.bereich.min) + " bis " + bound(x.bereich.max);
+    std::string names;
+    for (const Kurve& kurve : m_bild.kurven) {
+        if (!kurve.name.empty())
+            names += (names.empty() ? " - " : ", ") + kurve.name;
+    }
+    return toQt(text + names);
+}
+
+std::vector<Diagramm::Taste> Kurvendiagramm::tasten() const
+{
+    if (!m_hatBild)
+        return {};
+    return {
+        {QStringLiteral("Nächster Punkt"), Qt::Key_Right},
+        {QStringLiteral("Voriger Punkt"), Qt::Key_Left},
+        {QStringLiteral("Erster Punkt"), Qt::Key_Home},
+        {QStringLiteral("Letzter Punkt"), Qt::Key_End},
+        {QStringLiteral("Nächste Kurve"), Qt::Key_Down},
+        {QStringLiteral("Vorige Kurve"), Qt::Key_Up},
+        {QStringLiteral("Bild vergrößern"), Qt::Key_Plus},
+        {QStringLiteral("Bild verkleinern"), Qt::Key_Minus},
+        {QStringLiteral("Ganzes Bild"), Qt::Key_0},
+    };
 }
 
 bool Kurvendiagramm::keyPressedWith(int key, Qt::KeyboardModifiers held, const Leinwand& leinwand)

@@ -45,6 +45,9 @@ public:
 
     QString positionText(const QPointF& position, const Leinwand& leinwand) const override;
     QString cursorText() const override;
+    QString name() const override;
+    QString beschreibung() const override;
+    std::vector<Taste> tasten() const override;
     bool keyPressed(int key, const Leinwand& leinwand) override { return keyPressedWith(key, {}, leinwand); }
     bool keyPressedWith(int key, Qt::KeyboardModifiers held, const Leinwand& leinwand) override;
     void clearCursor() override { m_ansicht.ohneKreuz(); }

@@ -99,6 +99,23 @@ QString PSEDiagramm::cursorText() const
     return m_cursor < 0 ? QString() : elementText(static_cast<std::size_t>(m_cursor));
 }
 
+QString PSEDiagramm::beschreibung() const
+{
+    const QString rest = toQt(m_elemente.untertitel);
+    return QStringLiteral("%1 Elemente nach der Ordnungszahl").arg(m_elemente.elemente.size())
+        + (rest.isEmpty() ? QString() : QStringLiteral(" - ") + rest);
+}
+
+std::vector<Diagramm::Taste> PSEDiagramm::tasten() const
+{
+    return {
+        {QStringLiteral("Nächster Punkt"), Qt::Key_Right},
+        {QStringLiteral("Voriger Punkt"), Qt::Key_Left},
+        {QStringLiteral("Erster Punkt"), Qt::Key_Home},
+        {QStringLiteral("Letzter Punkt"), Qt::Key_End},
+    };
+}
+
 bool PSEDiagramm::hovered(const QPointF& position, const Leinwand& leinwand)
 {
     const auto element = nearestElement(layout(leinwand).bild, position.x());

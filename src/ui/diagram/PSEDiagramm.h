@@ -29,6 +29,9 @@ public:
     std::vector<Exportart> exportarten(const Leinwand& leinwand) const override;
     QString positionText(const QPointF& position, const Leinwand& leinwand) const override;
     QString cursorText() const override;
+    QString name() const override { return toQt(m_elemente.titel); }
+    QString beschreibung() const override;
+    std::vector<Taste> tasten() const override;
     bool keyPressed(int key, const Leinwand& leinwand) override;
     void clearCursor() override;
     bool hovered(const QPointF& position, const Leinwand& leinwand) override;

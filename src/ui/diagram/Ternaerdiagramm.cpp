@@ -7,7 +7,7 @@
 
 #include "core/Unbekannt.h"
 #include "ui/diagram/Bildausgabe.h"
-#include "ui/platform/QtText.h"
+#include "ui/platform/Farben.h"
 #include "ui/platform/Zwischenablage.h"
 
 namespace zerna {
@@ -22,6 +22,8 @@ void Ternaerdiagramm::setAngaben(Ternaerangaben angaben)
 {
     if (!m_inhalt || m_inhalt->gitter != angaben.gitter) // other at% have the same surface
         m_inhalt = std::make_shared<const Ternaerinhalt>(std::move(angaben.gitter));
+    if (m_kreuz && m_kreuz->i + m_kreuz->j > m_inhalt->gitter.n)
+        m_kreuz.reset(); // of a finer grid
     m_groesse = std::move(angaben.groesse);
     m_beiwerk.titel = std::move(angaben.titel);
     m_beiwerk.untertitel = std::move(angaben.untertitel);
@@ -82,7 +84,58 @@ void Ternaerdiagramm::turnBy(double tilt, double turn)
         m_ansicht = rotated(m_ansicht, tilt, turn);
 }
 
-bool Ternaerdiagramm::keyPressed(int key, const Leinwand&)
+/// Where the crosshair is; across the whole picture it would hide the lines of the surface.
+void Ternaerdiagramm::paintCursor(QPainter& painter, const Leinwand& leinwand) const
+{
+    constexpr double Ring = 6;
+    if (!m_kreuz || !m_inhalt || leinwand.size.isEmpty())
+        return;
+    const auto place = bild(leinwand).stelle(anteileBei(m_inhalt->gitter, *m_kreuz));
+    if (!place)
+        return;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (const auto& [colour, width] : {std::pair(QColor(Qt::white), 4.0), std::pair(QColor(Cursorfarbe), 2.0)}) {
+        painter.setPen(QPen(colour, width));
+        painter.drawEllipse(*place, Ring, Ring);
+    }
+    painter.restore();
+}
+
+QString Ternaerdiagramm::cursorText() const
+{
+    if (!m_kreuz || !m_inhalt)
+        return {};
+    const Ternaergitter& gitter = m_inhalt->gitter;
+    return toQt(ternaerablesung(gitter, anteileBei(gitter, *m_kreuz), gitter.wert(m_kreuz->i, m_kreuz->j)));
+}
+
+std::vector<Diagramm::Taste> Ternaerdiagramm::tasten() const
+{
+    const auto& symbole = m_inhalt ? m_inhalt->gitter.symbole : std::array<std::string, 3>();
+    const auto more = [&](std::size_t k) { return QStringLiteral("Ablesen: mehr %1").arg(toQt(symbole.at(k))); };
+    return {
+        {more(0), Qt::Key_Left, Qt::ShiftModifier},
+        {more(1), Qt::Key_Right, Qt::ShiftModifier},
+        {more(2), Qt::Key_Up, Qt::ShiftModifier},
+        {QStringLiteral("Ablesen: weniger %1").arg(toQt(symbole.at(2))), Qt::Key_Down, Qt::ShiftModifier},
+        {QStringLiteral("Ablesen: eingetragene Zusammensetzung"), Qt::Key_Home},
+        {QStringLiteral("Bild vergrößern"), Qt::Key_Plus},
+        {QStringLiteral("Bild verkleinern"), Qt::Key_Minus},
+    };
+}
+
+bool Ternaerdiagramm::keyPressedWith(int key, Qt::KeyboardModifiers held, const Leinwand&)
+{
+    const bool reads = m_ansicht.flach || held.testFlag(Qt::ShiftModifier);
+    if (key == Qt::Key_Plus || key == Qt::Key_Minus)
+        return wheelTurned(key == Qt::Key_Plus ? 1 : -1);
+    if (key == Qt::Key_Home || reads)
+        return moved(key);
+    return turned(key);
+}
+
+bool Ternaerdiagramm::turned(int key)
 {
     constexpr double Step = 5; // degrees
     switch (key) {
@@ -98,13 +151,27 @@ bool Ternaerdiagramm::keyPressed(int key, const Leinwand&)
     case Qt::Key_Down:
         turnBy(Step, 0);
         return true;
-    case Qt::Key_Plus:
-        return wheelTurned(1);
-    case Qt::Key_Minus:
-        return wheelTurned(-1);
     default:
         return false;
     }
+}
+
+/// The crosshair begins at the entered composition, or in the middle.
+bool Ternaerdiagramm::moved(int key)
+{
+    const bool isArrow = key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+    if (!m_inhalt || (!isArrow && key != Qt::Key_Home))
+        return false;
+    const Ternaergitter& gitter = m_inhalt->gitter;
+    if (!m_kreuz || key == Qt::Key_Home) {
+        constexpr double Third = 1.0 / 3;
+        m_kreuz = kreuzBei(gitter, m_beiwerk.legierung.value_or(Anteile3{Third, Third, Third}));
+        return true;
+    }
+    const int right = key == Qt::Key_Right ? 1 : key == Qt::Key_Left ? -1 : 0;
+    const int up = key == Qt::Key_Up ? 1 : key == Qt::Key_Down ? -1 : 0;
+    m_kreuz = nachbar(gitter, *m_kreuz, right, up);
+    return true;
 }
 
 bool Ternaerdiagramm::dragged(const QPointF& way)

@@ -4,7 +4,9 @@
 #include <optional>
 
 #include "bild/Ternaerangaben.h"
+#include "bild/Ternaerkreuz.h"
 #include "ui/diagram/Diagramm.h"
+#include "ui/platform/QtText.h"
 #include "ui/ternary/Ternaerbild.h"
 
 namespace zerna {
@@ -28,7 +30,16 @@ public:
     std::string values() const override;
     std::vector<Exportart> exportarten(const Leinwand& leinwand) const override;
     QString positionText(const QPointF& position, const Leinwand& leinwand) const override;
-    bool keyPressed(int key, const Leinwand& leinwand) override;
+    void paintCursor(QPainter& painter, const Leinwand& leinwand) const override;
+    QString cursorText() const override;
+    void clearCursor() override { m_kreuz.reset(); }
+    QString name() const override { return toQt(m_beiwerk.titel); }
+    QString beschreibung() const override { return toQt(m_beiwerk.untertitel); }
+    std::vector<Taste> tasten() const override;
+
+    /// Turns and zooms; with Shift, or in the flat view, which does not turn, it moves the crosshair from point to
+    /// point of the grid.
+    bool keyPressedWith(int key, Qt::KeyboardModifiers held, const Leinwand& leinwand) override;
     bool dragged(const QPointF& way) override;
     bool wheelTurned(double notches) override;
 
@@ -40,6 +51,8 @@ public:
 
 private:
     void findZiellinien();
+    bool turned(int key);
+    bool moved(int key);
     const Ternaerbild& bild(const Leinwand& leinwand) const;
     void turnBy(double tilt, double turn);
 
@@ -47,6 +60,7 @@ private:
     Ternaerwert m_groesse;
     Ternaerbeiwerk m_beiwerk;
     Ansicht m_ansicht;
+    std::optional<Ternaerkreuz> m_kreuz; // of the keyboard
     mutable Ternaerbild m_bild; // as it was wanted last
 };
 

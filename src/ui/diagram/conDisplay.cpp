@@ -7,6 +7,7 @@
 
 #include "core/Zahlentext.h"
 #include "programm/Exportieren.h"
+#include "ui/diagram/DiagrammZugang.h"
 #include "ui/diagram/Plotflaeche.h"
 #include "ui/platform/Farben.h"
 
@@ -192,6 +193,7 @@ void conDisplay::focusOutEvent(QFocusEvent* event)
 {
     QWidget::focusOutEvent(event);
     m_diagramm.clearCursor();
+    sageAblesung(*this);
     updateAll();
 }
 

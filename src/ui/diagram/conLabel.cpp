@@ -5,6 +5,7 @@
 
 #include "core/Zahlentext.h"
 #include "ui/button/StyledButton.h"
+#include "ui/platform/Ansage.h"
 #include "ui/platform/Anzeige.h"
 
 namespace zerna {
@@ -25,6 +26,7 @@ int steppedValue(int value, int button)
 
 conLabel::conLabel(QWidget* parent)
     : QWidget(parent)
+    , m_ansage(new Ansage(this, QAccessible::ValueChanged))
 {
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     const std::array<QString, 2> captions{QStringLiteral("▼"), QStringLiteral("▲")};
@@ -43,6 +45,7 @@ void conLabel::setValue(int value)
     if (value == m_value)
         return;
     m_value = value;
+    m_ansage->merke();
     update();
 }
 
@@ -51,8 +54,8 @@ void conLabel::setLabel(const QString& label)
     if (label == m_label)
         return;
     m_label = label;
-    m_buttons[0]->setAccessibleName(QStringLiteral("Anteil von %1 verkleinern").arg(label));
-    m_buttons[1]->setAccessibleName(QStringLiteral("Anteil von %1 vergrößern").arg(label));
+    m_buttons[0]->setAccessibleName(QStringLiteral("Anteil von %1 verkleinern").arg(label.trimmed()));
+    m_buttons[1]->setAccessibleName(QStringLiteral("Anteil von %1 vergrößern").arg(label.trimmed()));
     update();
 }
 
@@ -67,6 +70,7 @@ void conLabel::setEnabled(bool enabled)
 void conLabel::step(int button)
 {
     m_value = steppedValue(m_value, button);
+    m_ansage->merke();
     emit Change();
     update();
 }

@@ -6,6 +6,7 @@
 
 namespace zerna {
 
+class Ansage;
 class StyledButton;
 
 /// A caption and a whole number from 0 to 100 that two buttons step down (0) and up (1).
@@ -45,6 +46,7 @@ private:
     void step(int button);
     int buttonWidth() const;
 
+    Ansage* m_ansage;
     int m_value = 50;
     QString m_label;
     bool m_enabled = true;

@@ -36,6 +36,11 @@ void Elementkarte::setElement(const std::shared_ptr<clsElement>& element)
     m_element = element;
     m_herkunft = element ? auskunftsherkunft(*element) : std::vector<std::string>();
     m_lstInfo->setLines(element ? elementauskunft(*element) : std::vector<std::string>(), m_herkunft);
+    setAccessibleName(!element ? QString()
+                               : QStringLiteral("%1, %2, Ordnungszahl %3, %4")
+                                     .arg(toQt(element->symbol()), toQt(element->Name()))
+                                     .arg(element->OZ())
+                                     .arg(toQt(element->Elektronenkonfiguration())));
     showHerkunft();
     update();
 }

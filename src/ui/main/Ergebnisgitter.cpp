@@ -76,7 +76,8 @@ void Ergebnisgitter::createLine(const Groesse& zeile)
     m_beschriftungen.at(k)->setObjectName(numberedName("Label6", captionIndex(zeile.zeile)));
     auto* const line = new Wertanzeige(this);
     line->setObjectName(numberedName("lblMFE", zeile.zeile));
-    line->setAccessibleName(toQt(zeile.bezeichnung()));
+    line->setAccessibleName(
+        toQt(zeile.bezeichnung()) + (zeile.tippbar ? QStringLiteral(", Einheit") : QString())); // beside a field
     connect(line, &Wertanzeige::menuRequested, this,
         [this, number = zeile.zeile](const QPoint& position) { emit menuRequested(number, position); });
     connect(line, &Wertanzeige::copyRequested, this, [this, number = zeile.zeile] { emit copyRequested(number); });
@@ -234,13 +235,13 @@ void Ergebnisgitter::measure()
 void Ergebnisgitter::zeige(const Ergebnistexte& texte)
 {
     for (const Groesse& zeile : ergebniszeilen())
-        anzeige(zeile.zeile).setText(toQt(texte.at(static_cast<std::size_t>(zeile.zeile)).text));
+        anzeige(zeile.zeile).zeige(toQt(texte.at(static_cast<std::size_t>(zeile.zeile)).text));
 }
 
 void Ergebnisgitter::zeigeFriedel(const QString& index, const QString& text)
 {
     m_label7->setText(index);
-    anzeige(Friedelzeile).setText(text);
+    anzeige(Friedelzeile).zeige(text);
 }
 
 void Ergebnisgitter::zeigeGetippt(Feld feld, bool getippt) { m_zurueck.at(feld)->setVisible(getippt); }

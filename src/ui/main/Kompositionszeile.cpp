@@ -25,6 +25,8 @@ Widget* make(QWidget* panel, const char* name, int row, const QString& accessibl
     auto* widget = new Widget(panel);
     widget->setObjectName(numberedName(name, row));
     widget->setAccessibleName(QStringLiteral("%1, Komponente %2").arg(accessibleName).arg(row + 1));
+    if (qobject_cast<QComboBox*>(widget) != nullptr) // of which some platforms read the chosen entry as its name
+        widget->setAccessibleDescription(widget->accessibleName());
     widget->hide();
     return widget;
 }

@@ -45,6 +45,7 @@ PSEbereich::PSEbereich(Programm& programm, QWidget* parent)
     m_lblUebernahme->setAlignment(Qt::AlignCenter);
     m_picInfo = new Elementkarte(this);
     m_picInfo->setObjectName(QStringLiteral("PicInfo"));
+    setFocusProxy(m_picPSE);
     connect(m_picPSE, &Periodentafel::selected, this, &PSEbereich::select);
     connect(m_picPSE, &Periodentafel::activated, this, &PSEbereich::offerComponents);
     connect(m_cmbFarbe, &QComboBox::activated, this, &PSEbereich::colour);

@@ -1,6 +1,5 @@
 #include "ui/main/Periodentafel.h"
 
-#include <QAccessible>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QPainter>
@@ -10,6 +9,7 @@
 
 #include "bild/PSETafel.h"
 #include "ui/controls/Masse.h"
+#include "ui/main/PeriodentafelZugang.h"
 #include "ui/main/Tafellegende.h"
 #include "ui/main/Zelltexte.h"
 #include "ui/platform/Anzeige.h"
@@ -29,17 +29,23 @@ Periodentafel::Periodentafel(const ElementCollection& elements, QWidget* parent)
 
 void Periodentafel::setSelected(const std::shared_ptr<clsElement>& element)
 {
+    const bool isOther = element != m_selected;
     updateCell(m_selected);
     m_selected = element;
     updateCell(m_selected);
     if (!element)
         return;
-    setAccessibleDescription(QStringLiteral("%1, Ordnungszahl %2, %3")
-                                 .arg(toQt(element->symbol()))
-                                 .arg(element->OZ())
-                                 .arg(hinweis(element).replace(QLatin1Char('\n'), QStringLiteral(", "))));
-    QAccessibleEvent announcement(this, QAccessible::DescriptionChanged);
-    QAccessible::updateAccessibility(&announcement);
+    setAccessibleDescription(auskunft(element));
+    if (isOther)
+        sageZelle(*this);
+}
+
+QString Periodentafel::auskunft(const std::shared_ptr<clsElement>& element) const
+{
+    return QStringLiteral("%1, Ordnungszahl %2, %3")
+        .arg(toQt(element->symbol()))
+        .arg(element->OZ())
+        .arg(hinweis(element).replace(QLatin1Char('\n'), QStringLiteral(", ")));
 }
 
 void Periodentafel::setFaerbung(Tafelfaerbung faerbung)
@@ -125,6 +131,14 @@ bool Periodentafel::event(QEvent* event)
         return true;
     }
     return QWidget::event(event);
+}
+
+/// The toolkit tells that the table has the focus; the cell comes after that.
+void Periodentafel::focusInEvent(QFocusEvent* event)
+{
+    QWidget::focusInEvent(event);
+    QMetaObject::invokeMethod(
+        this, [this] { sageZelle(*this); }, Qt::QueuedConnection);
 }
 
 /// Name, what the cell is coloured by and the rows that the element stands in.
@@ -244,6 +258,11 @@ void Periodentafel::paintEvent(QPaintEvent* event)
     }
     if (m_hovered) // above its neighbours
         paintCell(painter, *m_hovered, hovered, stil);
+    if (hasFocus()) {
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(fokusfarbe(palette(), palette().color(QPalette::Window)), 2));
+        painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    }
 }
 
 void Periodentafel::paintCell(

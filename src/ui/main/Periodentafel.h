@@ -31,6 +31,17 @@ public:
     /// Marks the alloy's elements with the numbers of their rows; `symbols` has a symbol per row.
     void setKomponenten(std::vector<std::string> symbols);
 
+    const ElementCollection& elemente() const { return m_elements; }
+    const std::shared_ptr<clsElement>& gewaehlt() const { return m_selected; }
+
+    /// Where the cell of an element is, and what it says: "Mg, Ordnungszahl 12, Magnesium, Hauptgruppen".
+    QRectF cellOf(const clsElement& element) const;
+    QString auskunft(const std::shared_ptr<clsElement>& element) const;
+
+    /// As a click and a double click on its cell.
+    void select(const std::shared_ptr<clsElement>& element);
+    void askForSelected();
+
     /// The free area at the top of the table and the one between its two parts, in pixels.
     QRect freeArea() const;
     QRect gap() const;
@@ -42,6 +53,7 @@ signals:
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
     bool event(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
@@ -52,12 +64,9 @@ protected:
 
 private:
     Tafelmassstab scale() const;
-    QRectF cellOf(const clsElement& element) const;
     std::shared_ptr<clsElement> elementUnder(const QPointF& position) const;
-    void select(const std::shared_ptr<clsElement>& element);
     void hover(const std::shared_ptr<clsElement>& element);
     std::string komponentenOf(const clsElement& element) const;
-    void askForSelected();
     QString hinweis(const std::shared_ptr<clsElement>& element) const;
     void updateCell(const std::shared_ptr<clsElement>& element);
     void moveSelection(int dx, int dy);

@@ -139,7 +139,10 @@ void Vergleichsansicht::moved(int logical, int from, int to)
 
 void Vergleichsansicht::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
-    QTableView::currentChanged(current, previous);
+    if (hasFocus())
+        QTableView::currentChanged(current, previous);
+    else // which would tell screen readers that the cell has the focus
+        QAbstractItemView::currentChanged(current, previous);
     if (current.isValid())
         m_zeile = current.row();
     emit legierungGewaehlt();

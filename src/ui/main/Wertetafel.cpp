@@ -88,6 +88,15 @@ void Wertetafel::copySelection() const
     copy(std::move(selected));
 }
 
+/// The toolkit's table tells screen readers that its current cell has the focus, also while that is in a field above.
+void Wertetafel::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    if (hasFocus())
+        QTableWidget::currentChanged(current, previous);
+    else
+        QAbstractItemView::currentChanged(current, previous);
+}
+
 void Wertetafel::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Copy))

@@ -25,6 +25,7 @@ protected:
     const Tabelle& tabelle() const { return m_tabelle; }
 
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

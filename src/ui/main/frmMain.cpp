@@ -25,6 +25,7 @@
 #include "ui/main/Kompositionsbereich.h"
 #include "ui/main/PSEbereich.h"
 #include "ui/main/Vergleichsbereich.h"
+#include "ui/main/Zugangsfabrik.h"
 #include "ui/platform/QtText.h"
 #include "ui/platform/Schriftfolge.h"
 #include "ui/weighing/conWiegen.h"
@@ -86,6 +87,7 @@ frmMain::frmMain(Programm& programm, Dialoge dialoge)
     : m_programm(programm)
     , m_verlauf(programm.Dokument(), programm.gerechneteEingabe())
 {
+    installZugangsfabrik();
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(toQt(Programmtitel));
     setWindowIcon(programmsymbol());
@@ -335,10 +337,17 @@ void frmMain::closeEvent(QCloseEvent* event)
 
 void frmMain::showPanel(int panel)
 {
+    const bool isOther = isVisible() && m_panels->currentIndex() != panel;
     checkOnly(m_optButton1, panel);
     m_panels->setCurrentIndex(panel);
-    if (panel == 1)
+    if (panel == 0 && isOther) { // where the work was left
+        QWidget* const last = m_pic1->focusWidget();
+        last != nullptr && last->isVisible() ? last->setFocus() : m_komposition->focusFirstField();
+    }
+    if (panel == 1) {
         m_pse->layOut();
+        m_pse->setFocus();
+    }
     if (panel == 2)
         m_vergleich->setFocus();
 }

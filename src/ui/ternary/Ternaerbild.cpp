@@ -9,8 +9,7 @@
 #include <array>
 
 #include "bild/Dezimaltext.h"
-#include "core/Zahlentext.h"
-#include "model/Werttext.h"
+#include "bild/Ternaerkreuz.h"
 #include "ui/platform/Abdeckung.h"
 #include "ui/platform/Farben.h"
 #include "ui/platform/QtText.h"
@@ -128,6 +127,14 @@ QPointF Ternaerbild::at(const Anteile3& anteile, double z) const
     return {p.x, p.y};
 }
 
+std::optional<QPointF> Ternaerbild::stelle(const Anteile3& anteile) const
+{
+    const auto value = interpolated(inhalt().gitter, anteile);
+    if (!value)
+        return std::nullopt;
+    return at(anteile, isFlat() ? 0 : heightShare(*value, inhalt().range) * SurfaceHeight);
+}
+
 double Ternaerbild::frameWidth() const { return 1.2 * m_aufnahme.stil.linienbreite / Bildstil().linienbreite; }
 
 void Ternaerbild::paintBase(QPainter& painter) const
@@ -149,16 +156,15 @@ void Ternaerbild::paintCurrent(QPainter& painter) const
 {
     constexpr double Radius = 4.5;
     const auto& current = m_aufnahme.beiwerk.legierung;
-    const auto value = current ? interpolated(inhalt().gitter, *current) : std::nullopt;
-    if (!value)
+    const auto place = current ? stelle(*current) : std::nullopt;
+    if (!place)
         return;
     const QColor colour = m_aufnahme.stil.grau ? QColor(Qt::black) : QColor(Legierungsfarbe);
-    const double z = isFlat() ? 0 : heightShare(*value, inhalt().range) * SurfaceHeight;
     painter.setPen(QPen(colour, frameWidth(), Qt::DashLine));
-    painter.drawLine(at(*current, 0), at(*current, z));
+    painter.drawLine(at(*current, 0), *place);
     painter.setPen(QPen(Qt::white, 1.5));
     painter.setBrush(colour);
-    painter.drawEllipse(at(*current, z), Radius, Radius);
+    painter.drawEllipse(*place, Radius, Radius);
     painter.setBrush(Qt::NoBrush);
 }
 
@@ -239,10 +245,7 @@ QString Ternaerbild::positionText(const QPointF& position) const
     const auto value = anteile ? interpolated(inhalt().gitter, *anteile) : std::nullopt;
     if (!value)
         return {};
-    std::string text;
-    for (std::size_t k = 0; k < 3; ++k)
-        text += inhalt().gitter.symbole.at(k) + " " + fixedText(std::max(0.0, anteile->at(k)) * 100, 1) + " at%  ";
-    return toQt(text + "-  " + werttext(static_cast<float>(*value), inhalt().gitter.einheit));
+    return toQt(ternaerablesung(inhalt().gitter, *anteile, static_cast<float>(*value)));
 }
 
 } // namespace zerna

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QFont>
+#include <QPointF>
 #include <QSize>
 #include <QString>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "bild/Ternaerbeschriftung.h"
@@ -35,6 +37,9 @@ public:
 
     /// Composition and value of the surface under a position; empty beside it.
     QString positionText(const QPointF& position) const;
+
+    /// Where the surface's point of a composition is, hidden or not; none where it has no value.
+    std::optional<QPointF> stelle(const Anteile3& anteile) const;
 
     const Ternaeraufteilung& aufteilung() const { return m_parts; }
     const Ternaerbeschriftung& beschriftung() const { return m_labels; }

@@ -139,8 +139,10 @@ std::optional<AbgelegteMasse> Wiegezeile::zeige(const std::string& symbol, const
     m_symbol = symbol;
     for (QWidget* const widget : widgets())
         widget->show();
-    m_label->setText(name);
-    m_istmasse->setAccessibleName(QStringLiteral("Gewogene Masse von %1 in Milligramm").arg(name));
+    if (name != m_label->text()) {
+        m_label->setText(name);
+        m_istmasse->setAccessibleName(QStringLiteral("Gewogene Masse von %1 in Milligramm").arg(name));
+    }
     return taken;
 }
 

@@ -1,0 +1,31 @@
+#include "ui/controls/BefundzeileZugang.h"
+
+#include "ui/controls/Befundzeile.h"
+
+namespace zerna {
+
+BefundzeileZugang::BefundzeileZugang(Befundzeile& zeile)
+    : Zugang(&zeile, QAccessible::StaticText)
+    , m_zeile(zeile)
+{
+}
+
+QAccessible::Role BefundzeileZugang::role() const
+{
+    return m_zeile.isEnabled() ? QAccessible::Button : QAccessible::StaticText;
+}
+
+QAccessible::State BefundzeileZugang::state() const
+{
+    QAccessible::State state = Zugang::state();
+    state.disabled = false; // only to be read is not disabled
+    state.invisible = state.invisible || m_zeile.befund().isEmpty();
+    return state;
+}
+
+QList<Zugang::Aktion> BefundzeileZugang::aktionen() const
+{
+    return {{pressAction(), [this] { m_zeile.click(); }}};
+}
+
+} // namespace zerna
