@@ -50,6 +50,15 @@ TEST(Kontrast, EveryTextOfThePaletteIsLegible)
     EXPECT_GE(kontrast(polished.color(QPalette::Disabled, QPalette::Text), polished.color(QPalette::Base)), 4.5);
 }
 
+TEST(Kontrast, StyleMovesNothing)
+{
+    LesbarerStil style;
+    EXPECT_EQ(style.styleHint(QStyle::SH_Widget_Animation_Duration), 0);
+    QApplication::setEffectEnabled(Qt::UI_AnimateCombo);
+    style.polish(qApp);
+    EXPECT_FALSE(QApplication::isEffectEnabled(Qt::UI_AnimateCombo));
+}
+
 TEST(Kontrast, MarksStandOutFromTheirGround)
 {
     for (const auto& [name, palette] : desktops()) {

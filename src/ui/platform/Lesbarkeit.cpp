@@ -1,15 +1,34 @@
 #include "ui/platform/Lesbarkeit.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QPainter>
+#include <QStyleOption>
+
+#include <algorithm>
 #include <array>
 
+#include "ui/platform/Farben.h"
 #include "ui/platform/Kontrast.h"
 
 namespace zerna {
 
 namespace {
 
+constexpr int FocusWidth = 2;
+
 /// The colour that a partly transparent one gives on a ground.
 QColor opaque(const QColor& colour, const QColor& ground) { return gemischt(ground, colour, colour.alphaF()); }
+
+/// Around a control, or the current entry of a list.
+void drawFocus(const QStyleOption& option, QPainter& painter)
+{
+    painter.save();
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(fokusfarbe(option.palette, option.palette.color(QPalette::Window)), FocusWidth));
+    painter.drawRect(option.rect.adjusted(1, 1, -1, -1));
+    painter.restore();
+}
 
 } // namespace
 
@@ -36,6 +55,48 @@ void LesbarerStil::polish(QPalette& palette)
 {
     QProxyStyle::polish(palette);
     palette = lesbar(palette);
+}
+
+/// Menus, lists and hints are there at once.
+void LesbarerStil::polish(QApplication* application)
+{
+    QProxyStyle::polish(application);
+    for (const auto effect : {Qt::UI_AnimateMenu, Qt::UI_FadeMenu, Qt::UI_AnimateCombo, Qt::UI_AnimateTooltip,
+             Qt::UI_FadeTooltip, Qt::UI_AnimateToolBox})
+        QApplication::setEffectEnabled(effect, false);
+}
+
+void LesbarerStil::drawComplexControl(
+    ComplexControl control, const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const
+{
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control == CC_ComboBox && option->state.testFlag(State_HasFocus))
+        drawFocus(*option, *painter);
+}
+
+void LesbarerStil::drawPrimitive(
+    PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const
+{
+    if (element == PE_FrameFocusRect)
+        return drawFocus(*option, *painter);
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const bool isView = qobject_cast<const QAbstractItemView*>(widget) != nullptr;
+    if (element == PE_Frame && isView && option->state.testFlag(State_HasFocus))
+        drawFocus(*option, *painter);
+}
+
+/// Lists and tables leave room for the frame around what has the focus.
+int LesbarerStil::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    const bool isView = qobject_cast<const QAbstractItemView*>(widget) != nullptr;
+    return metric == PM_DefaultFrameWidth && isView ? std::max(usual, FocusWidth) : usual;
+}
+
+int LesbarerStil::styleHint(
+    StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* answer) const
+{
+    return hint == SH_Widget_Animation_Duration ? 0 : QProxyStyle::styleHint(hint, option, widget, answer);
 }
 
 } // namespace zerna

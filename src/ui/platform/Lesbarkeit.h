@@ -9,11 +9,21 @@ namespace zerna {
 /// fields too. Colours that stand out enough stay.
 QPalette lesbar(QPalette palette);
 
-/// The platform's usual style with that palette, also when the colours of the desktop change.
+/// The platform's usual style with that palette, also when the colours of the desktop change, and without animations.
+/// What has the focus has a frame that no theme hides.
 class LesbarerStil : public QProxyStyle {
 public:
     using QProxyStyle::polish;
     void polish(QPalette& palette) override;
+    void polish(QApplication* application) override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+        const QWidget* widget = nullptr) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+        const QWidget* widget = nullptr) const override;
+    int pixelMetric(
+        PixelMetric metric, const QStyleOption* option = nullptr, const QWidget* widget = nullptr) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option = nullptr, const QWidget* widget = nullptr,
+        QStyleHintReturn* answer = nullptr) const override;
 };
 
 } // namespace zerna
