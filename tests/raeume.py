@@ -22,11 +22,12 @@ BENEATH = {
     "ui/platform": ["programm", "bild"],
     "ui/button": ["ui/platform"],
     "ui/controls": ["ui/button"],
+    "ui/hilfe": ["ui/controls"],
     "ui/ternary": ["ui/controls"],
     "ui/diagram": ["ui/ternary"],
     "ui/weighing": ["ui/controls"],
     "bildprogramm": ["cli", "ui/diagram"],
-    "ui/main": ["ui/diagram", "ui/weighing"],
+    "ui/main": ["ui/diagram", "ui/weighing", "ui/hilfe"],
     "app": ["ui/main"],
 }
 WITHOUT_QT = ["core", "parser", "model", "bild", "traeger", "dokument", "programm", "cli"]

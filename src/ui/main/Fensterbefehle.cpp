@@ -7,6 +7,7 @@
 #include "ui/main/Dateibefehle.h"
 #include "ui/main/Diagrammbereich.h"
 #include "ui/main/Ergebnisbereich.h"
+#include "ui/main/Hilfe.h"
 #include "ui/main/Kompositionsbereich.h"
 #include "ui/main/Vergleichsbereich.h"
 #include "ui/main/frmAbout.h"
@@ -28,6 +29,7 @@ void frmMain::fillMenu()
     m_komposition->addBefehle(*m_menue);
     m_vergleich->addBefehle(*m_menue);
     addAnsichten();
+    addHilfe();
     m_menue->add(Drucken,
         {.text = {},
             .name = "mnuDrucken",
@@ -76,6 +78,21 @@ void frmMain::addAnsichten()
                     },
                 .gewaehlt = [this, area = area] { return m_lowerArea->currentIndex() == area; }});
     }
+}
+
+void frmMain::addHilfe()
+{
+    m_menue->add(Menue::Abschnitt::Handbuch,
+        {.text = QStringLiteral("&Handbuch"),
+            .name = "mnuHandbuch",
+            .tasten = {QKeySequence(Qt::Key_F1)},
+            .tun = [this] { m_hilfe->zeige(); },
+            .immer = true});
+    m_menue->add(Menue::Abschnitt::Handbuch,
+        {.text = QStringLiteral("Die ersten &zehn Minuten"),
+            .name = "mnuZehnMinuten",
+            .tun = [this] { m_hilfe->zeigeAbschnitt(QStringLiteral("die-ersten-zehn-minuten")); },
+            .immer = true});
 }
 
 /// Whether the weighing has the focus; else it is the diagram that is printed.

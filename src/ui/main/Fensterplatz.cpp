@@ -9,7 +9,6 @@ namespace zerna {
 
 namespace {
 
-constexpr const char* Schluessel = "Fensterplatz";
 constexpr int Ruhe = 250; // milliseconds
 
 /// The place moved, and made smaller where it must, so that the room has it all.
@@ -23,10 +22,11 @@ QRect moved(QRect place, const QRect& room)
 
 } // namespace
 
-Fensterplatz::Fensterplatz(QWidget& window, Settings& settings)
+Fensterplatz::Fensterplatz(QWidget& window, Settings& settings, const char* key)
     : QObject(&window)
     , m_window(window)
     , m_settings(settings)
+    , m_key(key)
 {
     m_afterTheLastChange.setSingleShot(true);
     m_afterTheLastChange.setInterval(Ruhe);
@@ -37,7 +37,7 @@ Fensterplatz::Fensterplatz(QWidget& window, Settings& settings)
 void Fensterplatz::einnehmen(const QSize& usual)
 {
     constexpr QMargins Frame(8, 40, 8, 8); // of a window, with room to spare
-    const QByteArray last = QByteArray::fromStdString(m_settings.LoadSetting(Schluessel, ""));
+    const QByteArray last = QByteArray::fromStdString(m_settings.LoadSetting(m_key, ""));
     const bool isKnown = m_window.restoreGeometry(QByteArray::fromBase64(last));
     const QRect room = m_window.screen()->availableGeometry().marginsRemoved(Frame);
     if (!isKnown)
@@ -50,7 +50,7 @@ void Fensterplatz::einnehmen(const QSize& usual)
 void Fensterplatz::save()
 {
     if (m_window.isVisible())
-        m_settings.SaveSetting(Schluessel, m_window.saveGeometry().toBase64().toStdString());
+        m_settings.SaveSetting(m_key, m_window.saveGeometry().toBase64().toStdString());
 }
 
 bool Fensterplatz::eventFilter(QObject* watched, QEvent* event)

@@ -15,7 +15,8 @@ class Fensterplatz : public QObject {
     Q_OBJECT
 
 public:
-    Fensterplatz(QWidget& window, Settings& settings);
+    /// The place has that key in the settings.
+    Fensterplatz(QWidget& window, Settings& settings, const char* key = "Fensterplatz");
 
     /// Gives the window its last place, or on a first start this size as far as the screen has it.
     void einnehmen(const QSize& usual);
@@ -28,6 +29,7 @@ private:
 
     QWidget& m_window;
     Settings& m_settings;
+    const char* m_key;
     QTimer m_afterTheLastChange; // while the user drags, nothing is written
 };
 

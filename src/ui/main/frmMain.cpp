@@ -22,6 +22,7 @@
 #include "ui/main/Diagrammbereich.h"
 #include "ui/main/Ergebnisbereich.h"
 #include "ui/main/Fensterplatz.h"
+#include "ui/main/Hilfe.h"
 #include "ui/main/Kompositionsbereich.h"
 #include "ui/main/PSEbereich.h"
 #include "ui/main/Vergleichsbereich.h"
@@ -94,6 +95,7 @@ frmMain::frmMain(Programm& programm, Dialoge dialoge)
     createControls();
     createCalculatorPanel(dialoge);
     m_dateien = new Dateibefehle(programm, dialoge, *this);
+    m_hilfe = new Hilfe(*this, programm.settings());
     layOut();
     connectPanels();
     connectVerlauf();

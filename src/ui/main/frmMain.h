@@ -16,6 +16,7 @@ namespace zerna {
 class Dateibefehle;
 class Diagrammbereich;
 class Ergebnisbereich;
+class Hilfe;
 class Kompositionsbereich;
 class Kurzmeldung;
 class Menue;
@@ -87,6 +88,7 @@ private:
     QAction* addSchritt(const QString& text, const char* name, const QList<QKeySequence>& tasten);
     void addSchritte();
     void addAnsichten();
+    void addHilfe();
     bool istEinwaageDran() const;
     void drucke();
     void showAbout();
@@ -105,6 +107,7 @@ private:
     Verlauf m_verlauf;
     Menue* m_menue = nullptr;
     Dateibefehle* m_dateien = nullptr;
+    Hilfe* m_hilfe = nullptr;
     std::array<StyledButton*, 3> m_optButton1{};
     Kurzmeldung* m_meldung = nullptr; // beside the switches
     StyledButton* m_cmdAbout = nullptr;

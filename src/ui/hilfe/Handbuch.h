@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QFont>
+#include <QPalette>
+#include <QString>
+
+#include <vector>
+
+class QTextDocument;
+
+/// The manual as a document: its source is Markdown, the same that other pages are made from.
+namespace zerna {
+
+/// Where the manual and its pictures are inside the program.
+inline constexpr auto Handbuchordner = ":/handbuch";
+
+/// How the manual is to look.
+struct Handbuchstil {
+    QFont schrift;
+    QPalette palette;
+    int breite = 0; ///< of a line, in pixels of the document; wider pictures are made to fit
+    double pixel = 1; ///< of the picture per pixel of the document; 0 keeps all that the files have
+};
+
+/// A heading of the manual.
+struct Handbuchabschnitt {
+    QString anker; ///< "2-zusammensetzung", as links name it
+    QString titel;
+    int ebene = 0; ///< 1 for the title of the manual
+    int position = 0; ///< in the document
+};
+
+/// The anchor that a heading has on pages made from Markdown.
+QString handbuchanker(const QString& titel);
+
+/// The text of the manual.
+QString handbuchtext(const QString& ordner);
+
+/// Fills a document with such a text and returns the headings in their order.
+std::vector<Handbuchabschnitt> setzeHandbuch(
+    QTextDocument& dokument, const QString& markdown, const QString& ordner, const Handbuchstil& stil);
+
+/// The section with that anchor, also without the number in front of it, which may change; null if there is none.
+const Handbuchabschnitt* findeAbschnitt(const std::vector<Handbuchabschnitt>& abschnitte, const QString& anker);
+
+/// Where the manual explains a message, by the messages that its tables quote; -1 if it does not.
+int meldungsstelle(const QTextDocument& dokument, const QString& meldung);
+
+} // namespace zerna
