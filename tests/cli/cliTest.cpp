@@ -1,5 +1,3 @@
-#include <sstream>
-
 #include "support/Kommandozeile.h"
 
 namespace zerna {
@@ -151,23 +149,6 @@ TEST_F(cliTest, ListsAnswerEachLineBeforeTheNextOneComes)
                               "exec 5>in 6<out; read -r x <&6; for al in 100 50; do echo Al=$al >&5; read -r x <&6; "
                               "echo \"$x\"; done");
     EXPECT_EQ(answer.text, "Al=100\t3\nAl=50\t1.5\n");
-}
-
-TEST_F(cliTest, ListsAnswerAsTheManualSays)
-{
-    const std::string manual = bytesOf(ZERNA_DATA_DIR "/../docs/handbuch.md");
-    const std::size_t begin = manual.find("### Viele Legierungen auf einmal");
-    ASSERT_NE(begin, std::string::npos);
-    std::istringstream lines(manual.substr(begin, manual.find("**Auf mehrere Kerne", begin) - begin));
-    std::string commands;
-    std::string answers;
-    for (std::string line; std::getline(lines, line);) {
-        if (line.starts_with("    $ "))
-            commands += line.substr(6) + "\n";
-        else if (line.starts_with("    "))
-            answers += line.substr(4) + "\n";
-    }
-    EXPECT_EQ(run("formel 1 >/dev/null\n" + commands).text, answers);
 }
 
 } // namespace zerna
