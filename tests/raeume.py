@@ -23,6 +23,7 @@ BENEATH = {
     "ui/button": ["ui/platform"],
     "ui/controls": ["ui/button"],
     "ui/hilfe": ["ui/controls"],
+    "handbuchprogramm": ["ui/hilfe"],
     "ui/ternary": ["ui/controls"],
     "ui/diagram": ["ui/ternary"],
     "ui/weighing": ["ui/controls"],
