@@ -100,7 +100,7 @@ void fillFront(QTextDocument& front, const QString& intro, const QString& ordner
     cursor.insertText(QStringLiteral("Version %1").arg(version));
     QTextTableFormat format;
     format.setBorder(0);
-    format.setCellPadding(0.5);
+    format.setCellPadding(0.2);
     format.setTopMargin(16);
     format.setWidth(QTextLength(QTextLength::PercentageLength, 100));
     format.setColumnWidthConstraints(
@@ -109,7 +109,7 @@ void fillFront(QTextDocument& front, const QString& intro, const QString& ordner
     for (int row = 0; row < std::ssize(pages); ++row) {
         const auto& [section, page] = pages.at(static_cast<std::size_t>(row));
         QTextCharFormat letters;
-        letters.setFontPointSize(Schriftgroesse - 1); // all on one page
+        letters.setFontPointSize(Schriftgroesse - 1.5); // all on one page
         letters.setFontWeight(section.ebene == 2 ? QFont::Bold : QFont::Normal);
         QTextBlockFormat indented;
         indented.setLeftMargin(section.ebene == 2 ? 0 : 18);
@@ -130,6 +130,7 @@ void paint(QTextDocument& document, QPdfWriter& writer, QPainter& painter, int& 
         if (++number > 1)
             writer.newPage();
         painter.save();
+        painter.setRenderHint(QPainter::LosslessImageRendering); // pictures of few colours are smaller and sharper so
         painter.translate(0, -page * Seite.height());
         const QRectF part(QPointF(0, page * Seite.height()), Seite);
         painter.setClipRect(part);

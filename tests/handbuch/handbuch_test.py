@@ -11,6 +11,7 @@ import sys
 import tempfile
 import unittest
 from pathlib import Path
+from urllib.parse import unquote
 
 ROOT, PROGRAMS = Path(sys.argv[1]).resolve(), Path(sys.argv[2]).resolve()
 MANUAL = (ROOT / "docs/handbuch.md").read_text(encoding="utf-8")
@@ -131,6 +132,18 @@ class Handbuch(unittest.TestCase):
         commands = "\n".join(f"zerna-cli formel '{formula}'" for formula, _ in rows)
         _, answers = self.enterContext(Shell()).run(commands)
         self.assertEqual(answers.split("\n")[:-1], [value.replace("−", "-") for _, value in rows])
+
+    def test_page_has_what_its_links_and_pictures_name(self):
+        page = PROGRAMS.parent / "handbuch/handbuch.html"
+        if not page.exists():
+            self.skipTest("built without the pages")
+        html = page.read_text(encoding="utf-8")
+        anchors = set(re.findall(r'<h\d id="([^"]+)"', html))
+        self.assertGreater(len(anchors), 40)
+        self.assertEqual({unquote(name) for name in re.findall(r'href="#([^"]+)"', html)} - anchors, set())
+        self.assertEqual([name for name in re.findall(r'<img src="([^"]+)"', html) if not (page.parent / name).exists()],
+                         [])
+        self.assertGreater((page.parent / "handbuch.pdf").stat().st_size, 100000)
 
     def test_numbers_come_from_the_program(self):
         text = prose()
