@@ -13,5 +13,5 @@ command -v pngquant >/dev/null || {
 ZERNA_AUFZEICHNEN=1 QT_QPA_PLATFORM=offscreen "$build/bin/handbuch_tests"
 # Few colours make the pictures small; the figures stay as they are, since they carry their alloys.
 for picture in "$docs"/bilder/*.png; do
-    [[ $picture == */abbildung-* ]] || pngquant --force --ext .png --speed 1 --strip 128 -- "$picture"
+    [[ $picture == */abbildung-* ]] || pngquant --force --ext .png --speed 1 --strip --nofs 64 -- "$picture"
 done

@@ -36,7 +36,8 @@ Handbuchstil druckstil()
     return {.schrift = font,
         .palette = palette,
         .breite = static_cast<int>((Seite.width() - 2 * Rand) / Bildpunkt),
-        .pixel = 0};
+        .pixel = 0,
+        .bildgroesse = 0.7};
 }
 
 void setupPage(QTextDocument& document, QPdfWriter& writer)

@@ -54,6 +54,7 @@ struct HandbuchbilderTest : FakeDesk {
         QApplication::setFont(font);
         settings["Komponenten"] = "1";
         open();
+        window->resize(1120, 720); // small enough to be legible on a page
     }
 
     void enter(const char* formula) const

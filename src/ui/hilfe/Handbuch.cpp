@@ -84,7 +84,7 @@ QTextImageFormat eingepasst(QTextDocument& dokument, const QString& file, QTextI
     QImage image(file);
     if (image.isNull())
         return format;
-    const int width = std::min(image.width(), mittel.stil.breite);
+    const int width = std::min(static_cast<int>(image.width() * mittel.stil.bildgroesse), mittel.stil.breite);
     format.setWidth(width);
     format.setHeight(static_cast<double>(image.height()) * width / image.width());
     if (const double pixels = width * mittel.stil.pixel; mittel.stil.pixel > 0 && pixels < image.width())

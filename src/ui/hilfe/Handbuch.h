@@ -20,6 +20,7 @@ struct Handbuchstil {
     QPalette palette;
     int breite = 0; ///< of a line, in pixels of the document; wider pictures are made to fit
     double pixel = 1; ///< of the picture per pixel of the document; 0 keeps all that the files have
+    double bildgroesse = 1; ///< of narrower pictures
 };
 
 /// A heading of the manual.

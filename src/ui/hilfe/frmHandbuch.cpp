@@ -135,12 +135,7 @@ void frmHandbuch::connectControls()
     const auto go = [this](const QTreeWidgetItem* item) { springe(item->data(0, PositionRole).toInt()); };
     connect(m_inhalt, &QTreeWidget::itemClicked, this, go);
     connect(m_inhalt, &QTreeWidget::itemActivated, this, go);
-    connect(m_suche, &Handbuchsuche::gefunden, this, [this](int position) {
-        QTextCursor cursor(m_text->document());
-        cursor.setPosition(position);
-        m_text->setTextCursor(cursor);
-        m_text->ensureCursorVisible();
-    });
+    connect(m_suche, &Handbuchsuche::gefunden, this, &frmHandbuch::zeigeTreffer);
 }
 
 void frmHandbuch::addTasten()
@@ -298,14 +293,30 @@ void frmHandbuch::rolle(int position)
     const double top = layout->blockBoundingRect(block).top();
     m_text->verticalScrollBar()->setValue(static_cast<int>(top) - m_text->fontMetrics().height() / 2);
     m_text->horizontalScrollBar()->setValue(0);
+    m_gerollt = {position, m_text->verticalScrollBar()->value()};
     zeigeInhaltsstelle();
     m_cmdZurueck->setEnabled(!m_zurueck.empty());
     m_cmdVor->setEnabled(!m_vor.empty());
 }
 
-/// The position of what is seen at the top.
+/// Brings a hit into view, with what belongs to it below.
+void frmHandbuch::zeigeTreffer(int position)
+{
+    QTextCursor cursor(m_text->document());
+    cursor.setPosition(position);
+    m_text->setTextCursor(cursor);
+    const int top = m_text->cursorRect().top();
+    const int height = m_text->viewport()->height();
+    if (top < 0 || top > height * 2 / 3)
+        m_text->verticalScrollBar()->setValue(m_text->verticalScrollBar()->value() + top - height / 4);
+    zeigeInhaltsstelle();
+}
+
+/// The position of what is seen at the top: what was last brought there, as long as nobody has scrolled.
 int frmHandbuch::stelle() const
 {
+    if (m_text->verticalScrollBar()->value() == m_gerollt.second)
+        return m_gerollt.first;
     return m_text->cursorForPosition({m_text->width() / 4, m_text->fontMetrics().height()}).block().position();
 }
 

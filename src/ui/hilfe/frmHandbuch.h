@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+#include <utility>
 #include <vector>
 
 #include "core/Settings.h"
@@ -56,6 +57,7 @@ private:
     void folge(const QString& verweis);
     void geh(std::vector<int>& dort, std::vector<int>& hier);
     void rolle(int position);
+    void zeigeTreffer(int position);
     int stelle() const;
     void setZoom(int prozent);
 
@@ -69,6 +71,7 @@ private:
     std::vector<Handbuchabschnitt> m_abschnitte;
     std::vector<int> m_zurueck; // positions in the text
     std::vector<int> m_vor;
+    std::pair<int, int> m_gerollt{0, -1}; // the position last brought to the top, and where the scroll bar was then
     int m_zoom = 100; // percent
     int m_breite = 0; // that the text is set for
 };
