@@ -31,7 +31,8 @@ def sources(root, build, folders):
 
 
 def flags(command):
-    """A compile command without the launcher, the compiler and what names a single source."""
+    """A compile command without the launcher, the compiler, what names a single source and precompiled headers."""
+    command = re.sub(r" -Winvalid-pch| -include \S*/cmake_pch\.hxx", "", command)
     words = shlex.split(command)
     first = next(i for i, word in enumerate(words) if word.startswith("-"))
     return tuple(word for word in words[first:words.index("-o")] if word != "-c")
