@@ -15,7 +15,8 @@ public:
     /// The stored text, empty if there is none or it cannot be read.
     virtual std::string value(std::string_view application, std::string_view section, std::string_view key) const = 0;
 
-    /// Stores the text; a store that cannot be written keeps what it has and reports nothing.
+    /// Stores the text unless it is there already, perhaps a little later; a store that cannot be written keeps what it
+    /// has and reports nothing.
     virtual void setValue(
         std::string_view application, std::string_view section, std::string_view key, std::string_view value) = 0;
 };
@@ -30,7 +31,7 @@ public:
     }
 
     /// The stored value; `standard` when there is none or it is empty. What was saved in this session counts even if
-    /// the store could not take it.
+    /// the store could not take it or has not yet.
     std::string LoadSetting(std::string_view key, std::string_view standard) const
     {
         const auto saved = m_saved.find(key);
@@ -38,12 +39,10 @@ public:
         return value.empty() ? std::string(standard) : value;
     }
 
-    /// Stores the value unless it is there already: a store that is a file would be written again.
     void SaveSetting(std::string_view key, std::string_view value)
     {
         m_saved.insert_or_assign(std::string(key), std::string(value));
-        if (m_store.value(m_application, Section, key) != value)
-            m_store.setValue(m_application, Section, key, value);
+        m_store.setValue(m_application, Section, key, value);
     }
 
     /// The same for a switch, kept as "1" or "0".

@@ -1,5 +1,7 @@
 #include "ui/platform/QtSettingsStore.h"
 
+#include <QTest>
+
 #include <gtest/gtest.h>
 
 #include "support/TemporaryFolder.h"
@@ -17,7 +19,7 @@ TEST(QtSettingsStoreTest, TextsComeBackAsTheyWereAndOnlyTheAskedForKeyAnswers)
     const std::pair<const char*, const char*> rows[]{
         {"Element_0", "Al"}, {"Schlüssel", "Größe ≥ 1 Ω"}, {"Ziffern", "007"}, {"Trenner", "a, b; \"c\" = @d\\e\r\n"}};
     for (const auto& [key, value] : rows)
-        QtSettingsStore().setValue("Rundreise", "Settings", key, value);
+        QtSettingsStore().setValue("Rundreise", "Settings", key, value); // written at the end of its life
     for (const auto& [key, value] : rows)
         EXPECT_EQ(QtSettingsStore().value("Rundreise", "Settings", key), value) << key;
     EXPECT_EQ(bytesOf(settingsFile("Rundreise")).substr(0, 24), "[Settings]\nElement_0=Al\n");
@@ -44,6 +46,23 @@ TEST(QtSettingsStoreTest, WhatTheStoreCannotTakeCountsForTheSession)
     settings.SaveSetting("Element_0", "Al");
     EXPECT_EQ(settings.LoadSetting("Element_0", "H"), "Al");
     EXPECT_EQ(store.value("Sitzung", "Settings", "Element_0"), "");
+}
+
+TEST(QtSettingsStoreTest, WritesTogetherWhatWasSetAndNothingThatIsThereAlready)
+{
+    const auto file = settingsFile("Spaeter");
+    QtSettingsStore store(std::chrono::milliseconds(20));
+    for (const char* const symbol : {"Al", "Ni", "Cu"})
+        store.setValue("Spaeter", "Settings", "Element_0", symbol);
+    EXPECT_FALSE(std::filesystem::exists(file)) << "the window's thread writes nothing";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(file); }));
+    EXPECT_EQ(bytesOf(file), "[Settings]\nElement_0=Cu\n");
+
+    writeBytes(file, "[Settings]\nElement_0=Cu\nElement_1=Fe\n# of another hand\n");
+    QtSettingsStore().setValue("Spaeter", "Settings", "Element_0", "Cu");
+    EXPECT_NE(bytesOf(file).find("another hand"), std::string::npos) << "written again";
+    QtSettingsStore().setValue("Spaeter", "Settings", "Element_0", "Pd");
+    EXPECT_EQ(bytesOf(file), "[Settings]\nElement_0=Pd\nElement_1=Fe\n") << "two runs' changes go together";
 }
 
 } // namespace zerna
