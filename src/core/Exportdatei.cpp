@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "core/Datei.h"
+#include "core/Kuerzung.h"
 #include "core/Plattformdatei.h"
 
 namespace zerna {
@@ -91,6 +92,18 @@ public:
             throw Laufzeitfehler(systemfehler(errno));
     }
 
+    /// Stays beside the target under a name that the user finds; the answer is that name.
+    std::string stayBeside(const std::filesystem::path& target)
+    {
+        std::filesystem::path name = target;
+        std::error_code unknown;
+        do
+            name += ".neu";
+        while (std::filesystem::exists(name, unknown));
+        takePlaceOf(name);
+        return utf8FromPath(name.filename());
+    }
+
 private:
     static std::filesystem::path nameIn(const std::filesystem::path& folder, int number)
     {
@@ -101,21 +114,38 @@ private:
     std::FILE* m_file = nullptr;
 };
 
+/// Writes over a file's bytes. What it has in excess goes last, so that undoing needs no room.
 void rewrite(const std::filesystem::path& file, std::string_view bytes)
 {
-    Datei output(file, Zugriff::Ausgabe);
-    output.write(bytes);
-    output.close();
+    std::FILE* const output = openFile(file, "r+b");
+    const bool isWritten =
+        output != nullptr && std::fwrite(bytes.data(), 1, bytes.size(), output) == bytes.size() && writeThrough(output);
+    const int error = errno;
+    if (output != nullptr)
+        std::fclose(output);
+    if (!isWritten)
+        throw Laufzeitfehler(systemfehler(error));
+    std::error_code failed;
+    std::filesystem::resize_file(file, bytes.size(), failed);
+    if (failed)
+        throw Laufzeitfehler(systemfehler(failed.default_error_condition().value()));
 }
 
-/// Writes into a file that must stay the same one; what fails is undone.
-void overwrite(const std::filesystem::path& file, std::string_view bytes)
+/// Writes into a file that must stay the same one; what fails is undone. A disk that refuses even that keeps the new
+/// version beside it.
+void overwrite(const std::filesystem::path& file, std::string_view bytes, Neufassung& neu)
 {
     const std::string before = readFile(file);
     try {
-        rewrite(file, bytes);
-    } catch (const Laufzeitfehler&) {
-        rewrite(file, before);
+        return rewrite(file, bytes);
+    } catch (const Laufzeitfehler& error) {
+        try {
+            rewrite(file, before);
+        } catch (const Laufzeitfehler&) {
+            throw Laufzeitfehler(static_cast<Fehler>(error.Nummer()),
+                "die frühere Datei ist dabei beschädigt worden, die neue steht vollständig in "
+                    + zitiert(neu.stayBeside(file), Dateinamenlaenge));
+        }
         throw;
     }
 }
@@ -133,7 +163,7 @@ void writeExport(const std::filesystem::path& target, std::string_view bytes)
     if (!replaces || neu.canReplace(file))
         neu.takePlaceOf(file);
     else
-        overwrite(file, bytes);
+        overwrite(file, bytes, neu);
 }
 
 } // namespace zerna

@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 #include <system_error>
 
@@ -104,11 +105,18 @@ void discard(const std::filesystem::path& path, std::FILE* file) noexcept
 
 namespace {
 
-/// Closes without touching errno.
+/// These do not touch errno.
 void closeQuietly(int descriptor)
 {
     const int error = errno;
     ::close(descriptor);
+    errno = error;
+}
+
+void unlinkQuietly(const std::filesystem::path& path)
+{
+    const int error = errno;
+    ::unlink(path.c_str());
     errno = error;
 }
 
@@ -130,22 +138,14 @@ bool isOrdinary(int descriptor)
     return S_ISREG(file.st_mode);
 }
 
-/// Whether the path still names the open file.
-bool isStillAt(const std::filesystem::path& path, int descriptor)
+/// Whether the path still names the open file; no value if that cannot be found out.
+std::optional<bool> isStillAt(const std::filesystem::path& path, int descriptor)
 {
     struct stat open { };
     struct stat named { };
-    return ::fstat(descriptor, &open) == 0 && ::lstat(path.c_str(), &named) == 0 && open.st_dev == named.st_dev
-        && open.st_ino == named.st_ino;
-}
-
-/// The stream of a descriptor that it takes over.
-std::FILE* streamOf(int descriptor, const char* mode)
-{
-    std::FILE* const file = ::fdopen(descriptor, mode);
-    if (file == nullptr)
-        closeQuietly(descriptor);
-    return file;
+    if (::fstat(descriptor, &open) == 0 && ::lstat(path.c_str(), &named) == 0)
+        return open.st_dev == named.st_dev && open.st_ino == named.st_ino;
+    return errno == ENOENT ? std::optional(false) : std::nullopt;
 }
 
 } // namespace
@@ -155,10 +155,10 @@ std::FILE* openFile(const std::filesystem::path& path, const char* mode)
     const int descriptor = ::open(path.c_str(), flagsOf(mode) | O_NONBLOCK | O_CLOEXEC | O_NOCTTY, 0666);
     if (descriptor < 0)
         return nullptr;
-    if (isOrdinary(descriptor))
-        return streamOf(descriptor, mode);
-    closeQuietly(descriptor);
-    return nullptr;
+    std::FILE* const file = isOrdinary(descriptor) ? ::fdopen(descriptor, mode) : nullptr;
+    if (file == nullptr)
+        closeQuietly(descriptor);
+    return file;
 }
 
 std::FILE* openStream(const std::filesystem::path& path) { return std::fopen(path.c_str(), "rbe"); }
@@ -180,11 +180,14 @@ std::FILE* createFile(const std::filesystem::path& path, bool forOwnerAlone)
         return nullptr;
     // Whoever cleans up may have come between, have the lock, and be removing the file.
     const bool lost = ::flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
-    if (!lost && isStillAt(path, descriptor))
-        return streamOf(descriptor, "w+b");
-    ::close(descriptor);
-    errno = EEXIST;
-    return nullptr;
+    std::FILE* file = nullptr;
+    if (lost || !isStillAt(path, descriptor).value_or(true))
+        errno = EEXIST;
+    else if (file = ::fdopen(descriptor, "w+b"); file == nullptr)
+        unlinkQuietly(path);
+    if (file == nullptr)
+        closeQuietly(descriptor);
+    return file;
 }
 
 void removeLeftover(const std::filesystem::path& path) noexcept
@@ -193,7 +196,8 @@ void removeLeftover(const std::filesystem::path& path) noexcept
     if (descriptor < 0)
         return;
     // The lock ends with its writer. Between open and lock the name may have gone to another writer's file.
-    if (isOrdinary(descriptor) && ::flock(descriptor, LOCK_EX | LOCK_NB) == 0 && isStillAt(path, descriptor))
+    if (isOrdinary(descriptor) && ::flock(descriptor, LOCK_EX | LOCK_NB) == 0
+        && isStillAt(path, descriptor).value_or(false))
         ::unlink(path.c_str());
     ::close(descriptor);
 }
@@ -220,9 +224,9 @@ bool takeRightsOf(const std::filesystem::path& other, std::FILE* file)
 bool moveInto(const std::filesystem::path& target, const std::filesystem::path& path, std::FILE* file)
 {
     const bool moved = ::rename(path.c_str(), target.c_str()) == 0;
-    const int error = errno;
     if (!moved)
-        ::unlink(path.c_str());
+        unlinkQuietly(path);
+    const int error = errno;
     std::fclose(file); // only now: the lock must last as long as the name
     errno = error;
     return moved;
