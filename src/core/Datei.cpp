@@ -47,8 +47,9 @@ Datei::Datei(const std::filesystem::path& path, Zugriff zugriff)
         throw Laufzeitfehler(systemfehler(error));
     }
     std::error_code unknown;
-    const auto size = std::filesystem::file_size(path, unknown);
-    m_size = unknown ? 0 : size;
+    m_size = std::filesystem::file_size(path, unknown);
+    if (unknown) // else the file would pass for an empty one
+        throw Laufzeitfehler(systemfehler(unknown.default_error_condition().value()));
 }
 
 Datei::Datei(std::string bytes)

@@ -180,9 +180,9 @@ std::string Stoerung::was()
 std::string Stoerung::fuer(
     const std::filesystem::path& folder, Art art, int call, const std::string& name, const std::filesystem::path& zeuge)
 {
-    return "LD_PRELOAD='" ZERNA_STOERUNG "' STOERUNG_ORDNER='" + folder.string()
-        + "' STOERUNG_ART=" + std::to_string(static_cast<int>(art)) + " STOERUNG_AUFRUF=" + std::to_string(call)
-        + " STOERUNG_NAME='" + name + "' STOERUNG_ZEUGE='" + zeuge.string() + "' ";
+    return "ASAN_OPTIONS=\"$ASAN_OPTIONS:verify_asan_link_order=0\" LD_PRELOAD='" ZERNA_STOERUNG "' STOERUNG_ORDNER='"
+        + folder.string() + "' STOERUNG_ART=" + std::to_string(static_cast<int>(art)) + " STOERUNG_AUFRUF="
+        + std::to_string(call) + " STOERUNG_NAME='" + name + "' STOERUNG_ZEUGE='" + zeuge.string() + "' ";
 }
 
 // A function with the name that the C library gives its own, under another one for the compiler, which knows that one's
