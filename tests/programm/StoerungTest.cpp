@@ -55,7 +55,7 @@ TEST_F(StoerungTest, Legierungen)
     };
     for (const bool verlinkt : {false, true}) {
         SCOPED_TRACE(verlinkt);
-        Stoerprobe{datei, saveAs, "alt", verlinkt}.laufe();
+        Stoerprobe{datei, saveAs, "alt", false, verlinkt}.laufe();
     }
     Stoerprobe{datei, [this] { return dateien.speichere() ? "" : said(); }}.laufe();
 }

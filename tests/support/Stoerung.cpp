@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <climits>
 #include <cstdio>
@@ -27,7 +28,7 @@ struct Systemaufruf {
 
 struct Zustand {
     std::mutex mutex;
-    bool isArmed = false;
+    std::atomic<bool> isArmed = false;
     std::string folder;
     Stoerung::Art art{};
     int call = 0;
@@ -44,7 +45,7 @@ Zustand& zustand()
     return *zustand;
 }
 
-thread_local bool inside = false; // calls of this file's own
+// What follows makes calls that nobody disturbs.
 
 std::string placeOf(const char* path)
 {
@@ -107,19 +108,13 @@ template <class Place>
 bool isHit(const Systemaufruf& aufruf, Place place)
 {
     Zustand& now = zustand();
-    if (inside || !now.isArmed)
+    if (!now.isArmed)
         return false;
-    inside = true;
     const int error = errno;
-    bool fails = false;
-    {
-        const std::lock_guard lock(now.mutex);
-        const std::string where = placeOf(place);
-        errno = error;
-        fails = now.isArmed && (where + '/').starts_with(now.folder + '/') && failsNow(now, aufruf);
-    }
-    inside = false;
-    return fails;
+    const std::lock_guard lock(now.mutex);
+    const std::string where = placeOf(place) + '/';
+    errno = error;
+    return now.isArmed && where.starts_with(now.folder + '/') && failsNow(now, aufruf);
 }
 
 bool isThere(const char* path)
@@ -214,10 +209,16 @@ using Datei = std::FILE*;
 using Anzahl = ssize_t;
 using Groesse = std::size_t;
 
-ZERNA_DISTURBED(int, open, EACCES, (flags & O_CREAT) != 0, foundOrNew(path, flags),
-    (const char* path, int flags, mode_t mode), (path, flags, mode), -1)
-ZERNA_DISTURBED(int, open64, EACCES, (flags & O_CREAT) != 0, foundOrNew(path, flags),
-    (const char* path, int flags, mode_t mode), (path, flags, mode), -1)
+#define ZERNA_OPEN(name)                                                                                               \
+    ZERNA_DISTURBED(int, name, EACCES, (flags & O_CREAT) != 0, foundOrNew(path, flags),                                \
+        (const char* path, int flags, mode_t mode), (path, flags, mode), -1)
+#define ZERNA_STAT(name)                                                                                               \
+    ZERNA_DISTURBED(int, name, EACCES, false, found(path), (const char* path, void* file), (path, file), -1)
+
+ZERNA_OPEN(open)
+ZERNA_OPEN(open64)
+ZERNA_STAT(stat)
+ZERNA_STAT(lstat)
 ZERNA_DISTURBED(Datei, fopen, EACCES, false, found(path), (const char* path, const char* mode), (path, mode), nullptr)
 ZERNA_DISTURBED(Datei, fdopen, ENOMEM, false, file, (int file, const char* mode), (file, mode), nullptr)
 ZERNA_DISTURBED(Anzahl, read, EIO, false, file, (int file, void* bytes, Groesse count), (file, bytes, count), -1)
@@ -234,8 +235,6 @@ ZERNA_DISTURBED(int, fclose, ENOSPC, false, file, (Datei file), (file), (real(fi
 ZERNA_DISTURBED(int, rename, EACCES, false, from, (const char* from, const char* to), (from, to), -1)
 ZERNA_DISTURBED(int, unlink, EACCES, false, found(path), (const char* path), (path), -1)
 ZERNA_DISTURBED(int, mkdir, EACCES, true, path, (const char* path, mode_t mode), (path, mode), -1)
-ZERNA_DISTURBED(int, stat, EACCES, false, found(path), (const char* path, void* file), (path, file), -1)
-ZERNA_DISTURBED(int, lstat, EACCES, false, found(path), (const char* path, void* file), (path, file), -1)
 ZERNA_DISTURBED(int, fstat, EIO, false, file, (int file, void* status), (file, status), -1)
 ZERNA_DISTURBED(int, fchmod, EPERM, false, file, (int file, mode_t mode), (file, mode), -1)
 ZERNA_DISTURBED(int, fchown, EPERM, false, file, (int file, uid_t user, gid_t group), (file, user, group), -1)
