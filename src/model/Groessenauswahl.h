@@ -14,7 +14,8 @@ struct Groessenauswahl {
     std::string unbekannt; ///< the first entry that is none; empty if all are
 };
 
-/// The quantities of a list such as "9,8,D(EF)": codes and names as findeGroesse takes them. An empty list chooses all result lines.
+/// The quantities of a list such as "9,8,D(EF)": codes and names as findeGroesse takes them. An empty list chooses all
+/// result lines.
 Groessenauswahl groessenauswahl(std::string_view liste);
 
 } // namespace zerna

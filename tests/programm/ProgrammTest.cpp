@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <map>
 
-#include "core/Zahlentext.h"
 #include "core/Plattform.h"
+#include "core/Zahlentext.h"
 #include "programm/EingebauteTabelle.h"
 #include "support/FakeServices.h"
 #include "support/FilesTest.h"

@@ -12,8 +12,8 @@
 namespace zerna {
 
 /// The platform's native per-user store: the registry on Windows, a file under the user's configuration folder
-/// elsewhere. What is set is written after a delay at most, by a thread of its own (a busy disk lets it wait), and at the
-/// end of the store's life; a killed program loses no more than that delay.
+/// elsewhere. What is set is written after a delay at most, by a thread of its own (a busy disk lets it wait), and at
+/// the end of the store's life; a killed program loses no more than that delay.
 class QtSettingsStore : public SettingsStore {
 public:
     explicit QtSettingsStore(std::chrono::milliseconds delay = std::chrono::seconds(1));
