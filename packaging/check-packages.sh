@@ -81,9 +81,10 @@ inside apt-get -qq update
 inside apt-get -qqy install --no-install-recommends /zerna.deb desktop-file-utils shared-mime-info hicolor-icon-theme \
     >"$scratch/apt.log" 2>&1 || { tail -n 20 "$scratch/apt.log" && fail "Das Paket ließ sich nicht installieren."; }
 inside dpkg --purge zerna >"$scratch/apt.log"
+# All that lies outside the users' own folders, with its size.
 listing() {
-    inside find / -xdev \( -path /var/lib/dpkg -o -path /var/log -o -path /tmp \) -prune -o -type f -printf '%p %s\n' \
-        -o -printf '%p\n' | LC_ALL=C sort
+    inside find / -xdev \( -path /var/lib/dpkg -o -path /var/log -o -path /tmp -o -path /home \) -prune \
+        -o -type f -printf '%p %s\n' -o -printf '%p\n' | LC_ALL=C sort
 }
 listing >"$scratch/before"
 
@@ -108,7 +109,6 @@ mv -- "$scratch/elemente.dat" "$root/usr/lib/zerna/"
 
 step "removal"
 inside dpkg --purge zerna >"$scratch/apt.log"
-rm -rf -- "$root"/home/anna/.[a-z]* "$root/home/anna/Meine Größen"/*
 listing >"$scratch/after"
 diff "$scratch/before" "$scratch/after" || fail "Das Paket lässt etwas zurück."
 echo "Alle Prüfungen der Pakete sind bestanden."

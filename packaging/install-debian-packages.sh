@@ -11,7 +11,8 @@ program=("${tools[@]}" "${window[@]}" qt6-wayland)
 tests=("${tools[@]}" "${window[@]}" qt6-base-private-dev libgtest-dev libgmock-dev python3 python3-jsonschema)
 bench=("${tools[@]}" "${window[@]}" libbenchmark-dev libmuparser-dev)
 package=("${program[@]}" python3 gzip dpkg-dev desktop-file-utils appstream libxml2-utils lintian man-db debootstrap)
-ci=("${program[@]}" "${tests[@]}" "${bench[@]}" "${package[@]}" clang-14 clang-format-14 clang-tidy-14 libclang-rt-14-dev)
+ci=("${program[@]}" "${tests[@]}" "${bench[@]}" "${package[@]}" clang-14 clang-format-14 clang-tidy-14
+    libclang-rt-14-dev mold)
 
 case ${1:-program} in
 program) wanted=("${program[@]}") ;;
