@@ -2,7 +2,8 @@
 # Installs the Debian packages that are missing for a purpose; asks for nothing if none is.
 #   program  build and run the program      tests  build and run the tests
 #   bench    build and run the benchmarks   package  make and check the packages
-#   ci       all of these, and format, lint and fuzz targets
+#   windows  make the packages for Windows and try them under Wine
+#   ci       all of these but windows, and format, lint and fuzz targets
 set -euo pipefail
 
 tools=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev zlib1g-dev libexpat1-dev)
@@ -13,6 +14,8 @@ bench=("${tools[@]}" "${window[@]}" libbenchmark-dev libmuparser-dev)
 package=("${program[@]}" python3 gzip dpkg-dev desktop-file-utils appstream libxml2-utils lintian man-db debootstrap)
 ci=("${program[@]}" "${tests[@]}" "${bench[@]}" "${package[@]}" clang-14 clang-format-14 clang-tidy-14
     libclang-rt-14-dev mold)
+windows=("${tests[@]}" perl dpkg-dev xz-utils g++-mingw-w64-x86-64-posix libz-mingw-w64-dev googletest
+    icoutils nsis zip file wine wine64 fonts-liberation)
 
 case ${1:-program} in
 program) wanted=("${program[@]}") ;;
@@ -20,8 +23,9 @@ tests) wanted=("${tests[@]}") ;;
 package) wanted=("${package[@]}") ;;
 ci) wanted=("${ci[@]}") ;;
 bench) wanted=("${bench[@]}") ;;
+windows) wanted=("${windows[@]}") ;;
 *)
-    echo "Aufruf: ${0##*/} [program|tests|bench|package|ci]" >&2
+    echo "Aufruf: ${0##*/} [program|tests|bench|package|windows|ci]" >&2
     exit 2
     ;;
 esac
