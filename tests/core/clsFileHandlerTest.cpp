@@ -8,7 +8,8 @@
 namespace zerna {
 
 struct clsFileHandlerTest : FilesTest {
-    const std::string path = utf8FromPath(folder / "ä.dat");
+    const std::filesystem::path file = folder / "ä.dat";
+    const std::string path = utf8FromPath(file);
     clsFileHandler handler{files, boxes};
 };
 
@@ -17,8 +18,8 @@ TEST_F(clsFileHandlerTest, WritesAndReadsLines)
     ASSERT_TRUE(handler.OpenFile(path, 0));
     handler.WriteLine("Maß\t1.5");
     handler.CloseFile();
-    EXPECT_EQ(bytesOf(path), "Ma\xDF\t1.5\r\n");
-    writeBytes(path, "Ma\xDF\r\nzwei\n\rdrei");
+    EXPECT_EQ(bytesOf(file), "Ma\xDF\t1.5\r\n");
+    writeBytes(file, "Ma\xDF\r\nzwei\n\rdrei");
     ASSERT_TRUE(handler.OpenFile(std::nullopt, 1)); // the stored name
     for (const char* const line : {"Maß", "zwei", "", "drei", ""}) // nothing behind the end
         EXPECT_EQ(handler.ReadLine(), line);
@@ -33,20 +34,20 @@ TEST_F(clsFileHandlerTest, SaysWhyAFileIsNotOpened)
         {makePipe(folder / "pipe").string(), 0, "Fehler beim Zugriff auf Pfad/Datei (das ist keine gewöhnliche Datei)"},
         {Geraet, 2, "Fehler beim Zugriff auf Pfad/Datei (das ist keine gewöhnliche Datei)"}};
     for (const auto& [name, modus, message] : rows) {
-        EXPECT_FALSE(handler.OpenFile(name, modus) || handler.FileEnd() || std::filesystem::exists(path)) << name;
+        EXPECT_FALSE(handler.OpenFile(name, modus) || handler.FileEnd() || std::filesystem::exists(file)) << name;
         EXPECT_EQ(boxes.shown.empty() ? "" : boxes.shown.back().text, message);
     }
     EXPECT_EQ(boxes.shown.back().caption, "FileHandler - Öffnen");
     // It still counts the file as open and writes to whatever has that number.
-    files.open(handler.FileHandle(), path, Zugriff::Ausgabe);
+    files.open(handler.FileHandle(), file, Zugriff::Ausgabe);
     handler.WriteLine("x");
     handler.CloseFile();
-    EXPECT_EQ(bytesOf(path), "x\r\n");
+    EXPECT_EQ(bytesOf(file), "x\r\n");
 }
 
 TEST_F(clsFileHandlerTest, ASecondFileClosesTheFirstAndCanBeReadAndWrittenAnywhere)
 {
-    writeBytes(path, "abcdef");
+    writeBytes(file, "abcdef");
     ASSERT_TRUE(handler.OpenFile((folder / "voll.dat").string(), 0));
     {
         const FullDisk disk(0);
@@ -56,11 +57,11 @@ TEST_F(clsFileHandlerTest, ASecondFileClosesTheFirstAndCanBeReadAndWrittenAnywhe
     ASSERT_EQ(boxes.shown.size(), 1U);
     EXPECT_EQ(boxes.shown[0].caption, "FileHandler");
     EXPECT_TRUE(boxes.shown[0].text.starts_with("Datenträger voll")) << boxes.shown[0].text;
-    Datei& file = files.at(1);
-    EXPECT_EQ(file.readText(2), "ab");
-    file.write("XY");
+    Datei& opened = files.at(1);
+    EXPECT_EQ(opened.readText(2), "ab");
+    opened.write("XY");
     handler.CloseFile();
-    EXPECT_EQ(bytesOf(path), "abXYef");
+    EXPECT_EQ(bytesOf(file), "abXYef");
 }
 
 } // namespace zerna

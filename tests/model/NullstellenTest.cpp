@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <limits>
+#include <numbers>
 #include <random>
 
 namespace zerna {
@@ -44,7 +45,7 @@ TEST(NullstellenTest, AllRootsAndNothingElse)
         {"a pole and a root", [](double x) { return (x - 33.4) / (x - 33.2); }, {33.4}},
         {"an end of a gap", [](double x) { return x < 20.1 ? NaN : std::sqrt(x - 20.1); }, {20.1}},
         {"two gaps", [](double x) { return x < 10.1 || std::abs(x - 60) < 5.05 ? NaN : std::cos(x / 20); },
-            {10 * M_PI, 30 * M_PI}},
+            {10 * std::numbers::pi, 30 * std::numbers::pi}},
         {"a root in a gap", [](double x) { return std::abs(x - 33) < 3 ? NaN : x - 33; }, {}},
         {"no value at all", [](double) { return NaN; }, {}},
     };

@@ -40,7 +40,7 @@ std::string svgWith(std::string_view inside) { return replaced(Svgbild, "<g/>", 
 std::string pngWith(const std::string& type, const std::string& data)
 {
     constexpr std::size_t BehindHeader = 33;
-    const auto bigEndian = [](unsigned long number) {
+    const auto bigEndian = [](std::size_t number) {
         std::string bytes;
         for (const unsigned shift : {24U, 16U, 8U, 0U})
             bytes += static_cast<char>(number >> shift);
