@@ -22,11 +22,12 @@ NUMBER = re.compile(r"-?\d+(?:[.,]\d+)?(?:E[+-]?\d+)?")
 def recorded(path):
     """The commands with their answers."""
     blocks = []
-    for line in path.read_text(encoding="utf-8", errors="surrogateescape").splitlines(keepends=True):
+    for line in path.read_bytes().decode("utf-8", "surrogateescape").split("\n"):
         if line.startswith("$ "):
-            blocks.append([line[2:].rstrip("\n"), ""])
+            blocks.append([line[2:], ""])
         elif blocks and not line.startswith("#"):
-            blocks[-1][1] += line
+            blocks[-1][1] += line + "\n"
+    blocks[-1][1] = blocks[-1][1].removesuffix("\n")  # what follows the last line end is no line
     return blocks
 
 

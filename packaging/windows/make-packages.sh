@@ -51,7 +51,7 @@ export WINEPREFIX=$work/wine # the element table is made by a program that was j
 . "$here/wine.sh"
 cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_NINJA_FORCE_RESPONSE_FILE=OFF \
     -DCMAKE_TOOLCHAIN_FILE="$here/mingw-toolchain.cmake" -DCMAKE_PREFIX_PATH="$qt;$deps" \
-    -DZLIB_LIBRARY="$deps/lib/libz.a" -DZLIB_INCLUDE_DIR="$deps/include" \
+    -DZLIB_LIBRARY_RELEASE="$deps/lib/libz.a" -DZLIB_INCLUDE_DIR="$deps/include" \
     -DQT_HOST_PATH="$(qtpaths6 --query QT_INSTALL_PREFIX)" \
     -DQT_HOST_PATH_CMAKE_DIR="$(qtpaths6 --query QT_INSTALL_LIBS)/cmake" >"$work/programm.log" ||
     fail "Das Programm ließ sich nicht einrichten: $work/programm.log"
