@@ -206,7 +206,6 @@ std::vector<Handbuchabschnitt> setzeHandbuch(
     QTextDocument& dokument, const QString& markdown, const QString& ordner, const Handbuchstil& stil)
 {
     const Mittel mittel(stil);
-    dokument.clear();
     dokument.setUndoRedoEnabled(false);
     dokument.setDefaultFont(stil.schrift);
     dokument.setIndentWidth(mittel.zeile * 1.6);

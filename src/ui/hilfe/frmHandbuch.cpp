@@ -10,12 +10,14 @@
 #include <QSplitter>
 #include <QTextBlock>
 #include <QTextBrowser>
+#include <QTextDocument>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "ui/controls/Knopfzeile.h"
 #include "ui/hilfe/Handbuchsuche.h"
@@ -94,7 +96,7 @@ void frmHandbuch::layOut()
 {
     auto* const smaller = makeKnopf(this, QStringLiteral("−"), "cmdKleiner", QStringLiteral("Kleiner (Strg+−)"));
     auto* const larger = makeKnopf(this, QStringLiteral("+"), "cmdGroesser", QStringLiteral("Größer (Strg++)"));
-    for (auto& [button, direction] : {std::pair(smaller, -1), {larger, 1}}) {
+    for (const auto& [button, direction] : {std::pair(smaller, -1), {larger, 1}}) {
         setZeichenknopf(button);
         connect(button, &StyledButton::clicked, this,
             [this, direction = direction] { setZoom(naechsteStufe(m_zoom, direction)); });
@@ -174,11 +176,15 @@ void frmHandbuch::setze()
     const int margin = fontMetrics().height();
     m_breite = zeilenbreite();
     style.breite = m_breite;
-    m_abschnitte = setzeHandbuch(
-        *m_text->document(), handbuchtext(QLatin1String(Handbuchordner)), QLatin1String(Handbuchordner), style);
-    m_text->document()->setDocumentMargin(margin);
+    auto* const document = new QTextDocument(this); // without a view nothing is laid out while it is made
+    m_abschnitte =
+        setzeHandbuch(*document, handbuchtext(QLatin1String(Handbuchordner)), QLatin1String(Handbuchordner), style);
+    document->setDocumentMargin(margin);
     m_text->setLineWrapMode(QTextEdit::FixedPixelWidth);
     m_text->setLineWrapColumnOrWidth(m_breite + 2 * margin);
+    m_text->setExtraSelections({}); // of the document that goes
+    m_text->setDocument(document);
+    delete std::exchange(m_dokument, document);
     m_lblZoom->setText(QStringLiteral("%1 %").arg(m_zoom));
     fuelleInhalt();
     m_suche->erneuere();
@@ -253,10 +259,10 @@ void frmHandbuch::folge(const QString& verweis)
         springe(section->position);
 }
 
-/// Goes to a place from outside; from a hidden window no way leads back.
+/// Goes to a place from outside; from the first one after the window has been hidden no way leads back.
 void frmHandbuch::oeffne(int position)
 {
-    if (isVisible())
+    if (!std::exchange(m_neu, false))
         return springe(position);
     m_zurueck.clear();
     m_vor.clear();
@@ -353,6 +359,7 @@ void frmHandbuch::resizeEvent(QResizeEvent* event)
 void frmHandbuch::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
+    m_neu = true;
     m_text->setFocus();
 }
 

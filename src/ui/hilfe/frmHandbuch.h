@@ -10,6 +10,7 @@
 
 class QLabel;
 class QTextBrowser;
+class QTextDocument;
 class QTreeWidget;
 
 namespace zerna {
@@ -64,6 +65,7 @@ private:
     Settings& m_settings;
     QTreeWidget* m_inhalt = nullptr;
     QTextBrowser* m_text = nullptr;
+    QTextDocument* m_dokument = nullptr; // null until the manual is first shown
     Handbuchsuche* m_suche = nullptr;
     StyledButton* m_cmdZurueck = nullptr;
     StyledButton* m_cmdVor = nullptr;
@@ -72,6 +74,7 @@ private:
     std::vector<int> m_zurueck; // positions in the text
     std::vector<int> m_vor;
     std::pair<int, int> m_gerollt{0, -1}; // the position last brought to the top, and where the scroll bar was then
+    bool m_neu = true; // shown, and nothing asked for since
     int m_zoom = 100; // percent
     int m_breite = 0; // that the text is set for
 };

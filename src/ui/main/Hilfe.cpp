@@ -59,18 +59,19 @@ void Hilfe::zeige()
 {
     const auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     const QString ziel = hilfeziel(gefragtes());
+    const QString meldung = box != nullptr ? box->text() : QString();
     schliessePopups();
+    bringeNachVorn(); // the text is set for the size that the window then has
     if (box != nullptr)
-        fenster().zeigeMeldung(box->text());
+        fenster().zeigeMeldung(meldung);
     else
         fenster().zeigeAbschnitt(ziel);
-    bringeNachVorn();
 }
 
 void Hilfe::zeigeAbschnitt(const QString& anker)
 {
-    fenster().zeigeAbschnitt(anker);
     bringeNachVorn();
+    fenster().zeigeAbschnitt(anker);
 }
 
 /// A modal dialog leaves only its own windows usable, so the manual becomes one of these while the dialog is open.

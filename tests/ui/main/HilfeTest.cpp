@@ -152,6 +152,8 @@ TEST_F(HilfeTest, MessagesAreFoundByTheirWords)
         {"Die Datei \"a.dat\" konnte nicht gespeichert werden:\nDatenträger voll", "„Die Datei \"…\" konnte nicht"},
         {"Fehler in Formel. (Funktion 'foo' nicht definiert?)", "Fenster „Fehler in Formel."},
         {"Diese zuletzt gewählten Elemente fehlen in der Datei elemente.dat: Xx", "„Diese zuletzt gewählten Elemente"},
+        {"Die Datei \"a.zerna\" hat inzwischen ein anderes Programm geändert.\r\nSoll sie überschrieben werden?",
+            "„Die Datei \"…\" hat inzwischen"},
         {"Was niemand erklärt", "15. Meldungen"},
     };
     for (const auto& row : rows) {
