@@ -152,13 +152,15 @@ int Groessenangabe::kennzahl(Groessenart art) const
     const std::string given = name + " " + (number ? std::to_string(*number) : text);
     if (art == Groessenart::Element)
         throw Aufruffehler(given + ": keine Eigenschaft der Elemente" + near);
-    throw Aufruffehler(given + ": erwartet wird " + reihenkennzahlen());
+    throw Aufruffehler(given
+        + (number ? ": erwartet wird " + reihenkennzahlen()
+                  : ": keine Größe von Zusammensetzungen (alle: zerna-cli kennzahlen)"));
 }
 
-void Groessenangabe::check() const
+void Groessenangabe::check(Groessenart vorgeschlagen) const
 {
     if (!wholeNumber(text) && !isName(text))
-        kennzahl(Groessenart::Legierung);
+        kennzahl(vorgeschlagen);
 }
 
 int gitteraufloesung(const Ganzzahl& aufloesung)

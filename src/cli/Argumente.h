@@ -54,8 +54,8 @@ struct Groessenangabe : Ganzzahl {
     /// Its code. Throws Aufruffehler for what is none of that kind.
     int kennzahl(Groessenart art) const;
 
-    /// Throws Aufruffehler for what is neither a number nor a quantity of any kind.
-    void check() const;
+    /// Throws Aufruffehler for what is neither a number nor a quantity of any kind; suggests those of one.
+    void check(Groessenart vorgeschlagen) const;
 };
 
 /// The resolution of a ternary diagram. Throws Aufruffehler for any other number.

@@ -139,7 +139,7 @@ void Bildoptionen::check() const
     if (komponenten.texte.empty() && typ() != Diagrammtyp::PSE)
         throw Aufruffehler("Es fehlt das Argument komponenten (Hilfe: zerna-cli --hilfe)");
     if (!groesse.text.empty())
-        groesse.check();
+        groesse.check(typ() == Diagrammtyp::PSE ? Groessenart::Element : Groessenart::Legierung);
 }
 
 Diagrammwahl Bildoptionen::wahl(const std::optional<Dokument>& file, const Rechenkern& kern) const
