@@ -94,7 +94,7 @@ _zerna_cli_value() { # option, command
 }
 
 _zerna_cli_complete() {
-    local _zerna_cli=$1 word line previous='' command=() words i
+    local _zerna_cli=${1/#\~/$HOME} word line previous='' command=() words i
     local _zerna_cli_data=()
     COMPREPLY=()
     # The words as the program gets them; bash parts them at = and :, too.
