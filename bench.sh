@@ -12,9 +12,12 @@ fail() {
 "$root/packaging/install-debian-packages.sh" bench
 cmake -S "$root" --preset release -DZERNA_BENCH=ON -DZERNA_WINDOW=ON ||
     fail "Die Messungen ließen sich nicht einrichten."
-cmake --build "$root/build/release" --target zerna_bench zerna_aufwand zerna_aufruf || fail "Die Messungen ließen sich nicht übersetzen."
+cmake --build "$root/build/release" --target zerna_bench zerna_aufwand zerna_aufruf zerna_start zerna_dauer ||
+    fail "Die Messungen ließen sich nicht übersetzen."
 "$root/build/release/bin/zerna_bench" "$@"
 echo
 "$root/build/release/bin/zerna_aufwand"
 echo
 "$root/build/release/bin/zerna_aufruf"
+echo
+"$root/build/release/bin/zerna_start"

@@ -3,33 +3,44 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
-#include <QLineEdit>
+#include <QSettings>
+#include <QTemporaryDir>
 
 #include <memory>
 
 #include "bench/Aufbau.h"
 #include "tests/support/FakeServices.h"
 #include "ui/main/frmMain.h"
+#include "ui/platform/QtSettingsStore.h"
 
 namespace zerna {
 
-/// The program with its window, five components and the Fermi energy in the diagram.
+inline constexpr int FermienergieCode = 8; ///< code of the quantity that diagrams are measured with
+
+/// The program with its window and the Fermi energy in the diagram. Settings are files, as they are in use.
 class Fenster {
 public:
-    Fenster()
+    explicit Fenster(int komponenten = 5)
         : m_programm(m_boxes, m_settings, pathFromUtf8(Datenpfad).parent_path())
     {
-        m_settings["Komponenten"] = "4";
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.path());
+        m_programm.settings().SaveSetting("Komponenten", std::to_string(komponenten - 1));
         for (std::size_t i = 0; i < Aufbau::Symbole.size(); ++i)
-            m_settings["Element_" + std::to_string(i)] = Aufbau::Symbole.at(i);
+            m_programm.settings().SaveSetting("Element_" + std::to_string(i), Aufbau::Symbole.at(i));
         m_programm.start([this]() -> Hauptfenster& {
             m_window = std::make_unique<frmMain>(m_programm, Dialoge{m_saveDialog, m_inputBox, m_openDialog});
             return *m_window;
         });
         auto& quantities = find<QComboBox>("cmbDiagramm");
-        quantities.setCurrentIndex(quantities.findData(FermienergieCode));
-        emit quantities.activated(quantities.currentIndex());
+        choose("cmbDiagramm", quantities.findData(FermienergieCode));
         QCoreApplication::processEvents();
+    }
+
+    void choose(const char* list, int index) const
+    {
+        auto& found = find<QComboBox>(list);
+        found.setCurrentIndex(index);
+        emit found.activated(index);
     }
 
     template <class Widget>
@@ -40,7 +51,8 @@ public:
 
 private:
     StummeMeldungen m_boxes;
-    FakeSettings m_settings;
+    QTemporaryDir m_folder;
+    QtSettingsStore m_settings;
     FakeSaveDialog m_saveDialog;
     FakeInputBox m_inputBox;
     FakeOpenDialog m_openDialog;
@@ -48,12 +60,12 @@ private:
     std::unique_ptr<frmMain> m_window;
 };
 
-/// One key in a field until nothing is left to do and everything is painted.
-inline void press(QLineEdit& field, int key, const QString& text)
+/// One key until nothing is left to do and everything is painted.
+inline void press(QWidget& widget, int key, const QString& text = {})
 {
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
         QKeyEvent event(type, key, Qt::NoModifier, text);
-        QCoreApplication::sendEvent(&field, &event);
+        QCoreApplication::sendEvent(&widget, &event);
     }
     QCoreApplication::processEvents();
 }

@@ -1,13 +1,13 @@
 #include <QApplication>
 #include <QLineEdit>
 
-#include <algorithm>
-#include <chrono>
 #include <cmath>
+#include <utility>
 
 #include <benchmark/benchmark.h>
 
 #include "bench/Fenster.h"
+#include "bench/Latenz.h"
 #include "bench/Zeichnen.h"
 
 namespace zerna {
@@ -41,21 +41,18 @@ void taste(benchmark::State& state, const QSize& size)
     int keys = 0;
     std::vector<double> milliseconds;
     for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
-        const auto start = std::chrono::steady_clock::now();
+        const double start = processorMilliseconds();
         const int digit = keys / 2 % 10;
         const bool types = keys++ % 2 == 0;
         if (types)
             press(field, Qt::Key_0 + digit, QString::number(digit));
         else
             press(field, Qt::Key_Backspace, {});
-        milliseconds.push_back(
-            std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
+        milliseconds.push_back(processorMilliseconds() - start);
     }
     if (paintings.count < keys)
         state.SkipWithError("nicht nach jeder Taste gezeichnet");
-    std::ranges::sort(milliseconds);
-    state.counters["p50_ms"] = milliseconds[milliseconds.size() / 2];
-    state.counters["p99_ms"] = milliseconds[milliseconds.size() * 99 / 100];
+    reportLatency(state, std::move(milliseconds));
 }
 
 } // namespace

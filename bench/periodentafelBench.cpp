@@ -25,7 +25,8 @@ void periodentafel(benchmark::State& state)
         tafel.render(&image);
 }
 
-/// A filled and framed rectangle per element with its number, symbol and name, and nothing else.
+/// A filled, framed and rounded rectangle per element with its number, symbol, name and a sign, smooth as the table's
+/// own, and nothing else.
 void rechtecke(benchmark::State& state)
 {
     const Aufbau aufbau;
@@ -35,14 +36,21 @@ void rechtecke(benchmark::State& state)
     small.setPixelSize(14);
     QFont large;
     large.setPixelSize(33);
+    large.setBold(true);
     for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
         image.fill(Qt::white);
         QPainter painter(&image);
-        painter.setBrush(Qt::lightGray);
+        painter.setRenderHint(QPainter::Antialiasing);
         for (const auto& element : aufbau.elements) {
             const Rechteck cell = scale.cell(element->X(), element->Y());
-            const QRectF area(cell.left, cell.top, cell.width, cell.height);
-            painter.drawRect(area);
+            const QRectF area = QRectF(cell.left, cell.top, cell.width, cell.height).adjusted(1.5, 1.5, -1.5, -1.5);
+            painter.setPen(Qt::darkGray);
+            painter.setBrush(Qt::lightGray);
+            painter.drawRoundedRect(area, 3, 3);
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(Qt::darkGray);
+            painter.drawEllipse(QRectF(area.right() - 12, area.top() + 4, 8, 8));
+            painter.setPen(Qt::black);
             painter.setFont(small);
             painter.drawText(area, Qt::AlignLeft | Qt::AlignTop, QString::number(element->OZ()));
             painter.drawText(area, Qt::AlignHCenter | Qt::AlignBottom, toQt(element->Name()));
