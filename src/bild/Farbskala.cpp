@@ -18,10 +18,18 @@ std::uint8_t between(std::uint8_t a, std::uint8_t b, double share)
     return static_cast<std::uint8_t>(std::lround(a + (b - a) * share));
 }
 
+/// The light of each value of a channel, worked out once: a window asks for it thousands of times at its start.
 double linear(std::uint8_t channel)
 {
-    const double c = channel / 255.0;
-    return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+    static const auto light = [] {
+        std::array<double, 256> values{};
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            const double c = static_cast<double>(i) / 255.0;
+            values.at(i) = c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+        }
+        return values;
+    }();
+    return light[channel];
 }
 
 } // namespace

@@ -52,14 +52,14 @@ std::string gekuerzt(std::string_view text, double room, const Textbreite& width
 {
     if (width(text) <= room)
         return std::string(text);
-    for (std::size_t end = text.size(); end > 0;) {
-        end = previous(text, end);
-        std::string shortened(text.substr(0, text.find_last_not_of(' ', end == 0 ? 0 : end - 1) + 1));
-        shortened += "…";
-        if (end > 0 && width(shortened) <= room)
-            return shortened;
-    }
-    return {};
+    std::vector<std::size_t> ends; // of what may stay, the longest first
+    for (std::size_t end = text.size(); end > 0 && (end = previous(text, end)) > 0;)
+        ends.push_back(end);
+    const auto upTo = [&](std::size_t end) {
+        return std::string(text.substr(0, text.find_last_not_of(' ', end - 1) + 1)) + "…";
+    };
+    const auto fitting = std::ranges::partition_point(ends, [&](std::size_t end) { return width(upTo(end)) > room; });
+    return fitting == ends.end() ? std::string() : upTo(*fitting);
 }
 
 std::string gekuerztVor(std::size_t end, std::string_view text, double room, const Textbreite& width)

@@ -5,6 +5,9 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include <algorithm>
+#include <ranges>
+
 #include "ui/platform/Ansage.h"
 #include "ui/platform/Anzeige.h"
 #include "ui/platform/Farben.h"
@@ -13,13 +16,22 @@ namespace zerna {
 
 namespace {
 
-/// The font, as much narrower as a text needs it.
+/// The font, as much narrower as a text needs it. Each width is a font of its own to the toolkit: few are tried.
 QFont fitting(QFont font, const QString& text, int width)
 {
     constexpr int Narrowest = 75; // percent
-    for (int stretch = 99; stretch >= Narrowest && QFontMetrics(font).horizontalAdvance(text) > width; --stretch)
-        font.setStretch(stretch);
-    return font;
+    constexpr int Normal = 100;
+    const auto stretched = [&font](int stretch) {
+        QFont result = font;
+        if (stretch < Normal)
+            result.setStretch(stretch);
+        return result;
+    };
+    const auto widths = std::views::iota(Narrowest, Normal + 1) | std::views::reverse;
+    const auto isTooWide = [&](int stretch) {
+        return stretch > Narrowest && QFontMetrics(stretched(stretch)).horizontalAdvance(text) > width;
+    };
+    return isTooWide(Normal) ? stretched(*std::ranges::partition_point(widths, isTooWide)) : font;
 }
 
 } // namespace

@@ -216,9 +216,7 @@ void Diagrammflaeche::resizeEvent(QResizeEvent* event)
 /// The display holds the axes of its picture; what is around them is painted here.
 void Diagrammflaeche::placeDisplay()
 {
-    const QRect kern = m_display->diagramm().kern(leinwand());
-    m_display->setRand({kern.left(), kern.top(), width() - kern.right() - 1, height() - kern.bottom() - 1});
-    m_display->setGeometry(kern);
+    m_display->setPlatz(m_display->diagramm().kern(leinwand()), size());
     update();
 }
 

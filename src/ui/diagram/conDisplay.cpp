@@ -154,13 +154,14 @@ void conDisplay::setBild(Kurvenbild bild)
     if (bild.y.einheit.empty())
         bild.y.einheit = plain.y.einheit;
     m_diagramm.setBild(std::move(bild));
+    emit randChanged(); // first: a host may give it another place
     placePlot();
-    emit randChanged();
 }
 
-void conDisplay::setRand(const QMargins& rand)
+void conDisplay::setPlatz(const QRect& place, const QSize& picture)
 {
-    m_rand = rand;
+    m_rand = {place.left(), place.top(), picture.width() - place.right() - 1, picture.height() - place.bottom() - 1};
+    setGeometry(place);
     placePlot();
 }
 

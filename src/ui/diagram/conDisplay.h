@@ -62,8 +62,8 @@ public:
     /// Units that it leaves open are those of the series. The next drawing of a series takes it away.
     void setBild(Kurvenbild bild);
 
-    /// How much of the picture lies around the control, painted by its host; nothing if the control has it all.
-    void setRand(const QMargins& rand);
+    /// Where the control lies in the picture that its host paints around it; without a host it has the picture alone.
+    void setPlatz(const QRect& place, const QSize& picture);
 
     /// Asks for a file name and saves the values of the series, or the picture of `pic`.
     void Speichern_Diagramm_2D();
