@@ -7,6 +7,7 @@
 #include <QStyledItemDelegate>
 
 #include <algorithm>
+#include <optional>
 
 #include "core/Zahlentext.h"
 #include "ui/platform/Anzeige.h"
@@ -37,7 +38,14 @@ QString numberOf(const QString& value)
 /// Draws caption and value in columns; the captions' column is as wide as the widest of them.
 class SpaltenDelegate : public QStyledItemDelegate {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    explicit SpaltenDelegate(QListWidget* list)
+        : QStyledItemDelegate(list)
+    {
+        const auto forget = [this] { m_captionWidth.reset(); };
+        connect(list->model(), &QAbstractItemModel::modelReset, this, forget);
+        connect(list->model(), &QAbstractItemModel::rowsInserted, this, forget);
+        connect(list->model(), &QAbstractItemModel::dataChanged, this, forget);
+    }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
@@ -53,7 +61,7 @@ public:
         painter->setPen(isSelected
                 ? lesbar(colours.color(QPalette::HighlightedText), colours.color(QPalette::Highlight))
                 : colours.color(QPalette::Text));
-        const int column = captionWidth(*index.model(), option.fontMetrics);
+        const int column = captionWidth(*index.model(), option.font);
         const QRect area = option.rect.adjusted(Margin, 0, -Margin, 0);
         painter->drawText(area, Qt::AlignLeft | Qt::AlignVCenter, captionOf(line));
         const QRect valueArea = area.adjusted(column + 2 * Margin, 0, 0, 0);
@@ -61,23 +69,31 @@ public:
             option.fontMetrics.elidedText(gezeigt(valueOf(line)), Qt::ElideRight, valueArea.width()));
     }
 
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    /// The text is cut rather than scrolled.
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override
     {
         constexpr int Spacing = 8;
-        QSize size = QStyledItemDelegate::sizeHint(option, index);
-        size.setWidth(0); // the text is cut rather than scrolled
-        size.setHeight(option.fontMetrics.height() + Spacing);
-        return size;
+        return {0, option.fontMetrics.height() + Spacing};
     }
 
 private:
-    static int captionWidth(const QAbstractItemModel& model, const QFontMetrics& metrics)
+    /// Measured once for all lines, as long as they and the font stay.
+    int captionWidth(const QAbstractItemModel& model, const QFont& font) const
     {
-        int widest = 0;
-        for (int row = 0; row < model.rowCount(); ++row)
-            widest = std::max(widest, metrics.horizontalAdvance(captionOf(model.index(row, 0).data().toString())));
-        return widest;
+        if (!m_captionWidth || m_font != font) {
+            m_font = font;
+            m_captionWidth = 0;
+            const QFontMetrics metrics(font);
+            for (int row = 0; row < model.rowCount(); ++row) {
+                const QString caption = captionOf(model.index(row, 0).data().toString());
+                m_captionWidth = std::max(*m_captionWidth, metrics.horizontalAdvance(caption));
+            }
+        }
+        return *m_captionWidth;
     }
+
+    mutable std::optional<int> m_captionWidth;
+    mutable QFont m_font;
 };
 
 } // namespace
@@ -86,6 +102,7 @@ Auskunftsliste::Auskunftsliste(QWidget* parent)
     : QListWidget(parent)
 {
     setItemDelegate(new SpaltenDelegate(this));
+    setUniformItemSizes(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 

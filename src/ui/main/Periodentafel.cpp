@@ -245,7 +245,8 @@ void Periodentafel::paintEvent(QPaintEvent* event)
     const Zellstil stil{palette(), font(), m_namenPassen, hasFocus()};
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    paintLegende(painter, QRectF(freeArea()).adjusted(0, listHeight, 0, 0), m_faerbung, stil);
+    if (event->region().intersects(freeArea())) // not for a cell alone
+        paintLegende(painter, QRectF(freeArea()).adjusted(0, listHeight, 0, 0), m_faerbung, stil);
     paintReihenhinweise(painter, scale(), stil);
     std::size_t index = 0;
     std::size_t hovered = 0;
