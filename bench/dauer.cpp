@@ -13,6 +13,7 @@
 
 #include "bench/Fenster.h"
 #include "bench/Verbrauch.h"
+#include "core/Speicherrueckgabe.h"
 
 namespace zerna {
 
@@ -74,6 +75,7 @@ int main(int argc, char** argv)
 {
     constexpr int Edits = 50000;
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    zerna::giveLargeMemoryBack();
     const QApplication application(argc, argv);
     return zerna::measure(argc > 1 ? std::atoi(argv[1]) : Edits, argc <= 2) ? 0 : 1;
 }

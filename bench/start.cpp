@@ -12,6 +12,7 @@
 
 #include "bench/Fenster.h"
 #include "bench/Verbrauch.h"
+#include "core/Speicherrueckgabe.h"
 
 namespace zerna {
 
@@ -82,6 +83,7 @@ int compare()
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    zerna::giveLargeMemoryBack();
     const QApplication application(argc, argv);
     if (argc == 1)
         return zerna::compare();

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "core/Plattform.h"
+#include "core/Speicherrueckgabe.h"
 #include "programm/Programm.h"
 #include "ui/main/Sitzung.h"
 #include "ui/main/frmMain.h"
@@ -46,6 +47,7 @@ int run(zerna::Programm& programm, zerna::frmMain& window)
 int main(int argc, char** argv)
 {
     zerna::surviveFileSizeLimit();
+    zerna::giveLargeMemoryBack();
     zerna::QtMessageBoxes boxes;
 #ifndef Q_OS_WIN
     // The platform's own dialogs would speak the platform's language; the toolkit's speak German like the program. On

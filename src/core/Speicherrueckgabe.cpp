@@ -1,0 +1,19 @@
+#include "core/Speicherrueckgabe.h"
+
+#include <cstdlib> // says which C library it is
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
+namespace zerna {
+
+void giveLargeMemoryBack()
+{
+#ifdef __GLIBC__
+    constexpr int Large = 256 * 1024; // bytes; given, the limit does not follow the largest block any more
+    mallopt(M_MMAP_THRESHOLD, Large);
+#endif
+}
+
+} // namespace zerna
