@@ -150,7 +150,11 @@ std::string layOut(const Ziffern& z, Dezimaltrenner trenner)
     return text;
 }
 
-bool isWholeBelow(double value, double limit) { return std::abs(value) < limit && value == std::trunc(value); }
+/// The limit is below 2^63, so that a whole number of 64 bits tells, which is faster than rounding.
+bool isWholeBelow(double value, double limit)
+{
+    return std::abs(value) < limit && value == static_cast<double>(static_cast<std::int64_t>(value));
+}
 
 /// The text of a whole number below 1e15: the usual valences, several times faster than by way of digits and exponent.
 std::string wholeText(double value)

@@ -38,12 +38,11 @@ auto located(std::size_t position, Arithmetic&& arithmetic)
 
 bool isOperator(char c) { return c == '+' || c == '-' || c == '*' || c == '/' || c == '^'; }
 
+constexpr char lowered(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+constexpr bool isLetter(char c) { return lowered(c) >= 'a' && lowered(c) <= 'z'; }
+
 /// Whether a text is an ASCII word, which is given in lower case.
-bool isWord(std::string_view text, std::string_view word)
-{
-    return std::ranges::equal(
-        text, word, {}, [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
-}
+bool isWord(std::string_view text, std::string_view word) { return std::ranges::equal(text, word, {}, lowered); }
 
 /// A part of the formula as it may appear in a message: names whole, nothing absurd.
 std::string quoted(std::string_view text)
@@ -221,7 +220,7 @@ std::size_t Auswertung::matchingParenthesis(std::size_t open, std::size_t end) c
 double Auswertung::operand(std::string_view text, std::size_t position) const
 {
     double number = 0;
-    if (located(position, [&] { return readNumber(text, number); }))
+    if (!isLetter(text.front()) && located(position, [&] { return readNumber(text, number); }))
         return number;
     if (isWord(text, "pi"))
         return KonstantePi;
