@@ -24,7 +24,7 @@ void elementeLaden(benchmark::State& state)
         files.open(number, pathFromUtf8(Datenpfad), Zugriff::Binaer);
         loadElements(files, number, boxes, elements);
         files.close(number);
-        benchmark::DoNotOptimize(elements);
+        benchmark::DoNotOptimize(elements.Count());
     }
 }
 

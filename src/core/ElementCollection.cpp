@@ -8,8 +8,7 @@ namespace zerna {
 
 void ElementCollection::Add(Element element, std::string_view key)
 {
-    if (m_elements.empty()) { // a full table fits without growing
-        constexpr std::size_t Tafelgroesse = 128;
+    if (m_elements.empty()) {
         m_elements.reserve(Tafelgroesse);
         m_positions.reserve(Tafelgroesse);
     }

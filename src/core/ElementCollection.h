@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <memory_resource>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -38,6 +39,8 @@ public:
     auto end() const { return m_elements.end(); }
 
 private:
+    static constexpr std::size_t Tafelgroesse = 128; // a full table fits without growing
+
     struct Hash {
         using is_transparent = void;
         // Not noexcept, so that the library keeps each key's hash instead of computing it anew at every step.
@@ -52,7 +55,8 @@ private:
     };
 
     std::vector<Element> m_elements;
-    std::unordered_map<std::string, std::size_t, Hash, std::equal_to<>> m_positions; // from 0
+    std::pmr::monotonic_buffer_resource m_memory{Tafelgroesse * 80}; // of the positions
+    std::pmr::unordered_map<std::string, std::size_t, Hash, std::equal_to<>> m_positions{&m_memory}; // from 0
     std::size_t m_stand = 0;
 };
 
