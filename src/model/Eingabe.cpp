@@ -166,8 +166,8 @@ bool Eingabe::writeRest()
         above[i] = m_zeilen.at(i).prozent.wert;
     }
     try {
-        m_rest = ausgleich(above);
-        at(m_anzahl - 1).prozent = m_rest;
+        readAusgleich(m_rest, above);
+        writeZahl(at(m_anzahl - 1).prozent, m_rest.text, m_rest.wert);
         return true;
     } catch (const Laufzeitfehler&) {
         return false;

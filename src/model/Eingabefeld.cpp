@@ -64,16 +64,21 @@ Eingabefeld zahlenfeld(std::string_view text)
 
 void readZahl(Eingabefeld& feld, std::string_view text)
 {
-    feld.text = text;
-    feld.fehler.reset();
-    feld.echo.clear();
-    feld.meldungen.clear();
+    writeZahl(feld, text, Unbekannt);
     try {
         feld.wert = singleFromText(text);
     } catch (const Laufzeitfehler& error) {
-        feld.wert = Unbekannt;
         feld.fehler = Eingabefehler{"Keine gültige Zahl (" + std::string(error.what()) + ")", 0, zahlabhilfe(error)};
     }
+}
+
+void writeZahl(Eingabefeld& feld, std::string_view text, float wert)
+{
+    feld.text = text;
+    feld.wert = wert;
+    feld.fehler.reset();
+    feld.echo.clear();
+    feld.meldungen.clear();
 }
 
 Eingabefeld valenzfeld(std::string_view text, const ElementCollection& elements)

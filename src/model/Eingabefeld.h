@@ -39,6 +39,9 @@ struct Eingabefeld {
 Eingabefeld zahlenfeld(std::string_view text);
 void readZahl(Eingabefeld& feld, std::string_view text);
 
+/// A number and its text into such a field.
+void writeZahl(Eingabefeld& feld, std::string_view text, float wert);
+
 /// A text that may be a formula. A hexadecimal result is no valence.
 Eingabefeld valenzfeld(std::string_view text, const ElementCollection& elements);
 

@@ -96,6 +96,13 @@ int gespeicherteKomponentenzahl(std::string_view setting)
 
 Eingabefeld ausgleich(std::span<const float> prozente)
 {
+    Eingabefeld feld;
+    readAusgleich(feld, prozente);
+    return feld;
+}
+
+void readAusgleich(Eingabefeld& feld, std::span<const float> prozente)
+{
     constexpr int Stellen = 7;
     constexpr float Klein = 0.01F;
     constexpr float FirstWithExponent = 1e15F;
@@ -104,11 +111,12 @@ Eingabefeld ausgleich(std::span<const float> prozente)
         sum = toSingle(static_cast<double>(sum) + prozent);
     const float rest = toSingle(100.0 - sum);
     // Mostly the shortest text is short enough, and reads back as what it was made of.
-    std::string text = textOfSingle(rest);
+    const std::string text = textOfSingle(rest);
     const bool isPlain = rest == 0 || (std::abs(rest) >= Klein && std::abs(rest) < FirstWithExponent);
     if (isPlain && text.size() <= Stellen)
-        return {std::move(text), rest};
-    return zahlenfeld(textWithDigits(rest, Stellen));
+        writeZahl(feld, text, rest);
+    else
+        readZahl(feld, textWithDigits(rest, Stellen));
 }
 
 } // namespace zerna

@@ -50,5 +50,6 @@ int gespeicherteKomponentenzahl(std::string_view setting);
 /// The at% of the balance row for the at% of the rows above it: 100 less their sum, its text at most seven significant
 /// digits, maybe negative. Error 6 for a sum that no single can hold.
 Eingabefeld ausgleich(std::span<const float> prozente);
+void readAusgleich(Eingabefeld& feld, std::span<const float> prozente); ///< into a field that keeps its memory
 
 } // namespace zerna
