@@ -8,7 +8,6 @@
 
 #include "core/Datei.h"
 #include "support/FilesTest.h"
-#include "support/FullDisk.h"
 
 namespace zerna {
 
@@ -75,14 +74,6 @@ TEST_F(ExportdateiTest, KeepsAnOwnerToWhomNoFileCanBeGiven)
     EXPECT_EQ(exportToAsNobody(target), 70);
     chmod(folder.path().c_str(), 0755);
     EXPECT_EQ(exportToAsNobody(folder / "neu.dat"), 70);
-    EXPECT_EQ(filesInFolder(), 1);
-}
-
-TEST_F(ExportdateiTest, AFailedWriteLeavesTheOldFileAndNothingElse)
-{
-    const FullDisk disk(10);
-    EXPECT_EQ(exportTo(target), 61);
-    EXPECT_EQ(bytesOf(target), "alt");
     EXPECT_EQ(filesInFolder(), 1);
 }
 

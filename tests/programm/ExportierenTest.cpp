@@ -65,22 +65,14 @@ TEST_F(ExportierenTest, AfterAFailureTheDialogComesAgainAndTheBytesAreMadeOnce)
     EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
 }
 
-TEST_F(ExportierenTest, FailureNamesFileAndReasonAndLeavesTheEarlierFile)
+TEST_F(ExportierenTest, BytesThatCannotBeMadeAreSaidAndLeaveNoFile)
 {
-    writeBytes(folder / "a.dat", "alt");
     EXPECT_FALSE(save("b", 2)) << "the bytes cannot be made";
     EXPECT_FALSE(std::filesystem::exists(folder / "b.fri"));
-    {
-        const FullDisk disk(4);
-        dialog.replace = true;
-        EXPECT_FALSE(save("a.dat", 1));
-    }
-    EXPECT_EQ(contentOf("a.dat"), "alt");
-    ASSERT_EQ(boxes.shown.size(), 2U);
+    ASSERT_EQ(boxes.shown.size(), 1U);
     EXPECT_EQ(boxes.shown[0],
         (RecordingBoxes::Box{
             Icon::Exclamation, "Zerna", "Die Datei \"b.fri\" konnte nicht gespeichert werden:\r\nÜberlauf."}));
-    EXPECT_TRUE(boxes.shown[1].text.starts_with("Die Datei \"a.dat\" konnte nicht gespeichert werden:\r\n"));
 }
 
 } // namespace zerna
