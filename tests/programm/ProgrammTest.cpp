@@ -1,6 +1,7 @@
 #include "programm/Programm.h"
 
 #include <algorithm>
+#include <iostream>
 #include <map>
 
 #include "core/Plattform.h"
@@ -135,15 +136,17 @@ TEST_F(ProgrammTest, EndsWithAMessageWhenThereIsNoDataFile)
     const auto says = [this](const std::filesystem::path& file, const std::string& cause) {
         const std::string text = "Sie benötigen eine neuere Version der Datei 'elemente.dat'.\r\nProgramm kann nicht "
                                  "ausgeführt werden.\r\n\r\n"
-            + file.string() + ":\r\n" + cause + "\r\nAbhilfe: Zerna neu installieren, ";
+            + file.string() + ":\r\n" + cause;
         const Box& box = boxes.shown.back();
         EXPECT_TRUE(box.caption == "Zerna - Loader" && box.text.starts_with(text)) << box.text;
+        EXPECT_NE(box.text.find("\r\nAbhilfe: Zerna neu installieren, "), std::string::npos) << box.text;
     };
     {
         const FullDisk disk(100);
         EXPECT_FALSE(start());
-        says(dataFile, "Datenträger voll (so groß darf eine Datei hier nicht werden).");
+        says(dataFile, "Datenträger voll");
     }
+    std::cerr.clear(); // it may lead to a file that was full as well
     Programm nowhere(boxes, settings, folder / "fehlt");
     testing::internal::CaptureStderr();
     EXPECT_FALSE(start(nowhere));
