@@ -38,8 +38,10 @@ def entries(lines):
         if line.endswith(":") and not line.startswith(" "):
             if line not in ("Argumente:", "Optionen:"):
                 yield f".PP\n{roff(line)}"
-        elif line.startswith("   "):  # goes on, or an example
-            yield f".br\n{roff(line.strip())}" if line.strip().startswith("zerna-cli ") else roff(line.strip())
+        elif line.startswith(" " * 10):
+            yield roff(line.strip())
+        elif line.startswith("    "):  # an example, which no line break may change
+            yield f".nf\n{roff(line[2:])}\n.fi"
         elif entry and HELP not in entry[1] and not entry[1].startswith("komponenten "):
             yield f".TP\n.B {roff(entry[1])}\n{roff(entry[2] or '')}".rstrip()
         elif line.strip() and not entry:
