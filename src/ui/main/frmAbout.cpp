@@ -30,6 +30,17 @@ QLabel* makeLink(QWidget* parent, const char* name, const QString& address, cons
     return label;
 }
 
+/// What the toolkit's licence wants to be said.
+QLabel* makeLicences(QWidget* parent)
+{
+    auto* label = new QLabel(parent);
+    label->setObjectName(QStringLiteral("lblLizenzen"));
+    label->setText(
+        QStringLiteral("benutzt Qt %1 unter der GNU LGPL, Version 3\nLizenztexte und Quellen nennt das Paket")
+            .arg(QLatin1String(qVersion())));
+    return label;
+}
+
 } // namespace
 
 frmAbout::frmAbout(const clsLoader& loader, QWidget* parent)
@@ -62,8 +73,8 @@ frmAbout::frmAbout(const clsLoader& loader, QWidget* parent)
     column->setContentsMargins(32, 24, 32, 20);
     column->setSpacing(8);
     for (QWidget* const widget : std::initializer_list<QWidget*>{picture, title, subtitle, version, build,
-             makeLink(this, "lblMail", mail, QStringLiteral("mailto:") + mail), makeLink(this, "lblWeb", web, web),
-             close}) {
+             makeLicences(this), makeLink(this, "lblMail", mail, QStringLiteral("mailto:") + mail),
+             makeLink(this, "lblWeb", web, web), close}) {
         if (auto* const label = qobject_cast<QLabel*>(widget))
             label->setAlignment(Qt::AlignHCenter);
         column->addWidget(widget, 0, Qt::AlignHCenter);
