@@ -45,6 +45,7 @@ for room in core parser model bild traeger dokument programm; do
 done
 
 # The window's tests run without a screen; the letters are those that they are written for.
+rm -f "$work/ui_tests.log"
 QT_QPA_PLATFORM=offscreen QT_QPA_FONTDIR=$(windows_path /usr/share/fonts/truetype/dejavu) \
     timeout 1800 wine "$bin/ui_tests.exe" --gtest_filter='-BilderTest.*:DruckenTest.*' >"$work/ui_tests.log" 2>&1
 status=$?
