@@ -1,5 +1,6 @@
 #include <QApplication>
-#include <QStyle>
+#include <QPainter>
+#include <QStyleOption>
 
 #include <gtest/gtest.h>
 
@@ -57,6 +58,22 @@ TEST(Kontrast, StyleMovesNothing)
     QApplication::setEffectEnabled(Qt::UI_AnimateCombo);
     style.polish(qApp);
     EXPECT_FALSE(QApplication::isEffectEnabled(Qt::UI_AnimateCombo));
+}
+
+TEST(Kontrast, FieldsAndBoxesAreFramedOnDarkGrounds)
+{
+    LesbarerStil style;
+    for (const auto element : {QStyle::PE_FrameLineEdit, QStyle::PE_IndicatorCheckBox}) {
+        QImage image(20, 20, QImage::Format_RGB32);
+        image.fill(Qt::black);
+        QStyleOptionFrame option;
+        option.palette = QPalette(Qt::black, Qt::black);
+        option.palette.setColor(QPalette::WindowText, Qt::white);
+        option.rect = image.rect();
+        QPainter painter(&image);
+        style.drawPrimitive(element, &option, &painter);
+        EXPECT_GE(kontrast(image.pixelColor(10, 0), Qt::black), 3) << element;
+    }
 }
 
 TEST(Kontrast, MarksStandOutFromTheirGround)

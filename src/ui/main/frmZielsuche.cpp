@@ -106,7 +106,7 @@ void frmZielsuche::layOut()
     column->addLayout(form);
     column->addWidget(m_seiten, 1);
     column->addLayout(knopfzeile({m_cmdPunkte, close}));
-    resize(540, 480);
+    resize(QSize(540, 480).expandedTo(fontMetrics().height() * QSize(36, 32))); // room for an answer's sentence
 }
 
 int frmZielsuche::groesse() const { return m_cmbGroesse->currentData().toInt(); }

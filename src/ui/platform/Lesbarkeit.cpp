@@ -30,6 +30,19 @@ void drawFocus(const QStyleOption& option, QPainter& painter)
     painter.restore();
 }
 
+/// On dark grounds the usual style frames fields and boxes with a colour that is darker still.
+void drawOutline(const QStyleOption& option, QPainter& painter)
+{
+    if (!istDunkel(option.palette))
+        return;
+    painter.save();
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(linienfarbe(
+        option.palette.color(QPalette::Window), option.palette.color(QPalette::Active, QPalette::WindowText)));
+    painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
+    painter.restore();
+}
+
 } // namespace
 
 QPalette lesbar(QPalette palette)
@@ -70,8 +83,12 @@ void LesbarerStil::drawComplexControl(
     ComplexControl control, const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const
 {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
-    if (control == CC_ComboBox && option->state.testFlag(State_HasFocus))
+    if (control != CC_ComboBox)
+        return;
+    if (option->state.testFlag(State_HasFocus))
         drawFocus(*option, *painter);
+    else
+        drawOutline(*option, *painter);
 }
 
 void LesbarerStil::drawPrimitive(
@@ -80,6 +97,8 @@ void LesbarerStil::drawPrimitive(
     if (element == PE_FrameFocusRect)
         return drawFocus(*option, *painter);
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element == PE_FrameLineEdit || element == PE_IndicatorCheckBox)
+        drawOutline(*option, *painter);
     const bool isView = qobject_cast<const QAbstractItemView*>(widget) != nullptr;
     if (element == PE_Frame && isView && option->state.testFlag(State_HasFocus))
         drawFocus(*option, *painter);
