@@ -1,8 +1,8 @@
 #!/bin/sh
 # Starts the program on a display and an accessibility bus of their own and writes down what a screen reader gets to
 # know of it: tests/atspi/vorlesen.sh [PROGRAM]. With ZERNA_AUFZEICHNEN=1 the transcript goes into docs/vorlesen.md.
-# Needs the packages xvfb, dbus-daemon, at-spi2-core, xdotool, python3-gi and gir1.2-atspi-2.0; what is entered and set
-# stays in a folder on time.
+# Needs the packages xvfb, dbus-daemon, dbus-bin, at-spi2-core, xdotool, python3-gi and gir1.2-atspi-2.0; what is entered
+# and set stays in a folder on time.
 set -eu
 
 here=$(cd "$(dirname "$0")" && pwd)
@@ -27,12 +27,12 @@ env -i PATH="$PATH" LANG=C.UTF-8 HOME="$folder/home" XDG_RUNTIME_DIR="$folder/ru
     XDG_CONFIG_HOME="$folder/config" XDG_DATA_HOME="$folder/home" DISPLAY=":$number" \
     QT_QPA_PLATFORM=xcb QT_ACCESSIBILITY=1 QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 \
     dbus-run-session -- sh -c '
-        /usr/libexec/at-spi-bus-launcher --launch-immediately &
-        launcher=$!
+        # Starts the accessibility bus; a program that comes before it would not find it.
+        dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus org.a11y.Bus.GetAddress >&2
         "$1" &
         zerna=$!
         /usr/bin/python3 -W ignore "$2/vorlesen.py" 2>&1 && status=0 || status=$?
-        kill "$zerna" "$launcher" || true
+        kill "$zerna" || true
         exit "$status"
     ' sh "$program" "$here" >"$folder/transcript" 2>/dev/null || { cat "$folder/transcript"; exit 1; }
 

@@ -13,14 +13,19 @@ Kurzmeldung::Kurzmeldung(QWidget* parent)
 
 void Kurzmeldung::zeige(const QString& text)
 {
-    if (text.isEmpty() && m_text.isEmpty())
+    schreibe(text);
+    if (!text.isEmpty())
+        sageSofort(*this);
+}
+
+void Kurzmeldung::schreibe(const QString& text)
+{
+    if (text == m_text)
         return;
     m_text = text;
     setToolTip(text);
     setAccessibleName(text);
     fit();
-    if (!text.isEmpty())
-        sageSofort(*this);
 }
 
 void Kurzmeldung::fit() { setText(fontMetrics().elidedText(m_text, Qt::ElideRight, width())); }

@@ -12,6 +12,9 @@ class Kurzmeldung : public QLabel {
 public:
     explicit Kurzmeldung(QWidget* parent = nullptr);
 
+    /// Shows a text that is always there to be read.
+    void schreibe(const QString& text);
+
     /// Shows it in place of what it said; screen readers speak it at once.
     void zeige(const QString& text);
 

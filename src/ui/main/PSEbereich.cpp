@@ -7,6 +7,7 @@
 
 #include "core/Laufzeitfehler.h"
 #include "model/PSEReihe.h"
+#include "ui/controls/Kurzmeldung.h"
 #include "ui/controls/Masse.h"
 #include "ui/main/Elementkarte.h"
 #include "ui/main/Periodentafel.h"
@@ -40,7 +41,8 @@ PSEbereich::PSEbereich(Programm& programm, QWidget* parent)
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(caption);
     row->addWidget(m_cmbFarbe, 1);
-    m_lblUebernahme = new QLabel(QString::fromUtf8(Anleitung), this);
+    m_lblUebernahme = new Kurzmeldung(this);
+    m_lblUebernahme->schreibe(QString::fromUtf8(Anleitung));
     m_lblUebernahme->setObjectName(QStringLiteral("lblUebernahme"));
     m_lblUebernahme->setAlignment(Qt::AlignCenter);
     m_picInfo = new Elementkarte(this);
@@ -75,7 +77,7 @@ void PSEbereich::select(const std::shared_ptr<clsElement>& element)
 {
     m_programm.setSelectedElement(element);
     m_picInfo->setElement(element);
-    m_lblUebernahme->setText(QString::fromUtf8(Anleitung));
+    m_lblUebernahme->schreibe(QString::fromUtf8(Anleitung));
 }
 
 void PSEbereich::colour()
@@ -111,13 +113,13 @@ void PSEbereich::take(int row, const std::shared_ptr<clsElement>& element)
     const auto before = m_programm.Eingabe().zeile(row).element;
     const QString symbol = toQt(element->symbol());
     if (before == element) {
-        m_lblUebernahme->setText(QStringLiteral("Komponente %1 ist schon %2").arg(row + 1).arg(symbol));
+        m_lblUebernahme->zeige(QStringLiteral("Komponente %1 ist schon %2").arg(row + 1).arg(symbol));
         return;
     }
     emit componentChosen(row, symbol);
     showKomponenten();
     const QString instead = before ? QStringLiteral(" statt %1").arg(toQt(before->symbol())) : QString();
-    m_lblUebernahme->setText(QStringLiteral("✓  Komponente %1 ist jetzt %2%3").arg(row + 1).arg(symbol, instead));
+    m_lblUebernahme->zeige(QStringLiteral("✓  Komponente %1 ist jetzt %2%3").arg(row + 1).arg(symbol, instead));
 }
 
 void PSEbereich::showKomponenten()

@@ -5,11 +5,11 @@
 #include "programm/Programm.h"
 
 class QComboBox;
-class QLabel;
 
 namespace zerna {
 
 class Elementkarte;
+class Kurzmeldung;
 class Periodentafel;
 
 /// The second panel: the periodic table, in which an element is picked, and that element's data.
@@ -42,7 +42,7 @@ private:
     Periodentafel* m_picPSE = nullptr;
     QWidget* m_farbwahl = nullptr; // list and caption
     QComboBox* m_cmbFarbe = nullptr;
-    QLabel* m_lblUebernahme = nullptr; // how an element is taken, or that it has been
+    Kurzmeldung* m_lblUebernahme = nullptr; // how an element is taken, or that it has been
     Elementkarte* m_picInfo = nullptr;
 };
 

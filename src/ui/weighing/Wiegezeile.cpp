@@ -142,8 +142,21 @@ std::optional<AbgelegteMasse> Wiegezeile::zeige(const std::string& symbol, const
     if (name != m_label->text()) {
         m_label->setText(name);
         m_istmasse->setAccessibleName(QStringLiteral("Gewogene Masse von %1 in Milligramm").arg(name));
+        nenneSpalten(name);
     }
     return taken;
+}
+
+/// Screen readers read a number without the heads of its row and column.
+void Wiegezeile::nenneSpalten(const QString& name) const
+{
+    const auto controls = widgets();
+    for (std::size_t column = 0; column < controls.size(); ++column) {
+        QString head = spalten().at(column).head;
+        if (controls.at(column) != m_istmasse && !head.isEmpty())
+            controls.at(column)->setAccessibleDescription(
+                QStringLiteral("%1 von %2").arg(head.replace(QLatin1Char('\n'), QLatin1Char(' ')), name));
+    }
 }
 
 std::optional<AbgelegteMasse> Wiegezeile::hide()

@@ -73,6 +73,7 @@ signals:
 
 private:
     std::array<QWidget*, 8> widgets() const;
+    void nenneSpalten(const QString& name) const;
     std::optional<AbgelegteMasse> takeMasse();
 
     QLabel* m_label = nullptr;

@@ -210,6 +210,7 @@ TEST_F(ZugangTest, TypingTellsResultsOnceAndMessagesAtOnce)
     Zugangsprotokoll::told();
     QTest::keyClick(window.get(), Qt::Key_D, Qt::ControlModifier);
     EXPECT_EQ(Zugangsprotokoll::count("Alert: ✓  "), 1) << "at once";
+    EXPECT_EQ(said("Sollmasse_1", QAccessible::Description), "Sollmasse [mg] von Kupfer");
 }
 
 } // namespace zerna
