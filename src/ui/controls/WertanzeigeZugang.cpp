@@ -27,7 +27,7 @@ QString WertanzeigeZugang::text(QAccessible::Text kind) const
 {
     if (kind == QAccessible::Value)
         return wert();
-    const QString said = Zugang::text(kind);
+    QString said = Zugang::text(kind);
     if (kind != QAccessible::Description || !m_anzeige.istBlass())
         return said;
     const QString pale = QStringLiteral("gehört nicht zu dem, was eingetragen ist");

@@ -72,7 +72,7 @@ QAccessible::Role DiagrammZugang::role() const
 QString DiagrammZugang::text(QAccessible::Text kind) const
 {
     const Diagramm* const shown = m_diagramm();
-    const QString own = Zugang::text(kind);
+    QString own = Zugang::text(kind);
     if (shown == nullptr)
         return own;
     switch (kind) {
