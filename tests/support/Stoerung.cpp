@@ -162,8 +162,10 @@ Stoerung::~Stoerung()
     Zustand& now = zustand();
     const std::lock_guard lock(now.mutex);
     now.isArmed = false;
-    if (now.art == Art::Verschwunden && !now.was.empty())
-        syscall(SYS_rename, (now.folder + ".weg").c_str(), now.folder.c_str());
+    if (now.art != Art::Verschwunden || now.was.empty())
+        return;
+    std::filesystem::remove_all(now.folder); // if it was made anew
+    std::filesystem::rename(now.folder + ".weg", now.folder);
 }
 
 std::string Stoerung::was()

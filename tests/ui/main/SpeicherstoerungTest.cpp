@@ -7,9 +7,10 @@
 #include "support/FakeDesk.h"
 #include "support/Messkurven.h"
 #include "support/ModalDialog.h"
-#include "support/Stoerung.h"
+#include "support/Stoerprobe.h"
 #include "ui/diagram/frmBild.h"
 #include "ui/main/Sitzung.h"
+#include "ui/platform/QtSettingsStore.h"
 
 namespace zerna {
 
@@ -170,6 +171,17 @@ TEST_F(SpeicherstoerungTest, WhatALaterRunIsToRestoreIsSaidToBeMissing)
         EXPECT_EQ(std::distance(std::filesystem::directory_iterator(ordner), {}), 2) << "and the mark of this run";
     }
     EXPECT_EQ(boxes.shown.size(), 4U);
+}
+
+TEST(EinstellungsstoerungTest, SettingsAreTheEarlierOnesOrTheNewOnes)
+{
+    const auto ordner = std::filesystem::path(std::getenv("XDG_CONFIG_HOME")) / "Gestoert";
+    std::filesystem::create_directory(ordner);
+    const auto choose = [] {
+        QtSettingsStore().setValue("Gestoert", "Settings", "Element_0", "Cu");
+        return std::string();
+    };
+    Stoerprobe{ordner / "Gestoert.conf", choose, "[Settings]\nElement_0=H\nElement_1=Fe\n", true}.laufe();
 }
 
 } // namespace zerna
