@@ -89,7 +89,7 @@ void checkZuletzt(Programm& programm, const RecordingBoxes& boxes)
     FakeOpenDialog open;
     Dokumentverwaltung dateien(programm, save, open);
     const std::vector<std::string> before = dateien.zuletzt();
-    require(before.size() <= Dokumentverwaltung::MostRecent && !std::ranges::count(before, ""));
+    require(before.size() <= Dokumentverwaltung::MostRecent && std::ranges::count(before, "") == 0);
     const auto gone = std::ranges::find_if(before, [](const std::string& name) { return name.starts_with("/fehlt/"); });
     if (gone == before.end() || pathFromUtf8(*gone).lexically_normal().string() != *gone)
         return;
