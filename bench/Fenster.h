@@ -15,8 +15,6 @@
 
 namespace zerna {
 
-inline constexpr int FermienergieCode = 8; ///< code of the quantity that diagrams are measured with
-
 /// The program with its window and the Fermi energy in the diagram. Settings are files, as they are in use.
 class Fenster {
 public:
