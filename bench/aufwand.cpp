@@ -1,6 +1,7 @@
 // Prints how often the program reads a number, calculates and computes a diagram for one key and at its start. A
 // program of its own: the counters stand in the way of the calls that the benchmarks time.
 
+#include <QLineEdit>
 #include <cstdio>
 
 #include "bench/Fenster.h"
