@@ -190,7 +190,7 @@ void requireDistinct(std::span<const Legierungskomponente> alloy)
 std::size_t indexOfVariable(
     const std::string& symbol, const ElementCollection& elements, std::span<const Legierungskomponente> alloy)
 {
-    const auto wanted = elements.find(symbol, true);
+    const auto& wanted = elements.find(symbol, true);
     const auto found = std::ranges::find(alloy, wanted, &Legierungskomponente::element);
     if (!wanted || found == alloy.end())
         throw Aufruffehler("--variabel " + gekuerzt(symbol) + ": keine Komponente der Legierung"

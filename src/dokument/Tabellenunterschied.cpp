@@ -64,7 +64,7 @@ void behalte(Rohzeile& zeile, const Tabellenunterschied& unterschied)
 
 void uebernimm(Rohzeile& zeile, const Tabellenunterschied& unterschied, const ElementCollection& elements)
 {
-    const auto element = elements.find(unterschied.element);
+    const auto& element = elements.find(unterschied.element);
     if (unterschied.was == Wert::Dichte) {
         zeile.dichtewahl = offeredDichte(*element, zeile.dichtewahl);
         zeile.dichte = feldtext(unterschied.hier);
@@ -105,7 +105,7 @@ std::vector<Tabellenunterschied> unterschiede(
     };
     for (std::size_t i = 0; i < legierung.roh.zeilen.size(); ++i) {
         const Rohzeile& zeile = legierung.roh.zeilen.at(i);
-        const auto element = elements.find(zeile.element);
+        const auto& element = elements.find(zeile.element);
         if (!element)
             continue;
         add(dichteunterschied(zeile, *element), i);

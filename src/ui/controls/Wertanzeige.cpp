@@ -5,8 +5,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 
-#include <algorithm>
-#include <ranges>
+#include <numeric>
 
 #include "ui/platform/Ansage.h"
 #include "ui/platform/Anzeige.h"
@@ -27,11 +26,17 @@ QFont fitting(QFont font, const QString& text, int width)
             result.setStretch(stretch);
         return result;
     };
-    const auto widths = std::views::iota(Narrowest, Normal + 1) | std::views::reverse;
     const auto isTooWide = [&](int stretch) {
-        return stretch > Narrowest && QFontMetrics(stretched(stretch)).horizontalAdvance(text) > width;
+        return QFontMetrics(stretched(stretch)).horizontalAdvance(text) > width;
     };
-    return isTooWide(Normal) ? stretched(*std::ranges::partition_point(widths, isTooWide)) : font;
+    if (!isTooWide(Normal))
+        return font;
+    int fits = Narrowest;
+    for (int over = Normal; over - fits > 1;) {
+        const int middle = std::midpoint(fits, over);
+        (isTooWide(middle) ? over : fits) = middle;
+    }
+    return stretched(fits);
 }
 
 } // namespace

@@ -142,7 +142,7 @@ void Vergleichsansicht::currentChanged(const QModelIndex& current, const QModelI
     if (hasFocus())
         QTableView::currentChanged(current, previous);
     else // which would tell screen readers that the cell has the focus
-        QAbstractItemView::currentChanged(current, previous);
+        QAbstractItemView::currentChanged(current, previous); // NOLINT(bugprone-parent-virtual-call)
     if (current.isValid())
         m_zeile = current.row();
     emit legierungGewaehlt();

@@ -94,7 +94,7 @@ void Wertetafel::currentChanged(const QModelIndex& current, const QModelIndex& p
     if (hasFocus())
         QTableWidget::currentChanged(current, previous);
     else
-        QAbstractItemView::currentChanged(current, previous);
+        QAbstractItemView::currentChanged(current, previous); // NOLINT(bugprone-parent-virtual-call): see above
 }
 
 void Wertetafel::keyPressEvent(QKeyEvent* event)
