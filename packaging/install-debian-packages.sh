@@ -15,7 +15,7 @@ package=("${program[@]}" python3 gzip dpkg-dev desktop-file-utils appstream libx
 ci=("${program[@]}" "${tests[@]}" "${bench[@]}" "${package[@]}" clang-14 clang-format-14 clang-tidy-14
     libclang-rt-14-dev mold)
 windows=("${tests[@]}" perl dpkg-dev xz-utils g++-mingw-w64-x86-64-posix libz-mingw-w64-dev googletest
-    icoutils nsis zip file wine wine64 fonts-liberation)
+    icoutils librsvg2-bin nsis zip file wine wine64 fonts-liberation)
 
 case ${1:-program} in
 program) wanted=("${program[@]}") ;;
