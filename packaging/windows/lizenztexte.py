@@ -14,7 +14,8 @@ from pathlib import Path, PurePosixPath
 
 MODULES = {"qtcore", "qtgui", "qtwidgets", "qtprintsupport", "qtsvg"}
 LICENCES = ("LGPL-3.0-only.txt", "GPL-3.0-only.txt", "GPL-2.0-only.txt", "Qt-GPL-exception-1.0.txt")
-DEBIAN = {"mingw-w64.txt": "mingw-w64-common", "GCC-Laufzeit.txt": "gcc-mingw-w64-base", "NSIS.txt": "nsis"}
+DEBIAN = {"mingw-w64.txt": "mingw-w64-common", "GCC-Laufzeit.txt": "gcc-mingw-w64-base", "NSIS.txt": "nsis",
+          "DejaVu.txt": "fonts-dejavu-core"}
 
 
 def wanted_members(archive):

@@ -11,6 +11,7 @@
 #include "ui/main/Sitzung.h"
 #include "ui/main/frmMain.h"
 #include "ui/platform/Anwendung.h"
+#include "ui/platform/Bildschriften.h"
 #include "ui/platform/Lesbarkeit.h"
 #include "ui/platform/QtInputBox.h"
 #include "ui/platform/QtMessageBoxes.h"
@@ -56,6 +57,7 @@ int main(int argc, char** argv)
 #endif
     const zerna::Anwendung application(argc, argv, boxes);
     QApplication::setStyle(new zerna::LesbarerStil);
+    zerna::ladeBildschriften();
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     QTranslator german;
     if (german.load(QStringLiteral(":/qtbase_de.qm")))

@@ -4,6 +4,7 @@
 #include "bildprogramm/Bildbefehl.h"
 #include "cli/Befehlszeile.h"
 #include "core/Konsole.h"
+#include "ui/platform/Bildschriften.h"
 
 int main(int argc, char** argv)
 {
@@ -15,5 +16,6 @@ int main(int argc, char** argv)
     int count = 1; // the arguments are the command's
     const QGuiApplication application(count, konsole.argv());
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    zerna::ladeBildschriften();
     return zerna::runCommandLine(konsole.argc(), konsole.argv(), zerna::defineBildbefehl);
 }
