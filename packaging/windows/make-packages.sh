@@ -78,6 +78,7 @@ cp "$root/docs/handbuch.md" "$stage/Handbuch.md"
 for manual in "$root"/build/*/handbuch/handbuch.{html,pdf}; do
     [ ! -e "$manual" ] || cp "$manual" "$stage/Handbuch.${manual##*.}"
 done
+[ -e "$stage/Handbuch.pdf" ] || say "ohne Handbuch.html und Handbuch.pdf: es gibt keinen Bau für Linux, der sie gemacht hätte"
 sed 's/$/\r/' "$here/LIZENZEN.txt" >"$stage/LIZENZEN.txt"
 "$here/lizenztexte.py" "$(ls "$sources"/qt6-base_*.orig.tar.xz)" "$here/qtsvg-6.4.2.tar.xz" "$deps" "$stage/lizenzen"
 cp "$here/build-qt.sh" "$here/build-qtsvg.sh" "$here/mingw-toolchain.cmake" "$stage/lizenzen/"
