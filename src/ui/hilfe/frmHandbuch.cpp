@@ -369,7 +369,12 @@ bool frmHandbuch::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::Wheel) {
         const auto& wheel = static_cast<const QWheelEvent&>(*event);
         if (wheel.modifiers().testFlag(Qt::ControlModifier)) {
-            setZoom(naechsteStufe(m_zoom, wheel.angleDelta().y()));
+            constexpr int Notch = 120; // eighths of a degree; touchpads send them in small parts, and sideways too
+            m_rad += wheel.angleDelta().y();
+            if (const int notches = m_rad / Notch; notches != 0) {
+                m_rad %= Notch;
+                setZoom(naechsteStufe(m_zoom, notches));
+            }
             return true;
         }
     }

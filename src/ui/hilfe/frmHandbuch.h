@@ -76,6 +76,7 @@ private:
     std::pair<int, int> m_gerollt{0, -1}; // the position last brought to the top, and where the scroll bar was then
     bool m_neu = true; // shown, and nothing asked for since
     int m_zoom = 100; // percent
+    int m_rad = 0; // that the wheel has been turned with Ctrl, less than a notch
     int m_breite = 0; // that the text is set for
 };
 

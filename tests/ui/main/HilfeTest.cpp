@@ -6,6 +6,7 @@
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTreeWidget>
+#include <QWheelEvent>
 
 #include "core/ElementCsv.h"
 #include "core/Elementdatei.h"
@@ -202,6 +203,15 @@ TEST_F(HilfeTest, TheWayLeadsBackAndForwardAndTheSizeOfLettersStays)
     EXPECT_EQ(text("lblZoom"), "110 %");
     press(Qt::Key_0, Qt::ControlModifier);
     EXPECT_EQ(text("lblZoom"), "100 %");
+    const auto turn = [this](QPoint angle) {
+        QWheelEvent wheel({5, 5}, {}, {}, angle, {}, Qt::ControlModifier, {}, false);
+        QApplication::sendEvent(browser().viewport(), &wheel);
+        return text("lblZoom");
+    };
+    EXPECT_EQ(turn({120, 0}), "100 %"); // sideways
+    EXPECT_EQ(turn({0, 70}), "100 %"); // a notch in two parts
+    EXPECT_EQ(turn({0, 50}), "110 %");
+    EXPECT_EQ(turn({0, -120}), "100 %");
 }
 
 /// The steps of the manual's example in the window; the commands before them are run with all others of the manual.
