@@ -36,9 +36,11 @@ QString StyledButtonZugang::text(QAccessible::Text kind) const
     return Zugang::text(kind);
 }
 
+/// A dialog that the button opens goes on until it is closed: the button is clicked once the caller has been answered.
 QList<Zugang::Aktion> StyledButtonZugang::aktionen() const
 {
-    return {{pressAction(), [this] { m_button.click(); }, text(QAccessible::Accelerator)}};
+    const auto press = [this] { QMetaObject::invokeMethod(&m_button, &QAbstractButton::click, Qt::QueuedConnection); };
+    return {{pressAction(), press, text(QAccessible::Accelerator)}};
 }
 
 } // namespace zerna

@@ -58,8 +58,11 @@ TEST_F(ZugangTest, ActionsDoWhatKeysAndMouseDo)
 {
     openAluminiumCopper();
     press(zugang("optButton_1_2"));
+    EXPECT_FALSE(find("Pic_1_2").isVisible()) << "a dialog that opens would keep the caller waiting";
+    QCoreApplication::sendPostedEvents(&find("optButton_1_2"), QEvent::MetaCall);
     EXPECT_TRUE(find("Pic_1_2").isVisible());
     press(zugang("optButton_1_0"));
+    QCoreApplication::sendPostedEvents(&find("optButton_1_0"), QEvent::MetaCall);
     press(zugang("conLabel_0"), QAccessibleActionInterface::increaseAction());
     EXPECT_EQ(text("txtProzent_0"), "51");
     zugang("conLabel_0").valueInterface()->setCurrentValue(70);
