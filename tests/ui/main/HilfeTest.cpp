@@ -155,6 +155,8 @@ TEST_F(HilfeTest, MessagesAreFoundByTheirWords)
         {"Diese zuletzt gewählten Elemente fehlen in der Datei elemente.dat: Xx", "„Diese zuletzt gewählten Elemente"},
         {"Die Datei \"a.zerna\" hat inzwischen ein anderes Programm geändert.\r\nSoll sie überschrieben werden?",
             "„Die Datei \"…\" hat inzwischen"},
+        {"Es ist kein Drucker eingerichtet. „Speichern“ gibt den Wiegezettel auch als PDF-Dokument aus.",
+            "„Es ist kein Drucker eingerichtet. … den Wiegezettel"},
         {"Was niemand erklärt", "15. Meldungen"},
     };
     for (const auto& row : rows) {
