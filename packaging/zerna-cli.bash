@@ -108,6 +108,7 @@ _zerna_cli_complete() {
             _zerna_cli_data=(--daten "${words[i + 1]}")
             ((i + 1 < ${#words[@]} - 1)) && ((++i))
             ;;
+        --daten=*) _zerna_cli_data=("${words[i]}") ;;
         -*) ;;
         *)
             ((${#command[@]} == 0)) || [[ ${command[*]} == elemente ]] && command+=("${words[i]}")
@@ -115,6 +116,10 @@ _zerna_cli_complete() {
         esac
     done
     ((${#words[@]} > 2)) && previous=${words[-2]}
+    if [[ $word == --*=* && $COMP_WORDBREAKS == *=* ]] && _zerna_cli_takes_value "${word%%=*}" "${command[@]}"; then
+        previous=${word%%=*}
+        word=${word#*=}
+    fi
     if [[ $previous == --* ]] && _zerna_cli_takes_value "$previous" "${command[@]}"; then
         _zerna_cli_value "$previous" "${command[0]-}"
     elif [[ $word == -* ]]; then

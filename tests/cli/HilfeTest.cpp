@@ -68,9 +68,12 @@ TEST_F(HilfeTest, CompletionOffersWhatCanStandThere)
         {"zerna-cli reihe --json --variabel Z", "Zn Zr "}, // a flag takes no value
         {"zerna-cli pse --groesse schm", "schmelztemperatur "},
         {"zerna-cli groessen --stapel --groessen 2kf,fermie", "2kf,fermienergie "},
+        {"zerna-cli pse --groesse=schm", "schmelztemperatur "},
+        {"zerna-cli groessen --json=", ""},
         {"zerna-cli groessen leg", "legierung.zerna "},
         {"zerna-cli groessen --ausgabe ta", "tabelle.txt "},
         {"zerna-cli --daten eigene.dat groessen H", "H= "},
+        {"zerna-cli --daten=eigene.dat groessen H", "H= "},
         {"zerna-cli formel 1", ""},
         {"zerna-cli nichts ", ""},
     };
