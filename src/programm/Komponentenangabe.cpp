@@ -1,11 +1,13 @@
 #include "programm/Komponentenangabe.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 #include <utility>
 
 #include "core/Elementvorschlag.h"
 #include "core/Kuerzung.h"
+#include "core/Namensnaehe.h"
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
 #include "model/Komposition.h"
@@ -39,7 +41,7 @@ public:
     {
         const bool isDichte = key == "dichte";
         if (!isDichte && key != "valenz")
-            return "unbekannte Angabe " + zitiert(key);
+            return "unbekannte Angabe " + zitiert(key) + vorschlag(key, std::array<std::string, 2>{"dichte", "valenz"});
         if (std::exchange(isDichte ? m_hasDichte : m_hasValenz, true))
             return zitiert(key) + " ist mehrmals angegeben";
         (isDichte ? m_angabe.dichte : m_angabe.valenz) = value;
@@ -62,7 +64,8 @@ std::string liesDichte(const Komponentenangabe& angabe, Komponentenwahl& wahl)
         return {};
     if (word == AndereWahl || found == known.end())
         return angabe.dichte.empty() ? "keine Dichte bekannt, dichte=ZAHL angeben"
-                                     : "Dichte " + zitiert(angabe.dichte) + " ist nicht bekannt";
+                                     : "Dichte " + zitiert(angabe.dichte) + " ist nicht bekannt"
+                + vorschlag(angabe.dichte, std::vector<std::string>(known.begin(), known.end() - 1)); // not <andere>
     wahl.dichtewahl = *found;
     wahl.dichte = dichteFor(*wahl.element, *found);
     return {};
