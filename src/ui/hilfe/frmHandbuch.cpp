@@ -54,6 +54,22 @@ StyledButton* makeKnopf(QWidget* parent, const QString& caption, const char* nam
     return button;
 }
 
+/// Tab goes to the next link from what is seen; the toolkit's own goes to the first one of all.
+class Handbuchbrowser : public QTextBrowser {
+public:
+    using QTextBrowser::QTextBrowser;
+
+    bool focusNextPrevChild(bool next) override
+    {
+        if (QTextCursor seen = textCursor(); !seen.hasSelection()) {
+            seen = cursorForPosition({0, 0});
+            seen.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor); // it begins behind a selection
+            setTextCursor(seen);
+        }
+        return QTextBrowser::focusNextPrevChild(next);
+    }
+};
+
 } // namespace
 
 frmHandbuch::frmHandbuch(Settings& settings, QWidget* parent)
@@ -79,7 +95,7 @@ void frmHandbuch::createControls()
     m_inhalt->setAccessibleName(QStringLiteral("Inhalt"));
     m_inhalt->setHeaderHidden(true);
     m_inhalt->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // what is cut off, the tool tip tells
-    m_text = new QTextBrowser(this);
+    m_text = new Handbuchbrowser(this);
     m_text->setObjectName(QStringLiteral("txtHandbuch"));
     m_text->setAccessibleName(QStringLiteral("Handbuch"));
     m_text->setOpenLinks(false);

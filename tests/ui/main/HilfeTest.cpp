@@ -216,6 +216,20 @@ TEST_F(HilfeTest, TheWayLeadsBackAndForwardAndTheSizeOfLettersStays)
     EXPECT_EQ(turn({0, -120}), "100 %");
 }
 
+TEST_F(HilfeTest, TabGoesOnFromWhatIsSeen)
+{
+    openAt("die-erste-legierung");
+    const int heading = browser().textCursor().position();
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(browser().textCursor().charFormat().isAnchor());
+    EXPECT_GT(browser().textCursor().position(), heading);
+    EXPECT_LT(browser().textCursor().position(), heading + 1000);
+    openAt("die-erste-legierung");
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_TRUE(browser().textCursor().charFormat().isAnchor());
+    EXPECT_LT(browser().textCursor().position(), heading);
+}
+
 /// The steps of the manual's example in the window; the commands before them are run with all others of the manual.
 TEST_F(HilfeTest, TheExampleOfATableOfOnesOwnWorks)
 {
