@@ -43,16 +43,17 @@ QString zellform(std::string_view text)
     return shown.contains(QLatin1Char('E')) ? shown : QString(shown).replace(QLatin1Char('-'), QChar(0x2212));
 }
 
-/// Text on a plate that keeps hatching away from it.
-void drawText(QPainter& painter, const QRectF& area, int flags, const QString& text, const QColor& plate)
+/// Text, on a plate where hatching has to be kept away from it.
+void drawText(QPainter& painter, const QRectF& area, int flags, const QString& text, const std::optional<QColor>& plate)
 {
-    painter.fillRect(painter.boundingRect(area, flags, text).adjusted(-1, 0, 1, 0), plate);
+    if (plate)
+        painter.fillRect(painter.boundingRect(area, flags, text).adjusted(-1, 0, 1, 0), *plate);
     painter.drawText(area, flags, text);
 }
 
 /// Atomic number and symbol; below them value, name or mass where there is room.
-void paintTexte(
-    QPainter& painter, const QRectF& area, const Elementzelle& zelle, const Zellstil& stil, const QColor& plate)
+void paintTexte(QPainter& painter, const QRectF& area, const Elementzelle& zelle, const Zellstil& stil,
+    const std::optional<QColor>& plate)
 {
     const clsElement& element = zelle.element;
     const Schriftgroessen groessen = schriftgroessen(area.width(), area.height());
@@ -103,7 +104,7 @@ void paintZelle(QPainter& painter, const QRectF& area, const Elementzelle& zelle
     if (zeichen)
         paintEckzeichen(painter, cell.translated(-marked, 0), *zeichen, zeichenfarbe(ground, text));
     painter.setPen(text);
-    paintTexte(painter, cell, zelle, stil, fehlt ? ground : QColor(Qt::transparent));
+    paintTexte(painter, cell, zelle, stil, fehlt ? std::optional(ground) : std::nullopt);
     if (zelle.isSelected) {
         painter.setBrush(Qt::NoBrush);
         painter.setPen(QPen(stil.palette.color(stil.hasFocus ? QPalette::Highlight : QPalette::WindowText), 3));
