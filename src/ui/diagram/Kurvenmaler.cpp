@@ -8,8 +8,10 @@
 #include <utility>
 
 #include "bild/Ausduennung.h"
+#include "ui/diagram/Schriftmessung.h"
 #include "ui/platform/Abdeckung.h"
 #include "ui/platform/Farben.h"
+#include "ui/platform/QtText.h"
 
 namespace zerna {
 

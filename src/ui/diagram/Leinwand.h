@@ -30,11 +30,4 @@ using Bildmaler = std::function<void(QPainter&, const Leinwand&)>;
 /// A widget's own surface.
 inline Leinwand leinwandOf(const QWidget& widget) { return {widget.size(), widget.font(), widget.devicePixelRatioF()}; }
 
-/// How texts measure in a font.
-inline Textmasse textmasse(const QFont& font)
-{
-    const QFontMetricsF metrics(font);
-    return {[metrics](std::string_view text) { return metrics.horizontalAdvance(toQt(text)); }, metrics.height()};
-}
-
 } // namespace zerna

@@ -6,8 +6,9 @@
 #include <iterator>
 
 #include "bild/Kurvenfarben.h"
-
+#include "ui/diagram/Schriftmessung.h"
 #include "ui/platform/Farben.h"
+#include "ui/platform/QtText.h"
 
 namespace zerna {
 
