@@ -95,11 +95,17 @@ void Diagrammauswahl::fillQuantities(std::span<const int> quantities)
 
 void Diagrammauswahl::listKomponenten(const Eingabe& eingabe)
 {
-    m_cmbDiagrammElement->clear();
+    while (m_cmbDiagrammElement->count() > eingabe.anzahl())
+        m_cmbDiagrammElement->removeItem(m_cmbDiagrammElement->count() - 1);
     for (int row = 0; row < eingabe.anzahl(); ++row) {
         const auto& element = eingabe.zeile(row).element;
-        m_cmbDiagrammElement->addItem(element ? toQt(element->symbol()) : QString(), row);
+        const QString text = element ? toQt(element->symbol()) : QString();
+        if (row < m_cmbDiagrammElement->count())
+            m_cmbDiagrammElement->setItemText(row, text);
+        else
+            m_cmbDiagrammElement->addItem(text, row);
     }
+    m_cmbDiagrammElement->setCurrentIndex(0);
     wahl().komponente = 0;
 }
 

@@ -40,6 +40,19 @@ QString kurzerAnteil(float wert)
     return toQt(textWithDigits(wert, amount < 1 ? Digits - fewer : Digits));
 }
 
+/// Fills a list, unless it has these entries already: most elements have the same ones.
+void setChoices(QComboBox& list, const std::vector<std::pair<QString, QVariant>>& choices)
+{
+    bool isSame = list.count() == std::ssize(choices);
+    for (int i = 0; isSame && i < list.count(); ++i)
+        isSame = std::pair(list.itemText(i), list.itemData(i)) == choices[static_cast<std::size_t>(i)];
+    if (isSame)
+        return;
+    list.clear();
+    for (const auto& [text, data] : choices)
+        list.addItem(text, data);
+}
+
 /// Shows an entered text.
 void write(Wertfeld& feld, const Eingabefeld& eingabe)
 {
@@ -249,17 +262,19 @@ void Kompositionszeile::showHerkunft(const Eingabe::Zeile& zeile)
 void Kompositionszeile::fillChoices(const std::shared_ptr<clsElement>& element)
 {
     m_element = element;
-    m_cmdDichte->clear();
-    m_cmbValenz->clear();
     m_cmbElement->setCurrentIndex(element ? findElementEntry(element->symbol()) : -1);
     m_lblElement->setText(element ? toQt(element->Name()) : QString());
     m_lblElement->setToolTip(m_lblElement->text());
-    if (!element)
-        return;
-    for (const std::string_view choice : dichteauswahl(*element))
-        m_cmdDichte->addItem(toQt(choice));
-    for (const Valenzeintrag& choice : valenzauswahl(*element))
-        m_cmbValenz->addItem(toQt(choice.text), choice.code);
+    std::vector<std::pair<QString, QVariant>> dichten;
+    std::vector<std::pair<QString, QVariant>> valenzen;
+    if (element) {
+        for (const std::string_view choice : dichteauswahl(*element))
+            dichten.emplace_back(toQt(choice), QVariant());
+        for (const Valenzeintrag& choice : valenzauswahl(*element))
+            valenzen.emplace_back(toQt(choice.text), choice.code);
+    }
+    setChoices(*m_cmdDichte, dichten);
+    setChoices(*m_cmbValenz, valenzen);
 }
 
 } // namespace zerna
