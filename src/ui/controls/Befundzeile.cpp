@@ -29,6 +29,10 @@ Befundzeile::Befundzeile(QWidget* parent)
 
 void Befundzeile::zeige(const QString& befund, Ton ton, bool fuehrtHin)
 {
+    if (befund != m_befund || ton != m_ton) {
+        updateGeometry();
+        update();
+    }
     m_ton = ton;
     if (befund != m_befund) {
         m_befund = befund;
@@ -41,8 +45,6 @@ void Befundzeile::zeige(const QString& befund, Ton ton, bool fuehrtHin)
     setFocusPolicy(isActive ? Qt::StrongFocus : Qt::NoFocus);
     setCursor(isActive ? Qt::PointingHandCursor : Qt::ArrowCursor);
     setEnabled(isActive);
-    updateGeometry();
-    update();
 }
 
 QSize Befundzeile::sizeHint() const

@@ -61,6 +61,8 @@ void conLabel::setLabel(const QString& label)
 
 void conLabel::setEnabled(bool enabled)
 {
+    if (enabled == m_enabled)
+        return;
     m_enabled = enabled;
     for (StyledButton* const button : m_buttons)
         button->setEnabled(enabled);
