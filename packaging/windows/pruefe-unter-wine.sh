@@ -63,6 +63,7 @@ for kind in png svg pdf; do
     (cd "$folder" && wine "$stage/zerna-cli.exe" bild --groesse 0 --ziel "ä ß.$kind" Al=60 Cu=40 >"$work/bild.log" 2>&1)
     if [ -s "$folder/ä ß.$kind" ]; then ok "zerna-cli bild: $(file -b "$folder/ä ß.$kind" | cut -c1-60)"; else bad "zerna-cli bild $kind: $(cat "$work/bild.log")"; fi
 done
+expect "  das PDF hat die Schrift der Bilder" grep -aq DejaVuSans "$folder/ä ß.pdf"
 
 # --- relinking ----------------------------------------------------------------
 rm -rf "$work/neu"
