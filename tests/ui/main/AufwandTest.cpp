@@ -38,4 +38,27 @@ TEST_F(AufwandTest, TheStartAndEveryKeyCalculateOnce)
     }
 }
 
+/// Counts what is painted anew.
+struct Malzaehler : QObject {
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        count += event->type() == QEvent::Paint && watched->objectName().startsWith(QLatin1String("cmdStep_")) ? 1 : 0;
+        return false;
+    }
+    int count = 0;
+};
+
+TEST_F(AufwandTest, AnotherElementRepaintsTheStepperOfItsRowAlone)
+{
+    settings["Komponenten"] = "4";
+    open();
+    QTest::qWait(10);
+    Malzaehler painted;
+    qApp->installEventFilter(&painted);
+    QTest::keyClick(&find("cmbElement_0"), Qt::Key_Down);
+    QCoreApplication::processEvents();
+    qApp->removeEventFilter(&painted);
+    EXPECT_EQ(painted.count, 2);
+}
+
 } // namespace zerna
