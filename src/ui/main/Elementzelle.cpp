@@ -29,6 +29,20 @@ void paintHatching(QPainter& painter, const QRectF& area, const QColor& colour)
     painter.drawRoundedRect(area, Radius, Radius);
 }
 
+/// Looked for once for all neighbours of one ground: that is much of what painting a cell costs.
+QColor eckfarbe(const QColor& ground, const QColor& text)
+{
+    struct Gefunden {
+        QColor ground;
+        QColor text;
+        QColor farbe;
+    };
+    static thread_local Gefunden last;
+    if (last.ground != ground || last.text != text)
+        last = {ground, text, zeichenfarbe(ground, text)};
+    return last.farbe;
+}
+
 void paintEckzeichen(QPainter& painter, const QRectF& area, Gruppenzeichen zeichen, const QColor& colour)
 {
     constexpr double Margin = 4;
@@ -102,7 +116,7 @@ void paintZelle(QPainter& painter, const QRectF& area, const Elementzelle& zelle
         marked = 2 + paintKomponenten(painter, cell.topRight() + QPointF(-2, 2), toQt(zelle.komponenten), text, font);
     }
     if (zeichen)
-        paintEckzeichen(painter, cell.translated(-marked, 0), *zeichen, zeichenfarbe(ground, text));
+        paintEckzeichen(painter, cell.translated(-marked, 0), *zeichen, eckfarbe(ground, text));
     painter.setPen(text);
     paintTexte(painter, cell, zelle, stil, fehlt ? std::optional(ground) : std::nullopt);
     if (zelle.isSelected) {
