@@ -1,7 +1,6 @@
 #include "programm/Programm.h"
 
 #include <algorithm>
-#include <iostream>
 #include <map>
 
 #include "core/Plattform.h"
@@ -9,7 +8,6 @@
 #include "programm/EingebauteTabelle.h"
 #include "support/FakeServices.h"
 #include "support/FilesTest.h"
-#include "support/FullDisk.h"
 #include "support/Geraet.h"
 
 namespace zerna {
@@ -141,12 +139,6 @@ TEST_F(ProgrammTest, EndsWithAMessageWhenThereIsNoDataFile)
         EXPECT_TRUE(box.caption == "Zerna - Loader" && box.text.starts_with(text)) << box.text;
         EXPECT_NE(box.text.find("\r\nAbhilfe: Zerna neu installieren, "), std::string::npos) << box.text;
     };
-    {
-        const FullDisk disk(100);
-        EXPECT_FALSE(start());
-        says(dataFile, "Datenträger voll");
-    }
-    std::cerr.clear(); // it may lead to a file that was full as well
     Programm nowhere(boxes, settings, folder / "fehlt");
     testing::internal::CaptureStderr();
     EXPECT_FALSE(start(nowhere));

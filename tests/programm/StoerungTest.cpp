@@ -60,6 +60,29 @@ TEST_F(StoerungTest, Legierungen)
     Stoerprobe{datei, [this] { return dateien.speichere() ? "" : said(); }}.laufe();
 }
 
+TEST_F(StoerungTest, WhatCouldNotBeSavedIsStillChangedAndTheDialogComes)
+{
+    save.answer = {{ziel.string(), 1}};
+    ASSERT_TRUE(dateien.speichereUnter());
+    programm.Eingabe().waehleElement(0, "Cu");
+    const Stoerung stoerung(ziel.parent_path(), Stoerung::Art::Voll, 1);
+    EXPECT_FALSE(dateien.speichere());
+    EXPECT_TRUE(dateien.istGeaendert());
+    EXPECT_EQ(save.offeredAgain.size(), 1U);
+    EXPECT_THAT(said(), testing::HasSubstr("konnte nicht gespeichert werden:\r\nDatenträger voll"));
+}
+
+TEST_F(StoerungTest, BytesAreMadeOnceHoweverOftenTheDialogComes)
+{
+    int made = 0;
+    const std::vector<Exportart> arten{datDatei([&made] { return ++made, std::string("x"); })};
+    save.answer = save.next = {{ziel.string(), 1}};
+    const Stoerung stoerung(ziel.parent_path(), Stoerung::Art::Voll, 1);
+    EXPECT_FALSE(exportieren(boxes, save, Exporttitel, arten));
+    EXPECT_EQ(save.offeredAgain.size(), 2U);
+    EXPECT_EQ(made, 1);
+}
+
 TEST_F(StoerungTest, Exporte)
 {
     save.answer = {{ziel.string(), 1}};
