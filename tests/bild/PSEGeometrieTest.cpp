@@ -80,18 +80,6 @@ TEST(PSEGeometrieTest, MissingValuesBreakTheCurve)
     EXPECT_FALSE(nearestElement(layOut({}), 0));
 }
 
-TEST(PSEGeometrieTest, EverythingStandsInUserCoordinates)
-{
-    const PSEBild bild = layOut({0, 1, 2, 3, 10});
-    EXPECT_EQ(bild.lines.size(), 14U) << "two axes, the tick at 0, eleven divisions";
-    EXPECT_EQ(bild.lines.at(0).to, (Punkt{300, 1100})) << "end of the x axis";
-    EXPECT_EQ(bild.lines.at(13).from, (Punkt{220, 100})) << "topmost tick of the y axis";
-    EXPECT_EQ(bild.achsentitel.position, (Punkt{10, 1000}));
-    EXPECT_EQ(bild.labels.at(0).position, (Punkt{247, 1170})) << "number at 0";
-    EXPECT_EQ(bild.labels.at(2).position, (Punkt{211, 1070})) << "lowest label of the y axis, beside its tick";
-    EXPECT_NEAR(layOut({0, 1.0F / 3, 2}).kurve.stuecke.at(0).at(1).y, 933.333, 1e-3) << "between pixels";
-}
-
 TEST(PSEGeometrieTest, WideLabelsMoveTheScale)
 {
     const Elementdiagramm narrow = diagramm({0, 1});
