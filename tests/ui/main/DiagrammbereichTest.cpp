@@ -4,16 +4,13 @@
 #include <QAction>
 #include <QDialog>
 #include <QMenu>
-#include <QTimer>
 #include <QUndoStack>
 
 #include <random>
 
 #include "support/FakeDesk.h"
-#include "support/ModalDialog.h"
 #include "ui/diagram/Diagrammflaeche.h"
 #include "ui/diagram/conDisplay.h"
-#include "ui/diagram/frmBild.h"
 
 namespace zerna {
 
@@ -135,24 +132,6 @@ TEST_F(DiagrammbereichTest, LeavingAndReturningKeepsQuantityAndComponent)
     EXPECT_EQ(texts(lists), "2 D|Fermienergie|Cu");
     choose("cmdDichte_0", "<andere>"); // Intended: a density puts the first component along the axis again
     EXPECT_EQ(text("cmbDiagramm_Element"), "Al");
-}
-
-TEST_F(DiagrammbereichTest, MenuSavesThePicture)
-{
-    for (const auto& [type, name] : {std::pair(1, "a.png"), {2, "a.svg"}, {3, "a.pdf"}}) {
-        saveDialog.next = {(folder / "a").string(), type};
-        QTimer::singleShot(0, [] {
-            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-            ASSERT_NE(menu, nullptr);
-            for (QAction* const entry : menu->actions())
-                if (entry->text() == QStringLiteral("Bild speichern ..."))
-                    menu->setActiveAction(entry);
-            QTest::keyClick(menu, Qt::Key_Return);
-        });
-        inDialog<frmBild>([](frmBild& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); },
-            [&] { QTest::mouseClick(window->windowHandle(), Qt::RightButton, {}, QPoint(900, 300)); });
-        EXPECT_GT(bytesOf(folder / name).size(), 1000U) << name;
-    }
 }
 
 TEST_F(DiagrammbereichTest, RandomEditsLeaveNoTrace)

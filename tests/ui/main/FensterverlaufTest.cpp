@@ -207,18 +207,6 @@ TEST_F(FensterverlaufTest, WhatComesBackIsSeen)
     EXPECT_EQ(stapel().index(), 2);
 }
 
-/// An incomplete alloy is seen with the results of the complete one before it.
-TEST_F(FensterverlaufTest, IncompleteStatesComeBackAsTheyWereSeen)
-{
-    openAluminiumCopper();
-    type("txtProzent_0", "");
-    choose("cmbElement_1", "Zn");
-    const Anblick incomplete = anblick();
-    type("txtProzent_0", "20");
-    action("mnuRueckgaengig").trigger();
-    EXPECT_EQ(anders(incomplete), "");
-}
-
 TEST_F(FensterverlaufTest, AFieldOffersTheStepsOfTheDocumentInItsMenu)
 {
     openAluminiumCopper();

@@ -62,18 +62,6 @@ TEST_F(VerlaufTest, AGestureIsOneStepUntilItEnds)
     EXPECT_EQ(prozent(), "60");
 }
 
-TEST_F(VerlaufTest, AnActionOfSeveralEditsIsOneStep)
-{
-    {
-        const Verlauf::Handlung handlung(verlauf, {QStringLiteral("both")});
-        type("20");
-        dokument.wiegen.gewuenscht = "7";
-    }
-    EXPECT_EQ(schritte(), "[both]");
-    verlauf.stapel().undo();
-    EXPECT_EQ(prozent() + ' ' + dokument.wiegen.gewuenscht, "50 1000");
-}
-
 TEST_F(VerlaufTest, AThousandStepsAndTheStateOfTheFileAreKept)
 {
     for (int i = 0; i < Verlauf::Grenze + 5; ++i)
