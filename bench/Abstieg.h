@@ -21,7 +21,7 @@ public:
     Abstieg(std::string_view formula, Groesse known)
         : m_next(formula.data())
         , m_end(formula.data() + formula.size())
-        , m_known(known)
+        , m_known(std::move(known))
     {
     }
 

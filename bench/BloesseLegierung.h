@@ -80,10 +80,10 @@ public:
         const double root = std::cbrt(n);
         const double squared = root * root;
         const double wurzel = std::sqrt(n);
-        const float fermi = static_cast<float>(m_fermiFactor * squared);
+        const auto fermi = static_cast<float>(m_fermiFactor * squared);
         const double joule = fermi * ElektronvoltInJoule;
-        const float kf2 = static_cast<float>(m_kf2Factor * root);
-        const float wavelength = static_cast<float>(2 * Pi / kf2);
+        const auto kf2 = static_cast<float>(m_kf2Factor * root);
+        const auto wavelength = static_cast<float>(2 * Pi / kf2);
         const double radius = 5.0 / 4.0 * wavelength;
         return {m_valenz, static_cast<float>(m_teilchen * 1e-27), m_dichte, static_cast<float>(1.0 / m_teilchen),
             static_cast<float>(1 / n * m_hallFactor), static_cast<float>(1 / squared * m_thermoFactor),

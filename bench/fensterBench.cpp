@@ -13,7 +13,8 @@ namespace {
 constexpr QSize Fenstergroesse(1280, 800); // the diagram beside the fields is in sight
 
 /// Two keys in turn, the second of which takes back what the first has done.
-void tasten(benchmark::State& state, QWidget& widget, std::pair<int, QString> there, std::pair<int, QString> back)
+void tasten(
+    benchmark::State& state, QWidget& widget, const std::pair<int, QString>& there, const std::pair<int, QString>& back)
 {
     widget.window()->resize(Fenstergroesse);
     widget.setFocus();
