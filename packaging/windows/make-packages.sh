@@ -49,7 +49,7 @@ say "Qt $(qtpaths6 --query QT_VERSION) mit Svg: $qt; Bibliotheken: $deps"
 export WINEPREFIX=$work/wine # the element table is made by a program that was just built
 # shellcheck source=wine.sh
 . "$here/wine.sh"
-cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_NINJA_FORCE_RESPONSE_FILE=OFF \
+cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release \
     -DCMAKE_TOOLCHAIN_FILE="$here/mingw-toolchain.cmake" -DCMAKE_PREFIX_PATH="$qt;$deps" \
     -DZLIB_LIBRARY_RELEASE="$deps/lib/libz.a" -DZLIB_INCLUDE_DIR="$deps/include" \
     -DQT_HOST_PATH="$(qtpaths6 --query QT_INSTALL_PREFIX)" \

@@ -32,8 +32,11 @@ def link_command(build, program):
     linked = [line for line in output if re.search(rf"-o bin/{program}\.exe\b", line)][-1]
     command = next(part for part in linked.split("&&") if f"bin/{program}.exe" in part)
     words = shlex.split(command)
-    if any(word.startswith("@") for word in words):
-        sys.exit("the link command uses a response file: configure with CMAKE_NINJA_FORCE_RESPONSE_FILE=OFF")
+    if any(word.startswith("@") for word in words):  # it is kept only when asked for
+        (build / "bin" / f"{program}.exe").unlink(missing_ok=True)
+        subprocess.run(["ninja", "-C", build, "-d", "keeprsp", f"bin/{program}.exe"], check=True, capture_output=True)
+    words = [part for word in words for part in
+             (shlex.split((build / word[1:]).read_text()) if word.startswith("@") else [word])]
     return words[1:] if Path(words[0]).name == "ccache" else words
 
 
