@@ -17,7 +17,7 @@ public:
     explicit Wertanzeige(QWidget* parent = nullptr);
 
     /// Shows a text; screen readers are told once the user pauses.
-    void zeige(const QString& text);
+    void zeige(const QString& shown);
 
     /// The unit that texts end in, and the width of the number column in front of it (0: text as one piece), which has
     /// a margin on both sides so that numbers and units stand below those of fields.
