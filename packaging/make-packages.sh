@@ -11,6 +11,10 @@ fail() {
 
 "$root/packaging/install-debian-packages.sh" package
 build=$root/build/release
+# Times inside the packages are those of the sources: equal sources give equal bytes.
+export SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(
+    git -C "$root" log -1 --format=%ct 2>/dev/null || stat -c %Y -- "$root/CHANGELOG.md"
+)}
 cmake -S "$root" --preset release -DZERNA_PACKAGE=ON "$@" || fail "Das Programm ließ sich nicht einrichten."
 cmake --build "$build" || fail "Das Programm ließ sich nicht übersetzen."
 
@@ -38,6 +42,7 @@ version=$(dpkg-parsechangelog -S Version)
 folder=zerna-$version-linux-$(uname -m)
 cmake --install "$build" --prefix "$scratch/$folder" --strip >/dev/null
 cp -- "$root/packaging/linux/LIESMICH.txt" "$scratch/$folder"
-tar -C "$scratch" --owner=0 --group=0 --numeric-owner --sort=name -cJf "$packages/$folder.tar.xz" "$folder"
+tar -C "$scratch" --mtime="@$SOURCE_DATE_EPOCH" --owner=0 --group=0 --numeric-owner --sort=name \
+    -cJf "$packages/$folder.tar.xz" "$folder"
 
 (cd -- "$packages" && sha256sum -- * >SHA256SUMS && ls -l)
