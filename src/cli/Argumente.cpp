@@ -78,9 +78,6 @@ std::vector<std::string> known(const CLI::App& app, bool isCommand)
     return names;
 }
 
-/// Another sentence behind one without its full stop.
-std::string satzende(const std::string& satz) { return satz.empty() ? satz : ". " + satz; }
-
 std::vector<const clsElement*> elementsOf(std::span<const Legierungskomponente> alloy)
 {
     std::vector<const clsElement*> elements;

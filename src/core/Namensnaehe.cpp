@@ -122,6 +122,8 @@ std::string meintenSie(std::span<const std::string> namen)
     return text.empty() ? text : text + '?';
 }
 
+std::string satzende(const std::string& satz) { return satz.empty() ? satz : ". " + satz; }
+
 std::string vorschlag(std::string_view text, std::span<const std::string> namen)
 {
     std::vector<std::string> near;
@@ -129,7 +131,7 @@ std::string vorschlag(std::string_view text, std::span<const std::string> namen)
         if (std::ranges::find(near, namen[position]) == near.end())
             near.push_back(namen[position]);
     }
-    return near.empty() ? std::string() : ". " + meintenSie(near);
+    return satzende(meintenSie(near));
 }
 
 } // namespace zerna

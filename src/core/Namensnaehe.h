@@ -24,6 +24,9 @@ std::vector<std::size_t> naechsteNamen(std::string_view text, std::span<const st
 /// "Meinten Sie a, b oder c?"; empty for no names.
 std::string meintenSie(std::span<const std::string> namen);
 
+/// Another sentence behind one without its full stop: ". " and the sentence, empty for none.
+std::string satzende(const std::string& satz);
+
 /// The end of a message about a name that is none: ". Meinten Sie a?" with the names nearest to it.
 std::string vorschlag(std::string_view text, std::span<const std::string> namen);
 

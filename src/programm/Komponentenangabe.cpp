@@ -81,13 +81,6 @@ std::string liesValenzwahl(const Komponentenangabe& angabe, Komponentenwahl& wah
     return "keine " + std::string(OrbitalLabel(wahl.valenzwahl)) + " außerhalb des Edelgasrumpfs";
 }
 
-/// The end of the sentence about an element that is none.
-std::string meant(std::string_view symbol, const ElementCollection& elements)
-{
-    const std::string sentence = elementvorschlag(symbol, elements);
-    return sentence.empty() ? sentence : ". " + sentence;
-}
-
 } // namespace
 
 std::string liesAngabe(std::string_view text, Komponentenangabe& angabe)
@@ -123,7 +116,8 @@ std::string liesWahl(const ElementCollection& elements, const Komponentenangabe&
 {
     wahl.element = elements.find(angabe.symbol, true);
     if (!wahl.element)
-        return "Element " + zitiert(angabe.symbol) + " ist nicht bekannt" + meant(angabe.symbol, elements);
+        return "Element " + zitiert(angabe.symbol) + " ist nicht bekannt"
+            + satzende(elementvorschlag(angabe.symbol, elements));
     std::string grund = liesDichte(angabe, wahl);
     return grund.empty() ? liesValenzwahl(angabe, wahl) : grund;
 }
