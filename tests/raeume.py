@@ -29,7 +29,7 @@ BENEATH = {
     "ui/weighing": ["ui/controls"],
     "bildprogramm": ["cli", "ui/diagram"],
     "ui/main": ["ui/diagram", "ui/weighing", "ui/hilfe"],
-    "app": ["ui/main"],
+    "app": ["ui/main", "bildprogramm"],
 }
 WITHOUT_QT = ["core", "parser", "model", "bild", "traeger", "dokument", "programm", "cli"]
 LONGEST = 400  # lines of a file

@@ -5,6 +5,9 @@
 #include <exception>
 #include <memory>
 
+#ifndef _WIN32
+#include "bildprogramm/Bildprogramm.h"
+#endif
 #include "core/Plattform.h"
 #include "core/Speicherrueckgabe.h"
 #include "programm/Programm.h"
@@ -47,6 +50,10 @@ int run(zerna::Programm& programm, zerna::frmMain& window)
 
 int main(int argc, char** argv)
 {
+#ifndef Q_OS_WIN // where a program with a window has no console
+    if (std::filesystem::path(argv[0]).filename() == zerna::Bildprogramm)
+        return zerna::runBildprogramm(argc, argv);
+#endif
     zerna::surviveFileSizeLimit();
     zerna::giveLargeMemoryBack();
     zerna::QtMessageBoxes boxes;

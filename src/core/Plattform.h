@@ -16,7 +16,8 @@ inline constexpr const char* Programmdatei = "Zerna.exe";
 inline constexpr const char* Programmdatei = "zerna";
 #endif
 
-/// The name of the file of the program that makes pictures for the command line.
+/// The name of the file of the program that makes pictures for the command line: on Windows a program of its own, else
+/// the window program by another name.
 #ifdef _WIN32
 inline constexpr const char* Bildprogramm = "zerna-bild.exe";
 #else
