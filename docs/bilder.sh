@@ -5,13 +5,17 @@
 set -euo pipefail
 docs=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
 build=$(readlink -f -- "${1:-$docs/../build/dev}")
-command -v pngquant >/dev/null || {
-    echo "Fehler: pngquant fehlt (Paket pngquant)" >&2
-    exit 1
-}
+for tool in pngquant zopflipng; do
+    command -v "$tool" >/dev/null || {
+        echo "Fehler: $tool fehlt (Pakete pngquant und zopfli)" >&2
+        exit 1
+    }
+done
 "$docs/abbildungen.sh" "$build/bin"
 ZERNA_AUFZEICHNEN=1 QT_QPA_PLATFORM=offscreen "$build/bin/handbuch_tests"
 # Few colours make the pictures small; the figures stay as they are, since they carry their alloys.
 for picture in "$docs"/bilder/*.png; do
-    [[ $picture == */abbildung-* ]] || pngquant --force --ext .png --speed 1 --strip --nofs 64 -- "$picture"
+    [[ $picture != */abbildung-* ]] || continue
+    pngquant --force --ext .png --speed 1 --strip --nofs --quality 0-80 64 -- "$picture"
+    zopflipng -y "$picture" "$picture" >/dev/null
 done

@@ -1,5 +1,6 @@
 #!/bin/bash
-# Paints the icon's usual sizes from the two drawings; run it after changing one of them. Needs librsvg2-bin.
+# Paints the icon's usual sizes from the two drawings; run it after changing one of them. Needs librsvg2-bin,
+# pngquant and zopfli.
 set -euo pipefail
 cd -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")"
 
@@ -9,3 +10,8 @@ paint() {
 
 for size in 16 22 24 32; do paint zerna-klein.svg "$size"; done
 for size in 48 64 128 256; do paint zerna.svg "$size"; done
+# The large ones have many pixels of few colours.
+for size in 128 256; do
+    pngquant --force --ext .png --speed 1 --strip --quality 0-95 256 -- "zerna-$size.png"
+    zopflipng -y "zerna-$size.png" "zerna-$size.png" >/dev/null
+done
