@@ -1,4 +1,4 @@
-// Turns the element table and the rules of where its values come from into source text, a line per cell:
+// Turns the element table and the rules of where its values come from into source text, a line per element:
 //   quellentabelle ELEMENTE.csv QUELLEN.csv OUT.cpp
 
 #include <algorithm>
@@ -65,18 +65,22 @@ void writeTables(const Table& elements, const Table& sources, const std::string&
     stream << "#include \"model/Quellentabelle.h\"\n\nstatic constexpr zerna::Quelle Regeln[] = {\n";
     for (const Cells& rule : std::span(sources).subspan(1))
         stream << "    {" << quoted(rule.at(2)) << ", " << quoted(rule.at(3)) << ", " << quoted(rule.at(4)) << "},\n";
-    stream << "};\n\nstatic constexpr zerna::Zellquelle Zellen[] = {\n";
+    stream << "};\n\nstatic constexpr zerna::Zeilenquelle Zeilen[] = {\n";
     const Rules rules(sources);
     const Cells& header = elements.front();
     for (const Cells& element : std::span(elements).subspan(1)) {
         const std::string& symbol = element.at(SymbolColumn);
+        std::string values;
+        std::string places;
         for (std::size_t column = 0; column < header.size(); ++column) {
             const std::string& value = element.at(column);
-            stream << "    {" << quoted(symbol) << ", " << quoted(header[column]) << ", " << quoted(value)
-                   << ", &Regeln[" << rules.of(header[column], symbol, !value.empty()) << "]},\n";
+            values += value + "\\t";
+            places += std::to_string(rules.of(header[column], symbol, !value.empty())) + ", ";
         }
+        stream << "    {" << quoted(symbol) << ", " << quoted(values) << ", {" << places << "}},\n";
     }
-    stream << "};\n\nconstinit const std::span<const zerna::Zellquelle> zerna::Zellquellen(Zellen);\n";
+    stream << "};\n\nconstinit const std::span<const zerna::Quelle> zerna::Quellen(Regeln);\n"
+           << "constinit const std::span<const zerna::Zeilenquelle> zerna::Quellzeilen(Zeilen);\n";
 }
 
 } // namespace

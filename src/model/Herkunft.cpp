@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <concepts>
+#include <optional>
 #include <utility>
 
 #include "core/Elementspalten.h"
@@ -23,11 +24,24 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 3> Dichtespa
     {"kristallin", "Dichte_Kristallin"},
 }};
 
-const Zellquelle* findZelle(std::string_view symbol, std::string_view spalte)
+/// The source of one cell of the shipped table.
+struct Zellquelle {
+    std::string_view wert;
+    const Quelle* quelle = nullptr;
+};
+
+/// No value for an element that the shipped table lacks.
+std::optional<Zellquelle> findZelle(std::string_view symbol, const Elementspalte& spalte)
 {
-    const auto zelle = std::ranges::find_if(
-        Zellquellen, [&](const Zellquelle& z) { return z.symbol == symbol && z.spalte == spalte; });
-    return zelle == Zellquellen.end() ? nullptr : &*zelle;
+    const auto zeile = std::ranges::find(Quellzeilen, symbol, &Zeilenquelle::symbol);
+    if (zeile == Quellzeilen.end())
+        return std::nullopt;
+    const auto column = static_cast<std::size_t>(
+        std::ranges::find(Elementspalten, spalte.name, &Elementspalte::name) - Elementspalten.begin());
+    std::string_view werte = zeile->werte;
+    for (std::size_t i = 0; i < column; ++i)
+        werte.remove_prefix(werte.find('\t') + 1);
+    return Zellquelle{werte.substr(0, werte.find('\t')), &Quellen[zeile->quellen.at(column)]};
 }
 
 bool istBekannt(float wert) { return !istUnbekannt(wert); }
@@ -52,9 +66,9 @@ std::string sourceLines(const Quelle& quelle)
 }
 
 /// What the source gives in place of the value that is there.
-std::string otherValue(const Zellquelle* zelle, const Elementspalte& spalte)
+std::string otherValue(const std::optional<Zellquelle>& zelle, const Elementspalte& spalte)
 {
-    if (zelle == nullptr || zelle->wert.empty())
+    if (!zelle || zelle->wert.empty())
         return {};
     return " (Quelle nennt "
         + std::string(trimmed(ReplaceText(zelle->wert, ".", ",") + " " + std::string(spalte.einheit))) + ")";
@@ -62,8 +76,8 @@ std::string otherValue(const Zellquelle* zelle, const Elementspalte& spalte)
 
 std::string textFor(const clsElement& element, const Elementspalte& spalte, const auto& wert)
 {
-    const Zellquelle* const zelle = findZelle(element.symbol(), spalte.name);
-    if (zelle != nullptr && istWert(wert, zelle->wert))
+    const auto zelle = findZelle(element.symbol(), spalte);
+    if (zelle && istWert(wert, zelle->wert))
         return istBekannt(wert) ? sourceLines(*zelle->quelle) : "unbekannt: " + std::string(zelle->quelle->bemerkung);
     return std::string(istBekannt(wert) ? EigenerWert : "unbekannt: fehlt in der Elementtabelle")
         + otherValue(zelle, spalte);

@@ -1,7 +1,11 @@
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <span>
 #include <string_view>
+
+#include "core/Elementspalten.h"
 
 namespace zerna {
 
@@ -13,15 +17,16 @@ struct Quelle {
     std::string_view bemerkung;
 };
 
-/// The source of one cell of the shipped element table.
-struct Zellquelle {
+/// The sources of one element's values in the shipped table.
+struct Zeilenquelle {
     std::string_view symbol;
-    std::string_view spalte; ///< name of the column, see Elementspalten.h
-    std::string_view wert; ///< that the source is for, as in the CSV table; empty for a missing one
-    const Quelle* quelle = nullptr;
+    std::string_view
+        werte; ///< that the sources are for: as in the CSV table, a tab behind each; missing ones are empty
+    std::array<std::uint8_t, Elementspalten.size()> quellen; ///< of each value, its place in Quellen
 };
 
-/// All cells of the shipped table. Made from data/elemente.csv and data/quellen.csv by the build.
-extern const std::span<const Zellquelle> Zellquellen;
+/// All sources, and the elements of the shipped table. Made from data/elemente.csv and data/quellen.csv by the build.
+extern const std::span<const Quelle> Quellen;
+extern const std::span<const Zeilenquelle> Quellzeilen;
 
 } // namespace zerna
