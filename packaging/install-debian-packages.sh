@@ -8,7 +8,7 @@
 set -euo pipefail
 
 tools=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev zlib1g-dev libexpat1-dev)
-window=(pkg-config libmd4c-dev libmd4c-html0-dev qt6-base-dev qt6-svg-dev qt6-translations-l10n fonts-dejavu-core)
+window=(pkg-config libmd4c-dev libmd4c-html0-dev libqpdf-dev qt6-base-dev qt6-svg-dev qt6-translations-l10n fonts-dejavu-core)
 program=("${tools[@]}" "${window[@]}" qt6-wayland)
 tests=("${tools[@]}" "${window[@]}" qt6-base-private-dev libgtest-dev libgmock-dev python3 python3-jsonschema)
 bench=("${tools[@]}" "${window[@]}" libbenchmark-dev libmuparser-dev)

@@ -8,6 +8,7 @@
 
 #include "handbuchprogramm/Handbuchhtml.h"
 #include "handbuchprogramm/Handbuchpdf.h"
+#include "handbuchprogramm/Pdfbilder.h"
 #include "ui/hilfe/Handbuch.h"
 
 namespace {
@@ -32,7 +33,12 @@ void makePages(const QString& from, const QString& to, const QString& version)
     QFile html(to + QStringLiteral("/handbuch.html"));
     if (!html.open(QIODevice::WriteOnly) || html.write(zerna::handbuchhtml(text)) < 0 || !html.flush())
         throw std::runtime_error("cannot write " + html.fileName().toStdString());
-    zerna::schreibeHandbuchpdf(text, from, version, to + QStringLiteral("/handbuch.pdf"));
+    const QString pdf = to + QStringLiteral("/handbuch.pdf");
+    zerna::schreibeHandbuchpdf(text, from, version, pdf);
+    QStringList pictures = zerna::handbuchbilder(text);
+    for (QString& picture : pictures)
+        picture.prepend(from + QLatin1Char('/'));
+    zerna::packePdfbilder(pdf, pictures);
 }
 
 } // namespace
