@@ -15,7 +15,12 @@
 
 #include <algorithm>
 
+#ifndef _WIN32
+#include "core/Datei.h"
+#include "core/Plattform.h"
+#endif
 #include "ui/platform/Farben.h"
+#include "ui/platform/QtText.h"
 
 namespace zerna {
 
@@ -194,6 +199,15 @@ QString handbuchanker(const QString& titel)
             anchor.append(QLatin1Char('-'));
     }
     return anchor;
+}
+
+QString handbuchbilderordner()
+{
+#ifdef Q_OS_WIN
+    return QLatin1String(Handbuchordner);
+#else
+    return toQt(utf8FromPath(executableFolder() / "handbuch"));
+#endif
 }
 
 QString handbuchtext(const QString& ordner)

@@ -11,8 +11,11 @@ class QTextDocument;
 /// The manual as a document: its source is Markdown, the same that other pages are made from.
 namespace zerna {
 
-/// Where the manual and its pictures are inside the program.
+/// Where the text of the manual is inside the program.
 inline constexpr auto Handbuchordner = ":/handbuch";
+
+/// Where its pictures are: beside the program, since its pages show the same ones; on Windows inside it.
+QString handbuchbilderordner();
 
 /// How the manual is to look.
 struct Handbuchstil {

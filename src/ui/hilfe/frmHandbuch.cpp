@@ -193,8 +193,7 @@ void frmHandbuch::setze()
     m_breite = zeilenbreite();
     style.breite = m_breite;
     auto* const document = new QTextDocument(this); // without a view nothing is laid out while it is made
-    m_abschnitte =
-        setzeHandbuch(*document, handbuchtext(QLatin1String(Handbuchordner)), QLatin1String(Handbuchordner), style);
+    m_abschnitte = setzeHandbuch(*document, handbuchtext(QLatin1String(Handbuchordner)), handbuchbilderordner(), style);
     document->setDocumentMargin(margin);
     m_text->setLineWrapMode(QTextEdit::FixedPixelWidth);
     m_text->setLineWrapColumnOrWidth(m_breite + 2 * margin);

@@ -78,7 +78,8 @@ TEST_F(HilfeTest, LinksInTheManualLeadSomewhere)
         for (auto it = text.begin(); !it.atEnd(); ++it) {
             const QTextCharFormat format = it.fragment().charFormat();
             if (format.isImageFormat())
-                EXPECT_FALSE(QPixmap(QStringLiteral(":/handbuch/") + format.toImageFormat().name()).isNull())
+                EXPECT_FALSE(
+                    QPixmap(handbuchbilderordner() + QLatin1Char('/') + format.toImageFormat().name()).isNull())
                     << format.toImageFormat().name().toStdString();
             else if (const QString target = format.anchorHref(); !target.isEmpty()) {
                 EXPECT_NE(findeAbschnitt(handbuch().abschnitte(), target.mid(1)), nullptr) << target.toStdString();
