@@ -73,14 +73,12 @@ struct FakeDesk : testing::Test {
         return *widget;
     }
 
-    /// What the user reads in a field, list or label.
+    /// What the user reads in a field, list, label or value.
     std::string text(const char* name) const
     {
-        if (const auto* const field = qobject_cast<QLineEdit*>(&find(name)))
-            return field->text().toStdString();
         if (const auto* const list = qobject_cast<QComboBox*>(&find(name)))
             return list->currentText().toStdString();
-        return find<QLabel>(name).text().toStdString();
+        return find(name).property("text").toString().toStdString();
     }
 
     /// The texts of several fields, lists or labels, separated by "|".

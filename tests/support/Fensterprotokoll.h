@@ -144,9 +144,10 @@ inline Anblick lookAt(QWidget& widget)
                 entries += action->toolTip();
         }
     } else if (const auto* const label = qobject_cast<QLabel*>(&widget)) {
-        const auto* const value = qobject_cast<const Wertanzeige*>(&widget);
         seen.text = oneLine(label->text());
-        seen.isPale = value != nullptr && value->istBlass();
+    } else if (const auto* const value = qobject_cast<const Wertanzeige*>(&widget)) {
+        seen.text = oneLine(value->text());
+        seen.isPale = value->istBlass();
     } else if (const auto* const button = qobject_cast<QAbstractButton*>(&widget)) {
         seen.text = button->accessibleName().toStdString() + (button->isChecked() ? " (checked)" : "");
     } else if (const auto* const table = qobject_cast<QTableView*>(&widget)) {

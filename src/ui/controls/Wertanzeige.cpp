@@ -3,6 +3,7 @@
 #include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QPaintEvent>
 #include <QPainter>
 
 #include <numeric>
@@ -15,45 +16,59 @@ namespace zerna {
 
 namespace {
 
-/// The font, as much narrower as a text needs it. Each width is a font of its own to the toolkit: few are tried.
-QFont fitting(QFont font, const QString& text, int width)
+/// The font, as much narrower as a text needs it that is too wide. Each width is a font of its own to the toolkit: few
+/// are tried.
+QFont narrower(const QFont& font, const QString& text, int width)
 {
     constexpr int Narrowest = 75; // percent
     constexpr int Normal = 100;
     const auto stretched = [&font](int stretch) {
         QFont result = font;
-        if (stretch < Normal)
-            result.setStretch(stretch);
+        result.setStretch(stretch);
         return result;
     };
-    const auto isTooWide = [&](int stretch) {
-        return QFontMetrics(stretched(stretch)).horizontalAdvance(text) > width;
-    };
-    if (!isTooWide(Normal))
-        return font;
     int fits = Narrowest;
     for (int over = Normal; over - fits > 1;) {
         const int middle = std::midpoint(fits, over);
-        (isTooWide(middle) ? over : fits) = middle;
+        const bool isTooWide = QFontMetrics(stretched(middle)).horizontalAdvance(text) > width;
+        (isTooWide ? over : fits) = middle;
     }
     return stretched(fits);
+}
+
+/// One line of text from a place on, in the middle of a height. The toolkit's own alignment lays the text out first,
+/// which takes longer than drawing it.
+void drawLine(QPainter& painter, double left, const QRect& area, const QString& text)
+{
+    const QFontMetricsF metrics(painter.font());
+    const double top = area.top() + (area.height() - metrics.height()) / 2;
+    painter.drawText(QPointF(left, top + metrics.ascent()), text);
 }
 
 } // namespace
 
 Wertanzeige::Wertanzeige(QWidget* parent)
-    : QLabel(parent)
+    : QWidget(parent)
     , m_ansage(new Ansage(this, QAccessible::ValueChanged))
 {
+    setSizePolicy({QSizePolicy::Preferred, QSizePolicy::Preferred, QSizePolicy::Label});
     setFocusPolicy(Qt::StrongFocus);
-    setTextFormat(Qt::PlainText);
+    setAutoFillBackground(true);
 }
 
 void Wertanzeige::zeige(const QString& shown)
 {
-    if (shown == text())
+    if (shown == m_text)
         return;
-    setText(shown);
+    const int before = textWidth();
+    const bool hadColumns = hasColumns();
+    m_text = shown;
+    if (textWidth() != before)
+        updateGeometry();
+    if (hadColumns && hasColumns())
+        update(numberArea());
+    else
+        update();
     m_ansage->merke();
 }
 
@@ -85,7 +100,7 @@ void Wertanzeige::setBlass(bool blass)
 QSize Wertanzeige::sizeHint() const
 {
     if (m_numberWidth == 0)
-        return QLabel::sizeHint();
+        return {textWidth(), fontMetrics().height()};
     const int unit = fontMetrics().horizontalAdvance(m_einheit + m_marke) + 1;
     return {m_numberWidth + 2 * m_margin + einheitenabstand(fontMetrics()) + unit, fontMetrics().height()};
 }
@@ -93,14 +108,14 @@ QSize Wertanzeige::sizeHint() const
 bool Wertanzeige::event(QEvent* event)
 {
     if (event->type() != QEvent::ToolTip)
-        return QLabel::event(event);
+        return QWidget::event(event);
     emit hintRequested(static_cast<QHelpEvent*>(event)->globalPos());
     return true;
 }
 
 void Wertanzeige::changeEvent(QEvent* event)
 {
-    QLabel::changeEvent(event);
+    QWidget::changeEvent(event);
     update();
 }
 
@@ -118,7 +133,7 @@ void Wertanzeige::keyPressEvent(QKeyEvent* event)
     else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space)
         emit detailsRequested();
     else
-        QLabel::keyPressEvent(event);
+        QWidget::keyPressEvent(event);
 }
 
 void Wertanzeige::mouseReleaseEvent(QMouseEvent* event)
@@ -128,7 +143,7 @@ void Wertanzeige::mouseReleaseEvent(QMouseEvent* event)
     else if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
         emit detailsRequested();
     else
-        QLabel::mouseReleaseEvent(event);
+        QWidget::mouseReleaseEvent(event);
 }
 
 /// A frame that no theme can hide, with a breath of its colour inside.
@@ -144,27 +159,46 @@ void Wertanzeige::paintFocus(QPainter& painter) const
     painter.restore();
 }
 
-void Wertanzeige::paintEvent(QPaintEvent*)
+/// That the size follows from: 0 where the columns have their widths.
+int Wertanzeige::textWidth() const
+{
+    return m_numberWidth > 0 ? 0 : fontMetrics().size(Qt::TextSingleLine, m_text).width();
+}
+
+/// Whether number and unit are shown apart.
+bool Wertanzeige::hasColumns() const
+{
+    return m_numberWidth > 0 && m_text.endsWith(m_einheit) && m_text.size() > m_einheit.size();
+}
+
+QRect Wertanzeige::numberArea() const { return {0, 0, m_margin + m_numberWidth, height()}; }
+
+void Wertanzeige::paintNumber(QPainter& painter) const
+{
+    const QString number = gezeigt(m_text.chopped(m_einheit.size()).trimmed());
+    const QRect area = numberArea();
+    double width = QFontMetricsF(font()).horizontalAdvance(number);
+    if (qRound(width) > area.width()) {
+        painter.setFont(narrower(font(), number, area.width()));
+        width = QFontMetricsF(painter.font()).horizontalAdvance(number);
+    }
+    drawLine(painter, area.width() - width, area, number);
+    painter.setFont(font());
+}
+
+void Wertanzeige::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
     if (hasFocus())
         paintFocus(painter);
     const QColor colour = palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText);
     painter.setPen(m_blass ? abgeschwaecht(palette()) : colour);
-    const bool columns = m_numberWidth > 0 && text().endsWith(m_einheit) && text().size() > m_einheit.size();
-    const QRect area = contentsRect();
-    if (columns) {
-        const QString number = gezeigt(text().chopped(m_einheit.size()).trimmed());
-        const int width = m_margin + m_numberWidth;
-        painter.setFont(fitting(font(), number, width));
-        painter.drawText(
-            QRect(area.left(), area.top(), width, area.height()), Qt::AlignRight | Qt::AlignVCenter, number);
-        painter.setFont(font());
-        painter.drawText(area.adjusted(width + m_margin + einheitenabstand(fontMetrics()), 0, 0, 0),
-            Qt::AlignLeft | Qt::AlignVCenter, m_einheit + m_marke);
-    } else {
-        painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, gezeigt(text()));
-    }
+    if (!hasColumns())
+        return drawLine(painter, 0, rect(), gezeigt(m_text));
+    paintNumber(painter);
+    const int unit = numberArea().width() + m_margin + einheitenabstand(fontMetrics());
+    if (event->rect().right() >= unit) // not for another number alone
+        drawLine(painter, unit, rect(), m_einheit + m_marke);
 }
 
 } // namespace zerna

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QLabel>
+#include <QWidget>
 
 namespace zerna {
 
@@ -9,15 +9,18 @@ class Ansage;
 /// One result value: number and unit stand in columns, so that the units of all lines are aligned. It paints the number
 /// with a true minus sign and a power of ten; its text stays the given one. Takes the keyboard
 /// focus; Ctrl+C copies what it shows, the right mouse button or the menu key asks for its menu, a click, Enter or the
-/// space bar for the details of its value.
-class Wertanzeige : public QLabel {
+/// space bar for the details of its value. Another text of the same width asks for no layout, and what lies behind it
+/// is not painted with it.
+class Wertanzeige : public QWidget {
     Q_OBJECT
+    Q_PROPERTY(QString text READ text)
 
 public:
     explicit Wertanzeige(QWidget* parent = nullptr);
 
     /// Shows a text; screen readers are told once the user pauses.
     void zeige(const QString& shown);
+    const QString& text() const { return m_text; }
 
     /// The unit that texts end in, and the width of the number column in front of it (0: text as one piece), which has
     /// a margin on both sides so that numbers and units stand below those of fields.
@@ -52,9 +55,14 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    int textWidth() const;
+    bool hasColumns() const;
+    QRect numberArea() const;
     void paintFocus(QPainter& painter) const;
+    void paintNumber(QPainter& painter) const;
 
     Ansage* m_ansage;
+    QString m_text;
     QString m_einheit;
     bool m_blass = false;
     int m_numberWidth = 0; // logical pixels

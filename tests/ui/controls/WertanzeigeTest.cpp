@@ -11,7 +11,7 @@ TEST(WertanzeigeTest, PaintsUnitsInAColumnAndMinusAndPowerAsTheyAreWritten)
     anzeige.resize(160, 24);
     anzeige.setEinheit("eV", NumberWidth);
     const auto painted = [&anzeige](const char* text, int from = 0) {
-        anzeige.setText(text);
+        anzeige.zeige(text);
         EXPECT_EQ(anzeige.text(), text);
         return anzeige.grab(QRect(from, 0, 160 - from, 24)).toImage();
     };

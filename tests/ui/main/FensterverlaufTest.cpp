@@ -39,8 +39,8 @@ struct FensterverlaufTest : FakeDesk {
                 text = field->text() + QLatin1Char('|') + field->toolTip();
             else if (const auto* const list = qobject_cast<const QComboBox*>(widget))
                 text = list->currentText();
-            else if (const auto* const label = qobject_cast<const QLabel*>(widget))
-                text = label->text();
+            else if (qobject_cast<const QAbstractButton*>(widget) == nullptr)
+                text = widget->property("text").toString();
             all[(widget->parentWidget()->objectName() + '/' + widget->objectName()).toStdString()] = text.toStdString();
         }
         return all;
