@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QFontDatabase>
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QPainter>
@@ -61,6 +62,26 @@ QString elidedLines(const QString& caption, const QFontMetrics& metrics, int wid
     return lines.join(u'\n');
 }
 
+/// Looked for once: asking the toolkit for a family that is missing costs a search each time.
+const QStringList& captionFamilies()
+{
+    static const QStringList families =
+        QFontDatabase::hasFamily(QStringLiteral("Tahoma")) ? QStringList{QStringLiteral("Tahoma")} : QStringList();
+    return families;
+}
+
+/// Most buttons have the palette of the one before.
+const ButtonTheme& themeOf(const QPalette& palette)
+{
+    static qint64 key = palette.cacheKey();
+    static ButtonTheme theme = themeFromPalette(palette);
+    if (key != palette.cacheKey()) {
+        key = palette.cacheKey();
+        theme = themeFromPalette(palette);
+    }
+    return theme;
+}
+
 QString toHtml(const QString& plain) { return plain.toHtmlEscaped().replace(u'\n', QStringLiteral("<br>")); }
 
 } // namespace
@@ -103,7 +124,7 @@ StyledButton::StyledButton(const QString& caption, QWidget* parent)
 {
     setAttribute(Qt::WA_Hover); // not every style sets it
     QFont font; // Only the families are set: size and weight still come from the parent.
-    font.setFamilies({QStringLiteral("Tahoma"), QApplication::font().family()});
+    font.setFamilies(captionFamilies() + QApplication::font().families());
     setFont(font);
     setText(caption);
     refreshTheme();
@@ -193,10 +214,12 @@ void StyledButton::paintEvent(QPaintEvent*)
     const ButtonLook look = lookOf(m_theme, condition());
     const QRect inside = paintFrame(painter, look).toAlignedRect();
     const QRect area = inside.adjusted(SmallestMargin, 0, -SmallestMargin, 0);
-    const ContentGeometry content =
-        layOutContent(area, pictureSize(), fontMetrics().size(Qt::TextShowMnemonic, text()));
+    const QSize caption = fontMetrics().size(Qt::TextShowMnemonic, text());
+    const ContentGeometry content = layOutContent(area, pictureSize(), caption);
+    const bool fits = caption.width() <= content.caption.width();
     paintPicture(painter, content.picture);
-    paintCaption(painter, content.caption, look);
+    paintCaption(
+        painter, content.caption, fits ? text() : elidedLines(text(), fontMetrics(), content.caption.width()), look);
 }
 
 ButtonCondition StyledButton::condition() const
@@ -207,7 +230,7 @@ ButtonCondition StyledButton::condition() const
 void StyledButton::refreshTheme()
 {
     const std::optional<ButtonTheme> common = applicationTheme();
-    const ButtonTheme theme = common ? *common : themeFromPalette(palette());
+    const ButtonTheme theme = common ? *common : themeOf(palette());
     if (m_theme == theme)
         return;
     m_theme = theme;
@@ -289,7 +312,8 @@ void StyledButton::paintPicture(QPainter& painter, const QRect& area) const
     painter.drawPixmap(toDevice.inverted().map(QPointF(corner.toPoint())), picture);
 }
 
-void StyledButton::paintCaption(QPainter& painter, const QRect& area, const ButtonLook& look) const
+void StyledButton::paintCaption(
+    QPainter& painter, const QRect& area, const QString& caption, const ButtonLook& look) const
 {
     if (area.isEmpty())
         return;
@@ -297,7 +321,6 @@ void StyledButton::paintCaption(QPainter& painter, const QRect& area, const Butt
     option.initFrom(this);
     const bool underline = style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this) != 0;
     const int flags = Qt::AlignCenter | Qt::TextDontClip | (underline ? Qt::TextShowMnemonic : Qt::TextHideMnemonic);
-    const QString caption = elidedLines(text(), fontMetrics(), area.width());
     const qreal ratio = painter.deviceTransform().m11();
     const qreal step = std::max(1.0, std::floor(ratio)) / ratio;
     for (const CaptionLayer& layer : captionLayers(m_captionEffect, look.text)) {

@@ -77,7 +77,7 @@ private:
     QPixmap currentPicture(qreal devicePixelRatio) const;
     QRectF paintFrame(QPainter& painter, const ButtonLook& look) const;
     void paintPicture(QPainter& painter, const QRect& area) const;
-    void paintCaption(QPainter& painter, const QRect& area, const ButtonLook& look) const;
+    void paintCaption(QPainter& painter, const QRect& area, const QString& caption, const ButtonLook& look) const;
 
     ButtonTheme m_theme;
     std::map<ButtonState, QIcon> m_pictures; // all but Normal, which is icon()
