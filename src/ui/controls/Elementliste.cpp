@@ -94,8 +94,16 @@ private:
 Elementliste::Elementliste(QWidget* parent)
     : QComboBox(parent)
 {
-    setView(new Symbolansicht(this));
-    setItemDelegate(new Namensspalte(this));
+}
+
+QAbstractItemView* Elementliste::view()
+{
+    if (!m_hasView) {
+        m_hasView = true;
+        setView(new Symbolansicht(this));
+        setItemDelegate(new Namensspalte(this));
+    }
+    return QComboBox::view();
 }
 
 void Elementliste::setName(int position, const QString& name)
@@ -106,6 +114,7 @@ void Elementliste::setName(int position, const QString& name)
 
 void Elementliste::keyPressEvent(QKeyEvent* event)
 {
+    view(); // finds what is typed
     m_isTyping = !event->text().trimmed().isEmpty();
     QComboBox::keyPressEvent(event);
     m_isTyping = false;

@@ -12,7 +12,14 @@ class Elementliste : public QComboBox {
 public:
     explicit Elementliste(QWidget* parent = nullptr);
 
+    /// Its size is given: no entry is measured for it.
+    QSize sizeHint() const override { return minimumSize(); }
+    QSize minimumSizeHint() const override { return minimumSize(); }
+
     void setName(int position, const QString& name);
+
+    /// The open list, made when it is first asked for.
+    QAbstractItemView* view();
 
     void showPopup() override;
 
@@ -24,6 +31,7 @@ protected:
 
 private:
     bool m_isTyping = false;
+    bool m_hasView = false;
 };
 
 } // namespace zerna

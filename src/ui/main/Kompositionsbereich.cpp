@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QStandardItemModel>
 
 #include <algorithm>
 #include <tuple>
@@ -61,8 +62,9 @@ void Kompositionsbereich::createControls()
         m_heads.at(i) = new QLabel(heads.at(i).second, this);
         m_heads.at(i)->setObjectName(QLatin1String(heads.at(i).first));
     }
+    m_elemente = new QStandardItemModel(0, 1, this);
     for (int row = 0; row < MaxKomponenten; ++row) {
-        m_zeilen.at(static_cast<std::size_t>(row)) = new Kompositionszeile(row, this);
+        m_zeilen.at(static_cast<std::size_t>(row)) = new Kompositionszeile(row, *m_elemente, this);
         connectRow(row);
     }
 }
@@ -160,7 +162,13 @@ void Kompositionsbereich::restoreCount()
 
 void Kompositionsbereich::addElement(int list, std::string_view symbol, int itemData)
 {
-    at(list).addElement(symbol, itemData);
+    if (list != 0)
+        return; // all lists show what the first one is given
+    at(0).addElement(symbol, itemData);
+    if (m_elemente->rowCount() > 1)
+        return;
+    for (Kompositionszeile* const zeile : m_zeilen) // the toolkit selects the first entry, start-up chooses
+        zeile->waehleKeines();
 }
 
 std::string Kompositionsbereich::elementEntry(int list, int position) const
@@ -179,11 +187,7 @@ void Kompositionsbereich::chooseElement(int row, int position)
         elementChosen(row, key);
 }
 
-void Kompositionsbereich::nenneElemente()
-{
-    for (Kompositionszeile* const zeile : m_zeilen)
-        zeile->nenneElemente(m_programm.ElementCollection());
-}
+void Kompositionsbereich::nenneElemente() { at(0).nenneElemente(m_programm.ElementCollection()); }
 
 void Kompositionsbereich::focusFirstField() { at(0).focusProzent(); }
 

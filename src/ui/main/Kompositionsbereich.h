@@ -10,6 +10,7 @@
 #include "ui/controls/Schritt.h"
 
 class QLabel;
+class QStandardItemModel;
 
 namespace zerna {
 
@@ -102,6 +103,7 @@ private:
     Dichteschalter* m_dichteschalter = nullptr;
     Anteilskoepfe* m_anteilskoepfe = nullptr;
     std::array<QLabel*, 3> m_heads{};
+    QStandardItemModel* m_elemente = nullptr; // the entries of all element lists
     std::array<Kompositionszeile*, MaxKomponenten> m_zeilen{};
     std::string m_gemeldet; // the formula whose unknown functions have been spoken of
 };

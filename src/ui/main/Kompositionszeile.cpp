@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QGridLayout>
+#include <QLineEdit>
 
 #include <algorithm>
 #include <cmath>
@@ -63,7 +64,7 @@ void write(Wertfeld& feld, const Eingabefeld& eingabe)
 
 } // namespace
 
-Kompositionszeile::Kompositionszeile(int row, QWidget* panel)
+Kompositionszeile::Kompositionszeile(int row, QAbstractItemModel& elemente, QWidget* panel)
     : QObject(panel)
     , m_row(row)
     , m_cmbElement(make<Elementliste>(panel, "cmbElement", row, QStringLiteral("Element")))
@@ -75,6 +76,7 @@ Kompositionszeile::Kompositionszeile(int row, QWidget* panel)
     , m_cmbValenz(make<QComboBox>(panel, "cmbValenz", row, QStringLiteral("Auswahl der Valenz")))
     , m_txtValenz(make<Wertfeld>(panel, "txtValenz", row, QStringLiteral("Valenz")))
 {
+    m_cmbElement->setModel(&elemente);
     connectControls();
 }
 
@@ -109,30 +111,38 @@ void Kompositionszeile::layOut(QGridLayout& grid, int gridRow)
     // A long name must not push the columns; it is cut and the tool tip has it whole.
     m_lblElement->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     for (QWidget* const widget : widgets())
-        folgeSchrift(widget, [this] { measure(); });
+        folgeSchrift(widget, [this, widget] { measure(*widget); });
 }
 
-/// Widths that leave room for the longest entries and for usual numbers; a longer text scrolls in its field.
-void Kompositionszeile::measure()
+/// What a control has room for: the longest entries and usual numbers; a longer text scrolls in its field.
+QString Kompositionszeile::widest(const QWidget* widget) const
 {
-    for (QWidget* const widget : widgets())
-        widget->setFixedHeight(feldhoehe(*widget));
-    m_cmbElement->setFixedWidth(listenbreite(*m_cmbElement, QStringLiteral("Mm")));
-    m_lblElement->setMinimumWidth(m_lblElement->fontMetrics().horizontalAdvance(QStringLiteral("Aluminium")));
-    typed().setFixedWidth(feldbreite(typed(), QStringLiteral("33,33333")));
-    computed().setFixedWidth(feldbreite(computed(), QStringLiteral("-99,99")));
-    m_cmdDichte->setFixedWidth(listenbreite(*m_cmdDichte, QStringLiteral("<andere>")));
-    m_txtDichte->setFixedWidth(feldbreite(*m_txtDichte, QStringLiteral("22,5870")));
-    m_cmbValenz->setFixedWidth(listenbreite(*m_cmbValenz, QStringLiteral("d-Elektronen")));
-    m_txtValenz->setFixedWidth(feldbreite(*m_txtValenz, QStringLiteral("<unbekannt>")));
+    const std::array<std::pair<const QWidget*, QString>, 8> texts{
+        {{m_cmbElement, QStringLiteral("Mm")}, {m_lblElement, QStringLiteral("Aluminium")},
+            {&typed(), QStringLiteral("33,33333")}, {&computed(), QStringLiteral("-99,99")},
+            {m_cmdDichte, QStringLiteral("<andere>")}, {m_txtDichte, QStringLiteral("22,5870")},
+            {m_cmbValenz, QStringLiteral("d-Elektronen")}, {m_txtValenz, QStringLiteral("<unbekannt>")}}};
+    return std::ranges::find(texts, widget, &std::pair<const QWidget*, QString>::first)->second;
+}
+
+void Kompositionszeile::measure(QWidget& widget)
+{
+    const QString text = widest(&widget);
+    widget.setFixedHeight(feldhoehe(widget));
+    if (const auto* const field = qobject_cast<QLineEdit*>(&widget))
+        widget.setFixedWidth(feldbreite(*field, text));
+    else if (const auto* const list = qobject_cast<QComboBox*>(&widget))
+        widget.setFixedWidth(listenbreite(*list, text));
+    else
+        widget.setMinimumWidth(widget.fontMetrics().horizontalAdvance(text));
 }
 
 void Kompositionszeile::addElement(std::string_view symbol, int itemData)
 {
     m_cmbElement->addItem(toQt(symbol), itemData);
-    if (m_cmbElement->count() == 1)
-        m_cmbElement->setCurrentIndex(-1); // the toolkit selects the first entry, start-up chooses
 }
+
+void Kompositionszeile::waehleKeines() { m_cmbElement->setCurrentIndex(-1); }
 
 QString Kompositionszeile::elementEntry(int position) const { return m_cmbElement->itemText(position); }
 
@@ -185,7 +195,8 @@ void Kompositionszeile::zeigeAnteile(const Eingabe& eingabe, const std::array<st
     const bool movesFocus = m_einheit != eingabe.einheit() && typed().window()->focusWidget() == &typed();
     if (m_einheit != eingabe.einheit()) {
         m_einheit = eingabe.einheit();
-        measure();
+        measure(typed());
+        measure(computed());
         computed().setFehler({});
         computed().setBedenken({});
     }

@@ -12,6 +12,7 @@
 #include "model/Befund.h"
 #include "model/Eingabe.h"
 
+class QAbstractItemModel;
 class QComboBox;
 class QGridLayout;
 
@@ -27,13 +28,14 @@ class Kompositionszeile : public QObject {
     Q_OBJECT
 
 public:
-    /// Makes the controls, hidden, on `panel`; `row` counts from 0.
-    Kompositionszeile(int row, QWidget* panel);
+    /// Makes the controls, hidden, on `panel`; `row` counts from 0. The element lists of all rows share their entries.
+    Kompositionszeile(int row, QAbstractItemModel& elemente, QWidget* panel);
 
     void layOut(QGridLayout& grid, int gridRow);
 
     // The element list, as start-up fills it.
     void addElement(std::string_view symbol, int itemData);
+    void waehleKeines();
     QString elementEntry(int position) const;
     int findElementEntry(std::string_view text) const;
 
@@ -71,7 +73,8 @@ signals:
 private:
     std::array<QWidget*, 8> widgets() const;
     void connectControls();
-    void measure();
+    QString widest(const QWidget* widget) const;
+    void measure(QWidget& widget);
     void zeigeAnteile(const Eingabe& eingabe, const std::array<std::vector<Eingabefeld>, 2>& anteile);
     Wertfeld& typed() const { return m_einheit == Anteilseinheit::Atom ? *m_txtProzent : *m_txtMasse; }
     Wertfeld& computed() const { return m_einheit == Anteilseinheit::Atom ? *m_txtMasse : *m_txtProzent; }

@@ -35,7 +35,6 @@ QComboBox* Messseite::makeList(const char* name, const QString& accessibleName)
     list->setObjectName(QLatin1String(name));
     list->setAccessibleName(accessibleName);
     list->setToolTip(accessibleName);
-    list->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     folgeSchrift(list, [list] { list->setFixedHeight(feldhoehe(*list)); });
     return list;
 }
@@ -43,7 +42,6 @@ QComboBox* Messseite::makeList(const char* name, const QString& accessibleName)
 void Messseite::createLists()
 {
     m_cmbMesskurve = makeList("cmbMesskurve", QStringLiteral("Messkurve"));
-    m_cmbMesskurve->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_cmbMesskurve->setMinimumContentsLength(8);
     connect(m_cmbMesskurve, &QComboBox::activated, this, [this](int index) {
         m_gewaehlt = index;
@@ -64,6 +62,15 @@ void Messseite::createLists()
             QStringLiteral("Einheit der Messkurve"),
             [](Messkurve& kurve, int value) { kurve.einheit = static_cast<Messeinheit>(value); }, index);
     });
+}
+
+/// The lists follow their entries from when they are seen: until then it would only cost them their open lists.
+void Messseite::showEvent(QShowEvent* event)
+{
+    m_cmbMesskurve->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_cmbMessart->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    m_cmbMesseinheit->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    Diagrammseite::showEvent(event);
 }
 
 void Messseite::createButtons()

@@ -35,6 +35,9 @@ public:
 signals:
     void oeffnenRequested();
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     QComboBox* makeList(const char* name, const QString& accessibleName);
     void createLists();
