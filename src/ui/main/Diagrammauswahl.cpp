@@ -19,16 +19,29 @@ namespace {
 /// Intended: right after the start "Elektronendichte" stands last although its code is 2.
 constexpr std::array AnfangsGroessen{0, 1, 3, 4, 5, 6, 7, 8, 9, 10, 2};
 
+/// A list that likes to be as wide as an empty one: that has room for every symbol, whichever stand in it.
+class Symbolliste : public QComboBox {
+public:
+    using QComboBox::QComboBox;
+
+    QSize sizeHint() const override
+    {
+        const int symbol = 7 * fontMetrics().horizontalAdvance(QLatin1Char('x'));
+        return {listenbreite(*this, {}) + symbol, QComboBox::sizeHint().height()};
+    }
+};
+
 } // namespace
 
 Diagrammauswahl::Diagrammauswahl(Programm& programm, const std::vector<Diagrammseite*>& seiten, QWidget* parent)
     : QWidget(parent)
     , m_programm(programm)
     , m_seiten(seiten)
-    , m_cmbDiagrammTyp(makeList("cmbDiagramm_Typ", QStringLiteral("Diagrammtyp")))
-    , m_cmbDiagramm(makeList("cmbDiagramm", QStringLiteral("Größe")))
+    , m_cmbDiagrammTyp(makeList(new QComboBox(this), "cmbDiagramm_Typ", QStringLiteral("Diagrammtyp")))
+    , m_cmbDiagramm(makeList(new QComboBox(this), "cmbDiagramm", QStringLiteral("Größe")))
     , m_lehrbuch(new Lehrbuchmarke(programm, this))
-    , m_cmbDiagrammElement(makeList("cmbDiagramm_Element", QStringLiteral("Komponente entlang der Achse")))
+    , m_cmbDiagrammElement(
+          makeList(new Symbolliste(this), "cmbDiagramm_Element", QStringLiteral("Komponente entlang der Achse")))
 {
     for (const Diagrammseite* const seite : m_seiten)
         m_cmbDiagrammTyp->addItem(seite->titel());
@@ -44,9 +57,8 @@ Diagrammauswahl::Diagrammauswahl(Programm& programm, const std::vector<Diagramms
     layOut();
 }
 
-QComboBox* Diagrammauswahl::makeList(const char* name, const QString& accessibleName)
+QComboBox* Diagrammauswahl::makeList(QComboBox* list, const char* name, const QString& accessibleName)
 {
-    auto* list = new QComboBox(this);
     list->setObjectName(QLatin1String(name));
     list->setAccessibleName(accessibleName);
     list->setToolTip(accessibleName);

@@ -44,7 +44,7 @@ signals:
     void komponenteChosen(const QString& symbol);
 
 private:
-    QComboBox* makeList(const char* name, const QString& accessibleName);
+    QComboBox* makeList(QComboBox* list, const char* name, const QString& accessibleName);
     void layOut();
     void fillQuantities(std::span<const int> quantities);
     Diagrammwahl& wahl() { return m_programm.Dokument().diagramm; }

@@ -51,14 +51,37 @@ StyledButton* makeSwitch(QWidget* parent, const QString& caption, const QString&
     return button;
 }
 
-/// A panel fills its place as long as that is large enough; else it scrolls, and what has the focus is seen.
+/// A panel fills its place as long as that is large enough; else it scrolls. The window's size does not follow from the
+/// panels in it: none is asked for the size it likes, and none is laid out before it is shown.
+class Rollflaeche : public QScrollArea {
+public:
+    explicit Rollflaeche(QWidget* panel)
+        : m_panel(panel)
+    {
+        panel->setParent(viewport());
+    }
+
+    QSize sizeHint() const override { return minimumSizeHint(); }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override // the first one comes with the first show
+    {
+        if (widget() == nullptr)
+            setWidget(m_panel);
+        QScrollArea::resizeEvent(event);
+    }
+
+private:
+    QWidget* m_panel;
+};
+
+/// With the panel; what has the focus is seen.
 QScrollArea* scrolling(QWidget* panel)
 {
-    auto* area = new QScrollArea;
+    auto* area = new Rollflaeche(panel);
     area->setFrameShape(QFrame::NoFrame);
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidgetResizable(true);
-    area->setWidget(panel);
     QObject::connect(qApp, &QApplication::focusChanged, area, [area, panel](const QWidget*, QWidget* now) {
         if (now != nullptr && panel->isAncestorOf(now))
             area->ensureWidgetVisible(now);

@@ -1,3 +1,5 @@
+#include <QAbstractItemView>
+
 #include "support/FakeDesk.h"
 #include "support/Zaehlwerk.h"
 
@@ -36,6 +38,17 @@ TEST_F(AufwandTest, TheStartAndEveryKeyCalculateOnce)
         EXPECT_EQ(key.rechnungen, 1);
         EXPECT_EQ(key.diagramme, 1);
     }
+}
+
+TEST_F(AufwandTest, TheStartLeavesWhatIsNotSeen)
+{
+    open();
+    for (const char* const panel : {"Pic_1_1", "Pic_1_2"})
+        EXPECT_FALSE(find(panel).testAttribute(Qt::WA_Resized)) << panel << " is laid out when it is shown";
+    EXPECT_EQ(find("cmbElement_0").findChild<QAbstractItemView*>(), nullptr) << "made when it is opened";
+    EXPECT_EQ(find<QComboBox>("cmbElement_0").model(), find<QComboBox>("cmbElement_4").model());
+    click("optButton_1_2");
+    EXPECT_TRUE(find("Pic_1_2").testAttribute(Qt::WA_Resized));
 }
 
 /// Counts what is painted anew.
