@@ -47,9 +47,10 @@ struct Bearbeitung : Aufbau {
     void edit(std::size_t step)
     {
         eingabe.setProzent(0, schritte[step % Schritte].text);
-        const auto legierung = eingabe.legierung();
-        if (eingabe.istVollstaendig() && legierung)
-            calc.Legierung_Setzen(legierung->komponenten());
+        if (!eingabe.istVollstaendig())
+            return;
+        eingabe.writeTo(legierung);
+        calc.Legierung_Setzen(legierung.komponenten());
     }
 
     float quantities() const
@@ -61,6 +62,7 @@ struct Bearbeitung : Aufbau {
     }
 
     Eingabe eingabe{elements};
+    Legierung legierung;
     std::vector<Schritt> schritte;
 };
 

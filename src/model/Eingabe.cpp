@@ -308,16 +308,19 @@ bool Eingabe::istVollstaendig() const
 
 std::optional<Legierung> Eingabe::legierung() const
 {
-    std::optional<Legierung> legierung(std::in_place);
-    for (int i = 0; i < m_anzahl; ++i) {
-        const Zeile& row = zeile(i);
-        if (!row.element) {
-            legierung.reset();
-            break;
-        }
-        legierung->add({row.element, prozentInKraft(i).wert, row.inKraft.dichte, row.inKraft.valenz});
-    }
+    std::optional<Legierung> legierung;
+    if (std::ranges::all_of(zeilen(), [](const Zeile& row) { return row.element != nullptr; }))
+        writeTo(legierung.emplace());
     return legierung;
+}
+
+void Eingabe::writeTo(Legierung& legierung) const
+{
+    int i = 0;
+    for (Legierungskomponente& komponente : legierung.resize(zeilen().size())) {
+        const Zeile& row = zeile(i);
+        komponente.setze(row.element, prozentInKraft(i++).wert, row.inKraft.dichte, row.inKraft.valenz);
+    }
 }
 
 std::optional<Hindernis> Eingabe::hindernis() const

@@ -157,6 +157,9 @@ public:
     /// The rows in use as numbers, an unreadable at% as Unbekannt; no value while a row has no element.
     std::optional<Legierung> legierung() const;
 
+    /// The same into an alloy that is there, whether or not each row has an element.
+    void writeTo(Legierung& legierung) const;
+
     /// What keeps a diagram over compositions from being computed; no value if nothing does.
     std::optional<Hindernis> hindernis() const;
 

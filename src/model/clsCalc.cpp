@@ -83,12 +83,8 @@ void clsCalc::Legierung_Setzen(std::span<const Legierungskomponente> komponenten
 {
     if (komponenten.empty() || komponenten.size() > m_komponenten.size())
         throw Laufzeitfehler(Fehler::IndexAusserhalb);
-    for (std::size_t i = 0; const Legierungskomponente& komponente : komponenten) {
-        Legierungskomponente& slot = m_komponenten.at(i++);
-        slot.prozent = komponente.prozent;
-        if (slot.element != komponente.element) // an edit seldom brings another one
-            slot.element = komponente.element;
-    }
+    for (std::size_t i = 0; const Legierungskomponente& k : komponenten)
+        m_komponenten.at(i++).setze(k.element, k.prozent, k.dichte, k.valenz);
     berechne(komponenten);
 }
 

@@ -178,16 +178,12 @@ bool Programm::uebernehmen()
 void Programm::uebernehmeWieEingetragen()
 {
     zerna::Eingabe& eingabe = m_dokument.eingabe;
-    Legierung legierung;
-    for (int i = 0; i < eingabe.anzahl(); ++i) {
-        const zerna::Eingabe::Zeile& zeile = eingabe.zeile(i);
-        legierung.add({zeile.element, eingabe.prozentInKraft(i).wert, zeile.inKraft.dichte, zeile.inKraft.valenz});
-    }
+    eingabe.writeTo(m_legierung);
     eingabe.elementeSetzen();
     m_komponentenzahl = eingabe.anzahl();
     if (!eingabe.istVollstaendig())
         Calc().setKf_2(Unbekannt); // outlasts an alloy that cannot be computed
-    Calc().Legierung_Setzen(legierung.komponenten());
+    Calc().Legierung_Setzen(m_legierung.komponenten());
     m_gerechnet = eingabe;
 }
 

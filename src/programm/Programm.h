@@ -111,6 +111,7 @@ private:
     std::shared_ptr<clsElement> m_selectedElement;
     zerna::Dokument m_dokument{m_elementCollection};
     zerna::Eingabe m_gerechnet{m_elementCollection};
+    Legierung m_legierung; // the same as numbers
     bool m_startupDone = false;
     std::string m_fehlendeElemente; // chosen last time and not in the table, a line each
     int m_komponentenzahl = 0;

@@ -126,10 +126,7 @@ bool Stapelrechner::read(std::string_view text, Legierungskomponente& komponente
 
 void Stapelrechner::take(const Bedeutung& meaning, Legierungskomponente& komponente)
 {
-    if (komponente.element != meaning.element) // a list seldom brings another one
-        komponente.element = meaning.element;
-    komponente.dichte = meaning.dichte;
-    komponente.valenz = meaning.valenz;
+    komponente.setze(meaning.element, komponente.prozent, meaning.dichte, meaning.valenz);
 }
 
 /// How it is written comes first, then its at%, then what it means.
