@@ -1,5 +1,6 @@
 #include "core/Datei.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <system_error>
 
@@ -46,10 +47,10 @@ Datei::Datei(const std::filesystem::path& path, Zugriff zugriff)
             throw Laufzeitfehler(Fehler::DateiNichtGefunden, "die Verknüpfung führt zu keiner Datei");
         throw Laufzeitfehler(systemfehler(error));
     }
-    std::error_code unknown;
-    m_size = std::filesystem::file_size(path, unknown);
-    if (unknown) // else the file would pass for an empty one
-        throw Laufzeitfehler(systemfehler(unknown.default_error_condition().value()));
+    const std::int64_t size = sizeOf(m_file.get());
+    if (size < 0) // else the file would pass for an empty one
+        throwSystemError();
+    m_size = static_cast<std::uint64_t>(size);
 }
 
 Datei::Datei(std::string bytes)
@@ -80,8 +81,11 @@ bool Datei::tryFill(std::size_t count)
     m_next = 0;
     while (m_buffer.size() < count) {
         const std::size_t old = m_buffer.size();
-        m_buffer.resize(old + Blockgroesse);
-        const std::size_t got = std::fread(m_buffer.data() + old, 1, Blockgroesse, handle());
+        // Room that nothing comes into would be cleared in vain; a file may have grown since it was opened.
+        const std::uint64_t known = m_size > m_readIntoBuffer ? m_size - m_readIntoBuffer : Blockgroesse;
+        const auto block = static_cast<std::size_t>(std::min<std::uint64_t>(known, Blockgroesse));
+        m_buffer.resize(old + block);
+        const std::size_t got = std::fread(m_buffer.data() + old, 1, block, handle());
         const int systemError = errno;
         m_buffer.resize(old + got);
         m_readIntoBuffer += got;

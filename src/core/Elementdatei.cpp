@@ -1,6 +1,7 @@
 #include "core/Elementdatei.h"
 
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "core/Elementspalten.h"
@@ -33,12 +34,12 @@ void loadElements(Dateinummern& files, int number, MessageBoxes& boxes, ElementC
     const auto table = std::make_shared<std::vector<clsElement>>(); // one block, which each of its elements keeps alive
     table->reserve(static_cast<std::size_t>(count));
     for (int i = 1; i <= count; ++i) {
-        const ElementCollection::Element element(table, &table->emplace_back(files, boxes));
+        ElementCollection::Element element(table, &table->emplace_back(files, boxes));
         element->setDateinummer(number);
         element->Daten_Lesen();
         if (each)
             each(element, i);
-        elements.Add(element, element->symbol());
+        elements.Add(std::move(element), table->back().symbol());
     }
 }
 

@@ -1,7 +1,6 @@
 #include "core/Plattformdatei.h"
 
 #include <cerrno>
-#include <cstdint>
 #include <optional>
 #include <string_view>
 #include <system_error>
@@ -60,6 +59,8 @@ std::FILE* openStream(const std::filesystem::path& path)
 {
     return isFolder(path) ? failedWith(EISDIR) : _wfopen(path.c_str(), L"rb");
 }
+
+std::int64_t sizeOf(std::FILE* file) { return _filelengthi64(_fileno(file)); }
 
 std::ptrdiff_t readSome(std::FILE* file, std::span<char> bytes)
 {
@@ -162,6 +163,12 @@ std::FILE* openFile(const std::filesystem::path& path, const char* mode)
 }
 
 std::FILE* openStream(const std::filesystem::path& path) { return std::fopen(path.c_str(), "rbe"); }
+
+std::int64_t sizeOf(std::FILE* file)
+{
+    struct stat open { };
+    return ::fstat(::fileno(file), &open) == 0 ? open.st_size : -1;
+}
 
 std::ptrdiff_t readSome(std::FILE* file, std::span<char> bytes)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <filesystem>
 #include <span>
@@ -14,6 +15,9 @@ std::FILE* openFile(const std::filesystem::path& path, const char* mode);
 
 /// Opens anything that bytes come out of, pipes and devices too, which may wait for the other end; null on failure.
 std::FILE* openStream(const std::filesystem::path& path);
+
+/// Bytes in an open file; -1 on failure.
+std::int64_t sizeOf(std::FILE* file);
 
 /// Reads what is there, waiting only while there is nothing; 0 at the end, -1 on failure. Goes past the file's buffer.
 std::ptrdiff_t readSome(std::FILE* file, std::span<char> bytes);
