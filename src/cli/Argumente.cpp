@@ -6,7 +6,6 @@
 #include <iterator>
 #include <optional>
 
-#include "core/Elementvorschlag.h"
 #include "core/Kuerzung.h"
 #include "core/Namensnaehe.h"
 #include "model/Ternaergitter.h"
@@ -78,12 +77,15 @@ std::vector<std::string> known(const CLI::App& app, bool isCommand)
     return names;
 }
 
-std::vector<const clsElement*> elementsOf(std::span<const Legierungskomponente> alloy)
+/// Each element once.
+std::vector<std::string> symbolsOf(std::span<const Legierungskomponente> alloy)
 {
-    std::vector<const clsElement*> elements;
-    for (const Legierungskomponente& komponente : alloy)
-        elements.push_back(komponente.element.get());
-    return elements;
+    std::vector<std::string> symbols;
+    for (const Legierungskomponente& komponente : alloy) {
+        if (std::ranges::find(symbols, komponente.element->symbol()) == symbols.end())
+            symbols.push_back(komponente.element->symbol());
+    }
+    return symbols;
 }
 
 constexpr const char* Hilfehinweis = " (Hilfe: zerna-cli --hilfe)";
@@ -143,7 +145,7 @@ int Groessenangabe::kennzahl(Groessenart art) const
     const auto number = wholeNumber(text); // "08" is one, too
     if (const Groesse* const groesse = findeGroesse(number ? std::to_string(*number) : text, art))
         return groesse->kennzahl;
-    const std::string near = number ? std::string() : vorschlag(text, eingabenamen(art));
+    const std::string near = number ? std::string() : satzende(vorschlag(text, eingabenamen(art)));
     if (!number && !isName(text))
         throw Aufruffehler("Ungültiger Wert: " + name + " = " + gekuerzt(text) + near + Hilfehinweis);
     const std::string given = name + " " + (number ? std::to_string(*number) : text);
@@ -190,8 +192,8 @@ std::size_t indexOfVariable(
     const auto& wanted = elements.find(symbol, true);
     const auto found = std::ranges::find(alloy, wanted, &Legierungskomponente::element);
     if (!wanted || found == alloy.end())
-        throw Aufruffehler("--variabel " + gekuerzt(symbol) + ": keine Komponente der Legierung"
-            + satzende(elementvorschlag(symbol, elementsOf(alloy))));
+        throw Aufruffehler("--variabel " + gekuerzt(symbol) + ": keine Komponente der Legierung, erwartet wird "
+            + aufzaehlung(symbolsOf(alloy)));
     return static_cast<std::size_t>(found - alloy.begin());
 }
 
@@ -208,7 +210,7 @@ std::string aufruffehler(const CLI::App& app, const CLI::ParseError& error, int 
         const bool isCommand = lacksCommand && !isOption;
         const std::string near =
             isOption || isCommand ? vorschlag(first.substr(0, first.find('=')), known(app, isCommand)) : std::string();
-        return (isCommand ? "Unbekannter Befehl " : "Unbekanntes Argument ") + gekuerzt(first) + near;
+        return (isCommand ? "Unbekannter Befehl " : "Unbekanntes Argument ") + gekuerzt(first) + satzende(near);
     }
     if (const std::string missing = missingArgument(befehl); !missing.empty())
         return "Es fehlt das Argument " + missing;

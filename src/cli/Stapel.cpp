@@ -175,7 +175,7 @@ void Stapel::run(Umgebung& umgebung, std::span<const std::string> dateien, Antei
     if (!auswahl.unbekannt.empty())
         throw Aufruffehler("--groessen " + gekuerzt(auswahl.unbekannt) + ": erwartet werden Kennzahlen ("
             + reihenkennzahlen() + ") oder Namen von Größen, durch Komma getrennt"
-            + vorschlag(auswahl.unbekannt, eingabenamen(Groessenart::Ergebnis)));
+            + satzende(vorschlag(auswahl.unbekannt, eingabenamen(Groessenart::Ergebnis))));
     const auto form = jsonzeilen ? Legierungsliste::Form::Json : Legierungsliste::Form::Text;
     umgebung.load();
     Stapellauf lauf(umgebung.kern(), einheit, Legierungsliste(auswahl.groessen, form), dateien.size() > 1);

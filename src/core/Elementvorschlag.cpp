@@ -7,28 +7,19 @@
 
 namespace zerna {
 
-std::string elementvorschlag(std::string_view text, std::span<const clsElement* const> elements)
+std::string elementvorschlag(std::string_view text, const ElementCollection& elements)
 {
     std::vector<std::string_view> namen;
-    namen.reserve(2 * elements.size());
-    for (const clsElement* const element : elements)
+    namen.reserve(2 * static_cast<std::size_t>(elements.Count()));
+    for (const auto& element : elements)
         namen.insert(namen.end(), {element->symbol(), element->Name()});
     std::vector<std::string> symbole;
     for (const std::size_t position : naechsteNamen(text, namen)) {
-        const std::string& symbol = elements[position / 2]->symbol();
+        const std::string_view symbol = namen[position - position % 2]; // in front of its element's name
         if (std::ranges::find(symbole, symbol) == symbole.end())
-            symbole.push_back(symbol);
+            symbole.emplace_back(symbol);
     }
     return meintenSie(symbole);
-}
-
-std::string elementvorschlag(std::string_view text, const ElementCollection& elements)
-{
-    std::vector<const clsElement*> all;
-    all.reserve(static_cast<std::size_t>(elements.Count()));
-    for (const auto& element : elements)
-        all.push_back(element.get());
-    return elementvorschlag(text, all);
 }
 
 } // namespace zerna

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -10,7 +9,6 @@ namespace zerna {
 
 /// The elements whose symbol or name is nearest to a text that is no symbol, as a sentence: "Meinten Sie Cu?" for
 /// "Kupfer"; empty if none is near.
-std::string elementvorschlag(std::string_view text, std::span<const clsElement* const> elements);
 std::string elementvorschlag(std::string_view text, const ElementCollection& elements);
 
 } // namespace zerna

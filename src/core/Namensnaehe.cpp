@@ -114,12 +114,17 @@ std::vector<std::size_t> naechsteNamen(std::string_view text, std::span<const st
     return positions;
 }
 
-std::string meintenSie(std::span<const std::string> namen)
+std::string aufzaehlung(std::span<const std::string> namen)
 {
     std::string text;
     for (std::size_t i = 0; i < namen.size(); ++i)
-        text += (i == 0 ? "Meinten Sie " : i + 1 < namen.size() ? ", " : " oder ") + namen[i];
-    return text.empty() ? text : text + '?';
+        text += (i == 0 ? "" : i + 1 < namen.size() ? ", " : " oder ") + namen[i];
+    return text;
+}
+
+std::string meintenSie(std::span<const std::string> namen)
+{
+    return namen.empty() ? std::string() : "Meinten Sie " + aufzaehlung(namen) + '?';
 }
 
 std::string satzende(const std::string& satz) { return satz.empty() ? satz : ". " + satz; }
@@ -131,7 +136,7 @@ std::string vorschlag(std::string_view text, std::span<const std::string> namen)
         if (std::ranges::find(near, namen[position]) == near.end())
             near.push_back(namen[position]);
     }
-    return satzende(meintenSie(near));
+    return meintenSie(near);
 }
 
 } // namespace zerna

@@ -21,13 +21,16 @@ std::size_t abstand(std::string_view a, std::string_view b);
 /// text is the beginning of the name. None if too many are equally near to tell anything.
 std::vector<std::size_t> naechsteNamen(std::string_view text, std::span<const std::string_view> namen);
 
+/// "a, b oder c".
+std::string aufzaehlung(std::span<const std::string> namen);
+
 /// "Meinten Sie a, b oder c?"; empty for no names.
 std::string meintenSie(std::span<const std::string> namen);
 
 /// Another sentence behind one without its full stop: ". " and the sentence, empty for none.
 std::string satzende(const std::string& satz);
 
-/// The end of a message about a name that is none: ". Meinten Sie a?" with the names nearest to it.
+/// The names nearest to a text that is none of them, as a sentence: "Meinten Sie a?"; empty if none is near.
 std::string vorschlag(std::string_view text, std::span<const std::string> namen);
 
 } // namespace zerna

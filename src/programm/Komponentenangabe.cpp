@@ -41,7 +41,8 @@ public:
     {
         const bool isDichte = key == "dichte";
         if (!isDichte && key != "valenz")
-            return "unbekannte Angabe " + zitiert(key) + vorschlag(key, std::array<std::string, 2>{"dichte", "valenz"});
+            return "unbekannte Angabe " + zitiert(key)
+                + satzende(vorschlag(key, std::array<std::string, 2>{"dichte", "valenz"}));
         if (std::exchange(isDichte ? m_hasDichte : m_hasValenz, true))
             return zitiert(key) + " ist mehrmals angegeben";
         (isDichte ? m_angabe.dichte : m_angabe.valenz) = value;
@@ -65,7 +66,8 @@ std::string liesDichte(const Komponentenangabe& angabe, Komponentenwahl& wahl)
     if (word == AndereWahl || found == known.end())
         return angabe.dichte.empty() ? "keine Dichte bekannt, dichte=ZAHL angeben"
                                      : "Dichte " + zitiert(angabe.dichte) + " ist nicht bekannt"
-                + vorschlag(angabe.dichte, std::vector<std::string>(known.begin(), known.end() - 1)); // not <andere>
+                + satzende(vorschlag( // without <andere>
+                    angabe.dichte, std::vector<std::string>(known.begin(), known.end() - 1)));
     wahl.dichtewahl = *found;
     wahl.dichte = dichteFor(*wahl.element, *found);
     return {};

@@ -12,13 +12,13 @@ TEST(NamensnaeheTest, SuggestsWhatMayHaveBeenMeant)
         const char* text;
         const char* sentence;
     } rows[] = {
-        {"riehe", ". Meinten Sie reihe?"}, // swapped
-        {"GRÖSEN", ". Meinten Sie groessen?"}, // umlauts and capitals
-        {"friedelwelenlaenge", ". Meinten Sie Friedel-Wellenlänge?"},
-        {"fermi", ". Meinten Sie Fermienergie?"}, // its beginning
-        {"dichte", ". Meinten Sie dichte-kristallin oder dichte-fluessig?"},
-        {"--zwei", ". Meinten Sie --zweite-groesse?"},
-        {"cx", ". Meinten Sie Cu?"},
+        {"riehe", "Meinten Sie reihe?"}, // swapped
+        {"GRÖSEN", "Meinten Sie groessen?"}, // umlauts and capitals
+        {"friedelwelenlaenge", "Meinten Sie Friedel-Wellenlänge?"},
+        {"fermi", "Meinten Sie Fermienergie?"}, // its beginning
+        {"dichte", "Meinten Sie dichte-kristallin oder dichte-fluessig?"},
+        {"--zwei", "Meinten Sie --zweite-groesse?"},
+        {"cx", "Meinten Sie Cu?"},
         {"Ax", ""}, // may be anyone
         {"C", ""},
         {"Qx", ""},
