@@ -56,18 +56,29 @@ std::string fromUtf16(std::string_view bytes, bool littleEndian)
     return text;
 }
 
+bool hasWideMark(std::string_view bytes) { return bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF"); }
+
 std::string decoded(std::string_view bytes)
 {
     if (bytes.starts_with("\xEF\xBB\xBF"))
         bytes.remove_prefix(3);
-    else if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF"))
+    else if (hasWideMark(bytes))
         return fromUtf16(bytes.substr(2), bytes.starts_with("\xFF"));
-    else if (bytes.size() >= 2 && (bytes[0] == '\0') != (bytes[1] == '\0'))
+    else if (istUtf16(bytes))
         return fromUtf16(bytes, bytes[1] == '\0');
     return istUtf8(bytes) ? std::string(bytes) : fromWindows1252(bytes);
 }
 
 } // namespace
+
+bool istUtf16(std::string_view bytes)
+{
+    using namespace std::string_view_literals;
+    if (hasWideMark(bytes))
+        return true;
+    const bool beginsWide = bytes.size() >= 2 && (bytes[0] == '\0') != (bytes[1] == '\0');
+    return beginsWide && !bytes.substr(2).starts_with("\0\0"sv); // else a number of four bytes
+}
 
 std::optional<std::string> textAusBytes(std::string_view bytes)
 {

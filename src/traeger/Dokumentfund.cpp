@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/Textbytes.h"
 #include "traeger/Entpacken.h"
 #include "traeger/Pdf.h"
 #include "traeger/Png.h"
@@ -39,10 +40,20 @@ Dokumentfund dokumentInGepacktem(std::string_view bytes)
     return istSvg(unpacked.bytes) ? dokumentImSvg(unpacked.bytes) : fremd(bytes);
 }
 
+/// Only the reader of pictures knows it.
+Dokumentfund dokumentInUtf16(std::string_view bytes)
+{
+    Dokumentfund fund = istSvg(bytes) ? dokumentImSvg(bytes) : Dokumentfund();
+    return fund.dokument ? fund
+                         : Dokumentfund{Dateiart::Fremd, {}, "Die Datei ist Text in UTF-16; erwartet wird UTF-8."};
+}
+
 } // namespace
 
 Dokumentfund dokumentAus(std::string_view bytes)
 {
+    if (istUtf16(bytes))
+        return dokumentInUtf16(bytes);
     if (textanfang(bytes) == '{')
         return {Dateiart::Dokument, std::string(bytes), {}};
     if (istPng(bytes))

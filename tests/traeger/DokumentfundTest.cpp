@@ -104,6 +104,9 @@ TEST(DokumentfundTest, WhereThereIsNoneTheReasonIsSaid)
     } rows[] = {
         {"empty", "", "Die Datei ist leer"},
         {"some text", "Al60Cu40", "weder eine Legierung noch ein Bild"},
+        {"UTF-16", "\xFF\xFE<\0s\0v\0g\0>\0"s, "Text in UTF-16"},
+        {"UTF-16 without a mark", "{\0\"\0"s, "Text in UTF-16"},
+        {"a number", "g\0\0\0"s, "weder eine Legierung noch ein Bild"},
         {"JPEG", "\xFF\xD8\xFF\xE0", "Diese Art von Bild kann keine"},
         {"PNG without", Pngbild, "In dem PNG-Bild steckt keine"},
         {"PNG cut", Pngbild.substr(0, Pngbild.size() - 4), "endet zu früh"},
