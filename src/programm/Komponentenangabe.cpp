@@ -167,6 +167,13 @@ std::string anzahlgrund(std::size_t anzahl)
     return "Eine Legierung hat eine bis fünf Komponenten, angegeben sind " + std::to_string(anzahl);
 }
 
+std::string mehrfachhinweis(std::string_view symbol)
+{
+    return "Element " + zitiert(symbol)
+        + " steht mehrmals in der Legierung; überall gelten Dichte und Valenz der "
+          "letzten Angabe";
+}
+
 std::string rechengrund(std::span<const Legierungskomponente> komponenten, std::span<const std::string_view> texte)
 {
     const auto found = std::ranges::find_if(

@@ -55,6 +55,9 @@ std::string komponentengrund(std::string_view text, std::string_view grund);
 /// Why there is no alloy of so many components.
 std::string anzahlgrund(std::size_t anzahl);
 
+/// What is said of an element whose components were given different densities or valences.
+std::string mehrfachhinweis(std::string_view symbol);
+
 /// Why the calculator has no values for an alloy; the texts are those of its components.
 std::string rechengrund(std::span<const Legierungskomponente> komponenten, std::span<const std::string_view> texte);
 

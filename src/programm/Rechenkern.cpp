@@ -86,6 +86,7 @@ void Rechenkern::load(int number, const std::string& name)
 void Rechenkern::setAlloy(std::span<const Komponentenangabe> angaben, Anteilseinheit einheit)
 {
     require<Aufruffehler>(anzahlgrund(angaben.size()));
+    m_hinweis.clear();
     m_eingabe = Eingabe(m_elements);
     m_eingabe.setAnzahl(static_cast<int>(angaben.size()));
     for (int zeile = 0; const Komponentenangabe& angabe : angaben)
@@ -105,6 +106,7 @@ void Rechenkern::setAlloy(Eingabe eingabe)
     const Befund* const befund = wichtigster(alle);
     if (befund != nullptr && befund->schwere == Schwere::Fehler)
         throw Datenfehler(befundgrund(eingabe, *befund));
+    m_hinweis.clear();
     m_eingabe = std::move(eingabe);
     std::vector<std::string_view> symbole;
     for (int i = 0; i < m_eingabe.anzahl(); ++i)
@@ -137,6 +139,7 @@ void Rechenkern::enterElement(int zeile, const Komponentenangabe& angabe)
 {
     Komponentenwahl wahl;
     require<Datenfehler>(angabe.text, liesWahl(m_elements, angabe, wahl));
+    const std::optional<Eingabe::Arbeitswerte> before = inKraftFor(*wahl.element, zeile);
     m_eingabe.waehleElement(zeile, wahl.element->symbol());
     m_eingabe.waehleDichte(zeile, wahl.dichtewahl);
     if (wahl.dichtewahl == AndereWahl)
@@ -148,6 +151,19 @@ void Rechenkern::enterElement(int zeile, const Komponentenangabe& angabe)
     for (const std::string& meldung : valenz.meldungen)
         m_boxes.show(Icon::None, Formelmeldungstitel, meldung);
     require<Datenfehler>(angabe.text, valenzgrund(valenz));
+    const Eingabe::Arbeitswerte& now = m_eingabe.zeile(zeile).inKraft;
+    if (before && (before->dichte != now.dichte || before->valenz != now.valenz))
+        m_hinweis = mehrfachhinweis(wahl.element->symbol());
+}
+
+/// What the rows in front of that one have put in force for an element; no value if none of them has it.
+std::optional<Eingabe::Arbeitswerte> Rechenkern::inKraftFor(const clsElement& element, int zeile) const
+{
+    for (int i = 0; i < zeile; ++i) {
+        if (m_eingabe.zeile(i).element.get() == &element)
+            return m_eingabe.zeile(i).inKraft;
+    }
+    return std::nullopt;
 }
 
 } // namespace zerna

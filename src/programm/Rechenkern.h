@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <span>
 #include <stdexcept>
 #include <string>
@@ -42,11 +43,15 @@ public:
     void loadBuiltIn();
 
     /// Makes the alloy of one to five components, their parts in that unit, the calculator's. They are taken as given,
-    /// the last one too. Throws Aufruffehler or Datenfehler.
+    /// the last one too; components of one element share the density and the valence of the last of them. Throws
+    /// Aufruffehler or Datenfehler.
     void setAlloy(std::span<const Komponentenangabe> angaben, Anteilseinheit einheit = Anteilseinheit::Atom);
 
     /// Makes an entered alloy of these elements the calculator's. Throws Datenfehler if it cannot be computed.
     void setAlloy(Eingabe eingabe);
+
+    /// What is to be said of how these components were taken; empty if nothing is.
+    const std::string& hinweis() const { return m_hinweis; }
 
     /// The alloy of the last setAlloy as it was entered, and as numbers.
     const Eingabe& eingabe() const { return m_eingabe; }
@@ -68,8 +73,7 @@ private:
     void compute(std::span<const std::string_view> texte);
     void checkAnteile(std::span<const Komponentenangabe> angaben) const;
     void enterElement(int zeile, const Komponentenangabe& angabe);
-    void enterDichte(int zeile, const Komponentenangabe& angabe);
-    void enterValenz(int zeile, const Komponentenangabe& angabe);
+    std::optional<Eingabe::Arbeitswerte> inKraftFor(const clsElement& element, int zeile) const;
 
     MessageBoxes& m_boxes;
     Satzfehler m_satzfehler;
@@ -78,6 +82,7 @@ private:
     int m_komponentenzahl = 0;
     Eingabe m_eingabe{m_elements};
     Legierung m_legierung;
+    std::string m_hinweis;
     clsParser m_parser;
     clsCalc m_calc;
 };

@@ -44,13 +44,17 @@ bool Stapelrechner::rechne(std::string_view legierung)
 
 std::string Stapelrechner::hinweis()
 {
-    std::string scaled(m_isFormula && m_formel.istUmgerechnet() ? UmgerechnetHinweis : "");
+    std::string result(m_isFormula && m_formel.istUmgerechnet() ? UmgerechnetHinweis : "");
     if (looksSound())
-        return scaled;
+        return result;
     m_kern.setAlloy(angaben(), m_einheitDerTeile);
     const Ergebnislage lage = ergebnislage(m_kern.eingabe(), m_kern.eingabe(), calc());
     const std::string doubt = lage.befund ? befundgrund(m_kern.eingabe(), *lage.befund) : std::string();
-    return scaled + (scaled.empty() || doubt.empty() ? "" : "; ") + doubt;
+    for (const std::string& satz : {m_kern.hinweis(), doubt}) {
+        if (!satz.empty())
+            result += (result.empty() ? "" : "; ") + satz;
+    }
+    return result;
 }
 
 /// The last alloy as the command for one alloy takes it.
@@ -176,12 +180,14 @@ Stapelrechner::Bedeutung Stapelrechner::lookUp(std::string_view symbol, std::str
 void Stapelrechner::shareValues()
 {
     const std::span<Legierungskomponente> all = komponenten();
+    m_valuesAgree = true;
     for (std::size_t last = all.size(); last-- > 1;) {
         for (Legierungskomponente& k : all.first(last)) {
-            if (k.element == all[last].element) {
-                k.dichte = all[last].dichte;
-                k.valenz = all[last].valenz;
-            }
+            if (k.element != all[last].element)
+                continue;
+            m_valuesAgree = m_valuesAgree && k.dichte == all[last].dichte && k.valenz == all[last].valenz;
+            k.dichte = all[last].dichte;
+            k.valenz = all[last].valenz;
         }
     }
 }
@@ -213,8 +219,9 @@ bool Stapelrechner::looksSound() const
     const auto isSound = [](const Legierungskomponente& k) {
         return hasSoundPart(k) && k.dichte > 0 && !istUnbekannt(k.element->Masse());
     };
-    return m_typedPartsSound && calc().Valenz() > 0 && calc().Dichte() > 0 && calc().hatTeilchenzahldichte()
-        && calc().Teilchenzahldichte() > 0 && std::ranges::all_of(std::span(m_komponenten).first(m_anzahl), isSound);
+    return m_typedPartsSound && m_valuesAgree && calc().Valenz() > 0 && calc().Dichte() > 0
+        && calc().hatTeilchenzahldichte() && calc().Teilchenzahldichte() > 0
+        && std::ranges::all_of(std::span(m_komponenten).first(m_anzahl), isSound);
 }
 
 } // namespace zerna

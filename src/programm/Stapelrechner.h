@@ -69,6 +69,7 @@ private:
     std::array<Legierungskomponente, MaxKomponenten> m_komponenten;
     std::size_t m_anzahl = 0; // may be more than there is room for
     bool m_typedPartsSound = true;
+    bool m_valuesAgree = true; // of the components of one element
     std::string m_grund;
     std::string m_key;
     Bedeutung m_langeBedeutung; // the last one that is not remembered

@@ -61,7 +61,8 @@ struct StapelrechnerTest : FilesTest {
                 zeile += (next++)->at(1);
         }
         const Ergebnislage lage = ergebnislage(einzeln.eingabe(), einzeln.eingabe(), einzeln.calc());
-        return zeile + '\n' + (lage.befund ? befundgrund(einzeln.eingabe(), *lage.befund) : "");
+        const std::string doubt = lage.befund ? befundgrund(einzeln.eingabe(), *lage.befund) : "";
+        return zeile + '\n' + einzeln.hinweis() + (einzeln.hinweis().empty() || doubt.empty() ? "" : "; ") + doubt;
     } catch (const std::runtime_error& error) {
         return error.what();
     }
