@@ -3,7 +3,6 @@
 #include <QFontDatabase>
 
 #include <algorithm>
-#include <iostream>
 
 #include "bildprogramm/Diagrammbau.h"
 #include "cli/Befehl.h"
@@ -27,7 +26,7 @@ std::string carriedText(const Dokument& dokument, const Rechenkern& kern)
     const auto prozent = &Legierungskomponente::prozent;
     if (alloy && std::ranges::equal(alloy->komponenten(), kern.komponenten(), {}, prozent, prozent))
         return text;
-    std::cerr << "zerna-cli: Die Anteile ergeben nicht 100 %, das Bild trägt keine Legierung\n";
+    melde("Die Anteile ergeben nicht 100 %, das Bild trägt keine Legierung");
     return {};
 }
 
@@ -56,7 +55,7 @@ struct Bild {
         if (optionen.komponenten.texte.empty())
             umgebung.load();
         else
-            umgebung.loadAlloy(optionen.komponenten.texte, optionen.komponenten.einheit());
+            umgebung.loadAlloy(optionen.komponenten);
         const Rechenkern& kern = umgebung.kern();
         const auto& file = umgebung.dokument();
         Dokument dokument = file.value_or(Dokument(kern.elements()));

@@ -8,8 +8,6 @@
 
 #include "core/Kuerzung.h"
 #include "core/Namensnaehe.h"
-#include "model/Ternaergitter.h"
-#include "programm/Rechenkern.h"
 
 namespace zerna {
 
@@ -88,8 +86,6 @@ std::vector<std::string> symbolsOf(std::span<const Legierungskomponente> alloy)
     return symbols;
 }
 
-constexpr const char* Hilfehinweis = " (Hilfe: zerna-cli --hilfe)";
-
 /// The first required argument of the command that is not there; empty if all are.
 std::string missingArgument(const CLI::App& befehl)
 {
@@ -101,6 +97,26 @@ std::string missingArgument(const CLI::App& befehl)
 }
 
 } // namespace
+
+Aufruffehler fehlendesArgument(const std::string& name)
+{
+    Aufruffehler fehler("Es fehlt das Argument " + name + Hilfehinweis);
+    return fehler;
+}
+
+Aufruffehler unerwartet(const std::string& option, const std::string& given, const std::string& erwartet)
+{
+    Aufruffehler fehler(option + " " + gekuerzt(given) + ": erwartet wird " + erwartet);
+    return fehler;
+}
+
+void refuseEmpty(CLI::Option& option)
+{
+    option.each([name = option.get_name()](const std::string& text) {
+        if (text.empty())
+            throw Aufruffehler(name + ": der Dateiname ist leer");
+    });
+}
 
 CLI::Option* Komponenten::define(CLI::App& befehl)
 {
@@ -116,8 +132,9 @@ CLI::Option* Komponenten::define(CLI::App& befehl)
 
 void Ausgabe::define(CLI::App& befehl)
 {
-    befehl.add_option("--ausgabe", datei, "Datei, die geschrieben wird, statt der Standardausgabe")
-        ->option_text("DATEI");
+    CLI::Option* const option =
+        befehl.add_option("--ausgabe", datei, "Datei, die geschrieben wird, statt der Standardausgabe");
+    refuseEmpty(*option->option_text("DATEI"));
 }
 
 void Tabellenform::define(CLI::App& befehl) { befehl.add_flag("--json", json, "als JSON"); }
@@ -128,11 +145,28 @@ CLI::Option* Ganzzahl::define(CLI::App& befehl, const char* optionName, const ch
     return befehl.add_option(optionName, text, beschreibung)->option_text("ZAHL");
 }
 
-int Ganzzahl::wert() const
+int Ganzzahl::wert(int kleinste, int groesste) const
 {
-    if (const auto value = wholeNumber(text))
-        return *value;
-    throw Aufruffehler("Ungültiger Wert: " + name + " = " + gekuerzt(text) + Hilfehinweis);
+    const auto value = wholeNumber(text);
+    if (!value)
+        throw Aufruffehler("Ungültiger Wert: " + name + " = " + gekuerzt(text) + Hilfehinweis);
+    if (*value < kleinste || *value > groesste)
+        throw unerwartet(name, std::to_string(*value), std::to_string(kleinste) + " bis " + std::to_string(groesste));
+    return *value;
+}
+
+CLI::Option* Zahl::define(CLI::App& befehl, const char* optionName, const char* beschreibung)
+{
+    name = optionName;
+    return befehl.add_option(optionName, text, beschreibung)->option_text("ZAHL");
+}
+
+float Zahl::wert() const
+{
+    const Eingabefeld feld = zahlenfeld(text);
+    if (feld.fehler)
+        throw Aufruffehler(name + " " + gekuerzt(text) + ": keine gültige Zahl");
+    return feld.wert;
 }
 
 CLI::Option* Groessenangabe::define(CLI::App& befehl, const char* optionName, const char* beschreibung)
@@ -160,15 +194,6 @@ void Groessenangabe::check(Groessenart vorgeschlagen) const
 {
     if (!wholeNumber(text) && !isName(text))
         kennzahl(vorgeschlagen);
-}
-
-int gitteraufloesung(const Ganzzahl& aufloesung)
-{
-    const int resolution = aufloesung.wert();
-    if (resolution < 1 || resolution > FeinsteAufloesung)
-        throw Aufruffehler(aufloesung.name + " " + std::to_string(resolution) + ": erwartet wird 1 bis "
-            + std::to_string(FeinsteAufloesung));
-    return resolution;
 }
 
 void requireTernaer(std::size_t anzahl)

@@ -10,8 +10,22 @@
 #include "model/Anteilseinheit.h"
 #include "model/Groessennamen.h"
 #include "model/Legierung.h"
+#include "model/Tabelle.h"
+#include "programm/Rechenkern.h"
 
 namespace zerna {
+
+/// What a message about a call ends with.
+inline constexpr const char* Hilfehinweis = " (Hilfe: zerna-cli --hilfe)";
+
+/// The fault of a call that lacks an argument which it needs only sometimes.
+Aufruffehler fehlendesArgument(const std::string& name);
+
+/// The fault of an option that means something else than what may be there.
+Aufruffehler unerwartet(const std::string& option, const std::string& given, const std::string& erwartet);
+
+/// Has an option that takes a file refuse an empty name, which would pass for no option at all.
+void refuseEmpty(CLI::Option& option);
 
 /// Options that several commands have. Numbers are read by the program's own rules, so they are kept as texts.
 struct Komponenten {
@@ -29,16 +43,28 @@ struct Ausgabe {
 
 struct Tabellenform {
     void define(CLI::App& befehl);
+    std::string text(const Tabelle& tabelle) const { return json ? alsJson(tabelle) : alsText(tabelle); }
     bool json = false;
 };
 
 /// Throws Aufruffehler for an alloy that has two components of one element, which a line could not tell apart.
 void requireDistinct(std::span<const Legierungskomponente> alloy);
 
-/// A whole number behind an option. Throws Aufruffehler for any other text.
+/// A whole number behind an option.
 struct Ganzzahl {
     CLI::Option* define(CLI::App& befehl, const char* name, const char* beschreibung);
-    int wert() const;
+
+    /// Throws Aufruffehler for a text that is none and for one outside of these.
+    int wert(int kleinste, int groesste) const;
+
+    std::string name;
+    std::string text;
+};
+
+/// A number behind an option. Throws Aufruffehler for any other text.
+struct Zahl {
+    CLI::Option* define(CLI::App& befehl, const char* name, const char* beschreibung);
+    float wert() const;
 
     std::string name;
     std::string text;
@@ -57,9 +83,6 @@ struct Groessenangabe : Ganzzahl {
     /// Throws Aufruffehler for what is neither a number nor a quantity of any kind; suggests those of one.
     void check(Groessenart vorgeschlagen) const;
 };
-
-/// The resolution of a ternary diagram. Throws Aufruffehler for any other number.
-int gitteraufloesung(const Ganzzahl& aufloesung);
 
 /// Throws Aufruffehler unless a ternary diagram can be made of so many components.
 void requireTernaer(std::size_t anzahl);

@@ -60,15 +60,14 @@ struct Groessenliste {
     {
         stapel.requireUnused();
         if (komponenten.texte.empty())
-            throw Aufruffehler("Es fehlt das Argument komponenten (Hilfe: zerna-cli --hilfe)");
-        umgebung.loadAlloy(komponenten.texte, komponenten.einheit());
-        umgebung.nenneBefund();
+            throw fehlendesArgument("komponenten");
+        umgebung.loadAlloy(komponenten);
         Rechenkern& kern = umgebung.kern();
         const Unbekanntes unbekanntes = form.json ? Unbekanntes::Leer : Unbekanntes::Weglassen;
         const Tabelle tabelle = lehrbuch
             ? lehrbuchtabelle(kern.calc(), kern.komponenten(), Dezimaltrenner::Punkt, unbekanntes)
             : groessentabelle(kern.calc(), unbekanntes);
-        put(form.json ? alsJson(tabelle) : alsText(tabelle), ausgabe.datei);
+        put(form.text(tabelle), ausgabe.datei);
     }
 
     bool lehrbuch = false;
@@ -87,8 +86,7 @@ struct Text {
 
     void run(Umgebung& umgebung) const
     {
-        umgebung.loadAlloy(komponenten.texte, komponenten.einheit());
-        umgebung.nenneBefund();
+        umgebung.loadAlloy(komponenten);
         const clsCalc& calc = umgebung.kern().calc();
         const std::vector<Komponentenzeile> zeilen = umgebung.kern().eingabe().komponentenzeilen();
         Ergebnistexte texte;
@@ -115,10 +113,8 @@ struct Konzentration {
     void run(Umgebung& umgebung) const
     {
         const int kennzahl = groesse.kennzahl(Groessenart::Legierung);
-        const int step = schritt.wert();
-        if (step < 1 || step > 100)
-            throw Aufruffehler("--schritt " + std::to_string(step) + ": erwartet wird 1 bis 100");
-        umgebung.loadAlloy(komponenten.texte, komponenten.einheit());
+        const int step = schritt.wert(1, 100);
+        umgebung.loadAlloy(komponenten);
         const auto alloy = umgebung.kern().komponenten();
         const std::size_t variable = indexOfVariable(variabel, umgebung.kern().elements(), alloy);
         const int index = static_cast<int>(variable);
@@ -181,8 +177,8 @@ struct Ternaer {
     void run(Umgebung& umgebung) const
     {
         const int kennzahl = groesse.kennzahl(Groessenart::Legierung);
-        const int resolution = gitteraufloesung(aufloesung);
-        umgebung.loadAlloy(komponenten.texte, komponenten.einheit());
+        const int resolution = aufloesung.wert(1, FeinsteAufloesung);
+        umgebung.loadAlloy(komponenten);
         const auto alloy = umgebung.kern().komponenten();
         requireTernaer(alloy.size());
         if (form.json)
@@ -202,7 +198,7 @@ struct Ternaer {
 struct Wiegen {
     void define(CLI::App& befehl)
     {
-        befehl.add_option("--masse", masse, "Gesamtmasse in mg")->required()->option_text("ZAHL");
+        masse.define(befehl, "--masse", "Gesamtmasse in mg")->required();
         form.define(befehl);
         komponenten.define(befehl);
         ausgabe.define(befehl);
@@ -210,23 +206,21 @@ struct Wiegen {
 
     void run(Umgebung& umgebung) const
     {
-        const Eingabefeld gesamt = zahlenfeld(masse);
-        if (gesamt.fehler)
-            throw Aufruffehler("--masse " + gekuerzt(masse) + ": keine gültige Zahl");
-        if (gesamt.wert <= 0)
-            throw Aufruffehler("--masse " + gekuerzt(masse) + ": erwartet wird eine Zahl größer als 0");
-        umgebung.loadAlloy(komponenten.texte, komponenten.einheit());
+        const float gesamt = masse.wert();
+        if (gesamt <= 0)
+            throw unerwartet(masse.name, masse.text, "eine Zahl größer als 0");
+        umgebung.loadAlloy(komponenten);
         const clsCalc& calc = umgebung.kern().calc();
         const int anzahl = umgebung.kern().eingabe().anzahl();
         if (const auto hindernis = sollmassenHindernis(calc, anzahl)) {
             const std::string symbol = calc.Element_Symbol(hindernis->komponente);
             throw Datenfehler("Komponente " + zitiert(symbol) + ": " + hindernis->grund);
         }
-        const Tabelle tabelle = wiegetabelle(calc, anzahl, gesamt.wert);
-        put(form.json ? alsJson(tabelle) : alsText(tabelle), ausgabe.datei);
+        const Tabelle tabelle = wiegetabelle(calc, anzahl, gesamt);
+        put(form.text(tabelle), ausgabe.datei);
     }
 
-    std::string masse;
+    Zahl masse;
     Tabellenform form;
     Komponenten komponenten;
     Ausgabe ausgabe;
@@ -242,13 +236,11 @@ struct Friedel {
 
     void run(Umgebung& umgebung) const
     {
-        umgebung.loadAlloy(komponenten.texte, komponenten.einheit());
+        umgebung.loadAlloy(komponenten);
         const clsCalc& calc = umgebung.kern().calc();
         const std::string datei = friedeldatei(calc);
-        if (datei.empty()) {
-            umgebung.nenneBefund();
+        if (datei.empty())
             throw Datenfehler("Mit diesen Werten hat die Legierung keine Friedelminima");
-        }
         put(form.json ? alsJson(friedeltabelle(calc)) : datei, ausgabe.datei);
     }
 
@@ -266,7 +258,7 @@ struct Bild {
         optionen.check();
         runInstead(executableFolder() / Bildprogramm, umgebung.aufruf);
         throw Datenfehler(std::string(Bildprogramm)
-            + " fehlt neben zerna-cli. Bilder gibt es nur, wo Zerna mit seinem Fenster gebaut wurde");
+            + " fehlt neben zerna-cli. Bilder gibt es nur, wo Zerna mit seinem Fenster gebaut wurde.");
     }
 
     Bildoptionen optionen;

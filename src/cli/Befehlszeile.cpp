@@ -7,7 +7,6 @@
 #include "cli/Argumente.h"
 #include "cli/Befehl.h"
 #include "cli/Umgebung.h"
-#include "core/Kuerzung.h"
 #include "core/Plattform.h"
 
 namespace zerna {
@@ -36,7 +35,7 @@ void translate(CLI::App& app)
 
 int fail(int status, const std::string& reason)
 {
-    std::cerr << "zerna-cli: " << gekuerzt(reason, LaengsteMeldung) << '\n';
+    melde(reason);
     return status;
 }
 
@@ -49,8 +48,8 @@ try {
     Umgebung umgebung;
     umgebung.aufruf.assign(argv + 1, argv + argc);
     app.option_defaults()->group("Optionen");
-    app.add_option("--daten", umgebung.daten, "Elementdatei statt elemente.dat neben dem Programm")
-        ->option_text("DATEI");
+    refuseEmpty(*app.add_option("--daten", umgebung.daten, "Elementdatei statt elemente.dat neben dem Programm")
+                     ->option_text("DATEI"));
     app.allow_windows_style_options(false); // a path may begin with a slash there too
     app.require_subcommand(1);
     translate(app);
@@ -65,7 +64,7 @@ try {
         std::cout << (commands.empty() ? app.help() : commands.front()->help("zerna-cli"));
         return 0;
     } catch (const CLI::ParseError& error) {
-        return fail(Aufruf, aufruffehler(app, error, argc, argv) + " (Hilfe: zerna-cli --hilfe)");
+        return fail(Aufruf, aufruffehler(app, error, argc, argv) + Hilfehinweis);
     } catch (const Aufruffehler& error) {
         return fail(Aufruf, error.what());
     }

@@ -36,7 +36,7 @@ Bildart bildart(const std::string& ziel)
         if (lowerCase(ziel).ends_with(endung))
             return art;
     }
-    throw Aufruffehler("--ziel " + gekuerzt(ziel) + ": erwartet wird eine Datei *.png, *.svg oder *.pdf");
+    throw unerwartet("--ziel", ziel, "eine Datei *.png, *.svg oder *.pdf");
 }
 
 } // namespace
@@ -94,7 +94,7 @@ Bildvorgabe Bildoptionen::vorgabe() const
     if (!schrift.empty())
         result.schrift = schrift;
     if (!dezimal.empty() && dezimal != "komma" && dezimal != "punkt")
-        throw Aufruffehler("--dezimal " + gekuerzt(dezimal) + ": erwartet wird komma oder punkt");
+        throw unerwartet("--dezimal", dezimal, "komma oder punkt");
     result.dezimal = dezimal == "punkt" ? Dezimaltrenner::Punkt : Dezimaltrenner::Komma;
     result.art = bildart(ziel);
     return result;
@@ -106,8 +106,7 @@ std::optional<Diagrammtyp> Bildoptionen::typ() const
         return std::nullopt;
     const auto* const found = std::ranges::find(Arten, art, &Artname::name);
     if (found == Arten.end())
-        throw Aufruffehler(
-            "--art " + gekuerzt(art) + ": erwartet wird konzentration, ternaer, elemente oder messkurve");
+        throw unerwartet("--art", art, "konzentration, ternaer, elemente oder messkurve");
     return found->typ;
 }
 
@@ -137,7 +136,7 @@ void Bildoptionen::check() const
     if (const auto chosen = typ())
         checkOptions(*chosen);
     if (komponenten.texte.empty() && typ() != Diagrammtyp::PSE)
-        throw Aufruffehler("Es fehlt das Argument komponenten (Hilfe: zerna-cli --hilfe)");
+        throw fehlendesArgument("komponenten");
     if (!groesse.text.empty())
         groesse.check(typ() == Diagrammtyp::PSE ? Groessenart::Element : Groessenart::Legierung);
 }
@@ -156,7 +155,7 @@ Diagrammwahl Bildoptionen::wahl(const std::optional<Dokument>& file, const Reche
     if (!groesse.text.empty())
         result.groesse = groesse.kennzahl(isPSE ? Groessenart::Element : Groessenart::Legierung);
     else if (!file || isOther)
-        throw Aufruffehler("Es fehlt das Argument --groesse (Hilfe: zerna-cli --hilfe)");
+        throw fehlendesArgument("--groesse");
     if (result.typ == Diagrammtyp::Ternaer)
         requireTernaer(kern.komponenten().size());
     if (!variabel.empty())
@@ -164,12 +163,12 @@ Diagrammwahl Bildoptionen::wahl(const std::optional<Dokument>& file, const Reche
     if (!zweite.text.empty())
         result.zweiteGroesse = zweite.kennzahl(Groessenart::Legierung);
     if (!zweite.text.empty() && result.zweiteGroesse == result.groesse)
-        throw Aufruffehler("--zweite-groesse " + gekuerzt(zweite.text) + ": erwartet wird eine andere als die erste");
+        throw unerwartet(zweite.name, zweite.text, "eine andere als die erste");
     if (varianten && (!file || file->vergleich->varianten.empty()))
         throw Aufruffehler("--varianten gibt es nur mit einer Datei, in der Legierungen gemerkt sind");
     result.varianten = result.varianten || varianten;
     if (!schritte.text.empty())
-        result.aufloesung = gitteraufloesung(schritte);
+        result.aufloesung = schritte.wert(1, FeinsteAufloesung);
     result.ansicht.flach = result.ansicht.flach || flach;
     return isPSE ? result : passendeWahl(result, kern.eingabe().anzahl());
 }

@@ -18,7 +18,7 @@ struct Kennzahlen {
     void run(Umgebung&) const
     {
         const Tabelle tabelle = groessenverzeichnis();
-        put(form.json ? alsJson(tabelle) : alsText(tabelle), {});
+        put(form.text(tabelle), {});
     }
 
     Tabellenform form;
@@ -33,7 +33,7 @@ struct Auflisten {
         Tabelle tabelle{{{"symbol"}, {"name"}, {"oz", true}}, {}};
         for (const auto& element : umgebung.kern().elements())
             tabelle.zeilen.push_back({element->symbol(), element->Name(), std::to_string(element->OZ())});
-        put(form.json ? alsJson(tabelle) : alsText(tabelle), {});
+        put(form.text(tabelle), {});
     }
 
     Tabellenform form;

@@ -1,6 +1,7 @@
 #include "cli/Stapel.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <iostream>
@@ -11,6 +12,7 @@
 #include "core/Kuerzung.h"
 #include "core/Namensnaehe.h"
 #include "core/Plattformdatei.h"
+#include "core/Textbytes.h"
 #include "core/Zahlentext.h"
 #include "core/Zeilenleser.h"
 #include "model/Groessenauswahl.h"
@@ -74,21 +76,15 @@ public:
         const std::string name =
             datei == Standardeingabe ? "Standardeingabe" : "Datei " + zitiert(datei, Dateinamenlaenge);
         m_place = m_nameFiles ? name + ", " : std::string();
-        if (istDokumentname(datei)) {
-            say(name + ": ist schon eine Legierung; ohne --stapel nennen");
-            ++m_failures;
-            return;
-        }
+        std::string grund(istDokumentname(datei) ? SchonEine : "");
         try {
-            const Eingabestrom strom(datei);
-            Zeilenleser zeilen([&](std::span<char> bytes) {
-                writeOut();
-                return std::cout ? strom.read(bytes) : 0;
-            });
-            while (const auto zeile = zeilen.next())
-                take(trimmedLine(*zeile), zeilen);
+            if (grund.empty())
+                grund = readLines(datei);
         } catch (const Laufzeitfehler& error) {
-            say(name + ": " + error.what());
+            grund = error.what();
+        }
+        if (!grund.empty()) {
+            say(name + ": " + grund);
             ++m_failures;
         }
         writeOut();
@@ -97,6 +93,34 @@ public:
     int failures() const { return m_failures; }
 
 private:
+    static constexpr const char* SchonEine = "ist schon eine Legierung; ohne --stapel nennen";
+
+    /// Why it is no list, which its first line tells: each line of a picture would be wrong by itself.
+    std::string readLines(const std::string& datei)
+    {
+        const Eingabestrom strom(datei);
+        Zeilenleser zeilen([&](std::span<char> bytes) {
+            writeOut();
+            return std::cout ? strom.read(bytes) : 0;
+        });
+        while (const auto zeile = zeilen.next()) {
+            if (std::string grund = zeilen.nummer() == 1 ? otherThanList(*zeile) : ""; !grund.empty())
+                return grund;
+            take(trimmedLine(*zeile), zeilen);
+        }
+        return {};
+    }
+
+    static std::string otherThanList(std::string_view firstLine)
+    {
+        if (istUtf16(firstLine))
+            return "Text in UTF-16; erwartet wird UTF-8";
+        constexpr std::array<std::string_view, 5> Pictures{"\x89PNG", "%PDF-", "<?xml", "<svg", "\x1F\x8B"};
+        if (std::ranges::any_of(Pictures, [&](std::string_view begin) { return firstLine.starts_with(begin); }))
+            return "ist ein Bild und keine Liste; trägt es eine Legierung, es ohne --stapel nennen";
+        return firstLine.starts_with('{') ? SchonEine : "";
+    }
+
     static std::string_view trimmedLine(std::string_view zeile)
     {
         constexpr std::string_view Blanks = " \t";
@@ -136,7 +160,7 @@ private:
     void say(const std::string& text)
     {
         writeOut();
-        std::string line = gekuerzt(text, LaengsteMeldung);
+        std::string line = meldungszeile(text);
         std::ranges::replace_if(
             line, [](char c) { return static_cast<unsigned char>(c) < ' '; }, '?');
         std::cerr << line + '\n';

@@ -1,7 +1,6 @@
 #include "cli/Suche.h"
 
 #include <algorithm>
-#include <iostream>
 
 #include "cli/Umgebung.h"
 #include "core/Kuerzung.h"
@@ -10,14 +9,6 @@
 namespace zerna {
 
 namespace {
-
-float zahl(const std::string& option, const std::string& text)
-{
-    const Eingabefeld feld = zahlenfeld(text);
-    if (feld.fehler)
-        throw Aufruffehler(option + " " + gekuerzt(text) + ": keine gültige Zahl");
-    return feld.wert;
-}
 
 /// Without a sum there is no ratio to be kept.
 void requireSum(std::span<const Legierungskomponente> alloy)
@@ -47,12 +38,11 @@ Tabelle withKeys(Tabelle tabelle, std::span<const Legierungskomponente> alloy, s
 void Suche::define(CLI::App& befehl)
 {
     groesse.define(befehl, "--groesse", Groessenhilfe)->required();
-    befehl.add_option("--ziel", ziel, "gesuchter Wert")->required()->option_text("ZAHL");
+    ziel.define(befehl, "--ziel", "gesuchter Wert")->required();
     befehl.add_option("--variabel", variabel, "Komponente, deren Anteil gesucht wird")->option_text("SYMBOL");
     befehl.add_flag("--mischungsreihe", mischungsreihe,
         "Die anderen Komponenten behalten ihr Verhältnis und teilen sich den ganzen Rest (Summe 100 %)");
-    befehl
-        .add_option("--dritte", dritte, "Statt eines Anteils: welches weitere Element, mit so vielen at%, kommt nahe?")
+    dritte.define(befehl, "--dritte", "Statt eines Anteils: welches weitere Element, mit so vielen at%, kommt nahe?")
         ->option_text("ATPROZENT");
     form.define(befehl);
     komponenten.define(befehl);
@@ -62,8 +52,8 @@ void Suche::define(CLI::App& befehl)
 void Suche::run(Umgebung& umgebung) const
 {
     const int kennzahl = groesse.kennzahl(Groessenart::Legierung);
-    const float wanted = zahl("--ziel", ziel);
-    if (dritte.empty())
+    const float wanted = ziel.wert();
+    if (dritte.text.empty())
         return searchPart(umgebung, kennzahl, wanted);
     if (!variabel.empty() || mischungsreihe)
         throw Aufruffehler("--variabel und --mischungsreihe gibt es nicht mit --dritte");
@@ -73,8 +63,8 @@ void Suche::run(Umgebung& umgebung) const
 void Suche::searchPart(Umgebung& umgebung, int kennzahl, float wanted) const
 {
     if (variabel.empty())
-        throw Aufruffehler("Es fehlt das Argument --variabel oder --dritte (Hilfe: zerna-cli --hilfe)");
-    umgebung.loadAlloy(komponenten.texte, komponenten.einheit());
+        throw fehlendesArgument("--variabel oder --dritte");
+    umgebung.loadAlloy(komponenten);
     const clsCalc& calc = umgebung.kern().calc();
     const auto alloy = umgebung.kern().komponenten();
     if (alloy.size() == 1)
@@ -90,7 +80,7 @@ void Suche::searchPart(Umgebung& umgebung, int kennzahl, float wanted) const
     if (!satz.empty() && !antwort.ueberall)
         throw Datenfehler(satz);
     if (!satz.empty())
-        std::cerr << "zerna-cli: " << satz << '\n';
+        melde(satz);
     const Tabelle tabelle = loesungstabelle(calc, alloy, frage, antwort, Dezimaltrenner::Punkt);
     put(form.json ? alsJson(withKeys(tabelle, alloy, findReihengroesse(kennzahl)->einheit)) : alsText(mitKopf(tabelle)),
         ausgabe.datei);
@@ -98,10 +88,10 @@ void Suche::searchPart(Umgebung& umgebung, int kennzahl, float wanted) const
 
 void Suche::rankElements(Umgebung& umgebung, int kennzahl, float wanted) const
 {
-    const float prozent = zahl("--dritte", dritte);
+    const float prozent = dritte.wert();
     if (prozent <= 0 || prozent >= 100)
-        throw Aufruffehler("--dritte " + gekuerzt(dritte) + ": erwartet wird eine Zahl zwischen 0 und 100");
-    umgebung.loadAlloy(komponenten.texte, komponenten.einheit());
+        throw unerwartet(dritte.name, dritte.text, "eine Zahl zwischen 0 und 100");
+    umgebung.loadAlloy(komponenten);
     const auto alloy = umgebung.kern().komponenten();
     if (alloy.size() == MaxKomponenten)
         throw Aufruffehler("Zu fünf Komponenten gibt es keine weitere");
@@ -110,9 +100,9 @@ void Suche::rankElements(Umgebung& umgebung, int kennzahl, float wanted) const
     const Rangliste liste =
         drittelemente(umgebung.kern().calc(), umgebung.kern().elements(), alloy, prozent, gesucht, wanted);
     const Tabelle tabelle = rangtabelle(liste, gesucht, Dezimaltrenner::Punkt);
-    put(form.json ? alsJson(tabelle) : alsText(tabelle), ausgabe.datei);
+    put(form.text(tabelle), ausgabe.datei);
     if (!liste.ohneDaten.empty())
-        std::cerr << "zerna-cli: " << ohneDatenSatz(liste) << '\n';
+        melde(ohneDatenSatz(liste));
 }
 
 } // namespace zerna

@@ -22,10 +22,10 @@ private:
     void rankElements(Umgebung& umgebung, int kennzahl, float wanted) const;
 
     Groessenangabe groesse;
-    std::string ziel;
+    Zahl ziel;
     std::string variabel;
     bool mischungsreihe = false;
-    std::string dritte;
+    Zahl dritte;
     Tabellenform form;
     Komponenten komponenten;
     Ausgabe ausgabe;

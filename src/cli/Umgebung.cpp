@@ -6,6 +6,7 @@
 #include <system_error>
 #include <vector>
 
+#include "cli/Argumente.h"
 #include "core/Elementdatei.h"
 #include "core/Exportdatei.h"
 #include "core/Kuerzung.h"
@@ -33,6 +34,14 @@ auto withFile(const std::string& file, Action&& action)
 
 } // namespace
 
+std::string meldungszeile(const std::string& text)
+{
+    const bool isOneSentence = text.ends_with('.') && text.find(". ") == std::string::npos;
+    return gekuerzt(isOneSentence ? text.substr(0, text.size() - 1) : text, LaengsteMeldung);
+}
+
+void melde(const std::string& text) { std::cerr << "zerna-cli: " << meldungszeile(text) << '\n'; }
+
 void StandardErrorBoxes::show(Icon, std::string_view, std::string_view text)
 {
     std::cerr << gekuerzt(ReplaceText(text, "\r\n", " "), LaengsteMeldung) << '\n';
@@ -49,43 +58,53 @@ void Umgebung::load()
         m_kern.loadFile(beside);
     else {
         m_kern.loadBuiltIn();
-        std::cerr << "zerna-cli: Die Datei " << zitiert(utf8FromPath(beside), Dateinamenlaenge)
-                  << " fehlt; es gelten nur die sechs eingebauten Elemente H bis C. Abhilfe: Zerna neu installieren, "
-                     "eine Elementdatei dieses Namens in den Ordner legen oder mit --daten nennen\n";
+        melde("Die Datei " + zitiert(utf8FromPath(beside), Dateinamenlaenge)
+            + " fehlt; es gelten nur die sechs eingebauten Elemente H bis C. Abhilfe: Zerna neu installieren, eine "
+              "Elementdatei dieses Namens in den Ordner legen oder mit --daten nennen.");
     }
 }
 
-void Umgebung::loadAlloy(std::span<const std::string> komponenten, Anteilseinheit einheit)
+void Umgebung::loadAlloy(const Komponenten& komponenten)
 {
-    if (const auto file = std::ranges::find_if(komponenten, istDokumentname); file != komponenten.end()) {
-        if (komponenten.size() > 1)
-            throw Aufruffehler("Die Datei " + zitiert(*file, Dateinamenlaenge) + " ist schon die ganze Legierung");
-        if (einheit != Anteilseinheit::Atom)
-            throw Aufruffehler("--massenprozent gibt es nicht mit einer Datei, in der steht, was eingetragen ist");
-        return loadDocument(*file);
-    }
+    const std::vector<std::string>& texte = komponenten.texte;
     const auto hasPart = [](const std::string& text) { return text.find('=') != std::string::npos; };
-    if (std::ranges::none_of(komponenten, hasPart))
-        return loadFormel(komponenten, einheit);
-    std::vector<Komponentenangabe> angaben;
-    for (const std::string& text : komponenten)
-        angaben.push_back(komponentenangabe(text, einheit));
-    load();
-    m_kern.setAlloy(angaben, einheit);
+    if (const auto file = std::ranges::find_if(texte, istDokumentname); file != texte.end()) {
+        if (texte.size() > 1)
+            throw Aufruffehler("Die Datei " + zitiert(*file, Dateinamenlaenge) + " ist schon die ganze Legierung");
+        if (komponenten.massenprozent)
+            throw Aufruffehler("--massenprozent gibt es nicht mit einer Datei, in der steht, was eingetragen ist");
+        loadDocument(*file);
+    } else if (std::ranges::any_of(texte, hasPart)) {
+        loadComponents(komponenten);
+    } else {
+        loadFormel(komponenten);
+    }
+    nenneBefund();
 }
 
-void Umgebung::loadFormel(std::span<const std::string> worte, Anteilseinheit einheit)
+void Umgebung::loadComponents(const Komponenten& komponenten)
+{
+    std::vector<Komponentenangabe> angaben;
+    for (const std::string& text : komponenten.texte)
+        angaben.push_back(komponentenangabe(text, komponenten.einheit()));
+    load();
+    m_kern.setAlloy(angaben, komponenten.einheit());
+    if (!m_kern.hinweis().empty())
+        melde(m_kern.hinweis());
+}
+
+void Umgebung::loadFormel(const Komponenten& worte)
 {
     std::string text;
-    for (const std::string& wort : worte)
+    for (const std::string& wort : worte.texte)
         text += (text.empty() ? "" : " ") + wort;
     load();
-    const auto [formel, fehler] = legierungsformel(text, m_kern.elements(), einheit);
+    const auto [formel, fehler] = legierungsformel(text, m_kern.elements(), worte.einheit());
     if (fehler)
         throw Aufruffehler(formelgrund(text, *fehler));
     m_kern.setAlloy(angabenAus(formel), formel.einheit());
     if (formel.istUmgerechnet())
-        std::cerr << "zerna-cli: " << UmgerechnetHinweis << '\n';
+        melde(std::string(UmgerechnetHinweis));
 }
 
 /// Values that the table gives otherwise stay those of the file, which is said.
@@ -98,10 +117,10 @@ void Umgebung::loadDocument(const std::string& file)
     if (!lesung.dokument)
         throw Datenfehler(name + oeffnung.grund);
     if (!lesung.nurLesen.empty())
-        std::cerr << "zerna-cli: " << name << lesung.nurLesen << '\n';
+        melde(name + lesung.nurLesen);
     for (const Tabellenunterschied& unterschied : lesung.unterschiede) {
         if (!unterschied.variante)
-            std::cerr << "zerna-cli: " << name << unterschiedstext(unterschied, *lesung.dokument) << '\n';
+            melde(name + unterschiedstext(unterschied, *lesung.dokument));
     }
     behalteDateiwerte(*lesung.dokument, lesung.unterschiede, m_kern.elements());
     try {
@@ -112,11 +131,12 @@ void Umgebung::loadDocument(const std::string& file)
     }
 }
 
+/// Says what makes the results doubtful.
 void Umgebung::nenneBefund()
 {
     const Ergebnislage lage = ergebnislage(m_kern.eingabe(), m_kern.eingabe(), m_kern.calc());
     if (lage.befund)
-        std::cerr << "zerna-cli: " << befundgrund(m_kern.eingabe(), *lage.befund) << '\n';
+        melde(befundgrund(m_kern.eingabe(), *lage.befund));
 }
 
 bool Umgebung::nennt(std::string_view argument) const { return std::ranges::find(aufruf, argument) != aufruf.end(); }

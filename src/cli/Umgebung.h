@@ -16,11 +16,19 @@ namespace zerna {
 /// Bytes of a line on standard error.
 inline constexpr std::size_t LaengsteMeldung = 1000;
 
+/// A message as it is written: one sentence without its full stop, however it comes; several with theirs.
+std::string meldungszeile(const std::string& text);
+
+/// Writes a message as a line on standard error, "zerna-cli" in front.
+void melde(const std::string& text);
+
 /// Messages of the library as lines on standard error.
 class StandardErrorBoxes : public MessageBoxes {
 public:
     void show(Icon icon, std::string_view caption, std::string_view text) override;
 };
+
+struct Komponenten;
 
 /// What every command works with: the element data, the calculator, and where output goes.
 class Umgebung {
@@ -29,13 +37,11 @@ public:
     /// Datenfehler.
     void load();
 
-    /// Reads the elements and makes the alloy of these component texts, or of the formula that they are the words of,
-    /// the calculator's, their parts in that unit unless the formula names another; or that of the document in the one
-    /// file that they name. Says on standard error if amounts were scaled. Throws Aufruffehler or Datenfehler.
-    void loadAlloy(std::span<const std::string> komponenten, Anteilseinheit einheit);
-
-    /// Says on standard error what makes the results of the alloy doubtful.
-    void nenneBefund();
+    /// Reads the elements and makes the alloy of these components, or of the formula that they are the words of, the
+    /// calculator's, their parts in that unit unless the formula names another; or that of the document in the one file
+    /// that they name. Says on standard error if amounts were scaled and what makes the results doubtful. Throws
+    /// Aufruffehler or Datenfehler.
+    void loadAlloy(const Komponenten& komponenten);
 
     Rechenkern& kern() { return m_kern; }
 
@@ -49,8 +55,10 @@ public:
     std::vector<std::string> aufruf; ///< the arguments of the call
 
 private:
+    void loadComponents(const Komponenten& komponenten);
     void loadDocument(const std::string& file);
-    void loadFormel(std::span<const std::string> worte, Anteilseinheit einheit);
+    void loadFormel(const Komponenten& worte);
+    void nenneBefund();
 
     StandardErrorBoxes m_boxes;
     Rechenkern m_kern{m_boxes};

@@ -12,7 +12,7 @@ TEST_F(JsonTest, EveryTableIsAsTheSchemaSays)
         "groessen --json Al60Cu40",
         "groessen --json --lehrbuch Al=50:valenz=0-3 2>/dev/null", // unknown values
         "groessen --stapel --jsonzeilen Liste 2>/dev/null | sed '1s/^/[/;$!s/$/,/;$s/$/]/'",
-        "reihe --json --groesse hall-koeffizient --variabel Al --schritt 10 Al=100:valenz=0",
+        "reihe --json --groesse hall-koeffizient --variabel Al --schritt 10 Al=100:valenz=0 2>/dev/null",
         "suche --json --groesse 9 --ziel 30 --variabel Mg --mischungsreihe Al=50 Cu=30 Mg=20",
         "suche --json --groesse 8 --ziel 9,5 --dritte 10 Al60Cu40 2>/dev/null",
         "suche --json --groesse 0 --ziel 1 --variabel Ag --mischungsreihe Ag50Cu50 2>/dev/null", // empty

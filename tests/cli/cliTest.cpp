@@ -101,7 +101,7 @@ TEST_F(cliTest, MissesTheProgramThatMakesPictures)
     const Answer answer = run("formel 1 >/dev/null; cp \"$(command -v zerna-cli)\" .; ./zerna-cli bild --art elemente "
                               "--groesse 13 --ziel a.png");
     EXPECT_EQ(answer.text,
-        "zerna-cli: zerna-bild fehlt neben zerna-cli. Bilder gibt es nur, wo Zerna mit seinem Fenster gebaut wurde\n");
+        "zerna-cli: zerna-bild fehlt neben zerna-cli. Bilder gibt es nur, wo Zerna mit seinem Fenster gebaut wurde.\n");
     EXPECT_EQ(answer.status, 1);
 }
 
@@ -115,7 +115,7 @@ TEST_F(cliTest, FindsItsTableThroughALinkAndSaysWhenThereIsNone)
         + "\" fehlt; es gelten nur die sechs eingebauten Elemente H bis C. Abhilfe: Zerna neu installieren, ";
     const std::string text = run("formel 1; ./rechner formel z_He").text;
     EXPECT_TRUE(text.starts_with("1\n" + hint)) << text;
-    EXPECT_TRUE(text.ends_with(" nennen\n0\n")) << text;
+    EXPECT_TRUE(text.ends_with(" nennen.\n0\n")) << text;
     EXPECT_FALSE(std::filesystem::exists(folder / "elemente.dat")) << "the command line writes none";
 }
 
