@@ -156,6 +156,15 @@ Diagrammwahl Bildoptionen::wahl(const std::optional<Dokument>& file, const Reche
         result.groesse = groesse.kennzahl(isPSE ? Groessenart::Element : Groessenart::Legierung);
     else if (!file || isOther)
         throw fehlendesArgument("--groesse");
+    if (varianten && (!file || file->vergleich->varianten.empty()))
+        throw Aufruffehler("--varianten gibt es nur mit einer Datei, in der Legierungen gemerkt sind");
+    choose(result, kern);
+    return isPSE ? result : passendeWahl(result, kern.eingabe().anzahl());
+}
+
+/// Takes what only one kind of diagram has; its options are those of the kind.
+void Bildoptionen::choose(Diagrammwahl& result, const Rechenkern& kern) const
+{
     if (result.typ == Diagrammtyp::Ternaer)
         requireTernaer(kern.komponenten().size());
     if (!variabel.empty())
@@ -164,13 +173,10 @@ Diagrammwahl Bildoptionen::wahl(const std::optional<Dokument>& file, const Reche
         result.zweiteGroesse = zweite.kennzahl(Groessenart::Legierung);
     if (!zweite.text.empty() && result.zweiteGroesse == result.groesse)
         throw unerwartet(zweite.name, zweite.text, "eine andere als die erste");
-    if (varianten && (!file || file->vergleich->varianten.empty()))
-        throw Aufruffehler("--varianten gibt es nur mit einer Datei, in der Legierungen gemerkt sind");
-    result.varianten = result.varianten || varianten;
     if (!schritte.text.empty())
         result.aufloesung = schritte.wert(1, FeinsteAufloesung);
+    result.varianten = result.varianten || varianten;
     result.ansicht.flach = result.ansicht.flach || flach;
-    return isPSE ? result : passendeWahl(result, kern.eingabe().anzahl());
 }
 
 } // namespace zerna

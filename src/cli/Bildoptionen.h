@@ -52,6 +52,7 @@ struct Bildoptionen {
 private:
     std::optional<Diagrammtyp> typ() const;
     void checkOptions(Diagrammtyp chosen) const;
+    void choose(Diagrammwahl& result, const Rechenkern& kern) const;
 };
 
 } // namespace zerna
