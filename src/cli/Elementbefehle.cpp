@@ -66,9 +66,9 @@ struct Importieren {
         try {
             saveElements(pathFromUtf8(dat), readElementCsv(readFile(csv)));
         } catch (const Tabellenfehler& error) {
-            throw Datenfehler("Datei " + zitiert(csv, Dateinamenlaenge) + ": " + error.what());
+            throw Datenfehler("Datei " + zitierteDatei(csv) + ": " + error.what());
         } catch (const Laufzeitfehler& error) {
-            throw Datenfehler("Datei " + zitiert(dat, Dateinamenlaenge) + ": " + error.what());
+            throw Datenfehler("Datei " + zitierteDatei(dat) + ": " + error.what());
         }
     }
 

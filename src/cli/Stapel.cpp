@@ -73,8 +73,7 @@ public:
     /// Until its end, or until nobody takes the output any more.
     void read(const std::string& datei)
     {
-        const std::string name =
-            datei == Standardeingabe ? "Standardeingabe" : "Datei " + zitiert(datei, Dateinamenlaenge);
+        const std::string name = datei == Standardeingabe ? "Standardeingabe" : "Datei " + zitierteDatei(datei);
         m_place = m_nameFiles ? name + ", " : std::string();
         std::string grund(istDokumentname(datei) ? SchonEine : "");
         try {

@@ -28,7 +28,7 @@ auto withFile(const std::string& file, Action&& action)
     try {
         return action(pathFromUtf8(file));
     } catch (const Laufzeitfehler& error) {
-        throw Datenfehler("Datei " + zitiert(file, Dateinamenlaenge) + ": " + error.what());
+        throw Datenfehler("Datei " + zitierteDatei(file) + ": " + error.what());
     }
 }
 
@@ -58,7 +58,7 @@ void Umgebung::load()
         m_kern.loadFile(beside);
     else {
         m_kern.loadBuiltIn();
-        melde("Die Datei " + zitiert(utf8FromPath(beside), Dateinamenlaenge)
+        melde("Die Datei " + zitierteDatei(utf8FromPath(beside))
             + " fehlt; es gelten nur die sechs eingebauten Elemente H bis C. Abhilfe: Zerna neu installieren, eine "
               "Elementdatei dieses Namens in den Ordner legen oder mit --daten nennen.");
     }
@@ -70,7 +70,7 @@ void Umgebung::loadAlloy(const Komponenten& komponenten)
     const auto hasPart = [](const std::string& text) { return text.find('=') != std::string::npos; };
     if (const auto file = std::ranges::find_if(texte, istDokumentname); file != texte.end()) {
         if (texte.size() > 1)
-            throw Aufruffehler("Die Datei " + zitiert(*file, Dateinamenlaenge) + " ist schon die ganze Legierung");
+            throw Aufruffehler("Die Datei " + zitierteDatei(*file) + " ist schon die ganze Legierung");
         if (komponenten.massenprozent)
             throw Aufruffehler("--massenprozent gibt es nicht mit einer Datei, in der steht, was eingetragen ist");
         loadDocument(*file);
@@ -110,7 +110,7 @@ void Umgebung::loadFormel(const Komponenten& worte)
 /// Values that the table gives otherwise stay those of the file, which is said.
 void Umgebung::loadDocument(const std::string& file)
 {
-    const std::string name = "Datei " + zitiert(file, Dateinamenlaenge) + ": ";
+    const std::string name = "Datei " + zitierteDatei(file) + ": ";
     load();
     Dokumentoeffnung oeffnung = oeffneDokument(pathFromUtf8(file), m_kern.elements());
     Lesung& lesung = oeffnung.lesung;

@@ -144,7 +144,7 @@ void overwrite(const std::filesystem::path& file, std::string_view bytes, Neufas
         } catch (const Laufzeitfehler&) {
             throw Laufzeitfehler(static_cast<Fehler>(error.Nummer()),
                 "die frühere Datei ist dabei beschädigt worden, die neue steht vollständig in "
-                    + zitiert(neu.stayBeside(file), Dateinamenlaenge));
+                    + zitierteDatei(neu.stayBeside(file)));
         }
         throw;
     }

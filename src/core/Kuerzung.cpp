@@ -26,4 +26,10 @@ std::string gekuerzt(std::string_view text, std::size_t length)
 
 std::string zitiert(std::string_view text, std::size_t length) { return '"' + gekuerzt(text, length) + '"'; }
 
+std::string zitierteDatei(std::string_view name)
+{
+    constexpr std::size_t LongestName = 255;
+    return zitiert(name, LongestName);
+}
+
 } // namespace zerna

@@ -12,7 +12,7 @@ std::string gekuerzt(std::string_view text, std::size_t length = 60);
 /// The same in quotation marks.
 std::string zitiert(std::string_view text, std::size_t length = 60);
 
-/// How much of a file's name a message shows.
-inline constexpr std::size_t Dateinamenlaenge = 255;
+/// A file's name as messages show it, in quotation marks: whole unless it is longer than any file's without its folder.
+std::string zitierteDatei(std::string_view name);
 
 } // namespace zerna

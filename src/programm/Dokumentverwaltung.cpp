@@ -16,10 +16,7 @@ namespace {
 
 constexpr std::string_view Endung = ".zerna";
 
-std::string zitierterName(const std::filesystem::path& file)
-{
-    return zitiert(utf8FromPath(file.filename()), Dateinamenlaenge);
-}
+std::string zitierterName(const std::filesystem::path& file) { return zitierteDatei(utf8FromPath(file.filename())); }
 
 /// The message about values that the table gives otherwise, some of them by name.
 std::string unterschiedsfrage(const std::filesystem::path& file, const Lesung& lesung)

@@ -39,8 +39,7 @@ Messkurvenoeffnung oeffneMesskurven(
             ++oeffnung.neue;
         } else {
             oeffnung.grund += (oeffnung.grund.empty() ? "" : "\r\n\r\n") + std::string("Die Messkurve ")
-                + zitiert(utf8FromPath(datei.filename()), Dateinamenlaenge) + " konnte nicht geöffnet werden:\r\n"
-                + lesung.grund;
+                + zitierteDatei(utf8FromPath(datei.filename())) + " konnte nicht geöffnet werden:\r\n" + lesung.grund;
         }
     }
     return oeffnung;

@@ -58,7 +58,7 @@ void Rechenkern::loadFile(const std::filesystem::path& file)
         m_files.open(number, file, Zugriff::Eingabe);
         load(number, name);
     } catch (const Laufzeitfehler& error) {
-        throw Datenfehler("Datei " + zitiert(name, Dateinamenlaenge) + ": " + error.what());
+        throw Datenfehler("Datei " + zitierteDatei(name) + ": " + error.what());
     }
 }
 
@@ -75,12 +75,12 @@ void Rechenkern::load(int number, const std::string& name)
     m_satzfehler.gemeldet = false;
     loadElements(m_files, number, m_satzfehler, m_elements, [&](const auto&, int position) {
         if (m_satzfehler.gemeldet)
-            throw Datenfehler("Datei " + zitiert(name, Dateinamenlaenge) + ": Element " + std::to_string(position)
+            throw Datenfehler("Datei " + zitierteDatei(name) + ": Element " + std::to_string(position)
                 + " ist nicht lesbar, die Datei ist abgeschnitten oder beschädigt");
     });
     m_files.close(number);
     if (m_elements.Count() == 0)
-        throw Datenfehler("Datei " + zitiert(name, Dateinamenlaenge) + " enthält keine Elemente");
+        throw Datenfehler("Datei " + zitierteDatei(name) + " enthält keine Elemente");
 }
 
 void Rechenkern::setAlloy(std::span<const Komponentenangabe> angaben, Anteilseinheit einheit)
