@@ -21,6 +21,7 @@ public:
     const QString& befund() const { return m_befund; }
 
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
     bool hasHeightForWidth() const override { return true; }
     int heightForWidth(int width) const override;
 

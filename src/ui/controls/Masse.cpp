@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QScreen>
 #include <QStyleOptionComboBox>
 
 namespace zerna {
@@ -36,6 +37,12 @@ int listenbreite(const QComboBox& list, const QString& widest)
     option.initFrom(&list);
     const QSize text = list.fontMetrics().size(Qt::TextSingleLine, widest);
     return list.style()->sizeFromContents(QStyle::CT_ComboBox, &option, text, &list).width();
+}
+
+QRect fensterraum(const QWidget& window)
+{
+    constexpr QMargins Frame(8, 40, 8, 8); // with room to spare
+    return window.screen()->availableGeometry().marginsRemoved(Frame);
 }
 
 } // namespace zerna

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QRect>
+
 class QComboBox;
 class QLineEdit;
 class QString;
@@ -19,5 +21,8 @@ int listenbreite(const QComboBox& list, const QString& widest);
 
 /// What a field's frame and margins take on each side of its text.
 int feldrand(const QLineEdit& field);
+
+/// The part of its screen that a window can have without the frame that the desktop puts around it.
+QRect fensterraum(const QWidget& window);
 
 } // namespace zerna

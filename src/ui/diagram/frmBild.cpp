@@ -7,6 +7,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -29,6 +31,7 @@ namespace {
 enum Mass : std::size_t { Breite, Hoehe, Schriftgroesse, Linienbreite, Aufloesung };
 
 constexpr std::array<double, 2> Spalten{Einspaltig, Zweispaltig};
+constexpr int Abstand = 16; // of fields and preview
 constexpr int Frei = 2; // entry of the list of widths
 
 struct Schalter {
@@ -52,6 +55,33 @@ Widget* named(Widget* widget, const char* name)
     widget->setObjectName(QLatin1String(name));
     return widget;
 }
+
+/// The fields, which scroll where the screen is too low for all of them.
+class Felderbereich : public QScrollArea {
+public:
+    Felderbereich(QLayout* fields, QWidget* parent)
+        : QScrollArea(parent)
+    {
+        auto* const panel = new QWidget;
+        auto* const column = new QVBoxLayout(panel);
+        column->setContentsMargins(0, 0, 0, 0);
+        column->addLayout(fields);
+        column->addStretch();
+        setWidget(panel);
+        setWidgetResizable(true);
+        setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, &QScrollArea::updateGeometry);
+    }
+
+    QSize sizeHint() const override
+    {
+        const int bar = verticalScrollBar()->maximum() > 0 ? verticalScrollBar()->sizeHint().width() : 0;
+        return widget()->sizeHint() + QSize(bar, 0);
+    }
+    QSize minimumSizeHint() const override { return {sizeHint().width(), 10 * fontMetrics().height()}; }
+};
 
 QString number(double value) { return toQt(textOfDouble(value)); }
 
@@ -171,14 +201,12 @@ void frmBild::layOut()
     auto* const form = new QFormLayout;
     layOutSize(*form);
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
-    auto* const fields = new QVBoxLayout;
-    fields->addLayout(form);
-    fields->addStretch();
+    form->setSpacing(Abstand);
     auto* const upper = new QHBoxLayout;
-    upper->addLayout(fields);
+    upper->addWidget(new Felderbereich(form, this));
     upper->addWidget(m_picVorschau, 1);
-    upper->setSpacing(16);
-    m_picVorschau->setMinimumSize(240, 200);
+    upper->setSpacing(Abstand);
+    m_picVorschau->setMinimumSize(240, 140);
     auto* const buttons = new QHBoxLayout;
     buttons->addWidget(m_cmdVorgabe);
     buttons->addStretch();
@@ -188,7 +216,10 @@ void frmBild::layOut()
     column->addLayout(upper, 1);
     column->addWidget(m_lblBefund);
     column->addLayout(buttons);
-    resize(860, sizeHint().height());
+    folgeSchrift(this, [this, column] { // the line below may take three
+        setMinimumHeight(column->minimumSize().height() + 2 * fontMetrics().lineSpacing());
+    });
+    resize(860, std::min(sizeHint().height(), fensterraum(*this).height()));
 }
 
 void frmBild::orderTabs()

@@ -1,9 +1,9 @@
 #include "ui/main/Fensterplatz.h"
 
 #include <QEvent>
-#include <QMargins>
-#include <QScreen>
 #include <QWidget>
+
+#include "ui/controls/Masse.h"
 
 namespace zerna {
 
@@ -36,10 +36,9 @@ Fensterplatz::Fensterplatz(QWidget& window, Settings& settings, const char* key)
 
 void Fensterplatz::einnehmen(const QSize& usual)
 {
-    constexpr QMargins Frame(8, 40, 8, 8); // of a window, with room to spare
     const QByteArray last = QByteArray::fromStdString(m_settings.LoadSetting(m_key, ""));
     const bool isKnown = m_window.restoreGeometry(QByteArray::fromBase64(last));
-    const QRect room = m_window.screen()->availableGeometry().marginsRemoved(Frame);
+    const QRect room = fensterraum(m_window);
     if (!isKnown)
         m_window.resize(usual.boundedTo(room.size())); // where, the desktop knows best
     else if (!m_window.isMaximized() && !room.contains(m_window.geometry()))

@@ -18,7 +18,7 @@ Suchliste::Suchliste(const Settings& settings, QWidget* parent)
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     folgeSchrift(this, [this] {
         verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-        setMinimumHeight(5 * (fontMetrics().height() + 6));
+        setMinimumHeight(2 * verticalHeader()->defaultSectionSize());
         verteile();
     });
     connect(this, &QTableWidget::currentCellChanged, this, &Suchliste::gewaehltChanged);

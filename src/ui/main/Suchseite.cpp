@@ -7,6 +7,7 @@
 #include "ui/controls/Befundzeile.h"
 #include "ui/controls/Knopfzeile.h"
 #include "ui/main/Suchliste.h"
+#include "ui/platform/Schriftfolge.h"
 #include "ui/platform/Tabreihenfolge.h"
 
 namespace zerna {
@@ -45,6 +46,10 @@ void Suchseite::layOut(QFormLayout* frage, std::vector<QWidget*> felder)
     column->addLayout(knopfzeile({m_cmdUebernehmen, m_cmdKopieren}));
     felder.insert(felder.end(), {m_liste, m_lblSatz, m_cmdUebernehmen, m_cmdKopieren});
     setTabReihenfolge(felder);
+    folgeSchrift(this, [this, column] { // where a long sentence takes further lines, the list gives way
+        const int line = fontMetrics().height() + 6;
+        setMinimumSize(24 * line, column->minimumSize().height() + 3 * line);
+    });
 }
 
 std::string Suchseite::hindernis(const Eingabefeld& ziel) const

@@ -3,7 +3,6 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
-#include <QScreen>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -11,6 +10,7 @@
 
 #include "core/CheckedArithmetic.h"
 #include "ui/controls/Knopfzeile.h"
+#include "ui/controls/Masse.h"
 #include "ui/controls/Wertfeld.h"
 #include "ui/main/Anteilsseite.h"
 #include "ui/main/Diagrammseite.h"
@@ -174,7 +174,7 @@ void frmZielsuche::placeBeside()
     constexpr int Margin = 8;
     if (parentWidget() == nullptr || testAttribute(Qt::WA_Moved))
         return;
-    const QRect available = parentWidget()->screen()->availableGeometry();
+    const QRect available = fensterraum(*parentWidget());
     resize(size().boundedTo(available.size()));
     const QPoint corner = parentWidget()->mapToGlobal(QPoint(Margin, parentWidget()->height() - height() - Margin));
     move(qMax(corner.x(), available.left()), qMax(corner.y(), available.top()));

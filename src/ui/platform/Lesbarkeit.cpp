@@ -1,6 +1,6 @@
 #include "ui/platform/Lesbarkeit.h"
 
-#include <QAbstractItemView>
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QPainter>
 #include <QStyleOption>
@@ -83,12 +83,20 @@ void LesbarerStil::drawComplexControl(
     ComplexControl control, const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const
 {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
-    if (control != CC_ComboBox)
-        return;
-    if (option->state.testFlag(State_HasFocus))
+    if (option->state.testFlag(State_HasFocus) && (control == CC_ComboBox || control == CC_ToolButton))
         drawFocus(*option, *painter);
-    else
+    else if (control == CC_ComboBox)
         drawOutline(*option, *painter);
+}
+
+/// The usual style frames a button with the focus no other than the one that Enter presses.
+void LesbarerStil::drawControl(
+    ControlElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const
+{
+    QProxyStyle::drawControl(element, option, painter, widget);
+    const bool isTab = element == CE_TabBarTab && option->state.testFlag(State_Selected);
+    if ((element == CE_PushButton || isTab) && option->state.testFlag(State_HasFocus))
+        drawFocus(*option, *painter);
 }
 
 void LesbarerStil::drawPrimitive(
@@ -99,16 +107,16 @@ void LesbarerStil::drawPrimitive(
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     if (element == PE_FrameLineEdit || element == PE_IndicatorCheckBox)
         drawOutline(*option, *painter);
-    const bool isView = qobject_cast<const QAbstractItemView*>(widget) != nullptr;
+    const bool isView = qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
     if (element == PE_Frame && isView && option->state.testFlag(State_HasFocus))
         drawFocus(*option, *painter);
 }
 
-/// Lists and tables leave room for the frame around what has the focus.
+/// Lists, tables and long texts leave room for the frame around what has the focus.
 int LesbarerStil::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     const int usual = QProxyStyle::pixelMetric(metric, option, widget);
-    const bool isView = qobject_cast<const QAbstractItemView*>(widget) != nullptr;
+    const bool isView = qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
     return metric == PM_DefaultFrameWidth && isView ? std::max(usual, FocusWidth) : usual;
 }
 
