@@ -6,6 +6,9 @@
 /// The parts of a document as JSON, without what is foreign.
 namespace zerna {
 
+/// Of a row of mass %: what turned them into at%, in g/mol.
+inline constexpr const char* Atommassenschluessel = "atommasse";
+
 /// A single in its shortest digits; null for one that is unknown.
 Json zahl(float wert);
 

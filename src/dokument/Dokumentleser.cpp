@@ -74,8 +74,9 @@ void readValenz(
 
 /// Rows of a file, one after the other.
 void readZeile(
-    Feldleser& leser, const Json& json, Rohzeile& zeile, float& valenzwert, const ElementCollection& elements)
+    Feldleser& leser, const Json& json, Dateilegierung& legierung, std::size_t row, const ElementCollection& elements)
 {
+    Rohzeile& zeile = legierung.roh.zeilen.at(row);
     if (!json.is_object())
         leser.ablehnen(json, "Eine Zeile muss ein Objekt sein");
     zeile.element = leser.textOderNull(json, "element", LaengstesFeld);
@@ -83,7 +84,17 @@ void readZeile(
     if (zeile.element.empty())
         return;
     readDichte(leser, leser.objekt(json, "dichte"), zeile);
-    readValenz(leser, leser.objekt(json, "valenz"), zeile, valenzwert, elements);
+    readValenz(leser, leser.objekt(json, "valenz"), zeile, legierung.valenzen.at(row), elements);
+    if (json.contains(Atommassenschluessel))
+        legierung.atommassen.at(row) = leser.wert(json, Atommassenschluessel);
+}
+
+/// A file's alloy knows that rows may have an atomic mass, whether this one writes it or not.
+Json mitAtommassen(Json legierung)
+{
+    for (Json& zeile : legierung["zeilen"])
+        zeile.emplace(Atommassenschluessel, nullptr);
+    return legierung;
 }
 
 /// Rows of the same element share density and valence, so what a file says of it must be the same in each.
@@ -104,10 +115,10 @@ void checkGleiche(Feldleser& leser, const Json& zeilen, std::span<const Rohzeile
 /// The rows that a file leaves out hold what they hold at the start.
 Dateilegierung readLegierung(Feldleser& leser, const Json& json, const ElementCollection& elements)
 {
-    Dateilegierung legierung{Eingabe(elements).roh(), {}};
+    Dateilegierung legierung{Eingabe(elements).roh(), {}, {}};
     const Json& zeilen = leser.liste(json, "zeilen", 1, MaxKomponenten);
     for (std::size_t i = 0; i < zeilen.size() && !leser.fehler(); ++i)
-        readZeile(leser, zeilen.at(i), legierung.roh.zeilen.at(i), legierung.valenzen.at(i), elements);
+        readZeile(leser, zeilen.at(i), legierung, i, elements);
     checkGleiche(leser, zeilen, legierung.roh.zeilen);
     legierung.roh.anzahl = leser.ganzzahl(json, "anzahl", 1, std::max(1, static_cast<int>(zeilen.size())));
     legierung.roh.einheit = codeFor(leser, json, "einheit", Einheitenworte);
@@ -162,6 +173,7 @@ public:
             Json known = dokumentjson(dokument);
             for (const std::string_view key : WahlfreieDiagrammangaben)
                 known["diagramm"].emplace(key, nullptr);
+            known["legierung"] = mitAtommassen(known["legierung"]);
             known["kurven"] = nullptr; // each has its own
             known.emplace(Messkurvenschluessel, nullptr);
             return known;
@@ -212,7 +224,11 @@ private:
                 m_leser.ablehnen(varianten.at(i), "Eine Variante muss ein Objekt sein");
             std::string name = m_leser.text(varianten.at(i), "name", LaengstesFeld);
             Variante variante{std::move(name), eingabe(m_leser.objekt(varianten.at(i), "legierung"), i), {}};
-            variante.fremd = fremdes(varianten.at(i), [&] { return variantenjson(variante); });
+            variante.fremd = fremdes(varianten.at(i), [&] {
+                Json known = variantenjson(variante);
+                known["legierung"] = mitAtommassen(known["legierung"]);
+                return known;
+            });
             vergleich.varianten.push_back(std::move(variante));
         }
         const int most = std::max(1, static_cast<int>(varianten.size()));

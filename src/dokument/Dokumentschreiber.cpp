@@ -34,8 +34,12 @@ Json legierungsjson(const Eingabe& eingabe)
 {
     const Rohlegierung roh = eingabe.roh();
     Json zeilen = Json::array();
-    for (int i = 0; i < MaxKomponenten; ++i)
-        zeilen.push_back(zeilenjson(roh.zeilen.at(static_cast<std::size_t>(i)), eingabe.zeile(i).inKraft.valenz));
+    for (int i = 0; i < MaxKomponenten; ++i) {
+        const Eingabe::Zeile& zeile = eingabe.zeile(i);
+        zeilen.push_back(zeilenjson(roh.zeilen.at(static_cast<std::size_t>(i)), zeile.inKraft.valenz));
+        if (roh.quelle == Anteilseinheit::Masse && zeile.element)
+            zeilen.back()[Atommassenschluessel] = zahl(zeile.element->Masse());
+    }
     return {{"anzahl", roh.anzahl}, {"einheit", wortFuer(roh.einheit, Einheitenworte)},
         {"getipptIn", wortFuer(roh.quelle, Einheitenworte)}, {"zeilen", std::move(zeilen)}, {"rest", roh.rest},
         {"nachgeschlagen", textOderNull(roh.nachgeschlagen)}};

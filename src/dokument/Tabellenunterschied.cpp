@@ -7,6 +7,7 @@
 #include "core/Unbekannt.h"
 #include "dokument/Worte.h"
 #include "model/Komposition.h"
+#include "model/Massenprozent.h"
 
 namespace zerna {
 
@@ -52,6 +53,39 @@ std::optional<Tabellenunterschied> valenzunterschied(
     return Tabellenunterschied{{}, 0, zeile.element, Wert::Valenz, wahl, datei, hier};
 }
 
+/// The at% of each row, if mass % come to others here; nothing where they come to none.
+std::vector<Tabellenunterschied> anteilsunterschiede(const Dateilegierung& legierung, const ElementCollection& elements)
+{
+    if (legierung.roh.quelle != Anteilseinheit::Masse)
+        return {};
+    const Eingabe here = Eingabe::aus(elements, legierung.roh);
+    std::vector<double> anteile;
+    std::vector<float> massen;
+    bool differs = false;
+    for (int i = 0; i < here.anzahl(); ++i) {
+        const auto& element = here.zeile(i).element;
+        if (!element || here.anteilInKraft(i).fehler)
+            return {};
+        anteile.push_back(here.anteilInKraft(i).wert);
+        massen.push_back(legierung.atommassen.at(static_cast<std::size_t>(i)).value_or(element->Masse()));
+        differs |= massen.back() != element->Masse();
+    }
+    std::vector<Tabellenunterschied> found;
+    for (int i = 0; differs && i < here.anzahl(); ++i) {
+        const auto datei = static_cast<float>(atomprozente(anteile, massen).at(static_cast<std::size_t>(i)));
+        found.push_back({{}, i, here.zeile(i).element->symbol(), Wert::Anteil, {}, datei, here.prozentInKraft(i).wert});
+    }
+    return found;
+}
+
+/// The file's at% become the typed ones; the last row takes what they leave.
+void behalteAnteil(Eingabe& eingabe, const Tabellenunterschied& unterschied)
+{
+    eingabe.setEinheit(Anteilseinheit::Atom);
+    if (unterschied.zeile + 1 < eingabe.anzahl())
+        eingabe.setProzent(unterschied.zeile, feldtext(unterschied.datei));
+}
+
 void behalte(Rohzeile& zeile, const Tabellenunterschied& unterschied)
 {
     if (unterschied.was == Wert::Dichte) {
@@ -75,16 +109,24 @@ void uebernimm(Rohzeile& zeile, const Tabellenunterschied& unterschied, const El
     }
 }
 
-template <class Decision>
 void decide(Dokument& dokument, std::span<const Tabellenunterschied> unterschiede, const ElementCollection& elements,
-    Decision decision)
+    bool behaelt)
 {
     Vergleich vergleich = *dokument.vergleich;
     for (const Tabellenunterschied& unterschied : unterschiede) {
         Eingabe& eingabe =
             unterschied.variante ? vergleich.varianten.at(*unterschied.variante).eingabe : dokument.eingabe;
+        if (unterschied.was == Wert::Anteil) {
+            if (behaelt)
+                behalteAnteil(eingabe, unterschied);
+            continue;
+        }
         Rohlegierung roh = eingabe.roh();
-        decision(roh.zeilen.at(static_cast<std::size_t>(unterschied.zeile)), unterschied);
+        Rohzeile& zeile = roh.zeilen.at(static_cast<std::size_t>(unterschied.zeile));
+        if (behaelt)
+            behalte(zeile, unterschied);
+        else
+            uebernimm(zeile, unterschied, elements);
         eingabe = Eingabe::aus(elements, roh);
     }
     dokument.vergleich = std::move(vergleich);
@@ -111,6 +153,8 @@ std::vector<Tabellenunterschied> unterschiede(
         add(dichteunterschied(zeile, *element), i);
         add(valenzunterschied(zeile, legierung.valenzen.at(i), *element, elements), i);
     }
+    for (Tabellenunterschied& unterschied : anteilsunterschiede(legierung, elements))
+        add(unterschied, static_cast<std::size_t>(unterschied.zeile));
     return found;
 }
 
@@ -120,23 +164,24 @@ std::string unterschiedstext(const Tabellenunterschied& unterschied, const Dokum
     const std::string ort = unterschied.variante
         ? "Variante " + zitiert(dokument.vergleich->varianten.at(*unterschied.variante).name) + ", Zeile "
         : "Zeile ";
-    return ort + std::to_string(unterschied.zeile + 1) + ": "
-        + (unterschied.was == Wert::Dichte ? "Dichte (" : "Valenz (") + gekuerzt(unterschied.wahl) + ") von "
-        + unterschied.element + ": " + shown(unterschied.datei) + " in der Datei, " + shown(unterschied.hier) + " hier";
+    const std::string was = unterschied.was == Wert::Anteil
+        ? "at%"
+        : (unterschied.was == Wert::Dichte ? "Dichte (" : "Valenz (") + gekuerzt(unterschied.wahl) + ")";
+    return ort + std::to_string(unterschied.zeile + 1) + ": " + was + " von " + unterschied.element + ": "
+        + shown(unterschied.datei) + " in der Datei, " + shown(unterschied.hier) + " hier"
+        + (unterschied.was == Wert::Anteil ? " (andere Atommassen)" : "");
 }
 
 void behalteDateiwerte(
     Dokument& dokument, std::span<const Tabellenunterschied> unterschiede, const ElementCollection& elements)
 {
-    decide(dokument, unterschiede, elements, behalte);
+    decide(dokument, unterschiede, elements, true);
 }
 
 void uebernehmeTabelle(
     Dokument& dokument, std::span<const Tabellenunterschied> unterschiede, const ElementCollection& elements)
 {
-    decide(dokument, unterschiede, elements, [&elements](Rohzeile& zeile, const Tabellenunterschied& unterschied) {
-        uebernimm(zeile, unterschied, elements);
-    });
+    decide(dokument, unterschiede, elements, false);
 }
 
 } // namespace zerna

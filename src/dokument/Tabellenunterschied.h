@@ -10,15 +10,16 @@
 
 namespace zerna {
 
-/// A density or valence of a file that this machine's table gives otherwise.
+/// A density or valence of a file that this machine's table gives otherwise, or the at% that mass % come to with its
+/// atomic masses.
 struct Tabellenunterschied {
-    enum class Wert { Dichte, Valenz };
+    enum class Wert { Dichte, Valenz, Anteil };
 
     std::optional<std::size_t> variante; ///< the kept alloy, from 0; none for the alloy itself
     int zeile = 0; ///< from 0
     std::string element; ///< symbol
     Wert was = Wert::Dichte;
-    std::string wahl; ///< the choice or formula that means the value
+    std::string wahl; ///< the choice or formula that means the value; empty for at%
     float datei = 0; ///< Unbekannt if the file has none
     float hier = 0; ///< Unbekannt if the table has none
 
@@ -29,9 +30,10 @@ struct Tabellenunterschied {
 struct Dateilegierung {
     Rohlegierung roh;
     std::array<float, MaxKomponenten> valenzen{}; ///< that the valence texts in force came to
+    std::array<std::optional<float>, MaxKomponenten> atommassen; ///< g/mol, that mass % were converted with, if known
 };
 
-/// Where the table differs, by row, density before valence; `variante` is handed on.
+/// Where the table differs, by row, density before valence, and then the at% of all rows; `variante` is handed on.
 std::vector<Tabellenunterschied> unterschiede(
     const Dateilegierung& legierung, const ElementCollection& elements, std::optional<std::size_t> variante);
 

@@ -330,6 +330,33 @@ TEST_F(DokumentdateiTest, TellsDifferencesToTheTableForKeepingOrTakingOver)
     EXPECT_TRUE(read(schreibe(taken)).unterschiede.empty());
 }
 
+TEST_F(DokumentdateiTest, TellsOfMassPercentThatComeToOtherAtomPercent)
+{
+    EXPECT_EQ(schreibe(dokument).find("atommasse"), std::string::npos);
+    dokument.eingabe.setEinheit(Anteilseinheit::Masse);
+    dokument.eingabe.setProzent(0, "29,8");
+    const std::string text = schreibe(dokument);
+    EXPECT_TRUE(read(text).unterschiede.empty());
+    const float before = dokument.eingabe.prozentInKraft(0).wert;
+    elements.Item("Cu")->setMasse(2 * elements.Item("Cu")->Masse());
+    const Lesung lesung = read(text);
+    const float here = lesung.dokument->eingabe.prozentInKraft(0).wert;
+    EXPECT_NEAR(before, 50, 0.01);
+    EXPECT_NEAR(here, 66.67, 0.01);
+    EXPECT_THAT(differences(lesung),
+        testing::ElementsAre("Zeile 1: at% von Al: " + feldtext(before) + " in der Datei, " + feldtext(here)
+                + " hier (andere Atommassen)",
+            testing::StartsWith("Zeile 2: at% von Cu: 50,0")));
+    Dokument kept = *lesung.dokument;
+    behalteDateiwerte(kept, lesung.unterschiede, elements);
+    EXPECT_EQ(kept.eingabe.prozentInKraft(0).wert, before);
+    EXPECT_EQ(kept.eingabe.einheit(), Anteilseinheit::Atom);
+    Dokument taken = *lesung.dokument;
+    uebernehmeTabelle(taken, lesung.unterschiede, elements);
+    EXPECT_EQ(taken, *lesung.dokument);
+    EXPECT_TRUE(read(schreibe(taken)).unterschiede.empty());
+}
+
 TEST_F(DokumentdateiTest, TellsOfElementsAndChoicesThatTheTableLacks)
 {
     const Lesung lesung = read(with("\"element\": \"Cu\"", "\"element\": \"Qx\""));
