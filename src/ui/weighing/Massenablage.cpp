@@ -45,20 +45,25 @@ std::optional<AbgelegteMasse> Massenablage::nimm(int row)
     return std::exchange(m_massen.at(static_cast<std::size_t>(row)), std::nullopt);
 }
 
-void Massenablage::zeige(int anzahl)
+void Massenablage::zeige(const QStringList& komponenten)
 {
-    QStringList masses;
+    QStringList gone;
+    QStringList back;
     bool hasPlace = false;
     for (int row = 0; const auto& masse : m_massen) {
         if (masse) {
-            masses += QStringLiteral("%1 %2 mg").arg(masse->komponente, masse->masse);
-            hasPlace |= row < anzahl;
+            (komponenten.contains(masse->komponente) ? back : gone) +=
+                QStringLiteral("%1 %2 mg").arg(masse->komponente, masse->masse);
+            hasPlace |= row < komponenten.size();
         }
         ++row;
     }
-    const QString text = masses.join(QStringLiteral(", "));
-    m_text->setText(
-        text.isEmpty() ? QString() : QStringLiteral("Gelöscht, da nicht mehr in der Legierung: %1").arg(text));
+    QStringList sentences;
+    if (!gone.isEmpty())
+        sentences += QStringLiteral("Gelöscht, da nicht mehr in der Legierung: %1").arg(gone.join(QLatin1String(", ")));
+    if (!back.isEmpty())
+        sentences += QStringLiteral("Gelöscht und wieder in der Legierung: %1").arg(back.join(QLatin1String(", ")));
+    m_text->setText(sentences.join(QStringLiteral(". ")));
     m_text->setToolTip(m_text->text());
     m_zurueckholen->setVisible(hasPlace);
 }

@@ -37,8 +37,8 @@ public:
 
     void leere() { m_massen.fill({}); }
 
-    /// Shows what there is, with the offer if one of the masses stood in the first `anzahl` rows.
-    void zeige(int anzahl);
+    /// Shows what there is, with the offer if one of the masses stood in a row that has a component now.
+    void zeige(const QStringList& komponenten);
 
     bool bietetAn() const; ///< what can be put back now
 

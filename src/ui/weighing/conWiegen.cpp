@@ -191,7 +191,7 @@ void conWiegen::zeigeDokument()
 void conWiegen::vergissAbgelegte()
 {
     m_ablage->leere();
-    m_ablage->zeige(m_anzahl);
+    m_ablage->zeige(komponenten());
 }
 
 std::vector<float> conWiegen::massen() const
@@ -286,7 +286,7 @@ void conWiegen::showAuskunft()
         lines.append(toQt(wiegestandText()));
     m_hinweis->setText(lines.join(QLatin1Char('\n')));
     m_hinweis->setToolTip(m_hinweis->text());
-    m_ablage->zeige(m_anzahl);
+    m_ablage->zeige(komponenten());
 }
 
 std::string conWiegen::wiegestandText() const
@@ -299,15 +299,16 @@ std::string conWiegen::wiegestandText() const
     return wiegestand(m_programm.Calc(), wiegungen, m_programm.Dokument().wiegen.bezug);
 }
 
-/// The row of a component by its name; -1 if there is none.
-int conWiegen::zeileVon(const QString& komponente) const
+QStringList conWiegen::komponenten() const
 {
-    for (int row = 0; row < m_anzahl; ++row) {
-        if (at(row).komponente() == komponente)
-            return row;
-    }
-    return -1;
+    QStringList names;
+    for (int row = 0; row < m_anzahl; ++row)
+        names += at(row).komponente();
+    return names;
 }
+
+/// The row of a component by its name; -1 if there is none.
+int conWiegen::zeileVon(const QString& komponente) const { return static_cast<int>(komponenten().indexOf(komponente)); }
 
 /// Puts the mass taken out of one row into another one that has none.
 void conWiegen::setzeIn(int from, int row)

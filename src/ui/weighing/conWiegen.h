@@ -63,6 +63,7 @@ private:
     void Istmasse_Change(int row);
     void Istmasse_KeyDown(int row);
     void zeigeVerlust();
+    QStringList komponenten() const;
     int zeileVon(const QString& komponente) const;
     void setzeIn(int from, int row);
     void putBack();

@@ -50,6 +50,7 @@ TEST_F(conWiegenTest, MassesStayWithTheirComponents)
     take("Al60Pb40");
     take("Al60Cu40");
     EXPECT_EQ(texts({"Istmasse_0", "Istmasse_1"}), "300|") << "it may be other copper";
+    EXPECT_EQ(text("lblAbgelegt"), "Gelöscht und wieder in der Legierung: Kupfer 700 mg");
     click("cmdZurueckholen");
     EXPECT_EQ(texts({"Istmasse_0", "Istmasse_1", "lblAbgelegt"}), "300|700|");
 }
