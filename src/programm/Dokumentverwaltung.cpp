@@ -135,6 +135,7 @@ bool Dokumentverwaltung::speichere()
         return speichereUnter();
     }
     nimmAn(m_datei, m_programm.Dokument());
+    m_save.gespeichert(utf8FromPath(m_datei.filename()));
     return true;
 }
 

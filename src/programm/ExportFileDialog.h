@@ -30,6 +30,9 @@ public:
 
     /// Asks whether an existing file may be replaced.
     virtual bool confirmReplace(std::string_view name) = 0;
+
+    /// Hears the name of a file that has been written.
+    virtual void gespeichert(std::string_view) { }
 };
 
 /// Asks for an export's file name. Returns the name without its folder, which has become the current folder, or an

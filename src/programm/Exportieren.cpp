@@ -78,8 +78,10 @@ std::optional<std::filesystem::path> speichereAls(MessageBoxes& boxes, SaveFileD
         const std::filesystem::path file = std::filesystem::current_path(unknown) / pathFromUtf8(name);
         if (inhalt.bytes->empty())
             zeigeNichtsZuSpeichern(boxes, "Für diese Dateiart ist kein Wert bekannt.");
-        else if (isWritten(boxes, name, *inhalt.bytes))
+        else if (isWritten(boxes, name, *inhalt.bytes)) {
+            dialog.gespeichert(name);
             return file;
+        }
         refused = {utf8FromPath(file), filterIndex};
     }
 }

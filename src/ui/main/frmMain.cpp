@@ -25,6 +25,7 @@
 #include "ui/main/Hilfe.h"
 #include "ui/main/Kompositionsbereich.h"
 #include "ui/main/PSEbereich.h"
+#include "ui/main/Speichermelder.h"
 #include "ui/main/Vergleichsbereich.h"
 #include "ui/main/Zugangsfabrik.h"
 #include "ui/platform/QtText.h"
@@ -116,8 +117,10 @@ frmMain::frmMain(Programm& programm, Dialoge dialoge)
     setWindowTitle(toQt(Programmtitel));
     setWindowIcon(programmsymbol());
     createControls();
-    createCalculatorPanel(dialoge);
-    m_dateien = new Dateibefehle(programm, dialoge, *this);
+    m_speichern = std::make_unique<Speichermelder>(dialoge.save, *m_meldung);
+    const Dialoge meldende{*m_speichern, dialoge.input, dialoge.open};
+    createCalculatorPanel(meldende);
+    m_dateien = new Dateibefehle(programm, meldende, *this);
     m_hilfe = new Hilfe(*this, programm.settings());
     layOut();
     connectPanels();

@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include <array>
+#include <memory>
 
 #include "programm/Programm.h"
 #include "ui/main/Sitzung.h"
@@ -22,6 +23,7 @@ class Kurzmeldung;
 class Menue;
 class PSEbereich;
 class Spaltenpaar;
+class Speichermelder;
 class StyledButton;
 class Vergleichsbereich;
 class conWiegen;
@@ -110,6 +112,7 @@ private:
     Hilfe* m_hilfe = nullptr;
     std::array<StyledButton*, 3> m_optButton1{};
     Kurzmeldung* m_meldung = nullptr; // beside the switches
+    std::unique_ptr<Speichermelder> m_speichern; // the dialog that all panels save with
     StyledButton* m_cmdAbout = nullptr;
     Spaltenpaar* m_pic1 = nullptr; // the calculator panel
     QWidget* m_left = nullptr; // its left column

@@ -133,6 +133,7 @@ TEST_F(TastaturtagTest, DiagramsSearchAndPicture)
         },
         [] { inMenu(Qt::Key_I); });
     EXPECT_TRUE(std::filesystem::exists(folder / "bild.svg"));
+    EXPECT_EQ(text("lblMeldung"), "✓  „bild.svg“ gespeichert");
 
     writeBytes(folder / "kurve.txt", "1 0\n2 1\n3 0\n4 2\n5 0\n");
     openDialog.answer = (folder / "kurve.txt").string();
