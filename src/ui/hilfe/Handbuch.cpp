@@ -10,6 +10,7 @@
 #include <QTextDocument>
 #include <QTextFrame>
 #include <QTextList>
+#include <QTextOption>
 #include <QTextTable>
 #include <QUrl>
 
@@ -261,6 +262,25 @@ int meldungsstelle(const QTextDocument& dokument, const QString& meldung)
                 [](const auto& a, const auto& b) { return a.first < b.first; });
     }
     return best.second;
+}
+
+void brichWoerter(QTextDocument& dokument)
+{
+    QTextOption option = dokument.defaultTextOption();
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    dokument.setDefaultTextOption(option);
+}
+
+int titelbreite(const QString& text, const QFontMetrics& letters, int einzug)
+{
+    static const QRegularExpression heading(QStringLiteral("^##(#?) (.*)$"), QRegularExpression::MultilineOption);
+    int widest = 0;
+    for (auto found = heading.globalMatch(text); found.hasNext();) {
+        const QRegularExpressionMatch title = found.next();
+        const int level = title.captured(1).isEmpty() ? 1 : 2;
+        widest = std::max(widest, letters.horizontalAdvance(title.captured(2)) + level * einzug);
+    }
+    return widest;
 }
 
 } // namespace zerna

@@ -50,4 +50,10 @@ const Handbuchabschnitt* findeAbschnitt(const std::vector<Handbuchabschnitt>& ab
 /// Where the manual explains a message, by the messages that its tables quote; -1 if it does not.
 int meldungsstelle(const QTextDocument& dokument, const QString& meldung);
 
+/// Lets long words go on in the next line.
+void brichWoerter(QTextDocument& dokument);
+
+/// The width of the longest title in a list of chapters and, once more indented, their sections.
+int titelbreite(const QString& text, const QFontMetrics& letters, int einzug);
+
 } // namespace zerna

@@ -9,7 +9,6 @@
 #include <QShortcut>
 #include <QSplitter>
 #include <QTextBlock>
-#include <QTextBrowser>
 #include <QTextDocument>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -20,6 +19,7 @@
 #include <utility>
 
 #include "ui/controls/Knopfzeile.h"
+#include "ui/hilfe/Handbuchbrowser.h"
 #include "ui/hilfe/Handbuchsuche.h"
 
 namespace zerna {
@@ -53,22 +53,6 @@ StyledButton* makeKnopf(QWidget* parent, const QString& caption, const char* nam
     setKnopfgroesse(button, 0);
     return button;
 }
-
-/// Tab goes to the next link from what is seen; the toolkit's own goes to the first one of all.
-class Handbuchbrowser : public QTextBrowser {
-public:
-    using QTextBrowser::QTextBrowser;
-
-    bool focusNextPrevChild(bool next) override
-    {
-        if (QTextCursor seen = textCursor(); !seen.hasSelection()) {
-            seen = cursorForPosition({0, 0});
-            seen.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor); // it begins behind a selection
-            setTextCursor(seen);
-        }
-        return QTextBrowser::focusNextPrevChild(next);
-    }
-};
 
 } // namespace
 
@@ -128,17 +112,16 @@ void frmHandbuch::layOut()
     strip->addWidget(smaller);
     strip->addWidget(m_lblZoom);
     strip->addWidget(larger);
-    auto* const parts = new QSplitter(this);
-    parts->setChildrenCollapsible(false);
-    parts->addWidget(m_inhalt);
-    parts->addWidget(m_text);
-    parts->setStretchFactor(1, 1);
-    parts->setSizes({280, 720});
+    m_teile = new QSplitter(this);
+    m_teile->setChildrenCollapsible(false);
+    m_teile->addWidget(m_inhalt);
+    m_teile->addWidget(m_text);
+    m_teile->setStretchFactor(1, 1);
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addLayout(strip);
-    column->addWidget(parts, 1);
+    column->addWidget(m_teile, 1);
     setTabOrder(m_cmdVor, m_suche);
     setTabOrder(larger, m_inhalt);
     setTabOrder(m_inhalt, m_text);
@@ -153,6 +136,7 @@ void frmHandbuch::connectControls()
     const auto go = [this](const QTreeWidgetItem* item) { springe(item->data(0, PositionRole).toInt()); };
     connect(m_inhalt, &QTreeWidget::itemClicked, this, go);
     connect(m_inhalt, &QTreeWidget::itemActivated, this, go);
+    connect(m_teile, &QSplitter::splitterMoved, this, &frmHandbuch::passeEin);
     connect(m_suche, &Handbuchsuche::gefunden, this, &frmHandbuch::zeigeTreffer);
 }
 
@@ -179,26 +163,31 @@ int frmHandbuch::zeilenbreite() const
     QFont letters = font();
     letters.setPointSizeF(letters.pointSizeF() * m_zoom / 100);
     const int longest = LaengsteZeile * QFontMetrics(letters).averageCharWidth();
-    const int frame = m_text->verticalScrollBar()->sizeHint().width() + 2 * m_text->frameWidth();
+    const int frame = m_text->verticalScrollBar()->sizeHint().width() + 2 * m_text->frameWidth() + 2; // of tables
     return std::max(std::min(m_text->width() - frame - 2 * fontMetrics().height(), longest), 100);
 }
 
 /// Sets the text for the present font, colours and width; what is seen stays at its place.
 void frmHandbuch::setze()
 {
+    const QString text = handbuchtext(QLatin1String(Handbuchordner));
     const int seen = m_abschnitte.empty() ? 0 : stelle();
+    if (m_abschnitte.empty())
+        zeigeGanzeTitel(text);
     Handbuchstil style{.schrift = font(), .palette = m_text->palette(), .pixel = devicePixelRatioF()};
     style.schrift.setPointSizeF(font().pointSizeF() * m_zoom / 100);
     const int margin = fontMetrics().height();
     m_breite = zeilenbreite();
     style.breite = m_breite;
     auto* const document = new QTextDocument(this); // without a view nothing is laid out while it is made
-    m_abschnitte = setzeHandbuch(*document, handbuchtext(QLatin1String(Handbuchordner)), handbuchbilderordner(), style);
+    m_abschnitte = setzeHandbuch(*document, text, handbuchbilderordner(), style);
     document->setDocumentMargin(margin);
     m_text->setLineWrapMode(QTextEdit::FixedPixelWidth);
     m_text->setLineWrapColumnOrWidth(m_breite + 2 * margin);
     m_text->setExtraSelections({}); // of the document that goes
     m_text->setDocument(document);
+    if (document->size().width() > m_breite + 2 * margin) // tables keep words whole as long as there is room
+        brichWoerter(*document);
     delete std::exchange(m_dokument, document);
     m_lblZoom->setText(QStringLiteral("%1 %").arg(m_zoom));
     fuelleInhalt();
@@ -231,6 +220,15 @@ void frmHandbuch::fuelleInhalt()
             ++entry;
         }
     }
+}
+
+/// Gives the contents the width of the longest title, but not too much of the window.
+void frmHandbuch::zeigeGanzeTitel(const QString& text)
+{
+    const int edge = m_inhalt->verticalScrollBar()->sizeHint().width() + 4 * m_inhalt->frameWidth();
+    const int whole = titelbreite(text, m_inhalt->fontMetrics(), m_inhalt->indentation());
+    const int wanted = std::min(whole + edge, width() * 2 / 5);
+    m_teile->setSizes({wanted, width() - wanted});
 }
 
 /// Marks in the contents the section that is seen.

@@ -9,6 +9,7 @@
 #include "ui/hilfe/Handbuch.h"
 
 class QLabel;
+class QSplitter;
 class QTextBrowser;
 class QTextDocument;
 class QTreeWidget;
@@ -52,6 +53,7 @@ private:
     void setze();
     void passeEin();
     void fuelleInhalt();
+    void zeigeGanzeTitel(const QString& text);
     void zeigeInhaltsstelle();
     void oeffne(int position);
     void springe(int position);
@@ -63,6 +65,7 @@ private:
     void setZoom(int prozent);
 
     Settings& m_settings;
+    QSplitter* m_teile = nullptr;
     QTreeWidget* m_inhalt = nullptr;
     QTextBrowser* m_text = nullptr;
     QTextDocument* m_dokument = nullptr; // null until the manual is first shown

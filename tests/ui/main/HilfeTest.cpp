@@ -3,6 +3,7 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTreeWidget>
@@ -215,6 +216,15 @@ TEST_F(HilfeTest, TheWayLeadsBackAndForwardAndTheSizeOfLettersStays)
     EXPECT_EQ(turn({0, 70}), "100 %"); // a notch in two parts
     EXPECT_EQ(turn({0, 50}), "110 %");
     EXPECT_EQ(turn({0, -120}), "100 %");
+}
+
+TEST_F(HilfeTest, LinesFitTheWindowWithLargeLettersToo)
+{
+    settings["Handbuchzoom"] = "250";
+    openAt("einwaage");
+    press(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(text("lblZoom"), "300 %");
+    EXPECT_EQ(browser().horizontalScrollBar()->maximum(), 0);
 }
 
 TEST_F(HilfeTest, TabGoesOnFromWhatIsSeen)
