@@ -25,7 +25,8 @@ QAccessible::State BefundzeileZugang::state() const
 
 QList<Zugang::Aktion> BefundzeileZugang::aktionen() const
 {
-    return {{pressAction(), [this] { m_zeile.click(); }}};
+    const auto press = [this] { QMetaObject::invokeMethod(&m_zeile, &QAbstractButton::click, Qt::QueuedConnection); };
+    return {{pressAction(), press}};
 }
 
 } // namespace zerna

@@ -52,9 +52,12 @@ QString WertanzeigeZugang::attributes(int, int* start, int* end) const
 
 QList<Zugang::Aktion> WertanzeigeZugang::aktionen() const
 {
+    const auto later = [this](auto signal) {
+        return [this, signal] { QMetaObject::invokeMethod(&m_anzeige, signal, Qt::QueuedConnection); };
+    };
     return {
-        {pressAction(), [this] { emit m_anzeige.detailsRequested(); }, QStringLiteral("Return")},
-        {QStringLiteral("Wert kopieren"), [this] { emit m_anzeige.copyRequested(); }, QStringLiteral("Ctrl+C")},
+        {pressAction(), later(&Wertanzeige::detailsRequested), QStringLiteral("Return")},
+        {QStringLiteral("Wert kopieren"), later(&Wertanzeige::copyRequested), QStringLiteral("Ctrl+C")},
         menueaktion(),
     };
 }
