@@ -272,7 +272,7 @@ void frmHandbuch::folge(const QString& verweis)
         springe(section->position);
 }
 
-/// Goes to a place from outside; from the first one after the window has been hidden no way leads back.
+/// Goes to a place from outside; from the first one after the window has been closed no way leads back.
 void frmHandbuch::oeffne(int position)
 {
     if (!std::exchange(m_neu, false))
@@ -372,7 +372,6 @@ void frmHandbuch::resizeEvent(QResizeEvent* event)
 void frmHandbuch::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
-    m_neu = true;
     m_text->setFocus();
 }
 

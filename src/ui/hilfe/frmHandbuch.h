@@ -39,6 +39,7 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent*) override { m_neu = true; }
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
@@ -77,7 +78,7 @@ private:
     std::vector<int> m_zurueck; // positions in the text
     std::vector<int> m_vor;
     std::pair<int, int> m_gerollt{0, -1}; // the position last brought to the top, and where the scroll bar was then
-    bool m_neu = true; // shown, and nothing asked for since
+    bool m_neu = true; // nothing asked for since it was closed
     int m_zoom = 100; // percent
     int m_rad = 0; // that the wheel has been turned with Ctrl, less than a notch
     int m_breite = 0; // that the text is set for

@@ -125,12 +125,14 @@ TEST_F(HilfeTest, F1OpensWhatIsSaidAboutTheFocus)
 
 TEST_F(HilfeTest, F1InADialogLeavesBothUsable)
 {
-    open();
+    openAt("einwaage");
+    window->activateWindow();
     inDialog<QMessageBox>(
         [this](QMessageBox& box) {
             QTest::keyClick(&box, Qt::Key_F1);
             EXPECT_TRUE(QTest::qWaitForWindowActive(&handbuch()));
             EXPECT_EQ(block(), "„Dichte für … ist Null!“, „ist unbekannt!“, „ist keine gültige Zahl!“");
+            EXPECT_TRUE(find("cmdZurueck").isEnabled()) << "the way back is kept";
             QTest::keyClicks(&find("txtSuche"), QStringLiteral("Ka"));
             EXPECT_TRUE(text("lblTreffer").starts_with("Treffer 1 von ")) << text("lblTreffer");
             box.accept();
