@@ -8,6 +8,7 @@
 #include <qpa/qplatformintegration.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
 #include <utility>
 #include <vector>
@@ -39,7 +40,7 @@ public:
     }
 
     /// How often something of a kind was told so far.
-    static long count(const std::string& kind)
+    static std::ptrdiff_t count(const std::string& kind)
     {
         return std::ranges::count_if(events(), [&](const std::string& event) { return event.starts_with(kind); });
     }

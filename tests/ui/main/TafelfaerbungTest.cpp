@@ -7,14 +7,7 @@
 
 namespace zerna {
 
-struct TafelfaerbungTest : FilesTest {
-    Zellfuellung fuellung(const Tafelfaerbung& faerbung, std::string_view egk, std::size_t index, bool aufDunklem)
-    {
-        clsElement element(files, boxes);
-        element.setEGK(egk);
-        return faerbung.fuellung(element, index, aufDunklem);
-    }
-};
+using TafelfaerbungTest = FilesTest;
 
 TEST_F(TafelfaerbungTest, ValuesSpreadOverTheWholeScale)
 {
@@ -33,12 +26,14 @@ TEST_F(TafelfaerbungTest, ValuesSpreadOverTheWholeScale)
         {"all equal", {7, Unbekannt, 7}, {middle, {}, middle}, 7, 7},
         {"none known", {Unbekannt}, {{}}, 0, 0},
     };
+    clsElement hydrogen(files, boxes);
+    hydrogen.setEGK("H");
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         const Tafelfaerbung faerbung({"Masse [amu]", {}, row.werte});
         for (std::size_t i = 0; i < row.werte.size(); ++i) {
             const Zellfuellung expected{row.expected.at(i), std::nullopt, !row.expected.at(i)};
-            EXPECT_EQ(fuellung(faerbung, "H", i, false), expected) << "no sign of the group, value " << i;
+            EXPECT_EQ(faerbung.fuellung(hydrogen, i, false), expected) << "no sign of the group, value " << i;
         }
         EXPECT_EQ(faerbung.skala().kleinster(), row.kleinster);
         EXPECT_EQ(faerbung.skala().groesster(), row.groesster);

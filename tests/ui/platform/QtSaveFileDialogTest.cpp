@@ -40,7 +40,7 @@ TEST_F(QtSaveFileDialogTest, TypedNameAndTypeAreTheAnswer)
         };
         inDialog<QFileDialog>(answer, [&] { choice = dialog.choose("Daten exportieren ...", types, {}); });
         EXPECT_EQ(choice ? choice->filterIndex : 0, index) << typed;
-        EXPECT_TRUE(!choice || choice->path == folder.path().string() + '/' + typed) << typed;
+        EXPECT_TRUE(!choice || choice->path == folder.path().generic_string() + '/' + typed) << typed;
     }
 }
 
@@ -60,7 +60,7 @@ TEST_F(QtSaveFileDialogTest, RefusedChoiceIsShownAgainAndAFolderIsEntered)
     };
     inDialog<QFileDialog>(answer, [&] { choice = dialog.choose(Exporttitel, types, choice); });
     ASSERT_TRUE(choice);
-    EXPECT_EQ(choice->path, (folder / "unter/b").string());
+    EXPECT_EQ(choice->path, (folder / "unter/b").generic_string());
     EXPECT_EQ(choice->filterIndex, 2);
 }
 
