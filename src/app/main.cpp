@@ -1,3 +1,4 @@
+#include <QDir>
 #include <QLocale>
 #include <QStandardPaths>
 #include <QTranslator>
@@ -31,6 +32,16 @@ std::filesystem::path sessionFolder()
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     return zerna::pathFromUtf8(zerna::fromQt(folder)) / zerna::clsLoader::ApplicationName();
 }
+
+#ifdef Q_OS_WIN
+/// Dialogs begin in the current folder. Windows starts a program in the program's own, where nobody looks for files.
+void leaveProgramFolder()
+{
+    const QDir programFolder(QCoreApplication::applicationDirPath());
+    if (QDir::current() == programFolder && QCoreApplication::arguments().size() == 1) // files may be named from here
+        QDir::setCurrent(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+}
+#endif
 
 int run(zerna::Programm& programm, zerna::frmMain& window)
 {
@@ -69,6 +80,10 @@ int main(int argc, char** argv)
     QTranslator german;
     if (german.load(QStringLiteral(":/qtbase_de.qm")))
         QCoreApplication::installTranslator(&german);
+
+#ifdef Q_OS_WIN
+    leaveProgramFolder();
+#endif
 
     zerna::QtSettingsStore settings;
     zerna::QtSaveFileDialog saveDialog;
