@@ -82,8 +82,8 @@ done
 sed 's/$/\r/' "$here/LIZENZEN.txt" >"$stage/LIZENZEN.txt"
 "$here/lizenztexte.py" "$(ls "$sources"/qt6-base_*.orig.tar.xz)" "$here/qtsvg-6.4.2.tar.xz" "$deps" "$stage/lizenzen"
 cp "$here/build-qt.sh" "$here/build-qtsvg.sh" "$here/mingw-toolchain.cmake" "$stage/lizenzen/"
-"$here/neubinden.py" "$build" "$qt" "$stage/lizenzen/neubinden.zip"
-say "Lizenztexte: $(ls "$stage/lizenzen" | wc -l) Dateien; Objekte zum Neubinden: $(stat -c %s "$stage/lizenzen/neubinden.zip") Bytes"
+"$here/neubinden.py" "$build" "$qt" "$stage/lizenzen/neubinden.tar.xz"
+say "Lizenztexte: $(ls "$stage/lizenzen" | wc -l) Dateien; Objekte zum Neubinden: $(stat -c %s "$stage/lizenzen/neubinden.tar.xz") Bytes"
 
 # --- ZIP and installer --------------------------------------------------------
 zip=$work/zerna-$version-windows.zip setup=$work/zerna-$version-windows.exe

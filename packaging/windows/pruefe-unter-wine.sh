@@ -65,8 +65,8 @@ expect "  das PDF hat die Schrift der Bilder" grep -aq DejaVuSans "$folder/ä ß
 # --- relinking ----------------------------------------------------------------
 rm -rf "$work/neu"
 mkdir "$work/neu"
-(cd "$work/neu" && python3 -m zipfile -e "$stage/lizenzen/neubinden.zip" . && sh neubinden.sh "$qt") >"$work/neu.log" 2>&1
-if [ -s "$work/neu/zerna-bild.exe" ]; then
+(cd "$work/neu" && tar -xJf "$stage/lizenzen/neubinden.tar.xz" --strip-components=1 && sh neubinden.sh "$qt") >"$work/neu.log" 2>&1
+if [ -s "$work/neu/zerna-bild.exe" ] && [ -s "$work/neu/zerna.exe" ]; then
     cp "$stage/elemente.dat" "$work/neu/"
     expect "neu gebundenes zerna-bild.exe malt" wine "$work/neu/zerna-bild.exe" bild --art elemente --groesse 0 --ziel "$(windows_path "$work/neu/e.png")"
 else
