@@ -28,26 +28,28 @@ export WINEPREFIX=$work/wine
 windows_path() { wine winepath -w "$1" | tr -d '\r'; }
 
 # --- tests --------------------------------------------------------------------
-# What these take only Linux has: links, Python, names whose length the system tells apart.
-linux_only=ElementdateiTest.AFailedSaveLeavesTheEarlierFile:ProgrammTest.EndsWithAMessageWhenThereIsNoDataFile
-linux_only+=:ExportierenTest.AfterAFailureTheDialogComesAgain
-linux_only+=:ExportzielTest.WhatSpeaksAgainstANameIsSaid:DokumentdateiTest.ReadsWhatItWrote
-say "nicht unter Windows: ${linux_only//:/, }"
-for room in core parser model bild traeger dokument programm; do
+# Not here: what takes links, Python or names whose length the system tells apart, …
+only_linux=ElementdateiTest.AFailedSaveLeavesTheEarlierFile:ProgrammTest.EndsWithAMessageWhenThereIsNoDataFile
+only_linux+=:ExportierenTest.AfterAFailureTheDialogComesAgain
+only_linux+=:ExportzielTest.WhatSpeaksAgainstANameIsSaid:DokumentdateiTest.ReadsWhatItWrote
+# … what answers the print dialog, which is that of Windows, or reads the settings' file, here the registry, …
+only_linux+=:DruckenTest.*:WiegezettelTest.PageHasWhatWasWeighedAndLinesToSign
+only_linux+=:QtSettingsStoreTest.WhatTheStoreCannotTakeCountsForTheSession
+only_linux+=:QtSettingsStoreTest.WritesTogetherWhatWasSetAndNothingThatIsThereAlready
+# … and what counts on widths to the pixel, since the same letters make the left column three pixels wider.
+only_linux+=:FensterlayoutTest.DiagramKeepsItsOffsetsAndFewComponentsLeaveNoGap
+only_linux+=:DiagrammflaecheTest.CrosshairSnapsToTheCurveByMouseAndByKeys:StundeTest.TheWindowAnswersAsRecorded
+say "nicht unter Windows: ${only_linux//:/, }"
+# The window's tests run without a screen and with the letters that they are written for.
+QT_QPA_FONTDIR=$(windows_path /usr/share/fonts/truetype/dejavu)
+export QT_QPA_FONTDIR
+for room in core parser model bild traeger dokument programm ui; do
     log=$work/${room}_tests.log
-    (cd "$bin" && timeout 600 wine "./${room}_tests.exe" --gtest_filter="-$linux_only" >"$log" 2>&1)
+    (cd "$bin" && QT_QPA_PLATFORM=offscreen timeout 900 wine "./${room}_tests.exe" --gtest_filter="-$only_linux" >"$log" 2>&1)
     status=$?
     passed=$(tr -d '\r' <"$log" | sed -n 's/^\[  PASSED  \] \([0-9]*\) .*/\1/p')
-    if [ $status = 0 ]; then ok "${room}_tests: $passed Tests"; else bad "${room}_tests: $(tr -d '\r' <"$log" | grep '^\[  FAILED  \] [A-Z]' | sort -u | tr '\n' ' ')"; fi
+    if [ $status = 0 ]; then ok "${room}_tests: $passed Tests"; else bad "${room}_tests (Status $status): $(tr -d '\r' <"$log" | grep '^\[  FAILED  \] [A-Z]' | sort -u | tr '\n' ' ')"; fi
 done
-
-# The window's tests run without a screen; the letters are those that they are written for.
-rm -f "$work/ui_tests.log"
-QT_QPA_PLATFORM=offscreen QT_QPA_FONTDIR=$(windows_path /usr/share/fonts/truetype/dejavu) \
-    timeout 1800 wine "$bin/ui_tests.exe" --gtest_filter='-BilderTest.*:DruckenTest.*' >"$work/ui_tests.log" 2>&1
-status=$?
-summary=$(tr -d '\r' <"$work/ui_tests.log" | grep -E '^\[  (PASSED|FAILED)  \] [0-9]+ ' | tr '\n' ' ')
-if [ $status = 0 ]; then ok "ui_tests: $summary"; else bad "ui_tests (Status $status): $summary siehe ui_tests.log"; fi
 
 # --- command line -------------------------------------------------------------
 "$here/befehle_vergleichen.py" "$root/tests/cli/befehle.txt" "$stage" >"$work/befehle.log" 2>&1
