@@ -3,8 +3,7 @@
 #   program  build and run the program      tests  build and run the tests
 #   bench    build and run the benchmarks   package  make and check the packages
 #   windows  make the packages for Windows and try them under Wine
-#   coverage measure what the tests reach
-#   ci       all of these but windows and coverage, and format, lint and fuzz targets
+#   ci       all of these but windows, and format, lint and fuzz targets
 set -euo pipefail
 
 tools=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev zlib1g-dev libexpat1-dev)
@@ -12,7 +11,6 @@ window=(pkg-config libmd4c-dev libmd4c-html0-dev libqpdf-dev qt6-base-dev qt6-sv
 program=("${tools[@]}" "${window[@]}" qt6-wayland)
 tests=("${tools[@]}" "${window[@]}" qt6-base-private-dev libgtest-dev libgmock-dev python3 python3-jsonschema)
 bench=("${tools[@]}" "${window[@]}" libbenchmark-dev libmuparser-dev)
-coverage=("${tests[@]}" gcovr)
 package=("${program[@]}" python3 gzip dpkg-dev desktop-file-utils appstream libxml2-utils lintian man-db debootstrap)
 ci=("${program[@]}" "${tests[@]}" "${bench[@]}" "${package[@]}" clang-14 clang-format-14 clang-tidy-14
     libclang-rt-14-dev mold)
@@ -22,13 +20,12 @@ windows=("${tests[@]}" perl dpkg-dev xz-utils g++-mingw-w64-x86-64-posix libz-mi
 case ${1:-program} in
 program) wanted=("${program[@]}") ;;
 tests) wanted=("${tests[@]}") ;;
-coverage) wanted=("${coverage[@]}") ;;
 package) wanted=("${package[@]}") ;;
 ci) wanted=("${ci[@]}") ;;
 bench) wanted=("${bench[@]}") ;;
 windows) wanted=("${windows[@]}") ;;
 *)
-    echo "Aufruf: ${0##*/} [program|tests|bench|coverage|package|windows|ci]" >&2
+    echo "Aufruf: ${0##*/} [program|tests|bench|package|windows|ci]" >&2
     exit 2
     ;;
 esac
