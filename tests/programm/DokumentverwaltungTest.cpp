@@ -1,10 +1,7 @@
-#include "programm/Dokumentverwaltung.h"
-
 #include <gmock/gmock.h>
 
 #include "core/Datei.h"
-#include "support/FakeServices.h"
-#include "support/RechnerTest.h"
+#include "programm/DateienFixture.h"
 #include "support/Traegerbilder.h"
 #include "traeger/Png.h"
 
@@ -12,18 +9,7 @@ namespace zerna {
 
 using testing::HasSubstr;
 
-/// The program's document and the files that the user chooses for it.
-struct DokumentverwaltungTest : RechnerTest {
-    DokumentverwaltungTest()
-    {
-        addElements();
-        for (const auto& element : elements)
-            programm.ElementCollection().Add(element, element->symbol());
-        programm.Eingabe().setAnzahl(2);
-        programm.Eingabe().waehleElement(0, "Al");
-        programm.Eingabe().waehleElement(1, "Cu");
-    }
-
+struct DokumentverwaltungTest : DateienFixture {
     void enter(const char* prozent) { programm.Eingabe().setProzent(0, prozent); }
     std::string entered() { return programm.Eingabe().zeile(0).prozent.text; }
 
@@ -41,13 +27,6 @@ struct DokumentverwaltungTest : RechnerTest {
     {
         return lies(bytesOf(folder / name), programm.ElementCollection()).dokument.value();
     }
-
-    KeptCurrentFolder kept;
-    FakeSettings settings;
-    Programm programm{boxes, settings, folder.path()};
-    FakeSaveDialog save;
-    FakeOpenDialog open;
-    Dokumentverwaltung dateien{programm, save, open};
 };
 
 TEST_F(DokumentverwaltungTest, KnowsItsFileAndWhetherItIsChanged)

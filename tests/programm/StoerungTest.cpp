@@ -2,29 +2,17 @@
 
 #include <gmock/gmock.h>
 
-#include "core/Elementdatei.h"
-#include "programm/Dokumentverwaltung.h"
-#include "programm/EingebauteTabelle.h"
+#include "programm/DateienFixture.h"
 #include "programm/Exportieren.h"
 #include "programm/Messkurvenoeffnung.h"
 #include "programm/Sicherung.h"
-#include "support/FakeServices.h"
-#include "support/RechnerTest.h"
 #include "support/Stoerprobe.h"
 
 namespace zerna {
 
 /// Files that are written without a window.
-struct StoerungTest : RechnerTest {
-    StoerungTest()
-    {
-        std::filesystem::create_directory(ziel.parent_path());
-        addElements();
-        for (const auto& element : elements)
-            programm.ElementCollection().Add(element, element->symbol());
-        programm.Eingabe().setAnzahl(1);
-        programm.Eingabe().waehleElement(0, "Al");
-    }
+struct StoerungTest : DateienFixture {
+    StoerungTest() { std::filesystem::create_directory(ziel.parent_path()); }
 
     /// What boxes have shown since the last call.
     std::string said()
@@ -36,12 +24,6 @@ struct StoerungTest : RechnerTest {
     }
 
     const std::filesystem::path ziel = folder / "Ordner" / "ä b.dat";
-    KeptCurrentFolder kept;
-    FakeSettings settings;
-    Programm programm{boxes, settings, folder.path()};
-    FakeSaveDialog save;
-    FakeOpenDialog open;
-    Dokumentverwaltung dateien{programm, save, open};
 };
 
 TEST_F(StoerungTest, Legierungen)
@@ -64,7 +46,7 @@ TEST_F(StoerungTest, WhatCouldNotBeSavedIsStillChangedAndTheDialogComes)
 {
     save.answer = {{ziel.string(), 1}};
     ASSERT_TRUE(dateien.speichereUnter());
-    programm.Eingabe().waehleElement(0, "Cu");
+    programm.Eingabe().waehleElement(0, "Fe");
     const Stoerung stoerung(ziel.parent_path(), Stoerung::Art::Voll, 1);
     EXPECT_FALSE(dateien.speichere());
     EXPECT_TRUE(dateien.istGeaendert());
