@@ -12,8 +12,7 @@ namespace zerna {
 
 namespace {
 
-constexpr int Bald = 300; // milliseconds until an edit is kept
-constexpr int Pruefzeit = 1000; // milliseconds in which it should be written
+constexpr int Pruefung = 3; // times as long as an edit waits: it should be written then
 constexpr const char* Schluessel = "LegierungWiederherstellen";
 constexpr char Trenner = '\0'; // behind the name of the file, which cannot hold it, and behind its time
 
@@ -32,14 +31,15 @@ std::string abweichungen(const Lesung& lesung)
 
 } // namespace
 
-Sitzung::Sitzung(Programm& programm, std::filesystem::path ordner, std::function<OffeneDatei()> datei)
+Sitzung::Sitzung(Programm& programm, std::filesystem::path ordner, std::function<OffeneDatei()> datei,
+    std::chrono::milliseconds bald)
     : m_programm(programm)
     , m_ordner(std::move(ordner))
     , m_datei(std::move(datei))
     , m_sicherung(m_ordner)
 {
     m_bald.setSingleShot(true);
-    m_bald.setInterval(Bald);
+    m_bald.setInterval(bald);
     connect(&m_bald, &QTimer::timeout, this, &Sitzung::sichere);
 }
 
@@ -60,7 +60,7 @@ std::function<std::string()> Sitzung::text() const
 void Sitzung::sichere()
 {
     m_sicherung.schreibe(text());
-    QTimer::singleShot(Pruefzeit, this, &Sitzung::pruefe);
+    QTimer::singleShot(Pruefung * m_bald.intervalAsDuration(), this, &Sitzung::pruefe);
 }
 
 /// Says once in a run that nothing is kept.

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -27,8 +28,9 @@ public:
         std::string hinweis = {}; ///< what is to be said about it, in sentences; empty for nothing
     };
 
-    /// `datei` names the open file. The folder is the user's own.
-    Sitzung(Programm& programm, std::filesystem::path ordner, std::function<OffeneDatei()> datei);
+    /// `datei` names the open file. The folder is the user's own. An edit is kept after `bald`.
+    Sitzung(Programm& programm, std::filesystem::path ordner, std::function<OffeneDatei()> datei,
+        std::chrono::milliseconds bald = std::chrono::milliseconds(300));
 
     /// The document is another one than it was.
     void geaendert();

@@ -84,10 +84,10 @@ TEST_F(SitzungTest, TheLastAlloyComesBackIfTheUserWantsThat)
 TEST_F(SitzungTest, AFolderThatCannotBeWrittenIsToldOnce)
 {
     writeBytes(folder / "datei", "");
-    Sitzung session(*programm, folder / "datei", datei);
-    for (int edit = 0; edit < 2; ++edit) {
+    Sitzung session(*programm, folder / "datei", datei, std::chrono::milliseconds(10));
+    for (int edit = 0; edit < 4; ++edit) {
         session.geaendert();
-        QTest::qWait(1500);
+        QTest::qWait(60);
     }
     ASSERT_EQ(boxes.shown.size(), 1U);
     EXPECT_NE(boxes.shown[0].text.find("lässt sich nicht sichern"), std::string::npos);
