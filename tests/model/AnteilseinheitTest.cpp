@@ -54,15 +54,8 @@ struct AnteilseinheitTest : EingabeFixture {
 TEST_F(AnteilseinheitTest, MassPercentAreTypedBalancedAndComputedWithAsAtPercent)
 {
     einElementOhneMasse();
-    struct Row {
-        const char* name;
-        Schritt schritt;
-        const char* typed; // in the unit of the moment
-        const char* inKraft;
-        bool changes;
-    };
     for (const auto& [name, schritt, typed, expected, changes] : {
-             Row{"at% first", prozent(0, "60,0"), "60,0|40|", "60|40|", true},
+             std::tuple("at% first", prozent(0, "60,0"), "60,0|40|", "60|40|", true),
              {"the other unit changes nothing", einheit(Masse), "38,90883|61,09117|", "60|40|", false},
              {"nor does the way back", einheit(Atom), "60,0|40|", "60|40|", false},
              {"and again", einheit(Masse), "38,90883|61,09117|", "60|40|", false},
@@ -89,15 +82,9 @@ TEST_F(AnteilseinheitTest, MassPercentAreTypedBalancedAndComputedWithAsAtPercent
 
 TEST_F(AnteilseinheitTest, ShownPartsBecomeTheTypedOnesWhenTheAlloyBecomesAnother)
 {
-    struct Row {
-        const char* name;
-        Schritt schritt;
-        const char* masse;
-        Anteilseinheit quelle;
-    };
     const Eingabe atoms = eingabe;
     for (const auto& [name, schritt, masse, quelle] : {
-             Row{"an element", element(1, "Ni"), "29,80479|70,19521|", Masse},
+             std::tuple("an element", element(1, "Ni"), "29,80479|70,19521|", Masse),
              {"a row", anzahl(3), "29,80479|70,19521|0|", Masse},
              {"the balance row is left", [](Eingabe& e) { return e.gleicheAus(), Aenderung(); }, "29,80479|70,19521|",
                  Atom},

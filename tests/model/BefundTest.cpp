@@ -21,17 +21,10 @@ struct BefundTest : EingabeFixture {
 TEST_F(BefundTest, EachFaultIsNamedWithItsPlaceAndWhatItMeansForTheResults)
 {
     using enum Eingabeort;
-    struct Row {
-        Schritt schritt;
-        Eingabeort ort;
-        int zeile;
-        const char* expected; // the beginning of the line
-        bool fehler;
-    };
     const Eingabe healthy = eingabe;
     for (const auto& [schritt, ort, zeile, expected, fehler] :
         {
-            Row{prozent(0, "60"), Prozent, 0, "", false},
+            std::tuple(prozent(0, "60"), Prozent, 0, "", false),
             {prozent(0, ""), Prozent, 0,
                 "Komponente 1 (Al): at% fehlt. Eine Zahl eintragen. Die Ergebnisse gehören zu Al 50, Cu 50 at%.", true},
             {prozent(0, "6x"), Prozent, 0,

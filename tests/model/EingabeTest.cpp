@@ -24,15 +24,8 @@ struct EingabeTest : EingabeFixture {
 
 TEST_F(EingabeTest, BalanceRowTakesTheRestOnceAllOthersCanBeRead)
 {
-    struct Row {
-        const char* name;
-        Schritt schritt;
-        const char* prozente;
-        bool changes;
-        bool complete;
-    };
     for (const auto& [name, schritt, expected, changes, complete] : {
-             Row{"the rest", prozent(0, "60"), "60|40|", true, true},
+             std::tuple("the rest", prozent(0, "60"), "60|40|", true, true),
              {"not a number", prozent(0, "60x"), "60x|40|", false, false},
              {"empty", prozent(0, ""), "|40|", false, false},
              {"more than all", prozent(0, "120"), "120|-20|", true, true},
@@ -77,13 +70,9 @@ TEST_F(EingabeTest, WhatIsTypedIntoTheBalanceRowOrUnreadableIsNotComputedWith)
 
 TEST_F(EingabeTest, ChoicesAndTextsBecomeNumbers)
 {
-    struct Row {
-        const char* name;
-        Schritt schritt;
-        const char* zahlen;
-    };
     for (const auto& [name, schritt, expected] : {
-             Row{"another kind", [](Eingabe& e) { return e.waehleDichte(0, "kristallin"); }, "50 2,7 3|50 7,997 1|"},
+             std::tuple("another kind", Schritt([](Eingabe& e) { return e.waehleDichte(0, "kristallin"); }),
+                 "50 2,7 3|50 7,997 1|"),
              {"typed", dichte(0, "2.5"), "50 2,5 3|50 7,997 1|"},
              {"not a number: the last one holds", dichte(0, "9x"), "50 0 3|50 7,997 1|"}, // <andere> began at 0
              {"another element's valence", valenz(0, "z_cu+1"), "50 0 2|50 7,997 1|"},
@@ -103,14 +92,8 @@ TEST_F(EingabeTest, ChoicesAndTextsBecomeNumbers)
 
 TEST_F(EingabeTest, EachTextKnowsItsFaultItsEchoAndItsMessages)
 {
-    struct Row {
-        const char* text;
-        const char* fehler;
-        const char* echo;
-        std::size_t meldungen;
-    };
     for (const auto& [text, fehler, echo, meldungen] : {
-             Row{"3", "", "", 0},
+             std::tuple("3", "", "", 0U),
              {"()", "", "0", 0},
              {"ln(0)",
                  "Ungültiger Prozeduraufruf oder ungültiges Argument (Zeichen 1). Wurzel, Logarithmus und Potenz sind "
@@ -179,13 +162,8 @@ TEST_F(EingabeTest, OneDensityKindForAllRowsThatHaveIt)
     eingabe.waehleElement(2, "Se");
     eingabe.waehleElement(3, "Po");
     eingabe.waehleDichte(3, AndereWahl);
-    struct Row {
-        const char* wahl;
-        const char* wahlen; // of the rows, the last one is not in use
-        std::vector<std::string> ohne;
-    };
     for (const auto& [wahl, wahlen, ohne] : {
-             Row{"kristallin", "kristallin kristallin kristallin kristallin  ", {}},
+             std::tuple("kristallin", "kristallin kristallin kristallin kristallin  ", std::vector<std::string>()),
              {"amorph", "kristallin kristallin amorph kristallin  ", {"Al", "Cu", "Po"}},
              {"flüssig", "flüssig flüssig flüssig kristallin  ", {"Po"}},
          }) {
@@ -203,14 +181,8 @@ TEST_F(EingabeTest, OneDensityKindForAllRowsThatHaveIt)
 
 TEST_F(EingabeTest, FirstObstacleIsNamed)
 {
-    struct Row {
-        const char* name;
-        Schritt schritt;
-        int zeile;
-        const char* grund;
-    };
     for (const auto& [name, schritt, zeile, grund] : {
-             Row{"none", prozent(0, "x"), -1, ""},
+             std::tuple("none", prozent(0, "x"), -1, ""),
              {"density 0", dichte(1, "0,0"), 1, "Dichte für Kupfer ist Null!"},
              {"no density", dichte(1, ""), 1, "Dichte für Kupfer ist unbekannt!"},
              {"not a number", dichte(1, "8,9x"), 1, "Dichte für Kupfer ist keine gültige Zahl!"},

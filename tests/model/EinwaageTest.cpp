@@ -34,14 +34,9 @@ struct EinwaageTest : RechnerTest {
 
 TEST_F(EinwaageTest, TargetMassesAndBack)
 {
-    struct Row {
-        const char* name;
-        Alloy alloy;
-        float total;
-        Masses masses, percents;
-    };
     for (const auto& [name, alloy, total, masses, percents] : {
-             Row{"halves", {{"Al", 26.98F, 50}, {"Cu", 63.55F, 50}}, 1000, {298.02275F, 701.97725F}, {50, 50}},
+             std::tuple("halves", Alloy{{"Al", 26.98F, 50}, {"Cu", 63.55F, 50}}, 1000.0F,
+                 Masses{298.02275F, 701.97725F}, Masses{50, 50}),
              {"pure, a trace", {{"A", 10, 100}, {"B", 20, 0}}, 1e-6F, {1e-6F, 0}, {100, 0}},
              {"while at% are being typed", {{"A", 10, 120}, {"B", 20, -20}}, 8, {12, -4}, {120, -20}},
              {"three", {{"A", 10, 50}, {"B", 20, 30}, {"C", 40, 20}}, 190, {50, 60, 80}, {50, 30, 20}},
@@ -59,13 +54,8 @@ TEST_F(EinwaageTest, FirstComponentIsDividedByThoughTheResultWouldNotNeedIt)
 {
     setAlloy({{"A", 10, 0}, {"B", 20, 100}});
     EXPECT_EQ(errorNumber([this] { sollmassen(calc, count, 1000); }), 11);
-    struct Row {
-        const char* name;
-        Masses masses;
-        int atomicError, massError;
-    };
     for (const auto& [name, masses, atomicError, massError] : {
-             Row{"nothing of the first", {0, 5}, 11, 0},
+             std::tuple("nothing of the first", Masses{0, 5}, 11, 0),
              {"as many moles less", {5, -10}, 11, 0},
              {"nothing at all", {0, 0}, 11, 6},
              {"a sum beyond a single", {3e38F, 3e38F}, 0, 6},
@@ -81,14 +71,8 @@ TEST_F(EinwaageTest, WithoutAnAtomicMassNothingIsComputedAndTheComponentIsNamed)
     using Hindernis = std::optional<Wiegehindernis>;
     const Hindernis none;
     const auto noMass = [](int k) { return Hindernis({k, "hat keine bekannte Atommasse"}); };
-    struct Row {
-        const char* name;
-        Alloy alloy;
-        Masses weighed;
-        Hindernis target, percent;
-    };
     for (const auto& [name, alloy, weighed, target, percent] : {
-             Row{"unknown", {{"A", 10, 50}, {"B", Unbekannt, 50}}, {5, 5}, noMass(1), noMass(1)},
+             std::tuple("unknown", Alloy{{"A", 10, 50}, {"B", Unbekannt, 50}}, Masses{5, 5}, noMass(1), noMass(1)),
              {"zero", {{"A", 10, 50}, {"B", 0, 50}}, {5, 5}, noMass(1), noMass(1)},
              {"the first", {{"A", Unbekannt, 50}, {"B", 20, 50}}, {5, 0}, noMass(0), noMass(0)},
              {"without a share", {{"A", 10, 100}, {"B", Unbekannt, 0}}, {5, 0}, none, none},
@@ -123,14 +107,9 @@ TEST_F(EinwaageTest, TheStateOfTheWeighingInWords)
 {
     setAlloy({{"A", 10, 50}, {"B", 20, 30}, {"C", 40, 20}}); // 10 : 12 : 16
     const std::optional<float> none;
-    struct Row {
-        const char* name;
-        std::vector<Wiegung> masses;
-        std::optional<Wiegebezug> reference;
-        const char* text;
-    };
     for (const auto& [name, masses, reference, text] : {
-             Row{"none", {{10, none}, {12.5F, none}, {0.0123F, none}}, {}, "Noch 10 mg A, 12,5 mg B, 0,0123 mg C"},
+             std::tuple("none", std::vector<Wiegung>{{10, none}, {12.5F, none}, {0.0123F, none}},
+                 std::optional<Wiegebezug>(), "Noch 10 mg A, 12,5 mg B, 0,0123 mg C"),
              {"a part", {{10, 10.0F}, {12, 11.5F}, {16, none}}, {}, "Noch 0,5 mg B, 16 mg C"},
              {"all", {{10, 10.0F}, {12, 12.0F}, {16, 16.02F}}, {}, "Alles eingewogen, größte Abweichung 0,02 at%"},
              {"too much", {{10, 11.0F}, {12, none}, {16, 16.0F}}, {},

@@ -12,13 +12,8 @@ TEST(Friedelindex, WrapsAtUnequalBounds)
 
 TEST(Wertkopie, OfShownValues)
 {
-    struct Row {
-        int line;
-        std::string_view shown, unit;
-        std::string_view copied, number, whole; // "Kopieren", "Zahl kopieren", "Zahl und Einheit kopieren"
-    };
     for (const auto& [line, shown, unit, copied, number, whole] : {
-             Row{3, "1,4667 E-29 m³", "m³", "1.4667", "1,4667E-29", "1,4667 E-29 m³"},
+             std::tuple(3, "1,4667 E-29 m³", "m³", "1.4667", "1,4667E-29", "1,4667 E-29 m³"),
              {10, "r(n) = 0,23891 nm", "nm", "0.23891", "0,23891", "0,23891 nm"},
              {13, "123,456 %", "%", "", "123,456", "123,456 %"}, // Intended: the copy loses seven characters here too
              {0, "e/a", "e/a", "e/a", "", "e/a"},

@@ -34,13 +34,8 @@ TEST_F(HerkunftTest, DefaultsExceptionsAndOwnValues)
     ElementRecord unheard;
     unheard.symbol = "Xx";
     addElement(unheard);
-    struct Row {
-        const char* symbol;
-        const char* spalte;
-        const char* text;
-    };
     for (const auto& [symbol, spalte, text] : {
-             Row{"Cu", "Masse", "Quelle: IUPAC-Standardwert (über mendeleev), auf 7 Stellen gerundet"},
+             std::tuple("Cu", "Masse", "Quelle: IUPAC-Standardwert (über mendeleev), auf 7 Stellen gerundet"),
              {"C", "Schmelztemperatur",
                  "Quelle: CRC Handbook, 95. Ausgabe (über mendeleev), sonst Wikipedia u. a.\n"
                  "Zustand: Tripelpunkt, 10,3 MPa"},

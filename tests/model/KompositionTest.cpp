@@ -35,10 +35,7 @@ TEST_F(KompositionTest, ChoicesOfARow)
 
 TEST_F(KompositionTest, ComponentCountWrapsAndSurvivesDamagedSettings)
 {
-    struct Row {
-        int count, step, next;
-    };
-    for (const auto& [count, step, next] : {Row{4, 1, 5}, {5, 1, 1}, {1, -1, 5}, {2, -1, 1}, {0, 1, 1}})
+    for (const auto& [count, step, next] : {std::tuple(4, 1, 5), {5, 1, 1}, {1, -1, 5}, {2, -1, 1}, {0, 1, 1}})
         EXPECT_EQ(naechsteKomponentenzahl(count, step), next) << count;
     for (const auto& [setting, count] : {std::pair("0", 0), {"4", 4}, {"5", 5}, {"6", 2}, {"", 2}, {"abc", 2},
              {"-3", 2}, {"99", 2}, {"04", 2}, {"4 ", 2}, {"/", 2}})

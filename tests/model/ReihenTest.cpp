@@ -35,13 +35,8 @@ struct ReihenTest : RechnerTest {
 
 TEST_F(ReihenTest, FaultsReachTheCaller)
 {
-    struct Row {
-        const char* name;
-        std::function<void()> action;
-        int error;
-    };
     for (const auto& [name, action, error] : {
-             Row{"before the first component", [&] { series(-1, 0); }, 9},
+             std::tuple("before the first component", std::function<void()>([&] { series(-1, 0); }), 9),
              {"behind the last component", [&] { series(3, 0); }, 9},
              {"the density has a rule of its own", [&] { series(0, GroesseDichte); }, 5},
              {"no such quantity", [&] { series(0, 11); }, 5},
@@ -70,11 +65,8 @@ TEST_F(ReihenTest, TheDensitySeriesIsTheDensityAtEachPercent)
 
 TEST_F(ReihenTest, FaultsOfAComponentReachTheCaller)
 {
-    struct Row {
-        float dichte, valenz;
-        int error;
-    };
-    for (const auto& [dichte, valenz, error] : {Row{0, 3, 11}, {Unbekannt, 3, 5}, {2.7F, Unbekannt, 5}, {2.7F, 3, 0}}) {
+    for (const auto& [dichte, valenz, error] :
+        {std::tuple(0.0F, 3.0F, 11), {Unbekannt, 3, 5}, {2.7F, Unbekannt, 5}, {2.7F, 3, 0}}) {
         alloy[0].dichte = dichte;
         alloy[0].valenz = valenz;
         EXPECT_EQ(errorNumber([this] { series(1, 0); }), error) << dichte;

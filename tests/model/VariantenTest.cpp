@@ -46,10 +46,7 @@ TEST_F(VariantenTest, AreNamedAfterTheirCompositionUnlikeEachOther)
     EXPECT_EQ(vergleich.varianten.back().name, "Al95Cu5 Masse %");
     EXPECT_EQ(vergleich.varianten[1].eingabe.zeile(0).prozent.text, "33,3") << "a later change has reached it";
 
-    struct Row {
-        const char *typed, *name;
-    };
-    for (const auto& [typed, name] : {Row{"  Probe 7\t(heiß)\r\n", "Probe 7 (heiß)"}, {"Al", "Al (2)"},
+    for (const auto& [typed, name] : {std::tuple("  Probe 7\t(heiß)\r\n", "Probe 7 (heiß)"), {"Al", "Al (2)"},
              {"Al33,3Cu66,7", "Al33,3Cu66,7"}, {" ", "Al33,3Cu66,7"}}) {
         umbenennen(vergleich, 1, typed);
         EXPECT_EQ(vergleich.varianten[1].name, name) << typed;

@@ -41,13 +41,9 @@ struct VergleichstabelleTest : EingabeFixture {
 
 TEST_F(VergleichstabelleTest, ShowsValuesAndHowTheyDifferFromTheReference)
 {
-    struct Row {
-        const char* line;
-        const char *value, *difference, *percent; // shown | with all digits
-    };
     for (const auto& [line, value, difference, percent] : {
-             Row{"Anteil Al", "50 / 75,05 / 75,05 | 50 / 75,05 / 75,05", "50 / +25,05 / +25,05 | 50 / 25,05 / 25,05",
-                 "50 / +50,1 % / +50,1 % | 50 / 50,1 / 50,1"},
+             std::tuple("Anteil Al", "50 / 75,05 / 75,05 | 50 / 75,05 / 75,05",
+                 "50 / +25,05 / +25,05 | 50 / 25,05 / 25,05", "50 / +50,1 % / +50,1 % | 50 / 50,1 / 50,1"),
              {"Anteil Mg", "0 / 0 / 24,95 | 0 / 0 / 24,95", "0 / 0 / +24,95 | 0 / 0 / 24,95", "0 /  /  | 0 /  / "},
              {"Fermienergie", "9,1078 / 9,991 /  | 9,107788 / 9,991032 / ",
                  "9,1078 / +0,88324 /  | 9,107788 / 0,883244 / ", "9,1078 / +9,6977 % /  | 9,107788 / 9,6977 / "},

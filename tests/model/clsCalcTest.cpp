@@ -54,14 +54,9 @@ TEST_F(clsCalcTest, AFailedRecalculationMakesAllUnknownButKf2)
 {
     calc.setBasis(6e28F, 3);
     const float before = calc.Kf_2();
-    struct Row {
-        const char* name;
-        const char* valence;
-        float density;
-        int components;
-    };
-    for (const auto& [name, valence, density, components] : {Row{"no density", "3", 0, 1}, {"empty slot", "3", 2.7F, 2},
-             {"no formula", "1/0", 2.7F, 1}, {"hexadecimal", "hex(3)", 2.7F, 1}, {"too large", "1e39", 2.7F, 1}}) {
+    for (const auto& [name, valence, density, components] :
+        {std::tuple("no density", "3", 0.0F, 1), {"empty slot", "3", 2.7F, 2}, {"no formula", "1/0", 2.7F, 1},
+            {"hexadecimal", "hex(3)", 2.7F, 1}, {"too large", "1e39", 2.7F, 1}}) {
         SCOPED_TRACE(name);
         elements.Item("Al")->setDichte(density);
         elements.Item("Al")->setValenz_Temp(valence);

@@ -57,12 +57,7 @@ TEST_F(DokumentverwaltungTest, KnowsItsFileAndWhetherItIsChanged)
 
 TEST_F(DokumentverwaltungTest, AsksBeforeChangesOfAnOpenFileGo)
 {
-    struct Row {
-        std::size_t answer;
-        bool goes;
-        const char* stored;
-    };
-    for (const auto& [answer, goes, in] : {Row{0, true, "70"}, Row{1, true, "60"}, Row{2, false, "60"}}) {
+    for (const auto& [answer, goes, in] : {std::tuple(std::size_t{0}, true, "70"), {1, true, "60"}, {2, false, "60"}}) {
         enter("60");
         ASSERT_TRUE(saveAs("a.zerna"));
         enter("70");
@@ -144,12 +139,8 @@ TEST_F(DokumentverwaltungTest, LetsTheUserDecideAboutOtherValues)
 {
     ASSERT_TRUE(saveAs("a.zerna"));
     elements.Item("Cu")->setValenz(2);
-    struct Row {
-        std::size_t answer;
-        float valenz;
-        bool changed;
-    };
-    for (const auto& [answer, valenz, changed] : {Row{0, 1, false}, Row{1, 2, true}, Row{2, 2, false}}) {
+    for (const auto& [answer, valenz, changed] :
+        {std::tuple(std::size_t{0}, 1.0F, false), {1, 2, true}, {2, 2, false}}) {
         boxes.way = answer;
         EXPECT_EQ(dateien.oeffne(folder / "a.zerna"), answer < 2);
         EXPECT_EQ(programm.Eingabe().zeile(1).inKraft.valenz, valenz);

@@ -107,15 +107,8 @@ TEST_F(ProgrammTest, BadDataFilesAreReportedAndNeverOverwritten)
     const std::string none = "Index außerhalb des gültigen Bereichs\r\n\r\nDie Elementdatei\r\n" + dataFile.string()
         + "\r\nenthält keine Elemente oder ist nicht lesbar; ohne Elemente lässt sich nichts berechnen." + remedy;
     const std::string twice = damaged("Dieser Schlüssel ist bereits einem Element dieser Auflistung zugeordnet");
-    struct Row {
-        const char* name;
-        std::string bytes;
-        const char* caption;
-        std::string text;
-        bool runs;
-    };
     for (const auto& [name, bytes, caption, text, runs] : {
-             Row{"no elements", std::string(4, '\0'), "KoltZerna", none, true},
+             std::tuple("no elements", std::string(4, '\0'), "KoltZerna", none, true),
              {"an element twice", builtIn.substr(0, 4) + hydrogen + hydrogen, "Zerna", twice, false},
              {"empty", "", "Zerna", damaged("Eingabe hinter Dateiende"), false},
          }) {
