@@ -13,7 +13,7 @@ if [[ ${ZERNA_OWN_MOUNTS:-} != yes ]]; then
 fi
 "$source/packaging/install-debian-packages.sh" package
 packages=$source/build/release/pakete
-largest=10000 # KiB installed, manual and its pictures included
+largest=5000 # KiB installed, manual and its pictures included
 
 step() { printf '\n-- %s\n' "$1"; }
 
@@ -40,6 +40,9 @@ lintian --allow-root --fail-on error "$deb"
 for page in "$tree"/usr/share/man/de/man1/*; do
     warnings=$(LC_ALL=C.UTF-8 MANWIDTH=80 man --warnings -l "$page" 2>&1 >/dev/null)
     [[ -z $warnings ]] || fail "Handbuchseite $page: $warnings"
+done
+for picture in $(grep -o '<img src="[^"]*' "$tree/usr/share/doc/zerna/handbuch.html" | cut -d '"' -f 2); do
+    [[ -f $tree/usr/share/doc/zerna/$picture ]] || fail "Das Handbuch zeigt $picture, das es nicht gibt."
 done
 size=$(dpkg-deb -f "$deb" Installed-Size)
 ((size < largest)) || fail "Das Paket belegt $size KiB, erlaubt sind $largest."

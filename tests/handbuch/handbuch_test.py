@@ -141,9 +141,11 @@ class Handbuch(unittest.TestCase):
         anchors = set(re.findall(r'<h\d id="([^"]+)"', html))
         self.assertGreater(len(anchors), 40)
         self.assertEqual({unquote(name) for name in re.findall(r'href="#([^"]+)"', html)} - anchors, set())
-        self.assertEqual([name for name in re.findall(r'<img src="([^"]+)"', html) if not (page.parent / name).exists()],
-                         [])
-        self.assertGreater((page.parent / "handbuch.pdf").stat().st_size, 100000)
+        pictures = re.findall(r'<img src="([^"]+)"', html)
+        self.assertEqual([name for name in pictures if not (page.parent / name).exists()], [])
+        pdf = (page.parent / "handbuch.pdf").read_bytes()
+        self.assertGreater(len(pdf), 100000)
+        self.assertEqual(pdf.count(b"/Indexed"), len(pictures), "pictures are packed as their files are")
 
     def test_numbers_come_from_the_program(self):
         text = prose()
