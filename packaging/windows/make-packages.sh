@@ -72,11 +72,15 @@ done
 cp "$build/bin/elemente.dat" "$stage/"
 cp "$build/bin/elemente.dat" "$stage/original/" # by which the uninstaller knows a changed one
 cp "$root/data/QUELLEN.md" "$root/data/quellen.csv" "$stage/"
-cp "$root/docs/handbuch.md" "$stage/Handbuch.md"
-for manual in "$root"/build/*/handbuch/handbuch.{html,pdf}; do
-    [ ! -e "$manual" ] || cp "$manual" "$stage/Handbuch.${manual##*.}"
+for pages in "$root"/build/*/handbuch; do
+    [ -e "$pages/handbuch.pdf" ] || continue
+    for kind in html pdf; do cp "$pages/handbuch.$kind" "$stage/Handbuch.$kind"; done
+    cp -r "$pages/bilder" "$stage/"
 done
-[ -e "$stage/Handbuch.pdf" ] || say "ohne Handbuch.html und Handbuch.pdf: es gibt keinen Bau für Linux, der sie gemacht hätte"
+if [ ! -e "$stage/Handbuch.pdf" ]; then
+    say "ohne Handbuch.html und Handbuch.pdf: es gibt keinen Bau für Linux, der sie gemacht hätte (Ziel handbuch)"
+    cp "$root/docs/handbuch.md" "$stage/Handbuch.md"
+fi
 sed 's/$/\r/' "$here/LIZENZEN.txt" >"$stage/LIZENZEN.txt"
 "$here/lizenztexte.py" "$(ls "$sources"/qt6-base_*.orig.tar.xz)" "$here/qtsvg-6.4.2.tar.xz" "$deps" "$stage/lizenzen"
 cp "$here/build-qt.sh" "$here/build-qtsvg.sh" "$here/mingw-toolchain.cmake" "$stage/lizenzen/"
