@@ -87,6 +87,7 @@ expect "  Startmenü" test -s "$menu"
 expect "  Dateityp .zerna" wine reg query 'HKCU\Software\Classes\Zerna.Legierung\shell\open\command'
 expect "  zerna-cli findet seine Tabelle" wine "$program/zerna-cli.exe" text Al=60 Cu=40
 echo geändert >>"$program/elemente.dat"
+: >"$program/lizenzen/einer früheren Fassung.txt"
 expect "Installer über die alte Fassung" wine "$setup" /S
 expect "  geänderte elemente.dat bleibt" grep -q geändert "$program/elemente.dat"
 wine reg add 'HKCU\Software\KoltZerna' /v Probe /d 1 /f >/dev/null

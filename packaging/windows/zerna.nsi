@@ -105,6 +105,7 @@ Section "Zerna"
         DetailPrint "Die geänderte Elementtabelle elemente.dat bleibt."
         Rename "$INSTDIR\elemente.dat" "$INSTDIR\elemente.dat.behalten"
     ${EndIf}
+    RMDir /r "$INSTDIR\lizenzen" ; an earlier version had others
     File /r "${STAGE}\*"
     ${If} $R0 == 1
         Delete "$INSTDIR\elemente.dat"
