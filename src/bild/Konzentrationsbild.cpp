@@ -119,14 +119,6 @@ public:
     }
 
 private:
-    static const Groesse& reihengroesse(int kennzahl)
-    {
-        const Groesse* const found = findReihengroesse(kennzahl);
-        if (found == nullptr)
-            throw Laufzeitfehler(Fehler::UngueltigesArgument);
-        return *found;
-    }
-
     Mischungsreihe rechner(int groesse, Reihenart art) const
     {
         return {m_calc, m_legierung.komponenten(), m_wahl.komponente, groesse, art};

@@ -275,6 +275,14 @@ const Groesse* findReihengroesse(int kennzahl)
     return groesse != nullptr && groesse->ueberLegierungen() ? groesse : nullptr;
 }
 
+const Groesse& reihengroesse(int kennzahl)
+{
+    const Groesse* const found = findReihengroesse(kennzahl);
+    if (found == nullptr)
+        throw Laufzeitfehler(Fehler::UngueltigesArgument);
+    return *found;
+}
+
 std::string reihenkennzahlen()
 {
     std::set<int> codes;

@@ -73,6 +73,9 @@ const Groesse* findGroesse(int kennzahl);
 /// The quantity over compositions of a code; null if there is none.
 const Groesse* findReihengroesse(int kennzahl);
 
+/// The same where there has to be one; error 5 if there is none.
+const Groesse& reihengroesse(int kennzahl);
+
 /// The codes of the quantities over compositions as a text: "0 bis 10", or "0 bis 3, 7" if there are gaps.
 std::string reihenkennzahlen();
 

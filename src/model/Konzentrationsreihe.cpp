@@ -51,10 +51,9 @@ std::string_view reiheneinheit(int groesse)
 
 const Groesse& gerechneteReihengroesse(int groesse)
 {
-    const Groesse* const found = findReihengroesse(groesse);
-    if (found == nullptr || groesse == GroesseDichte)
+    if (groesse == GroesseDichte)
         throw Laufzeitfehler(Fehler::UngueltigesArgument);
-    return *found;
+    return reihengroesse(groesse);
 }
 
 Reihe konzentrationsreihe(

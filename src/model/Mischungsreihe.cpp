@@ -16,14 +16,6 @@ std::size_t checkedIndex(int index, std::size_t count)
     return static_cast<std::size_t>(index);
 }
 
-const Groesse& reihengroesse(int groesse)
-{
-    const Groesse* const found = findReihengroesse(groesse);
-    if (found == nullptr)
-        throw Laufzeitfehler(Fehler::UngueltigesArgument);
-    return *found;
-}
-
 } // namespace
 
 Mischungsreihe::Mischungsreihe(const clsCalc& calc, // NOLINT(modernize-pass-by-value): callers lend theirs
