@@ -95,7 +95,7 @@ std::vector<float> sollmassenZu(const clsCalc& calc, int komponentenzahl, int re
 std::vector<float> gewogeneAtomprozente(const clsCalc& calc, std::span<const float> massen)
 {
     const auto count = static_cast<int>(massen.size());
-    const float q = toSingle(quotient(atommasse(calc, 0), massen.empty() ? 0 : massen[0]));
+    const float q = toSingle(quotient(atommasse(calc, 0), massen.front()));
     float s = 1;
     const auto moles = [&](int i) {
         const float masse = massen[static_cast<std::size_t>(i)];
@@ -129,7 +129,7 @@ std::optional<Wiegehindernis> atomprozentHindernis(const clsCalc& calc, std::spa
 {
     if (const auto found = std::ranges::find_if(massen, istUnbekannt); found != massen.end())
         return Wiegehindernis{static_cast<int>(found - massen.begin()), "hat keine gültige Masse"};
-    if (!massen.empty() && massen[0] == 0)
+    if (massen.front() == 0)
         return Wiegehindernis{0, "hat 0 mg und ist der Bezug der Rechnung"};
     return missingAtommasse(
         calc, static_cast<int>(massen.size()), [&](int i) { return massen[static_cast<std::size_t>(i)] != 0; });

@@ -10,8 +10,6 @@ namespace zerna {
 Ternaergroesse::Ternaergroesse(clsCalc calc, std::span<const Legierungskomponente> komponenten, int groesse)
     : m_calc(std::move(calc))
 {
-    if (komponenten.size() != m_anteile.size())
-        throw Laufzeitfehler(Fehler::UngueltigesArgument);
     const auto teile = anteile(komponenten);
     std::copy_n(teile.begin(), m_anteile.size(), m_anteile.begin());
     std::ranges::transform(komponenten, m_dichten.begin(), &Legierungskomponente::dichte);

@@ -11,8 +11,8 @@ namespace zerna {
 /// at%-weighted mean.
 class Ternaergroesse {
 public:
-    /// Quantity `groesse` is one over compositions. Errors of the components' densities and valences reach the caller,
-    /// error 5 for anything but three components or such a quantity.
+    /// Three components and a quantity over compositions, error 5 for another one. Errors of the components' densities
+    /// and valences reach the caller.
     Ternaergroesse(clsCalc calc, std::span<const Legierungskomponente> komponenten, int groesse);
 
     /// The value at a composition in at%; Unbekannt where it cannot be computed.
