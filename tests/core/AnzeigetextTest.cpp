@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "core/Kuerzung.h"
+
 namespace zerna {
 
 TEST(Anzeigetext, ShowsMinusSignsAndPowersOfNumbersAlone)
@@ -14,6 +16,12 @@ TEST(Anzeigetext, ShowsMinusSignsAndPowersOfNumbersAlone)
         {"5 Elektronen E-", "5 Elektronen E-"}, {"21.11.2026", "21.11.2026"}, {"-", "-"}, {"", ""}};
     for (const auto& [text, shown] : rows)
         EXPECT_EQ(anzeigetext(text), shown);
+}
+
+TEST(Kuerzung, CutsBetweenCharacters)
+{
+    for (const auto& [length, text] : {std::pair(18, "äöüäöüäöü"), {9, "äöü…ü"}, {8, "äö…ü"}, {0, "…"}})
+        EXPECT_EQ(gekuerzt("äöüäöüäöü", static_cast<std::size_t>(length)), text);
 }
 
 } // namespace zerna

@@ -1,5 +1,6 @@
 #include "core/Elementdatei.h"
 
+#include "core/ElementCsv.h"
 #include "support/FilesTest.h"
 
 namespace zerna {
@@ -51,6 +52,30 @@ TEST_F(ElementdateiTest, CountsThatTheBytesDoNotBear)
     for (std::size_t size = 4; size < whole.size(); ++size) {
         load(whole.substr(0, size));
         EXPECT_TRUE(!boxes.shown.empty() && boxes.shown.size() <= 3) << size;
+    }
+}
+
+TEST_F(ElementdateiTest, ATableThatCannotBeImportedSaysWhereAndWhy)
+{
+    const auto tableOf = [](const char* first, const char* second) {
+        std::vector<ElementRecord> records(2);
+        records[0].symbol = first;
+        records[1].symbol = second;
+        return writeElementCsv(records);
+    };
+    EXPECT_EQ(readElementCsv(tableOf("A", "B")).size(), 2U);
+    for (const auto& [table, reason] :
+        {std::pair(tableOf("A", "A"), "Zeile 3: Symbol \"A\" fehlt oder ist schon vergeben"),
+            {tableOf("", "B"), "Zeile 2: Symbol \"\" fehlt oder ist schon vergeben"},
+            {"Symbol;Gr\xF6\xDF", "Zeile 1: kein UTF-8-Text (die Tabelle als \"CSV UTF-8\" speichern)"},
+            {"Symbol;Masse\nA;1", "Zeile 1 enthält nicht die erwarteten Spaltennamen"}}) {
+        std::string said;
+        try {
+            readElementCsv(table);
+        } catch (const std::runtime_error& error) {
+            said = error.what();
+        }
+        EXPECT_EQ(said, reason);
     }
 }
 

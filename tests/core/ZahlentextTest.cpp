@@ -32,6 +32,13 @@ TEST(Zahlentext, WritesTheShortestTextThatReadsBack)
         EXPECT_EQ(all, std::string("x") + text);
         EXPECT_TRUE(*text == '\0' || doubleFromText(text) == value) << text;
     }
+    for (const float value : {HUGE_VALF, -HUGE_VALF, NAN}) {
+        const double wide = value;
+        EXPECT_EQ(textOfSingle(value) + textOfDouble(wide) + textWithDigits(value, 4) + textWithDigits(wide, 4)
+                + fixedText(value, 2) + fixedText(wide, 2) + scientificText(wide, 2, " ", false),
+            "")
+            << "no number that looks right";
+    }
     EXPECT_EQ(textWithDigits(63.300003, 7), "63,3");
     EXPECT_EQ(textWithDigits(1000000000000000100000.0, 17), "1,0000000000000001E+21");
 }

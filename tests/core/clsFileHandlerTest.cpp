@@ -23,6 +23,9 @@ TEST_F(clsFileHandlerTest, WritesAndReadsLines)
     for (const char* const line : {"Maß", "zwei", "", "drei", ""}) // nothing behind the end
         EXPECT_EQ(handler.ReadLine(), line);
     EXPECT_TRUE(handler.FileEnd());
+    handler.CloseFile();
+    handler.WriteLine("x");
+    EXPECT_EQ(handler.ReadLine(), "") << "closed";
 }
 
 TEST_F(clsFileHandlerTest, SaysWhyAFileIsNotOpened)
@@ -47,11 +50,12 @@ TEST_F(clsFileHandlerTest, SaysWhyAFileIsNotOpened)
 TEST_F(clsFileHandlerTest, ASecondFileClosesTheFirstAndCanBeReadAndWrittenAnywhere)
 {
     writeBytes(file, "abcdef");
+    files.open(1, folder / "fremd.dat", Zugriff::Ausgabe);
     ASSERT_TRUE(handler.OpenFile((folder / "erste.dat").string(), 0));
     handler.WriteLine("x");
     ASSERT_TRUE(handler.OpenFile(path, 2));
     EXPECT_EQ(bytesOf(folder / "erste.dat"), "x\r\n");
-    Datei& opened = files.at(1);
+    Datei& opened = files.at(handler.FileHandle());
     EXPECT_EQ(opened.readText(2), "ab");
     opened.write("XY");
     handler.CloseFile();
