@@ -185,6 +185,10 @@ TEST_F(DokumentdateiTest, ReadsADiagramThatCanBeShown)
         return Diagrammwahl{
             .typ = typ, .groesse = groesse, .andereGroesse = andere, .komponente = komponente, .aufloesung = 7};
     };
+    const auto zweite = [](Diagrammwahl both, int groesse) {
+        both.zweiteGroesse = groesse;
+        return both;
+    };
     struct Row {
         int rows;
         Diagrammwahl written, read;
@@ -200,6 +204,8 @@ TEST_F(DokumentdateiTest, ReadsADiagramThatCanBeShown)
         {2, wahl(PSE, 11, 1, 12), wahl(PSE, 11, 1)},
         {2, wahl(Konzentration, 5, 1, 11), wahl(Konzentration, 5, 1, 11)},
         {2, wahl(Konzentration, 5, 1, GroesseDichte), wahl(Konzentration, 5, 1)},
+        {2, zweite(wahl(Konzentration, 5, 1), GroesseDichte), zweite(wahl(Konzentration, 5, 1), GroesseDichte)},
+        {2, zweite(wahl(Konzentration, 5, 1), 11), wahl(Konzentration, 5, 1)},
     };
     for (const Row& row : rows) {
         dokument.eingabe.setAnzahl(row.rows);

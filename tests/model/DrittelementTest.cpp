@@ -32,6 +32,8 @@ TEST_F(DrittelementTest, RanksTheElementsThatMayBeAdded)
         EXPECT_FLOAT_EQ(added.wert, calc.Fermienergie()) << added.element->symbol();
         EXPECT_FLOAT_EQ(static_cast<float>(added.abweichung), calc.Fermienergie() - 9.5F);
     }
+    EXPECT_EQ(ohneDatenSatz({{}, {"At"}}), "Nicht in der Liste, weil Daten fehlen: 1 Element (At)");
+    EXPECT_EQ(ohneDatenSatz({}), "");
     const std::vector five(5, component("Al", 20));
     EXPECT_EQ(errorNumber([&] { drittelemente(calc, elements, five, 10, energy, 9.5); }), 9);
     const std::vector nothing{component("Al", 50), component("Cu", -50)};

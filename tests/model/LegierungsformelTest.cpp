@@ -117,6 +117,8 @@ TEST_F(LegierungsformelTest, ErrorsNameTheCharacter)
         {"Al60Cu40 %", "Prozent wovon, ist nicht zu erkennen (Zeichen 10). At% oder wt% schreiben."},
         {"Al60Cu40 vol%", "Einheit \"vol%\" ist nicht bekannt (Zeichen 10). At% oder wt% schreiben."},
         {"Al60at%Cu40wt%", "Zwei verschiedene Einheiten (Zeichen 12)"},
+        {"Al60Cu40 (wt%", "Unerwartetes Zeichen \"(\" (Zeichen 10)"},
+        {"Al₊Cu", "Unerwartetes Zeichen \"₊\" (Zeichen 3)"},
         {"(Al2Cu)50", "Unerwartetes Zeichen \"(\" (Zeichen 1)"},
         {"Al60Cu40-", "Unerwartetes Zeichen \"-\" (Zeichen 9)"},
         {"Al--4Cu", "Unerwartetes Zeichen \"-\" (Zeichen 4)"},

@@ -45,6 +45,16 @@ TEST_F(ReihenTest, FaultsReachTheCaller)
              {"no resolution", [&] { grid(0, 0); }, 5},
              {"too fine a resolution", [&] { grid(0, 11); }, 5},
              {"two components", [&] { ternaergitter(calc, std::span(alloy).first(2), 0, 1); }, 5},
+             {"the density of no component",
+                 [] {
+                     dichtereihe(std::array{2.0F, 3.0F}, 2);
+                 },
+                 9},
+             {"an unknown density",
+                 [] {
+                     dichtereihe(std::array{2.0F, Unbekannt}, 0);
+                 },
+                 5},
              {"nothing to share the rest with", [] { dichtereihe(std::array{2.0F}, 0); }, 11},
          })
         EXPECT_EQ(errorNumber(action), error) << name;

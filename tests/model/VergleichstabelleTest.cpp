@@ -110,16 +110,18 @@ TEST_F(VergleichstabelleTest, SumsTheSharesOfAnElementInSeveralRows)
 TEST_F(VergleichstabelleTest, SaysInEachHeadingWhatTheColumnHolds)
 {
     vergleich.varianten.pop_back();
-    vergleich.varianten.front().name = "a;\"b\"\t<c>"; // as a file may hold it
+    vergleich.varianten.front().name = "a;\"b\"\t<c&>"; // as a file may hold it
     tabelle.setze(vergleich, calc);
     const auto table = [this](Vergleichsart art) { return tabelle.tabelle(art, Dezimaltrenner::Komma); };
     EXPECT_PRED2(beginntMit, alsText(mitKopf(table(Vergleichsart::Wert))),
-        "Größe\tEinheit\ta;\"b\" <c>\tAl75,05Cu24,95\r\nAnteil Al\tat%\t");
+        "Größe\tEinheit\ta;\"b\" <c&>\tAl75,05Cu24,95\r\nAnteil Al\tat%\t");
     EXPECT_PRED2(beginntMit, alsCsv(table(Vergleichsart::Differenz)),
-        "\xEF\xBB\xBFGröße;Einheit;\"a;\"\"b\"\" <c>\";\"Al75,05Cu24,95 − a;\"\"b\"\" <c>\"\r\n"
+        "\xEF\xBB\xBFGröße;Einheit;\"a;\"\"b\"\" <c&>\";\"Al75,05Cu24,95 − a;\"\"b\"\" <c&>\"\r\n"
         "Anteil Al;at%;50;25,05\r\n");
-    EXPECT_NE(alsHtml(table(Vergleichsart::Prozent)).find(">Al75,05Cu24,95 gegen a;\"b\" &lt;c> in %</th>"),
+    EXPECT_NE(alsHtml(table(Vergleichsart::Prozent)).find(">Al75,05Cu24,95 gegen a;\"b\" &lt;c&amp;> in %</th>"),
         std::string::npos);
+    EXPECT_PRED2(beginntMit, alsJson(table(Vergleichsart::Wert)),
+        "[\r\n  {\"Größe\": \"Anteil Al\", \"Einheit\": \"at%\", \"a;\\\"b\\\" <c&>\": 50,");
 }
 
 } // namespace zerna

@@ -67,6 +67,9 @@ TEST_F(clsCalcTest, AFailedRecalculationMakesAllUnknownButKf2)
             {&C::Dichte, Unbekannt}, {&C::Atomvolumen, Unbekannt}, {&C::Kf_2, before}});
         EXPECT_NEAR(calc.Fermienergie(), 7.3e32, 1e31) << "two markers multiply to a positive number of electrons";
     }
+    elements.Item("Al")->setValenz_Temp("3");
+    calc.Element_Add(0, "Al", 3e38F);
+    expect({{&C::Valenz, Unbekannt}, {&C::Dichte, Unbekannt}});
     EXPECT_EQ(errorNumber([&] { calc.Element_Add(9, "Qq", 1); }), 5);
     EXPECT_EQ(errorNumber([&] { calc.Element_Add(5, "Al", 1); }), 9);
 }
