@@ -69,8 +69,15 @@ TEST_F(DokumentverwaltungTest, AsksBeforeChangesOfAnOpenFileGo)
             "Zerna: Die Legierung \"a.zerna\" ist geändert. Sollen die Änderungen gespeichert werden? "
             "[&Speichern|&Verwerfen|&Abbrechen]");
     }
+    boxes.way = 1;
+    ASSERT_TRUE(dateien.neu());
+    enter("33");
+    boxes.way = 2;
+    EXPECT_FALSE(dateien.neu());
+    EXPECT_TRUE(boxes.asked.back().starts_with("Zerna: Die jetzige Legierung steht in keiner Datei."));
     ASSERT_TRUE(saveAs("a.zerna"));
     enter("71");
+    EXPECT_FALSE(dateien.oeffne() || dateien.oeffne(folder / "a.zerna") || dateien.darfSchliessen());
     boxes.way = 1;
     EXPECT_TRUE(dateien.darfSchliessen());
     EXPECT_FALSE(dateien.istGeaendert()) << "what was discarded does not come back with the next start";
@@ -137,6 +144,7 @@ TEST_F(DokumentverwaltungTest, ARestoredDocumentDoesNotGoOverWhatOthersHaveSaved
 
 TEST_F(DokumentverwaltungTest, LetsTheUserDecideAboutOtherValues)
 {
+    programm.Dokument().vergleich = Vergleich{std::vector<Variante>(13, {"v", programm.Eingabe(), {}}), 0};
     ASSERT_TRUE(saveAs("a.zerna"));
     elements.Item("Cu")->setValenz(2);
     for (const auto& [answer, valenz, changed] :
@@ -147,6 +155,7 @@ TEST_F(DokumentverwaltungTest, LetsTheUserDecideAboutOtherValues)
         EXPECT_EQ(dateien.istGeaendert(), changed);
         if (answer == 1) {
             EXPECT_THAT(boxes.asked.back(), HasSubstr("Zeile 2: Valenz (Standard) von Cu: 1 in der Datei, 2 hier"));
+            EXPECT_THAT(boxes.asked.back(), HasSubstr("\r\nund 2 weitere\r\n")) << "twelve are named";
         }
         boxes.way = 1; // drops changes
         ASSERT_TRUE(dateien.neu());

@@ -55,6 +55,9 @@ TEST_F(SicherungTest, RunsAtTheSameTimeHavePlacesOfTheirOwn)
     second.schreibe([] { return "anders"; });
     second.warte();
     EXPECT_FALSE(second.nimmFehler().has_value());
+    second.schreibe([]() -> std::string { throw std::bad_alloc(); });
+    second.warte();
+    EXPECT_TRUE(second.nimmFehler().has_value()) << "the run goes on";
     EXPECT_EQ(Sicherung(ordner).hinterlassen(), "tot");
 }
 
