@@ -110,6 +110,16 @@ TEST(KurvenansichtTest, ZoomedOutAgainIsNotZoomed)
     }
 }
 
+TEST(KurvenansichtTest, APictureWithoutRoomOrCurvesIsLeftAlone)
+{
+    const Kurvenbild bild = zweiGroessen();
+    const Kurvenlayout none = layOut(bild, 20, 10, {}, masse, {});
+    Kurvenansicht ansicht;
+    ansicht.zoome(bild, none, {5, 5}, 1);
+    EXPECT_FALSE(ansicht.zoomeAuf(bild, none, {0, 0}, {20, 10}) || ansicht.ausschnitt());
+    EXPECT_FALSE(ansicht.gehe(Kurvenbild(), none, 1)) << "no crosshair";
+}
+
 TEST(KurvenansichtTest, WhatIsShownStaysWhileItMeetsTheAxes)
 {
     Kurvenbild bild = zweiGroessen();

@@ -1,4 +1,4 @@
-#include "bild/Ternaergeometrie.h"
+#include "bild/Ternaerkreuz.h"
 
 #include <gtest/gtest.h>
 
@@ -86,6 +86,22 @@ TEST(Zusammensetzung, HasItsPlaceInTheTriangle)
     EXPECT_TRUE(istZusammensetzung({0.3333333F, 0.3333333F, 0.3333334F})) << "as typed";
     EXPECT_FALSE(istZusammensetzung({0.6, 0.5, -0.1}));
     EXPECT_FALSE(istZusammensetzung({0.2, 0.2, 0.1})) << "its point would be that of another alloy";
+}
+
+TEST(Ternaerkreuz, GoesToNeighboursAndStaysAtTheEdges)
+{
+    const Ternaergitter gitter{2, {"A", "B", "C"}, "eV", {}};
+    const struct {
+        Ternaerkreuz from;
+        int right, up;
+        Ternaerkreuz to;
+    } rows[] = {{{2, 0}, 1, 0, {1, 1}}, {{1, 1}, 1, 0, {0, 2}}, {{0, 2}, 1, 0, {0, 2}}, {{1, 1}, -1, 0, {2, 0}},
+        {{2, 0}, -1, 0, {2, 0}}, {{2, 0}, 0, 1, {1, 0}}, {{1, 0}, 0, 1, {0, 0}}, {{0, 0}, 0, 1, {0, 0}},
+        {{0, 2}, 0, 1, {0, 1}}, {{0, 1}, 0, -1, {1, 1}}, {{1, 1}, 0, -1, {1, 1}}, {{1, 0}, -1, 0, {1, 0}}};
+    for (const auto& [from, right, up, to] : rows)
+        EXPECT_EQ(nachbar(gitter, from, right, up), to) << from.i << from.j << ' ' << right << up;
+    EXPECT_EQ(kreuzBei(gitter, {0.6, 0.4, 0}), (Ternaerkreuz{1, 1}));
+    EXPECT_EQ(ternaerablesung(gitter, {0.5, 0.5, -1e-9}, Unbekannt), "A 50,0 at%  B 50,0 at%  C 0,0 at%  -  unbekannt");
 }
 
 TEST(Ternaerflaeche, IsInterpolatedAndHasHoles)
