@@ -16,6 +16,7 @@ struct Textstelle {
     Rechteck box;
     Schrift schrift;
     bool senkrecht = false; ///< reads upwards
+    bool operator==(const Textstelle&) const = default;
 };
 
 /// The line of a curve in the legend.

@@ -53,7 +53,6 @@ Wertanzeige::Wertanzeige(QWidget* parent)
 {
     setSizePolicy({QSizePolicy::Preferred, QSizePolicy::Preferred, QSizePolicy::Label});
     setFocusPolicy(Qt::StrongFocus);
-    setAutoFillBackground(true);
 }
 
 void Wertanzeige::zeige(const QString& shown)

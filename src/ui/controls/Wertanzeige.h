@@ -9,8 +9,7 @@ class Ansage;
 /// One result value: number and unit stand in columns, so that the units of all lines are aligned. It paints the number
 /// with a true minus sign and a power of ten; its text stays the given one. Takes the keyboard
 /// focus; Ctrl+C copies what it shows, the right mouse button or the menu key asks for its menu, a click, Enter or the
-/// space bar for the details of its value. Another text of the same width asks for no layout, and what lies behind it
-/// is not painted with it.
+/// space bar for the details of its value. Another text of the same width asks for no layout.
 class Wertanzeige : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString text READ text)

@@ -32,6 +32,7 @@ Diagrammflaeche::Diagrammflaeche(Programm& programm, Dialoge dialoge, QWidget* p
     m_display->setAccessibleName(QStringLiteral("Konzentrationsdiagramm"));
     connect(m_display, &conDisplay::PositionInfo, this, &Diagrammflaeche::positionChanged);
     connect(m_display, &conDisplay::randChanged, this, &Diagrammflaeche::placeDisplay);
+    connect(m_display, &conDisplay::randVeraltet, this, [this](const QRegion& part) { update(part); });
     showHinweis({});
 }
 
@@ -42,13 +43,14 @@ void Diagrammflaeche::showDiagramm(Diagramm& diagramm, Qt::FocusPolicy focus)
             m_gezeigt->verlassen();
         m_gezeigt = &diagramm;
     }
-    m_diagramm = &diagramm;
+    const bool isOther = std::exchange(m_diagramm, &diagramm) != &diagramm;
     m_display->setVisible(&diagramm == &m_display->diagramm());
     setFocusPolicy(focus);
     m_dragging = false;
     setAccessibleDescription({});
     emit positionChanged(diagramm.cursorText());
-    update();
+    if (isOther || !zeigtKonzentration()) // the display tells what is new in its picture
+        update();
 }
 
 /// Keys undo what the mouse has done; views of the ternary diagram are undone like input.
@@ -214,11 +216,7 @@ void Diagrammflaeche::resizeEvent(QResizeEvent* event)
 }
 
 /// The display holds the axes of its picture; what is around them is painted here.
-void Diagrammflaeche::placeDisplay()
-{
-    m_display->setPlatz(m_display->diagramm().kern(leinwand()), size());
-    update();
-}
+void Diagrammflaeche::placeDisplay() { m_display->setPlatz(m_display->diagramm().kern(leinwand()), size()); }
 
 void Diagrammflaeche::changeEvent(QEvent* event)
 {
@@ -227,12 +225,12 @@ void Diagrammflaeche::changeEvent(QEvent* event)
         placeDisplay();
 }
 
-void Diagrammflaeche::paintEvent(QPaintEvent*)
+void Diagrammflaeche::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
     if (m_diagramm == &m_display->diagramm()) { // the rest of it is painted by the display
         painter.fillRect(rect(), Qt::white);
-        m_display->diagramm().paintRand(painter, leinwand());
+        m_display->diagramm().paintRand(painter, leinwand(), event->region());
         return;
     }
     m_diagramm->paint(painter, leinwand());

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <utility>
 
+#include "bild/Layoutunterschied.h"
 #include "core/Zahlentext.h"
 #include "ui/platform/Abdeckung.h"
 #include "ui/platform/Farben.h"
@@ -17,6 +18,14 @@ QRect rectOf(const Rechteck& box)
 {
     return {static_cast<int>(box.left), static_cast<int>(box.top), static_cast<int>(box.width),
         static_cast<int>(box.height)};
+}
+
+QRegion regionOf(const std::vector<Rechteck>& boxes)
+{
+    QRegion region;
+    for (const Rechteck& box : boxes)
+        region += gemalteFlaeche(box);
+    return region;
 }
 
 } // namespace
@@ -68,16 +77,29 @@ QRect Kurvendiagramm::plot(const Leinwand& leinwand) const
     return rectOf(m_hatBild ? layout(leinwand).plot : plotArea(leinwand.size.width(), leinwand.size.height()));
 }
 
-void Kurvendiagramm::paintRand(QPainter& painter, const Leinwand& leinwand) const
+Kurvendiagramm::Neues Kurvendiagramm::neues(const Leinwand& leinwand)
 {
+    const auto before = std::exchange(m_gezeigt, std::nullopt);
     if (m_hatBild)
-        zerna::paintRand(painter, m_bild, layout(leinwand), leinwand);
+        m_gezeigt = {leinwand, layout(leinwand)};
+    if (!m_gezeigt || !before || before->leinwand != leinwand) {
+        const QRect all(QPoint(0, 0), leinwand.size);
+        return {all, all};
+    }
+    const auto [rand, kern] = unterschied(before->layout, m_gezeigt->layout);
+    return {regionOf(rand), regionOf(kern)};
 }
 
-void Kurvendiagramm::paintAchsen(QPainter& painter, const Leinwand& leinwand) const
+void Kurvendiagramm::paintRand(QPainter& painter, const Leinwand& leinwand, const QRegion& teil) const
 {
     if (m_hatBild)
-        zerna::paintAchsen(painter, layout(leinwand), leinwand);
+        zerna::paintRand(painter, m_bild, layout(leinwand), leinwand, teil);
+}
+
+void Kurvendiagramm::paintAchsen(QPainter& painter, const Leinwand& leinwand, const QRegion& teil) const
+{
+    if (m_hatBild)
+        zerna::paintAchsen(painter, layout(leinwand), leinwand, teil);
 }
 
 void Kurvendiagramm::paintPlot(QPainter& painter, const Leinwand& leinwand) const

@@ -33,9 +33,19 @@ public:
     QRect kern(const Leinwand& leinwand) const;
     QRect plot(const Leinwand& leinwand) const;
 
-    /// Paint one part of the picture each.
-    void paintRand(QPainter& painter, const Leinwand& leinwand) const;
-    void paintAchsen(QPainter& painter, const Leinwand& leinwand) const;
+    /// What the picture shows otherwise beside the plot than when it was asked last, on the canvas: all where it cannot
+    /// be told.
+    struct Neues {
+        QRegion rand; ///< around the axes
+        QRegion kern;
+    };
+    Neues neues(const Leinwand& leinwand);
+    /// All is new when it is asked next.
+    void vergissGezeigtes() { m_gezeigt.reset(); }
+
+    /// Paint one part of the picture each, or a part of that.
+    void paintRand(QPainter& painter, const Leinwand& leinwand, const QRegion& teil = {}) const;
+    void paintAchsen(QPainter& painter, const Leinwand& leinwand, const QRegion& teil = {}) const;
     virtual void paintPlot(QPainter& painter, const Leinwand& leinwand) const;
 
     void paint(QPainter& painter, const Leinwand& leinwand) const override;
@@ -87,7 +97,14 @@ private:
     bool zoomed(int key, const Leinwand& leinwand);
     bool moved(int key, int step, const Leinwand& leinwand);
 
+    /// The layout that neues was asked for last.
+    struct Gezeigtes {
+        Leinwand leinwand;
+        Kurvenlayout layout;
+    };
+
     Kurvenbild m_bild;
+    std::optional<Gezeigtes> m_gezeigt;
     bool m_hatBild = false;
     int m_stand = 0; // of the picture, counted up
     int m_kurvenstand = 0; // of its curves

@@ -160,13 +160,15 @@ void paintLines(QPainter& painter, QPointF place, const QString& text, double li
     paintLines(painter, place + QPointF(0, lineHeight), text.mid(end + 1), lineHeight);
 }
 
-void paintTexts(QPainter& painter, const std::vector<Textstelle>& texte, const QFont& font)
+void paintTexts(QPainter& painter, const std::vector<Textstelle>& texte, const QFont& font, const QRegion& teil = {})
 {
     painter.setPen(Qt::black);
     std::optional<Schrift> current;
     double ascent = 0;
     double lineHeight = 0;
     for (const Textstelle& stelle : texte) {
+        if (!teil.isEmpty() && !teil.intersects(gemalteFlaeche(stelle.box)))
+            continue;
         if (current != stelle.schrift) {
             current = stelle.schrift;
             painter.setFont(fontOf(font, *current));
@@ -226,11 +228,18 @@ Kurvenzeichnung kurvenzeichnung(
     return {std::move(layout), std::move(bahnen)};
 }
 
-void paintRand(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& layout, const Leinwand& leinwand)
+QRect gemalteFlaeche(const Rechteck& box)
+{
+    constexpr int Beside = 2; // letters may stand out a little
+    return rectOf(box).toAlignedRect().adjusted(-Beside, -Beside, Beside, Beside);
+}
+
+void paintRand(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& layout, const Leinwand& leinwand,
+    const QRegion& teil)
 {
     for (const Rechteck& strich : layout.striche)
         painter.fillRect(rectOf(strich), Qt::black);
-    paintTexts(painter, layout.texte, leinwand.font);
+    paintTexts(painter, layout.texte, leinwand.font, teil);
     painter.setRenderHint(QPainter::Antialiasing);
     for (const auto& [index, left, right, row] : layout.legende) {
         const double line = std::floor(row) + PixelCentre;
@@ -242,11 +251,11 @@ void paintRand(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& la
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
-void paintAchsen(QPainter& painter, const Kurvenlayout& layout, const Leinwand& leinwand)
+void paintAchsen(QPainter& painter, const Kurvenlayout& layout, const Leinwand& leinwand, const QRegion& teil)
 {
     for (const Rechteck& strich : layout.kernstriche)
         painter.fillRect(rectOf(strich), Qt::black);
-    paintTexts(painter, layout.kerntexte, leinwand.font);
+    paintTexts(painter, layout.kerntexte, leinwand.font, teil);
 }
 
 void paintPlot(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& layout,

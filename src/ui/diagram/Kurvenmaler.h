@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPolygonF>
+#include <QRegion>
 
 #include <optional>
 #include <vector>
@@ -39,9 +40,14 @@ std::vector<Kurvenbahn> kurvenbahnen(const Kurvenbild& bild, const Kurvenlayout&
 Kurvenzeichnung kurvenzeichnung(
     const Kurvenbild& bild, const Leinwand& leinwand, const std::optional<Ausschnitt>& ausschnitt = {});
 
-/// Paint one part of the picture on that canvas: what stands around the axes, the axes beside the plot, the plot.
-void paintRand(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& layout, const Leinwand& leinwand);
-void paintAchsen(QPainter& painter, const Kurvenlayout& layout, const Leinwand& leinwand);
+/// The pixels that a text or a stroke of the layout may take, some around its box included.
+QRect gemalteFlaeche(const Rechteck& box);
+
+/// Paint one part of the picture on that canvas: what stands around the axes, the axes beside the plot, the plot. Where
+/// `teil` is given, at least what is seen in it.
+void paintRand(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& layout, const Leinwand& leinwand,
+    const QRegion& teil = {});
+void paintAchsen(QPainter& painter, const Kurvenlayout& layout, const Leinwand& leinwand, const QRegion& teil = {});
 void paintPlot(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& layout,
     const std::vector<Kurvenbahn>& bahnen, const Leinwand& leinwand);
 

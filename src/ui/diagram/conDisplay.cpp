@@ -1,6 +1,7 @@
 #include "ui/diagram/conDisplay.h"
 
 #include <QFocusEvent>
+#include <QPaintEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -86,7 +87,11 @@ void conDisplay::Zeichne_LinieZu(float x, float y, std::uint32_t colour)
     m_pic->update();
 }
 
-void conDisplay::Zeichne_Valenz() { drawSeries(computeSeries(Valenzgroesse)); }
+void conDisplay::Zeichne_Valenz()
+{
+    m_diagramm.zeichneReihe(computeSeries(Valenzgroesse));
+    placePlot();
+}
 
 void conDisplay::Display_Loeschen()
 {
@@ -106,6 +111,12 @@ void conDisplay::Zeichne_Diagramm_2D(int groesse, int variable)
 {
     if (!m_bereit)
         return;
+    setReihe(groesse, variable);
+    placePlot();
+}
+
+void conDisplay::setReihe(int groesse, int variable)
+{
     if (variable != m_variable || groesse != m_groesse)
         m_diagramm.beginneNeu();
     m_variable = variable;
@@ -114,7 +125,7 @@ void conDisplay::Zeichne_Diagramm_2D(int groesse, int variable)
     const Reihe reihe = known ? computeSeries(groesse) : m_diagramm.reihe();
     if (known)
         m_diagramm.setEinheit(reiheneinheit(groesse));
-    drawSeries(reihe);
+    m_diagramm.zeichneReihe(reihe);
 }
 
 Legierung conDisplay::components() const
@@ -138,12 +149,6 @@ Reihe conDisplay::computeSeries(int groesse) const
     if (groesse == GroesseDichte)
         return dichtereihe(std::span(m_dichtefelder).first(legierung.komponenten().size()), m_variable);
     return konzentrationsreihe(m_programm.Calc(), legierung.komponenten(), m_variable, groesse);
-}
-
-void conDisplay::drawSeries(const Reihe& reihe)
-{
-    m_diagramm.zeichneReihe(reihe);
-    placePlot();
 }
 
 void conDisplay::setBild(Kurvenbild bild)
@@ -176,14 +181,20 @@ Leinwand conDisplay::leinwand() const
 /// Where a point of the control lies in the picture.
 QPoint conDisplay::pictureOffset(const QPoint& point) const { return point + QPoint(m_rand.left(), m_rand.top()); }
 
+/// Only what is otherwise around the plot is painted anew.
 void conDisplay::placePlot()
 {
-    m_pic->setGeometry(m_diagramm.plot(leinwand()).translated(-pictureOffset({})));
-    updateAll();
+    const QPoint corner = pictureOffset({});
+    const auto [rand, kern] = m_diagramm.neues(leinwand());
+    m_pic->setGeometry(m_diagramm.plot(leinwand()).translated(-corner));
+    update((rand + kern).translated(-corner));
+    emit randVeraltet(rand);
+    updatePlot();
 }
 
 void conDisplay::updateAll()
 {
+    m_diagramm.vergissGezeigtes();
     update();
     updatePlot();
 }
@@ -204,14 +215,15 @@ void conDisplay::focusInEvent(QFocusEvent* event)
     updateAll();
 }
 
-void conDisplay::paintEvent(QPaintEvent*)
+void conDisplay::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
     painter.translate(-pictureOffset({}));
-    m_diagramm.paintAchsen(painter, leinwand());
+    const QRegion part = event->region().translated(pictureOffset({}));
+    m_diagramm.paintAchsen(painter, leinwand(), part);
     if (m_rand.isNull())
-        m_diagramm.paintRand(painter, leinwand());
+        m_diagramm.paintRand(painter, leinwand(), part);
     painter.resetTransform();
     paintFocus(painter);
 }

@@ -58,6 +58,9 @@ public:
     /// Intended: the y range comes from the two ends of the series, so a curve may leave the plot in between.
     void Zeichne_Diagramm_2D(int groesse, int variable);
 
+    /// Computes the series as Zeichne_Diagramm_2D does, to be shown by setBild.
+    void setReihe(int groesse, int variable);
+
     /// Shows the whole picture of the series drawn last: with the series among its curves, titles, legend and notes.
     /// Units that it leaves open are those of the series. The next drawing of a series takes it away.
     void setBild(Kurvenbild bild);
@@ -94,6 +97,8 @@ signals:
     void PositionInfo(const QString& text);
     /// The picture has other strips around its axes.
     void randChanged();
+    /// That part of the strips around its axes is to be painted anew.
+    void randVeraltet(const QRegion& teil);
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
@@ -114,7 +119,6 @@ private:
     void placePlot();
     void paintFocus(QPainter& painter) const;
     Reihe computeSeries(int groesse) const;
-    void drawSeries(const Reihe& reihe);
     Legierung components() const;
     std::optional<int> askSchritt() const;
 

@@ -176,7 +176,7 @@ void Konzentrationsseite::drawSeries(const Eingabe& eingabe)
     display.setDichtefelder(dichten);
     display.setReihenart(schalter.mischungsreihe ? Reihenart::Summe100 : Reihenart::Gegeben);
     display.setVariablesElement(wahl().komponente);
-    display.Zeichne_Diagramm_2D(wahl().groesse, wahl().komponente);
+    display.setReihe(wahl().groesse, wahl().komponente);
 
     const Dokument& dokument = programm().Dokument();
     Vergleichskurven vergleich{.gehaltene = *dokument.kurven};

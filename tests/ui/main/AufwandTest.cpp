@@ -7,6 +7,13 @@ namespace zerna {
 
 /// What one action costs, counted.
 struct AufwandTest : FakeDesk {
+    AufwandTest()
+    {
+        settings["Komponenten"] = "4";
+        for (int row = 0; const char* const symbol : {"Al", "Cu", "Zn", "Mg", "Ni"})
+            settings["Element_" + std::to_string(row++)] = symbol;
+    }
+
     template <class Action>
     Zaehlwerk cost(Action&& action)
     {
@@ -18,9 +25,6 @@ struct AufwandTest : FakeDesk {
 
 TEST_F(AufwandTest, TheStartAndEveryKeyCalculateOnce)
 {
-    settings["Komponenten"] = "4";
-    for (int row = 0; const char* const symbol : {"Al", "Cu", "Zn", "Mg", "Ni"})
-        settings["Element_" + std::to_string(row++)] = symbol;
     const Zaehlwerk start = cost([this] { open(); });
     EXPECT_LE(start.rechnungen, 2);
     EXPECT_LE(start.diagramme, 1);
@@ -51,27 +55,70 @@ TEST_F(AufwandTest, TheStartLeavesWhatIsNotSeen)
     EXPECT_TRUE(find("Pic_1_2").testAttribute(Qt::WA_Resized));
 }
 
-/// Counts what is painted anew.
-struct Malzaehler : QObject {
+/// Counts what happens to widgets, by their names or else their classes.
+struct Ereigniszaehler : QObject {
+    Ereigniszaehler() { qApp->installEventFilter(this); }
+
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        count += event->type() == QEvent::Paint && watched->objectName().startsWith(QLatin1String("cmdStep_")) ? 1 : 0;
+        const QString name = watched->objectName();
+        ++counts[{event->type(), name.isEmpty() ? QLatin1String(watched->metaObject()->className()) : name}];
+        if (event->type() == QEvent::Paint)
+            for (const QRect& part : static_cast<QPaintEvent*>(event)->region())
+                pixels[name] += part.width() * part.height();
         return false;
     }
-    int count = 0;
+
+    /// Of widgets whose names begin so.
+    int count(QEvent::Type type, const char* name) const
+    {
+        int sum = 0;
+        for (const auto& [what, times] : counts)
+            sum += what.first == type && what.second.startsWith(QLatin1String(name)) ? times : 0;
+        return sum;
+    }
+
+    std::map<std::pair<QEvent::Type, QString>, int> counts;
+    std::map<QString, int> pixels;
 };
 
-TEST_F(AufwandTest, AnotherElementRepaintsTheStepperOfItsRowAlone)
+TEST_F(AufwandTest, AnotherElementRepaintsWhatItChangesAndLaysOutNoResults)
 {
-    settings["Komponenten"] = "4";
     open();
+    choose("cmbDiagramm", "Fermienergie");
+    choose("cmbElement_0", "Co");
     QTest::qWait(10);
-    Malzaehler painted;
-    qApp->installEventFilter(&painted);
+    const Ereigniszaehler counted;
     QTest::keyClick(&find("cmbElement_0"), Qt::Key_Down);
     QCoreApplication::processEvents();
-    qApp->removeEventFilter(&painted);
-    EXPECT_EQ(painted.count, 2);
+    EXPECT_EQ(counted.count(QEvent::Paint, "cmdStep_"), 2);
+    EXPECT_EQ(counted.count(QEvent::Paint, "Label6_"), 0);
+    EXPECT_EQ(counted.count(QEvent::Paint, "pic"), 2); // the plot and what is around it
+    EXPECT_EQ(counted.count(QEvent::Resize, "pic"), 0);
+    EXPECT_EQ(counted.count(QEvent::LayoutRequest, "zerna::Ergebnis"), 0);
+    const auto& display = find("conDisplay1");
+    EXPECT_LT(counted.pixels.at("conDisplay1"),
+        (display.width() * display.height() - find("pic").width() * find("pic").height()) / 2);
+}
+
+TEST_F(AufwandTest, WhatIsRepaintedInPartsLooksAsPaintedWhole)
+{
+    open();
+    choose("cmbDiagramm", "Fermienergie");
+    const auto check = [this](const char* name, Qt::Key key) {
+        SCOPED_TRACE(name);
+        find(name).setFocus();
+        QTest::keyClick(&find(name), key);
+        QCoreApplication::processEvents();
+        const QImage seen = window->screen()->grabWindow(window->winId()).toImage();
+        EXPECT_EQ(
+            seen.convertToFormat(QImage::Format_RGB32), window->grab().toImage().convertToFormat(QImage::Format_RGB32));
+    };
+    for (const auto& [name, key] : std::initializer_list<std::pair<const char*, Qt::Key>>{
+             {"cmbElement_0", Qt::Key_Down}, {"cmbElement_1", Qt::Key_Down}, {"txtProzent_0", Qt::Key_1},
+             {"txtProzent_0", Qt::Key_Backspace}, {"conDisplay1", Qt::Key_Plus}, {"cmbElement_0", Qt::Key_Down},
+             {"conDisplay1", Qt::Key_0}, {"lblMFE_7", Qt::Key_Shift}, {"cmbDiagramm", Qt::Key_Down}})
+        check(name, key);
 }
 
 } // namespace zerna

@@ -1,0 +1,50 @@
+#include "bild/Layoutunterschied.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace zerna {
+
+namespace {
+
+const Rechteck& placeOf(const Rechteck& strich) { return strich; }
+const Rechteck& placeOf(const Textstelle& stelle) { return stelle.box; }
+
+Rechteck placeOf(const Linienprobe& probe)
+{
+    constexpr double Sign = 8; // from the middle of the largest to its edge, with the line's
+    return {probe.left - Sign, probe.row - Sign, probe.right - probe.left + 2 * Sign, 2 * Sign};
+}
+
+template <class Part>
+void appendMissing(std::vector<Rechteck>& places, const std::vector<Part>& parts, const std::vector<Part>& others)
+{
+    for (const Part& part : parts) {
+        if (std::ranges::find(others, part) == others.end())
+            places.push_back(placeOf(part));
+    }
+}
+
+template <class Part>
+void appendDifferent(std::vector<Rechteck>& places, const std::vector<Part>& before, const std::vector<Part>& now)
+{
+    appendMissing(places, before, now);
+    appendMissing(places, now, before);
+}
+
+} // namespace
+
+Layoutunterschied unterschied(const Kurvenlayout& before, const Kurvenlayout& now)
+{
+    Layoutunterschied different;
+    appendDifferent(different.rand, before.texte, now.texte);
+    appendDifferent(different.rand, before.striche, now.striche);
+    for (const Kurvenlayout* const layout : {&before, &now})
+        std::ranges::transform(layout->legende, std::back_inserter(different.rand),
+            [](const Linienprobe& probe) { return placeOf(probe); });
+    appendDifferent(different.kern, before.kerntexte, now.kerntexte);
+    appendDifferent(different.kern, before.kernstriche, now.kernstriche);
+    return different;
+}
+
+} // namespace zerna
