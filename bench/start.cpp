@@ -13,6 +13,7 @@
 #include "bench/Fenster.h"
 #include "bench/Verbrauch.h"
 #include "core/Speicherrueckgabe.h"
+#include "ui/platform/Lesbarkeit.h"
 
 namespace zerna {
 
@@ -87,6 +88,7 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     if (argc == 1)
         return zerna::compare();
+    QApplication::setStyle(new zerna::LesbarerStil); // as the program does
     zerna::measureProgram();
     return 0;
 }

@@ -30,6 +30,7 @@
 #include "ui/main/Zugangsfabrik.h"
 #include "ui/platform/QtText.h"
 #include "ui/platform/Schriftfolge.h"
+#include "ui/platform/Spaetsymbol.h"
 #include "ui/weighing/conWiegen.h"
 
 namespace zerna {
@@ -115,7 +116,7 @@ frmMain::frmMain(Programm& programm, Dialoge dialoge)
     installZugangsfabrik();
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(toQt(Programmtitel));
-    setWindowIcon(programmsymbol());
+    setWindowIcon(spaetesSymbol(programmsymbol));
     createControls();
     m_speichern = std::make_unique<Speichermelder>(dialoge.save, *m_meldung);
     const Dialoge meldende{*m_speichern, dialoge.input, dialoge.open};

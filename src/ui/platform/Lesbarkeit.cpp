@@ -3,6 +3,7 @@
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QPainter>
+#include <QPointer>
 #include <QStyleOption>
 
 #include <algorithm>
@@ -10,6 +11,7 @@
 
 #include "ui/platform/Farben.h"
 #include "ui/platform/Kontrast.h"
+#include "ui/platform/Spaetsymbol.h"
 
 namespace zerna {
 
@@ -118,6 +120,15 @@ int LesbarerStil::pixelMetric(PixelMetric metric, const QStyleOption* option, co
     const int usual = QProxyStyle::pixelMetric(metric, option, widget);
     const bool isView = qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
     return metric == PM_DefaultFrameWidth && isView ? std::max(usual, FocusWidth) : usual;
+}
+
+QIcon LesbarerStil::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const
+{
+    if (icon != SP_ToolBarHorizontalExtensionButton)
+        return QProxyStyle::standardIcon(icon, option, widget);
+    return spaetesSymbol([style = QPointer(baseStyle())] {
+        return style != nullptr ? style->standardIcon(SP_ToolBarHorizontalExtensionButton) : QIcon();
+    });
 }
 
 int LesbarerStil::styleHint(

@@ -10,7 +10,8 @@ namespace zerna {
 QPalette lesbar(QPalette palette);
 
 /// The platform's usual style with that palette, also when the colours of the desktop change, and without animations.
-/// What has the focus has a frame that no theme hides.
+/// What has the focus has a frame that no theme hides. Its icons are read when they are painted: every menu bar has one
+/// for commands that find no room.
 class LesbarerStil : public QProxyStyle {
 public:
     using QProxyStyle::polish;
@@ -24,6 +25,8 @@ public:
         const QWidget* widget = nullptr) const override;
     int pixelMetric(
         PixelMetric metric, const QStyleOption* option = nullptr, const QWidget* widget = nullptr) const override;
+    QIcon standardIcon(
+        StandardPixmap icon, const QStyleOption* option = nullptr, const QWidget* widget = nullptr) const override;
     int styleHint(StyleHint hint, const QStyleOption* option = nullptr, const QWidget* widget = nullptr,
         QStyleHintReturn* answer = nullptr) const override;
 };
