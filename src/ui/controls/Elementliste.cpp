@@ -92,7 +92,7 @@ private:
 } // namespace
 
 Elementliste::Elementliste(QWidget* parent)
-    : QComboBox(parent)
+    : Festliste(parent)
 {
 }
 
@@ -103,7 +103,7 @@ QAbstractItemView* Elementliste::view()
         setView(new Symbolansicht(this));
         setItemDelegate(new Namensspalte(this));
     }
-    return QComboBox::view();
+    return Festliste::view();
 }
 
 void Elementliste::setName(int position, const QString& name)
@@ -116,7 +116,7 @@ void Elementliste::keyPressEvent(QKeyEvent* event)
 {
     view(); // finds what is typed
     m_isTyping = !event->text().trimmed().isEmpty();
-    QComboBox::keyPressEvent(event);
+    Festliste::keyPressEvent(event);
     m_isTyping = false;
 }
 
@@ -124,7 +124,7 @@ void Elementliste::showPopup()
 {
     const int scrollBar = view()->verticalScrollBar()->sizeHint().width();
     view()->setMinimumWidth(view()->sizeHintForColumn(0) + scrollBar);
-    QComboBox::showPopup();
+    Festliste::showPopup();
 }
 
 } // namespace zerna

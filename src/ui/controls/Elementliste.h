@@ -1,20 +1,16 @@
 #pragma once
 
-#include <QComboBox>
+#include "ui/controls/Festliste.h"
 
 namespace zerna {
 
 /// A list of elements. An entry's text is the symbol; the open list shows the name beside it, and letters typed jump to
 /// the symbol that they spell, or else to a symbol or a name that begins so.
-class Elementliste : public QComboBox {
+class Elementliste : public Festliste {
     Q_OBJECT
 
 public:
     explicit Elementliste(QWidget* parent = nullptr);
-
-    /// Its size is given: no entry is measured for it.
-    QSize sizeHint() const override { return minimumSize(); }
-    QSize minimumSizeHint() const override { return minimumSize(); }
 
     void setName(int position, const QString& name);
 

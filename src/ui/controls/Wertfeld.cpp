@@ -114,10 +114,13 @@ void Wertfeld::cutEcho()
 {
     constexpr int Frame = 12; // with the cursor
     constexpr int Shortest = 4; // characters that say something: "= 1…"
-    const int room = width() - fontMetrics().horizontalAdvance(text()) - Frame - EchoMargin;
-    m_shownEcho = fontMetrics().elidedText(m_echo, Qt::ElideRight, qMax(0, room));
-    if (m_shownEcho != m_echo && m_shownEcho.size() < Shortest)
-        m_shownEcho.clear();
+    m_shownEcho.clear();
+    if (!m_echo.isEmpty()) {
+        const int room = width() - fontMetrics().horizontalAdvance(text()) - Frame - EchoMargin;
+        m_shownEcho = fontMetrics().elidedText(m_echo, Qt::ElideRight, qMax(0, room));
+        if (m_shownEcho != m_echo && m_shownEcho.size() < Shortest)
+            m_shownEcho.clear();
+    }
     const int margin = m_shownEcho.isEmpty() ? 0 : fontMetrics().horizontalAdvance(m_shownEcho) + EchoMargin;
     const int left = looksLikeLabel() ? style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, this) : 0;
     if (textMargins() != QMargins(left, 0, margin, 0))

@@ -10,6 +10,7 @@
 
 #include "model/Lehrbuch.h"
 #include "ui/button/StyledButton.h"
+#include "ui/controls/Beschriftung.h"
 #include "ui/controls/Fokusgruppe.h"
 #include "ui/controls/Knopfzeile.h"
 #include "ui/controls/Masse.h"
@@ -72,7 +73,7 @@ Ergebnisgitter::Ergebnisgitter(QWidget* parent)
 void Ergebnisgitter::createLine(const Groesse& zeile)
 {
     const auto k = static_cast<std::size_t>(zeile.zeile);
-    m_beschriftungen.at(k) = new QLabel(toQt(zeile.beschriftung), this);
+    m_beschriftungen.at(k) = new Beschriftung(toQt(zeile.beschriftung), this);
     m_beschriftungen.at(k)->setObjectName(numberedName("Label6", captionIndex(zeile.zeile)));
     auto* const line = new Wertanzeige(this);
     line->setObjectName(numberedName("lblMFE", zeile.zeile));

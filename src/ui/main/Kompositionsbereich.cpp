@@ -14,6 +14,7 @@
 #include "model/Formeleingabe.h"
 #include "parser/Formelwert.h"
 #include "ui/button/StyledButton.h"
+#include "ui/controls/Beschriftung.h"
 #include "ui/controls/Knopfzeile.h"
 #include "ui/controls/Menue.h"
 #include "ui/main/Anteilskoepfe.h"
@@ -59,7 +60,7 @@ void Kompositionsbereich::createControls()
     const std::array<std::pair<const char*, QString>, 3> heads{{{"Label5", QStringLiteral("Komponente")},
         {"Label3", QStringLiteral("Dichte [g/cm³]")}, {"Label4", QStringLiteral("Valenz")}}};
     for (std::size_t i = 0; i < heads.size(); ++i) {
-        m_heads.at(i) = new QLabel(heads.at(i).second, this);
+        m_heads.at(i) = new Beschriftung(heads.at(i).second, this);
         m_heads.at(i)->setObjectName(QLatin1String(heads.at(i).first));
     }
     m_elemente = new QStandardItemModel(0, 1, this);

@@ -10,6 +10,7 @@
 #include "core/Zahlentext.h"
 #include "model/Herkunft.h"
 #include "ui/controls/Elementliste.h"
+#include "ui/controls/Festliste.h"
 #include "ui/controls/Kurzlabel.h"
 #include "ui/controls/Masse.h"
 #include "ui/controls/Wertfeld.h"
@@ -71,9 +72,9 @@ Kompositionszeile::Kompositionszeile(int row, QAbstractItemModel& elemente, QWid
     , m_lblElement(make<Kurzlabel>(panel, "lblElement", row, QStringLiteral("Elementname")))
     , m_txtProzent(make<Wertfeld>(panel, "txtProzent", row, QStringLiteral("Atomprozent")))
     , m_txtMasse(make<Wertfeld>(panel, "txtMasse", row, QStringLiteral("Massenprozent")))
-    , m_cmdDichte(make<QComboBox>(panel, "cmdDichte", row, QStringLiteral("Auswahl der Dichte")))
+    , m_cmdDichte(make<Festliste>(panel, "cmdDichte", row, QStringLiteral("Auswahl der Dichte")))
     , m_txtDichte(make<Wertfeld>(panel, "txtDichte", row, QStringLiteral("Dichte in Gramm je Kubikzentimeter")))
-    , m_cmbValenz(make<QComboBox>(panel, "cmbValenz", row, QStringLiteral("Auswahl der Valenz")))
+    , m_cmbValenz(make<Festliste>(panel, "cmbValenz", row, QStringLiteral("Auswahl der Valenz")))
     , m_txtValenz(make<Wertfeld>(panel, "txtValenz", row, QStringLiteral("Valenz")))
 {
     m_cmbElement->setModel(&elemente);

@@ -10,6 +10,7 @@
 #include "core/Zahlentext.h"
 #include "model/Einwaage.h"
 #include "model/Wiegeprotokoll.h"
+#include "ui/controls/Beschriftung.h"
 #include "ui/platform/Farben.h"
 #include "ui/platform/QtText.h"
 #include "ui/weighing/Festlabel.h"
@@ -65,7 +66,7 @@ QLabel* makeLabel(const char* name, int row, std::size_t column, QWidget* panel)
 /// A caption over a group of columns, with a line below it.
 void layOutGroup(QGridLayout& grid, QWidget* panel, const QString& caption, int first, int count)
 {
-    auto* const label = new QLabel(caption, panel);
+    auto* const label = new Beschriftung(caption, panel);
     label->setAlignment(Qt::AlignHCenter);
     auto* const line = new QFrame(panel);
     line->setFrameShape(QFrame::HLine);
@@ -118,7 +119,7 @@ int Wiegezeile::layOutHeads(QGridLayout& grid, QWidget* panel)
     layOutGroup(
         grid, panel, QStringLiteral("gewogen"), FirstWeighed + Gap, static_cast<int>(spalten().size()) - FirstWeighed);
     for (std::size_t column = 0; column < spalten().size(); ++column) {
-        auto* const head = new QLabel(spalten().at(column).head, panel);
+        auto* const head = new Beschriftung(spalten().at(column).head, panel);
         head->setToolTip(spalten().at(column).hint);
         head->setAlignment(Qt::AlignBottom | (column == 0 ? Qt::AlignLeft : Qt::AlignRight));
         grid.addWidget(head, HeadRow, gridColumn(column));
