@@ -24,6 +24,11 @@ constexpr auto Restanteile = [] {
 struct Dichtesummen {
     double own = 0;
     double others = 0;
+
+    float wert(std::size_t dichten, double x) const
+    {
+        return toSingle(own * x / 100 + quotient(100 - x, static_cast<double>(dichten) - 1) / 100 * others);
+    }
 };
 
 /// The density of the variable component and the sum of the others'. Error 9 for a row outside, error 5 for an unknown
@@ -65,21 +70,20 @@ Reihe konzentrationsreihe(
 
 float dichtewert(std::span<const float> dichten, int variable, double x)
 {
-    const auto [own, others] = dichtesummen(dichten, variable);
-    return toSingle(own * x / 100 + quotient(100 - x, static_cast<double>(dichten.size()) - 1) / 100 * others);
+    return dichtesummen(dichten, variable).wert(dichten.size(), x);
 }
 
 Reihe dichtereihe(std::span<const float> dichten, int variable)
 {
+    const Dichtesummen summen = dichtesummen(dichten, variable);
     Reihe reihe{};
-    reihe.front() = dichtewert(dichten, variable, 0);
-    reihe.back() = dichtewert(dichten, variable, 100);
+    reihe.front() = summen.wert(dichten.size(), 0);
+    reihe.back() = summen.wert(dichten.size(), 100);
     // All others lie between the two, so a single holds them, too.
-    const auto [own, others] = dichtesummen(dichten, variable);
     const auto& anteile = Restanteile.at(dichten.size() - 1);
     for (int i = 1; i < 100; ++i) {
         const auto step = static_cast<std::size_t>(i);
-        reihe[step] = static_cast<float>(own * i / 100 + anteile[step] * others);
+        reihe[step] = static_cast<float>(summen.own * i / 100 + anteile[step] * summen.others);
     }
     return reihe;
 }
