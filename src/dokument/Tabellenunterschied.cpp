@@ -5,6 +5,7 @@
 
 #include "core/Kuerzung.h"
 #include "core/Unbekannt.h"
+#include "core/Zahlentext.h"
 #include "dokument/Worte.h"
 #include "model/Komposition.h"
 #include "model/Massenprozent.h"
@@ -14,6 +15,13 @@ namespace zerna {
 namespace {
 
 using Wert = Tabellenunterschied::Wert;
+
+/// As converted parts are shown.
+std::string anteilstext(float wert)
+{
+    constexpr int Digits = 7;
+    return textWithDigits(wert, Digits);
+}
 
 /// The choice itself, or the element's first one if the table does not offer it.
 std::string offeredDichte(const clsElement& element, const std::string& wahl)
@@ -83,7 +91,7 @@ void behalteAnteil(Eingabe& eingabe, const Tabellenunterschied& unterschied)
 {
     eingabe.setEinheit(Anteilseinheit::Atom);
     if (unterschied.zeile + 1 < eingabe.anzahl())
-        eingabe.setProzent(unterschied.zeile, feldtext(unterschied.datei));
+        eingabe.setProzent(unterschied.zeile, anteilstext(unterschied.datei));
 }
 
 void behalte(Rohzeile& zeile, const Tabellenunterschied& unterschied)
@@ -160,16 +168,19 @@ std::vector<Tabellenunterschied> unterschiede(
 
 std::string unterschiedstext(const Tabellenunterschied& unterschied, const Dokument& dokument)
 {
-    const auto shown = [](float value) { return istUnbekannt(value) ? "kein Wert" : feldtext(value); };
+    const bool isAnteil = unterschied.was == Wert::Anteil;
+    const auto shown = [isAnteil](float value) {
+        return istUnbekannt(value) ? "kein Wert" : isAnteil ? anteilstext(value) : feldtext(value);
+    };
     const std::string ort = unterschied.variante
         ? "Variante " + zitiert(dokument.vergleich->varianten.at(*unterschied.variante).name) + ", Zeile "
         : "Zeile ";
-    const std::string was = unterschied.was == Wert::Anteil
+    const std::string was = isAnteil
         ? "at%"
         : (unterschied.was == Wert::Dichte ? "Dichte (" : "Valenz (") + gekuerzt(unterschied.wahl) + ")";
     return ort + std::to_string(unterschied.zeile + 1) + ": " + was + " von " + unterschied.element + ": "
         + shown(unterschied.datei) + " in der Datei, " + shown(unterschied.hier) + " hier"
-        + (unterschied.was == Wert::Anteil ? " (andere Atommassen)" : "");
+        + (isAnteil ? " (andere Atommassen)" : "");
 }
 
 void behalteDateiwerte(
