@@ -27,15 +27,15 @@ QString row(const Einwaagezeile& zeile)
     QString cells = QStringLiteral("<td>%1</td>").arg(escaped(zeile.symbol));
     for (const std::string& cell : {zeile.prozent, zeile.sollmasse, zeile.sollanteil, zeile.istmasse, zeile.istprozent,
              zeile.abweichung, zeile.istanteil})
-        cells += QStringLiteral("<td align='right'>%1</td>").arg(escaped(cell));
+        cells += QStringLiteral("<td align='right' style='white-space:nowrap'>%1</td>").arg(escaped(cell));
     return QStringLiteral("<tr>%1</tr>").arg(cells);
 }
 
 QString table(const Wiegeprotokoll& protokoll)
 {
     QString rows = QStringLiteral("<tr><th></th><th colspan='3'>gewünscht</th><th colspan='4'>gewogen</th></tr>"
-                                  "<tr><th width='14%' align='left'>Element</th>"
-                                  "<th width='10%'>at%</th><th width='15%'>mg</th><th width='11%'>Masse [%]</th>"
+                                  "<tr><th width='12%' align='left'>Element</th>"
+                                  "<th width='13%'>at%</th><th width='15%'>mg</th><th width='10%'>Masse [%]</th>"
                                   "<th width='15%'>mg</th><th width='11%'>at%</th>"
                                   "<th width='13%'>Ist − Soll [at%]</th><th width='11%'>Masse [%]</th></tr>");
     for (const Einwaagezeile& zeile : protokoll.zeilen)
