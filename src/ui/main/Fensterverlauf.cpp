@@ -39,6 +39,13 @@ void frmMain::connectVerlauf()
     });
 }
 
+/// What the line said of the document before is no longer so.
+void frmMain::geschehen(const Schritt& schritt)
+{
+    m_meldung->zeige({});
+    m_verlauf.geschehen(schritt);
+}
+
 void frmMain::zeigeDokument()
 {
     m_komposition->zeigeDokument();

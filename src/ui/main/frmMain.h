@@ -65,7 +65,7 @@ public:
     void setzeFort(const Sitzung::Stand& stand);
 
     /// Ends every user's change of the document, after all that follows from it.
-    void geschehen(const Schritt& schritt) { m_verlauf.geschehen(schritt); }
+    void geschehen(const Schritt& schritt);
     Verlauf& verlauf() { return m_verlauf; }
 
 signals:
