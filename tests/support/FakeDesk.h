@@ -46,7 +46,7 @@ struct FakeDesk : testing::Test {
         window.reset();
         programm.emplace(boxes, settings, folder.path());
         ASSERT_TRUE(programm->start([this]() -> Hauptfenster& {
-            window = std::make_unique<frmMain>(*programm, Dialoge{saveDialog, inputBox, openDialog});
+            window = std::make_unique<frmMain>(*programm, Dialoge{*saving, inputBox, openDialog});
             return *window;
         }));
         window->activateWindow();
@@ -123,6 +123,7 @@ struct FakeDesk : testing::Test {
     FakeSaveDialog saveDialog;
     FakeInputBox inputBox;
     FakeOpenDialog openDialog;
+    SaveFileDialog* saving = &saveDialog; ///< what the window saves with
     std::optional<Programm> programm;
     std::unique_ptr<frmMain> window;
 };

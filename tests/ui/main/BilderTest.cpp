@@ -118,7 +118,7 @@ TEST_F(BilderTest, DiagramsLookAsRecorded)
     QTest::keyClick(&find("txtFormel"), Qt::Key_Return);
     writeBytes(folder / "g.txt", messdatei(glasmodell().punkte(0.15, 0.001, 1000, 0.001, 1)));
     openDialog.answer = (folder / "g.txt").string();
-    window->findChild<QAction*>(QStringLiteral("mnuMesskurve"))->trigger();
+    find<QAction>("mnuMesskurve").trigger();
     for (const bool isDark : {false, true}) {
         if (isDark)
             QApplication::setPalette(dark); // diagrams are white in every theme

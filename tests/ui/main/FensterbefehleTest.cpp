@@ -9,7 +9,7 @@
 namespace zerna {
 
 struct FensterbefehleTest : FakeDesk {
-    QAction& action(const char* name) const { return *window->findChild<QAction*>(QLatin1String(name)); }
+    QAction& action(const char* name) const { return find<QAction>(name); }
 
     /// The entries that the user finds in the menus, "-" for a dimmed one and "*" for a checked one in front.
     std::map<std::string, std::string> entries() const

@@ -14,7 +14,7 @@ namespace zerna {
 /// Undo and redo in the window.
 struct FensterverlaufTest : FakeDesk {
     QUndoStack& stapel() const { return window->verlauf().stapel(); }
-    QAction& action(const char* name) const { return *window->findChild<QAction*>(QLatin1String(name)); }
+    QAction& action(const char* name) const { return find<QAction>(name); }
 
     /// Presses keys where the focus is.
     static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier)

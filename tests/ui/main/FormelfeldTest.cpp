@@ -34,7 +34,7 @@ TEST_F(FormelfeldTest, EnterTakesTheWholeAlloy)
     enter("Cu2MgAl");
     EXPECT_EQ(zusammensetzung(), "3|Cu|50|Mg|25");
     EXPECT_EQ(zeile(), "Mengen auf 100 % umgerechnet");
-    window->findChild<QAction*>(QStringLiteral("mnuRueckgaengig"))->trigger();
+    find<QAction>("mnuRueckgaengig").trigger();
     EXPECT_EQ(zusammensetzung() + zeile(), "4|Zr|55|Cu|30"); // one step
     enter("Cu2MgAl");
     QTest::keyClicks(&find("txtFormel"), QStringLiteral("Al"));

@@ -110,7 +110,7 @@ TEST_F(KurvenmenueTest, UpToSixCurvesAreKeptWithTheDocument)
 TEST_F(KurvenmenueTest, VariantsAndASecondQuantityAreDrawnOnDemand)
 {
     EXPECT_FALSE(entry("mnuKurven_Varianten").isEnabled()) << "there are none";
-    const auto remember = [this] { window->findChild<QAction*>(QStringLiteral("mnuVergleich_Merken"))->trigger(); };
+    const auto remember = [this] { find<QAction>("mnuVergleich_Merken").trigger(); };
     remember();
     entry("mnuKurven_Varianten").trigger();
     EXPECT_NE(names().find("|Al60Cu40|"), std::string::npos) << names();

@@ -31,7 +31,7 @@ struct MessseiteTest : FakeDesk {
     void openCurve(const char* name)
     {
         openDialog.answer = (folder / name).string();
-        window->findChild<QAction*>(QStringLiteral("mnuMesskurve"))->trigger();
+        find<QAction>("mnuMesskurve").trigger();
     }
 
     /// The table's lines with "|" between the cells that are shown.
@@ -144,7 +144,7 @@ TEST_F(MessseiteTest, DroppedTextsAreMeasuredCurvesAndBrokenOnesSayWhy)
     undo();
     EXPECT_EQ(curves(), 0U) << "one step for all";
     openDialog.answer = (folder / "fehlt.txt").string();
-    window->findChild<QAction*>(QStringLiteral("mnuMesskurve"))->trigger();
+    find<QAction>("mnuMesskurve").trigger();
     EXPECT_THAT(boxes.shown.back().text, testing::EndsWith("Datei nicht gefunden."));
     EXPECT_EQ(text("cmbDiagramm_Typ"), "2 D");
 }

@@ -102,29 +102,21 @@ struct SpeicherstoerungTest : FakeDesk {
         settings["Komponenten"] = "2";
         for (const auto& [key, symbol] : {std::pair("Element_0", "Al"), {"Element_1", "Cu"}, {"Element_2", "Mg"}})
             settings[key] = symbol;
-        programm.emplace(boxes, settings, folder.path());
-        EXPECT_TRUE(programm->start([this]() -> Hauptfenster& {
-            window = std::make_unique<frmMain>(*programm, Dialoge{dialog, inputBox, openDialog});
-            return *window;
-        }));
-        window->resize(1280, 800);
-        window->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        saving = &dialog;
+        open();
     }
 
     /// Saves by a menu entry.
     std::string saveAll(const char* entry)
     {
-        auto* const action = window->findChild<QAction*>(QLatin1String(entry));
-        return dialog.saveAll([action] { action->trigger(); });
+        return dialog.saveAll([this, entry] { find<QAction>(entry).trigger(); });
     }
 
     std::string savePictures()
     {
-        auto* const action = window->findChild<QAction*>(QStringLiteral("mnuBild_Speichern"));
-        return dialog.saveAll([action] {
-            inDialog<frmBild>(
-                [](frmBild& form) { QTest::keyClick(&form, Qt::Key_Return); }, [action] { action->trigger(); });
+        return dialog.saveAll([this] {
+            inDialog<frmBild>([](frmBild& form) { QTest::keyClick(&form, Qt::Key_Return); },
+                [this] { find<QAction>("mnuBild_Speichern").trigger(); });
         });
     }
 
@@ -145,9 +137,9 @@ TEST_F(SpeicherstoerungTest, AllThatTheWindowSavesIsWholeOrTheEarlierFile)
     EXPECT_EQ(saveAll("mnuDiagramm_Speichern"), ".dat.bmp");
     writeBytes(folder / "g.txt", messdatei(glasmodell().punkte(0.15, 0.01, 100, 0.001, 1)));
     openDialog.answer = (folder / "g.txt").string();
-    window->findChild<QAction*>(QStringLiteral("mnuMesskurve"))->trigger();
+    find<QAction>("mnuMesskurve").trigger();
     EXPECT_EQ(saveAll("mnuDiagramm_Speichern"), ".dat.csv.bmp");
-    window->findChild<QAction*>(QStringLiteral("mnuVergleich_Merken"))->trigger();
+    find<QAction>("mnuVergleich_Merken").trigger();
     click("optButton_1_2");
     EXPECT_EQ(saveAll("mnuVergleich_Speichern"), ".csv.txt.html");
     click("cmdKnopf1_1");

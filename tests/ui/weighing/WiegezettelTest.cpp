@@ -1,12 +1,9 @@
 #include "ui/weighing/Wiegezettel.h"
 
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPrintDialog>
 #include <QPrinterInfo>
 
+#include "support/Druckdialog.h"
 #include "support/FakeDesk.h"
-#include "support/ModalDialog.h"
 #include "traeger/Dokumentfund.h"
 
 namespace zerna {
@@ -14,22 +11,6 @@ namespace zerna {
 struct WiegezettelTest : FakeDesk {
     const Wiegeprotokoll protokoll{"1.2.2026", {{"<Al", "50", "298,048", "29,80", "300,2", "50,04", "+0,04", "29,84"}},
         "1000", "1006,1", "bezogen auf 300,2 mg Al", {"Masseverlust = 3 mg", "Al: 50,1 at%"}};
-
-    /// Prints to a file with the keys that a user has.
-    void printTo(const std::string& file)
-    {
-        const auto print = [&](QPrintDialog& dialog) {
-            EXPECT_EQ(dialog.windowTitle(), "Wiegezettel drucken");
-            dialog.findChild<QComboBox*>("printers")->setFocus();
-            press(Qt::Key_End); // the file stands below the printers
-            auto* const output = dialog.findChild<QLineEdit*>("filename");
-            output->setFocus();
-            output->selectAll();
-            typeText(QString::fromStdString(file));
-            press(Qt::Key_Return);
-        };
-        inDialog<QPrintDialog>(print, [&] { druckeWiegezettel(nullptr, boxes, protokoll); });
-    }
 };
 
 TEST_F(WiegezettelTest, PageHasWhatWasWeighedAndLinesToSign)
@@ -39,7 +20,8 @@ TEST_F(WiegezettelTest, PageHasWhatWasWeighedAndLinesToSign)
         {"Einwaage vom 1.2.2026", "&lt;Al", "298,048", "29,80", "300,2", "50,04", "+0,04", "29,84", "1006,1",
             "bezogen auf 300,2 mg Al", "Masseverlust = 3 mg", "Al: 50,1 at%", "Datum", "Unterschrift"})
         EXPECT_NE(page.find(part), std::string::npos) << part;
-    printTo((folder / "zettel.pdf").string());
+    printTo((folder / "zettel.pdf").string(), "Wiegezettel drucken",
+        [this] { druckeWiegezettel(nullptr, boxes, protokoll); });
     EXPECT_TRUE(bytesOf(folder / "zettel.pdf").starts_with("%PDF-"));
     EXPECT_TRUE(boxes.shown.empty());
 }
