@@ -22,18 +22,14 @@ std::string labels(const std::vector<Achsenmarke>& marken)
 
 TEST(AchsenTest, EndsOfASeriesAreItsOutermostKnownValues)
 {
-    const struct {
-        const char* name;
-        std::vector<float> series;
-        std::pair<float, float> ends;
-    } rows[] = {
+    const std::tuple<const char*, std::vector<float>, std::pair<float, float>> rows[] = {
         {"falling", {3, 2, 1}, {1, 3}},
         {"a hill (intended: only the ends count)", {2, 9, 3}, {2, 3}},
         {"unknown ends", {Unbekannt, 3, 9, 2, Unbekannt}, {2, 3}},
         {"a single value", {Unbekannt, 5, Unbekannt}, {5, 5}},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(endValues(row.series), row.ends) << row.name;
+    for (const auto& [name, series, ends] : rows)
+        EXPECT_EQ(endValues(series), ends) << name;
     EXPECT_EQ(errorNumber([] { endValues(std::vector{Unbekannt}); }), 5);
 }
 
@@ -57,19 +53,15 @@ TEST(AchsenTest, RangeHasAMarginOfTheLargestValue)
 
 TEST(AchsenTest, LabelsTurnScientificWhereTheLogarithmExceedsSeven)
 {
-    const struct {
-        const char* name;
-        double value;
-        const char* text;
-    } rows[] = {
+    const std::tuple<const char*, double, const char*> rows[] = {
         {"smallest plain", 0.000912, "0,001"},
         {"largest small one", 0.0009118, "9,12 E-04"},
         {"largest plain", 1096.6, "1096,600"},
         {"smallest large one", 1096.7, "1,10 E+03"},
         {"negative and small", -6.54e-11, "-6,54 E-11"},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(yLabel(row.value), row.text) << row.name;
+    for (const auto& [name, value, text] : rows)
+        EXPECT_EQ(yLabel(value), text) << name;
     // 0 despite single precision: the range is -0,0175 to 0,1575.
     EXPECT_EQ(yMarken(plotArea(360, 300), 300, yBereich(-0.01F, 0.15F), 16).at(1).label, "0,000");
 }

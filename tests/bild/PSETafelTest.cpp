@@ -28,11 +28,7 @@ struct PSETafelTest : FilesTest {
 
 TEST_F(PSETafelTest, FirstElementOfTheCellUnderAPixelIsHit)
 {
-    const struct {
-        const char* name;
-        double x, y;
-        const char* symbol;
-    } rows[] = {
+    const std::tuple<const char*, double, double, const char*> rows[] = {
         {"first of two in a cell", 1000, 300, "Cu"},
         {"the cell's last pixel", 1099.9, 399.9, "Cu"},
         {"beside it", 1100.1, 300, ""},
@@ -41,8 +37,8 @@ TEST_F(PSETafelTest, FirstElementOfTheCellUnderAPixelIsHit)
         {"no whole number at all", 1e300, -1e300, ""},
     };
     const Tafelmassstab scale(1820, 1020); // 100 pixels a cell
-    for (const auto& row : rows)
-        EXPECT_EQ(symbolOf(elementAt(elements, scale.columnAt(row.x), scale.rowAt(row.y))), row.symbol) << row.name;
+    for (const auto& [name, x, y, symbol] : rows)
+        EXPECT_EQ(symbolOf(elementAt(elements, scale.columnAt(x), scale.rowAt(y))), symbol) << name;
     EXPECT_EQ(elementAt(elements, Tafelmassstab(0, 0).columnAt(5), Tafelmassstab(0, 0).rowAt(5)), nullptr);
 }
 

@@ -53,10 +53,7 @@ TEST_F(HilfeTest, EveryExampleCanBeTypedAsItStands)
 
 TEST_F(HilfeTest, CompletionOffersWhatCanStandThere)
 {
-    const struct {
-        const char* line;
-        const char* offers; // with a blank behind each
-    } rows[] = {
+    const std::pair<const char*, const char*> rows[] = {
         {"zerna-cli gr", "groessen "},
         {"zerna-cli elemente ", "auflisten exportieren importieren "},
         {"zerna-cli pse --", "--ausgabe --groesse --json --hilfe --help "},
@@ -81,10 +78,10 @@ TEST_F(HilfeTest, CompletionOffersWhatCanStandThere)
         "zerna-cli elemente exportieren e.csv; head -2 e.csv >h.csv; zerna-cli elemente importieren h.csv eigene.dat");
     std::string script = "source '" ZERNA_COMPLETION "'\n";
     std::string expected;
-    for (const auto& row : rows) {
-        script += std::string("COMP_LINE='") + row.line + "' COMP_POINT=${#COMP_LINE}\n_zerna_cli_complete zerna-cli\n"
+    for (const auto& [line, offers] : rows) {
+        script += std::string("COMP_LINE='") + line + "' COMP_POINT=${#COMP_LINE}\n_zerna_cli_complete zerna-cli\n"
             + "printf '%s -> ' \"$COMP_LINE\"; printf '%s ' \"${COMPREPLY[@]}\"; echo\n";
-        expected += std::string(row.line) + " -> " + (row.offers[0] == '\0' ? " " : row.offers) + "\n";
+        expected += std::string(line) + " -> " + (offers[0] == '\0' ? " " : offers) + "\n";
     }
     writeBytes(folder / "script", script);
     EXPECT_EQ(run("formel 1 >/dev/null; bash script").text, expected);

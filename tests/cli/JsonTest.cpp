@@ -41,10 +41,7 @@ TEST_F(JsonTest, EveryTableIsAsTheSchemaSays)
 
 TEST_F(JsonTest, HasTheNumbersOfTheTablesAndTheirRealUnits)
 {
-    const struct {
-        const char* call;
-        const char* line;
-    } rows[] = {
+    const std::pair<const char*, const char*> rows[] = {
         {"reihe --groesse atomvolumen --variabel Al --schritt 50 Al60Cu40",
             R"({"name": "mittleres Atomvolumen", "Al": 100, "wert": 1.8848923E-29, "einheit": "m³"})"},
         {"pse --groesse masse", R"({"name": "Masse", "element": "H", "oz": 1, "wert": 1.00794, "einheit": "amu"})"},
@@ -55,9 +52,9 @@ TEST_F(JsonTest, HasTheNumbersOfTheTablesAndTheirRealUnits)
         {"friedel Al60Cu40", R"({"name": "Friedelminimum", "n": 0, "wert": 0.24890737, "einheit": "nm"})"},
         {"groessen Al=100:valenz=0 2>/dev/null", R"({"name": "Thermokraft", "wert": null, "einheit": "V/K²"})"},
     };
-    for (const auto& row : rows) {
-        const std::string text = run(std::string(row.call) + " --json").text;
-        EXPECT_NE(text.find(row.line), std::string::npos) << row.line << text;
+    for (const auto& [call, line] : rows) {
+        const std::string text = run(std::string(call) + " --json").text;
+        EXPECT_NE(text.find(line), std::string::npos) << line << text;
     }
 }
 

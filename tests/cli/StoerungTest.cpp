@@ -53,10 +53,7 @@ TEST_F(BefehlsstoerungTest, EachCallThatFailsWhileATableIsWritten)
 
 TEST_F(BefehlsstoerungTest, AllThatCommandsWriteIsWholeOrTheEarlierFile)
 {
-    const struct {
-        const char* command;
-        const char* file;
-    } rows[] = {
+    const std::pair<const char*, const char*> rows[] = {
         {"text --ausgabe a.dat Al=60 Cu=40", "a.dat"},
         {"groessen --json --ausgabe a.json Al=60 Cu=40", "a.json"},
         {"reihe --groesse 8 --variabel Al --ausgabe a.txt Al=60 Cu=40", "a.txt"},

@@ -8,10 +8,7 @@ TEST(NamensnaeheTest, SuggestsWhatMayHaveBeenMeant)
 {
     const std::vector<std::string> namen{"reihe", "groessen", "Friedel-Wellenlänge", "Fermienergie", "Al", "Ar", "As",
         "Au", "Cu", "Kupfer", "dichte-kristallin", "dichte-fluessig", "--zweite-groesse"};
-    const struct {
-        const char* text;
-        const char* sentence;
-    } rows[] = {
+    const std::pair<const char*, const char*> rows[] = {
         {"riehe", "Meinten Sie reihe?"}, // swapped
         {"GRÖSEN", "Meinten Sie groessen?"}, // umlauts and capitals
         {"friedelwelenlaenge", "Meinten Sie Friedel-Wellenlänge?"},
@@ -28,8 +25,8 @@ TEST(NamensnaeheTest, SuggestsWhatMayHaveBeenMeant)
         {"--", ""},
         {"\xC3", ""},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(vorschlag(row.text, namen), row.sentence) << row.text;
+    for (const auto& [text, sentence] : rows)
+        EXPECT_EQ(vorschlag(text, namen), sentence) << text;
     EXPECT_EQ(vorschlag(std::string(100000, 'x'), namen), "");
 }
 

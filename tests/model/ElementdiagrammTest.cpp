@@ -88,15 +88,12 @@ TEST_F(ElementdiagrammTest, EveryGapOfTheTableHasAReason)
 
 TEST_F(ElementdiagrammTest, TextsBesideTheCurve)
 {
-    const struct {
-        int groesse;
-        const char* text;
-    } rows[] = {{8, "Fermienergie [eV] der Elemente|eV"}, {0, "Valenz der Elemente|e/a"},
-        {4, "Atomvolumen [nm³] der Elemente (Zahl in m³)|m³"}, {16, "Atomradius [pm] der Elemente|pm"},
-        {18, "Elektronegativität der Elemente|"}, {1, "|"}};
-    for (const auto& row : rows) {
-        const Elementdiagramm diagramm = elementdiagramm(elements, calc, row.groesse);
-        EXPECT_EQ(diagramm.titel + '|' + diagramm.einheit, row.text);
+    const std::pair<int, const char*> rows[] = {{8, "Fermienergie [eV] der Elemente|eV"},
+        {0, "Valenz der Elemente|e/a"}, {4, "Atomvolumen [nm³] der Elemente (Zahl in m³)|m³"},
+        {16, "Atomradius [pm] der Elemente|pm"}, {18, "Elektronegativität der Elemente|"}, {1, "|"}};
+    for (const auto& [groesse, text] : rows) {
+        const Elementdiagramm diagramm = elementdiagramm(elements, calc, groesse);
+        EXPECT_EQ(diagramm.titel + '|' + diagramm.einheit, text);
     }
 }
 

@@ -8,11 +8,8 @@ namespace zerna {
 
 TEST(GroessennamenTest, FindsQuantitiesByWhatIsTyped)
 {
-    const struct {
-        const char* text;
-        Groessenart art;
-        int kennzahl; // -1: none
-    } rows[] = {
+    const std::tuple<const char*, Groessenart, int> rows[] = {
+        // -1: none
         {"8", Groessenart::Legierung, 8},
         {"fermienergie", Groessenart::Legierung, 8},
         {"FERMIENERGIE", Groessenart::Element, 8},
@@ -30,9 +27,9 @@ TEST(GroessennamenTest, FindsQuantitiesByWhatIsTyped)
         {"", Groessenart::Element, -1},
         {"-", Groessenart::Element, -1},
     };
-    for (const auto& row : rows) {
-        const Groesse* const found = findeGroesse(row.text, row.art);
-        EXPECT_EQ(found == nullptr ? -1 : found->kennzahl, row.kennzahl) << row.text;
+    for (const auto& [text, art, kennzahl] : rows) {
+        const Groesse* const found = findeGroesse(text, art);
+        EXPECT_EQ(found == nullptr ? -1 : found->kennzahl, kennzahl) << text;
     }
 }
 

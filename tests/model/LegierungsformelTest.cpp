@@ -29,10 +29,7 @@ struct LegierungsformelTest : EingabeFixture {
 
 TEST_F(LegierungsformelTest, FormulasAreReadAsTheyAreWritten)
 {
-    const struct {
-        const char* text;
-        const char* expected;
-    } rows[]{
+    const std::pair<const char*, const char*> rows[] = {
         {"Al60Cu40", "Al 60 Cu 40"},
         {"  Al60 - Cu40\n", "Al 60 Cu 40"},
         {"Al 60 Cu 40", "Al 60 Cu 40"},
@@ -75,18 +72,15 @@ TEST_F(LegierungsformelTest, FormulasAreReadAsTheyAreWritten)
         {"Al$_{60}$Cu$_{39{,}5}$Mg$_{0.5}$", "Al 60 Cu 39,5 Mg 0.5"},
         {"Cu_2MgAl", "Cu 50 Mg 25 Al 25 umgerechnet"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.text);
-        EXPECT_EQ(gelesen(row.text), row.expected);
+    for (const auto& [text, expected] : rows) {
+        SCOPED_TRACE(text);
+        EXPECT_EQ(gelesen(text), expected);
     }
 }
 
 TEST_F(LegierungsformelTest, ErrorsNameTheCharacter)
 {
-    const struct {
-        const char* text;
-        const char* expected;
-    } rows[]{
+    const std::pair<const char*, const char*> rows[] = {
         {"", "Es ist kein Element angegeben. Zum Beispiel Al60Cu40 schreiben."},
         {"60", "Es ist kein Element angegeben (Zeichen 3). Zum Beispiel Al60Cu40 schreiben."},
         {"Al60Xx40", "Element \"Xx\" ist nicht bekannt (Zeichen 5). Meinten Sie Xe?"},
@@ -126,9 +120,9 @@ TEST_F(LegierungsformelTest, ErrorsNameTheCharacter)
         {"Al$_{60Cu", "Unerwartetes Zeichen \"$\" (Zeichen 3)"},
         {"Al60\xFF", "Unerwartetes Zeichen \"\xFF\" (Zeichen 5)"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.text);
-        EXPECT_EQ(gelesen(row.text), row.expected);
+    for (const auto& [text, expected] : rows) {
+        SCOPED_TRACE(text);
+        EXPECT_EQ(gelesen(text), expected);
     }
 }
 

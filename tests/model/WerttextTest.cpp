@@ -10,12 +10,7 @@ namespace zerna {
 
 TEST(WerttextTest, ZeroIsANumberAndUnknownIsNone)
 {
-    const struct {
-        const char* name;
-        float value;
-        const char* unit;
-        const char* text;
-    } rows[] = {
+    const std::tuple<const char*, float, const char*, const char*> rows[] = {
         {"zero", 0, "", "0"},
         {"negative zero with unit", -0.0F, "eV", "0 eV"},
         {"no blank where no unit follows", 602.2e21F, "", "6,022 E+23"},
@@ -23,8 +18,8 @@ TEST(WerttextTest, ZeroIsANumberAndUnknownIsNone)
         {"unknown", Unbekannt, "K", ""},
         {"infinite", std::numeric_limits<float>::infinity(), "K", ""},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(werttext(row.value, row.unit), row.text) << row.name;
+    for (const auto& [name, value, unit, text] : rows)
+        EXPECT_EQ(werttext(value, unit), text) << name;
 }
 
 } // namespace zerna

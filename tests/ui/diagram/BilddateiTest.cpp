@@ -63,10 +63,7 @@ TEST_F(BilddateiTest, ImageHasItsPixelsItsSizeOnPaperAndItsTexts)
 
 TEST_F(BilddateiTest, VectorPicturesHaveTheirSizeTheirLettersAndTheirTexts)
 {
-    const struct {
-        Bildart art;
-        std::vector<const char*> parts;
-    } rows[] = {
+    const std::pair<Bildart, std::vector<const char*>> rows[] = {
         {Bildart::SVG,
             {"<svg width=\"85mm\" height=\"60.5mm\"", "viewBox=\"0 0 321.2598 228.6614\"", "font-size=\"12\"",
                 "font-family=\"DejaVu Sans, sans-serif\"",
@@ -75,9 +72,9 @@ TEST_F(BilddateiTest, VectorPicturesHaveTheirSizeTheirLettersAndTheirTexts)
             {"/MediaBox [0 0 241.000000 171.000000]", "/FontFile2", "/Title", "E_F in eV &lt;1&gt;</rdf:li>",
                 "Al60Cu40 &amp; mehr</rdf:li>"}},
     };
-    for (const auto& row : rows) {
-        const std::string file = bytes(row.art);
-        for (const char* const part : row.parts)
+    for (const auto& [art, parts] : rows) {
+        const std::string file = bytes(art);
+        for (const char* const part : parts)
             EXPECT_NE(file.find(part), std::string::npos) << part << "\n" << file.substr(0, 3000);
     }
 }

@@ -96,11 +96,7 @@ TEST_F(HilfeTest, F1OpensWhatIsSaidAboutTheFocus)
 {
     settings["Komponenten"] = "2";
     open();
-    const struct {
-        const char* diagram;
-        const char* control;
-        const char* section;
-    } rows[] = {
+    const std::tuple<const char*, const char*, const char*> rows[] = {
         {"2 D", "txtProzent_0", "2. Zusammensetzung"},
         {"2 D", "txtValenz_1", "3. Formeln für die Valenz"},
         {"2 D", "cmbDiagramm", "6. Konzentrationsdiagramme"},
@@ -108,15 +104,15 @@ TEST_F(HilfeTest, F1OpensWhatIsSaidAboutTheFocus)
         {"PSE", "picDiagramm", "7. Diagramme über der Ordnungszahl"},
         {"PSE", "cmdMFE_Speichern", "5. Ergebnisse: eintippen, blättern, kopieren, speichern"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.control);
+    for (const auto& [diagram, control, expected] : rows) {
+        SCOPED_TRACE(control);
         window->activateWindow();
-        choose("cmbDiagramm_Typ", row.diagram);
-        find(row.control).setEnabled(true);
-        find(row.control).setFocus();
-        QTest::keyClick(&find(row.control), Qt::Key_F1);
+        choose("cmbDiagramm_Typ", diagram);
+        find(control).setEnabled(true);
+        find(control).setFocus();
+        QTest::keyClick(&find(control), Qt::Key_F1);
         EXPECT_TRUE(handbuch().isVisible());
-        EXPECT_EQ(section(), row.section);
+        EXPECT_EQ(section(), expected);
     }
     QTest::keyClick(&handbuch(), Qt::Key_Escape);
     EXPECT_FALSE(handbuch().isVisible());
@@ -148,10 +144,7 @@ TEST_F(HilfeTest, F1InADialogLeavesBothUsable)
 TEST_F(HilfeTest, MessagesAreFoundByTheirWords)
 {
     openAt("einwaage");
-    const struct {
-        const char* message;
-        const char* begin;
-    } rows[] = {
+    const std::pair<const char*, const char*> rows[] = {
         {"Error 11 (Division durch Null) in procedure Istmasse_Change of Benutzersteuerelement conWiegen",
             "„Error 11 (Division durch Null) in procedure Istmasse_Change …“"},
         {"Die Datei \"a.dat\" konnte nicht gespeichert werden:\nDatenträger voll", "„Die Datei \"…\" konnte nicht"},
@@ -163,9 +156,9 @@ TEST_F(HilfeTest, MessagesAreFoundByTheirWords)
             "„Es ist kein Drucker eingerichtet. … den Wiegezettel"},
         {"Was niemand erklärt", "15. Meldungen"},
     };
-    for (const auto& row : rows) {
-        handbuch().zeigeMeldung(QString::fromUtf8(row.message));
-        EXPECT_TRUE(block().starts_with(row.begin)) << row.message << " leads to " << block();
+    for (const auto& [message, begin] : rows) {
+        handbuch().zeigeMeldung(QString::fromUtf8(message));
+        EXPECT_TRUE(block().starts_with(begin)) << message << " leads to " << block();
     }
 }
 
