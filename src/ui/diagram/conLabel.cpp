@@ -46,7 +46,7 @@ void conLabel::setValue(int value)
         return;
     m_value = value;
     m_ansage->merke();
-    update();
+    updateTexts();
 }
 
 void conLabel::setLabel(const QString& label)
@@ -56,7 +56,7 @@ void conLabel::setLabel(const QString& label)
     m_label = label;
     m_buttons[0]->setAccessibleName(QStringLiteral("Anteil von %1 verkleinern").arg(label.trimmed()));
     m_buttons[1]->setAccessibleName(QStringLiteral("Anteil von %1 vergrößern").arg(label.trimmed()));
-    update();
+    updateTexts();
 }
 
 void conLabel::setEnabled(bool enabled)
@@ -74,8 +74,11 @@ void conLabel::step(int button)
     m_value = steppedValue(m_value, button);
     m_ansage->merke();
     emit Change();
-    update();
+    updateTexts();
 }
+
+/// Beside the buttons.
+void conLabel::updateTexts() { update(0, 0, width() - buttonWidth(), height()); }
 
 void conLabel::resizeEvent(QResizeEvent*)
 {

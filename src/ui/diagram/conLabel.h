@@ -44,6 +44,7 @@ protected:
 
 private:
     void step(int button);
+    void updateTexts();
     int buttonWidth() const;
 
     Ansage* m_ansage;

@@ -42,7 +42,7 @@ void Elementkarte::setElement(const std::shared_ptr<clsElement>& element)
                                      .arg(element->OZ())
                                      .arg(toQt(element->Elektronenkonfiguration())));
     showHerkunft();
-    update();
+    update(0, 0, width(), Kopfhoehe);
 }
 
 void Elementkarte::showHerkunft()
