@@ -4,7 +4,6 @@
 #include <QComboBox>
 #include <QCryptographicHash>
 #include <QImage>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRegularExpression>
@@ -143,13 +142,12 @@ inline Anblick lookAt(QWidget& widget)
             if (action->isVisible())
                 entries += action->toolTip();
         }
-    } else if (const auto* const label = qobject_cast<QLabel*>(&widget)) {
-        seen.text = oneLine(label->text());
-    } else if (const auto* const value = qobject_cast<const Wertanzeige*>(&widget)) {
-        seen.text = oneLine(value->text());
-        seen.isPale = value->istBlass();
     } else if (const auto* const button = qobject_cast<QAbstractButton*>(&widget)) {
         seen.text = button->accessibleName().toStdString() + (button->isChecked() ? " (checked)" : "");
+    } else if (const QVariant text = widget.property("text"); text.isValid()) {
+        const auto* const value = qobject_cast<const Wertanzeige*>(&widget);
+        seen.text = oneLine(text.toString());
+        seen.isPale = value != nullptr && value->istBlass();
     } else if (const auto* const table = qobject_cast<QTableView*>(&widget)) {
         for (int i = 0; i < table->model()->columnCount(); ++i)
             entries += oneLine(table->model()->headerData(i, Qt::Horizontal).toString()).c_str();

@@ -1,16 +1,43 @@
 #include "ui/controls/Kurzlabel.h"
 
+#include <QAccessible>
 #include <QPainter>
-#include <QStyle>
 
 namespace zerna {
+
+Kurzlabel::Kurzlabel(QWidget* parent)
+    : QWidget(parent)
+{
+    setSizePolicy({QSizePolicy::Preferred, QSizePolicy::Preferred, QSizePolicy::Label});
+}
+
+void Kurzlabel::setText(const QString& text)
+{
+    if (text == m_text)
+        return;
+    m_text = text;
+    if (sizePolicy().horizontalPolicy() != QSizePolicy::Ignored)
+        updateGeometry();
+    update();
+    if (accessibleName().isEmpty() && QAccessible::isActive()) {
+        QAccessibleEvent event(this, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
+QSize Kurzlabel::sizeHint() const
+{
+    const QFontMetrics metrics = fontMetrics();
+    const int width = m_text.isEmpty() ? metrics.averageCharWidth() : metrics.size(Qt::TextSingleLine, m_text).width();
+    return {width, metrics.height()};
+}
 
 void Kurzlabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
-    style()->drawItemText(
-        &painter, rect(), static_cast<int>(alignment()), palette(), isEnabled(), shown, foregroundRole());
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(
+        rect(), Qt::AlignLeft | Qt::AlignVCenter, fontMetrics().elidedText(m_text, Qt::ElideRight, width()));
 }
 
 } // namespace zerna

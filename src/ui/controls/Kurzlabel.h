@@ -1,20 +1,29 @@
 #pragma once
 
-#include <QLabel>
+#include <QWidget>
 
 namespace zerna {
 
-/// A label that cuts off with an ellipsis what it has no room for; whoever sets the text sees to the tool tip.
-class Kurzlabel : public QLabel {
+/// A label that cuts off with an ellipsis what it has no room for; whoever sets the text sees to the tool tip. Another
+/// text asks for a layout only where the width follows from it.
+class Kurzlabel : public QWidget {
     Q_OBJECT
+    Q_PROPERTY(QString text READ text)
 
 public:
-    using QLabel::QLabel;
+    explicit Kurzlabel(QWidget* parent = nullptr);
 
-    QSize minimumSizeHint() const override { return {0, QLabel::minimumSizeHint().height()}; }
+    const QString& text() const { return m_text; }
+    void setText(const QString& text);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString m_text;
 };
 
 } // namespace zerna

@@ -7,8 +7,6 @@
 
 #include "model/Befund.h"
 
-class QLabel;
-
 namespace zerna {
 
 class Anteilskopf;

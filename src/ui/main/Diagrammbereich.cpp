@@ -1,7 +1,6 @@
 #include "ui/main/Diagrammbereich.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QVBoxLayout>
 
 #include "ui/button/StyledButton.h"
@@ -98,7 +97,6 @@ void Diagrammbereich::createReadouts()
 {
     m_labelPos = new Kurzlabel(this); // no read-out widens the panel
     m_labelPos->setObjectName(QStringLiteral("LabelPos"));
-    m_labelPos->setTextFormat(Qt::PlainText);
     connect(m_picDiagramm, &Diagrammflaeche::ansichtChanged, this, [this](const QString& geste) {
         wahl().ansicht = m_picDiagramm->ansicht();
         emit geschehen({QStringLiteral("Ansicht des Diagramms"), geste});

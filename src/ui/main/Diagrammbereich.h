@@ -10,7 +10,6 @@
 #include "ui/platform/Dialoge.h"
 
 class QBoxLayout;
-class QLabel;
 
 namespace zerna {
 
@@ -20,6 +19,7 @@ class Diagrammauswahl;
 class Diagrammflaeche;
 class Diagrammseite;
 class Konzentrationsseite;
+class Kurzlabel;
 class Menue;
 class Messseite;
 class StyledButton;
@@ -109,7 +109,7 @@ private:
     Konzentrationsseite* m_konzentration = nullptr; // one of them
     Messseite* m_messung = nullptr; // another
     Diagrammauswahl* m_auswahl = nullptr;
-    QLabel* m_labelPos = nullptr;
+    Kurzlabel* m_labelPos = nullptr;
     Befundzeile* m_lblDrei = nullptr; // why there is no diagram of the chosen kind
     Befundzeile* m_lblAngebot = nullptr; // what can be done about the diagram
     StyledButton* m_cmdAnteil = nullptr;

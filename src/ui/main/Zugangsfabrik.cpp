@@ -7,6 +7,7 @@
 #include "ui/button/StyledButtonZugang.h"
 #include "ui/controls/Befundzeile.h"
 #include "ui/controls/BefundzeileZugang.h"
+#include "ui/controls/KurzlabelZugang.h"
 #include "ui/controls/Kurzmeldung.h"
 #include "ui/controls/Wertanzeige.h"
 #include "ui/controls/WertanzeigeZugang.h"
@@ -61,6 +62,7 @@ QAccessibleInterface* zugangOf(const QString& className, QObject* object)
         {QStringLiteral("zerna::StyledButton"), make<StyledButton, StyledButtonZugang>},
         {QStringLiteral("zerna::Befundzeile"), make<Befundzeile, BefundzeileZugang>},
         {QStringLiteral("zerna::Wertanzeige"), make<Wertanzeige, WertanzeigeZugang>},
+        {QStringLiteral("zerna::Kurzlabel"), make<Kurzlabel, KurzlabelZugang>},
         {QStringLiteral("zerna::conLabel"), make<conLabel, conLabelZugang>},
         {QStringLiteral("zerna::Periodentafel"), make<Periodentafel, PeriodentafelZugang>},
         {QStringLiteral("zerna::conDisplay"), makeDisplay},

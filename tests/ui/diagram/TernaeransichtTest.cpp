@@ -102,7 +102,7 @@ TEST_F(TernaeransichtTest, WheelAndKeysZoomAndSeveralMovesAreOneFrame)
 TEST_F(TernaeransichtTest, ReadingFollowsThePictureUnderTheMouse)
 {
     const QPointF place(210, 330);
-    const auto reading = [this] { return find<QLabel>("LabelPos").text(); };
+    const auto reading = [this] { return find("LabelPos").property("text").toString(); };
     const auto readAnew = [&] {
         mouse(QEvent::MouseMove, place + QPointF(1, 0), {});
         mouse(QEvent::MouseMove, place, {});

@@ -82,7 +82,7 @@ struct Ereigniszaehler : QObject {
     std::map<QString, int> pixels;
 };
 
-TEST_F(AufwandTest, AnotherElementRepaintsWhatItChangesAndLaysOutNoResults)
+TEST_F(AufwandTest, AnotherElementRepaintsWhatItChangesAndLaysOutNothing)
 {
     open();
     choose("cmbDiagramm", "Fermienergie");
@@ -95,7 +95,7 @@ TEST_F(AufwandTest, AnotherElementRepaintsWhatItChangesAndLaysOutNoResults)
     EXPECT_EQ(counted.count(QEvent::Paint, "Label6_"), 0);
     EXPECT_EQ(counted.count(QEvent::Paint, "pic"), 2); // the plot and what is around it
     EXPECT_EQ(counted.count(QEvent::Resize, "pic"), 0);
-    EXPECT_EQ(counted.count(QEvent::LayoutRequest, "zerna::Ergebnis"), 0);
+    EXPECT_EQ(counted.count(QEvent::LayoutRequest, ""), 0);
     const auto& display = find("conDisplay1");
     EXPECT_LT(counted.pixels.at("conDisplay1"),
         (display.width() * display.height() - find("pic").width() * find("pic").height()) / 2);

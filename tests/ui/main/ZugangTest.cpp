@@ -36,6 +36,8 @@ TEST_F(ZugangTest, WidgetsThatPaintThemselvesSayWhatTheyAreAndWhatTheyShow)
         {"lblMFE_7", QAccessible::EditableText, "Fermienergie", "9,8778 eV"},
         {"conLabel_0", QAccessible::SpinBox, "Anteil von Al", "50 at%"},
         {"Label2", QAccessible::RadioButton, "Anteile in at % eintippen", ""},
+        {"lblElement_0", QAccessible::StaticText, "Elementname, Komponente 1", ""},
+        {"LabelPos", QAccessible::StaticText, "", ""},
         {"lblMeldung", QAccessible::Notification, "", ""},
         {"picDiagramm", QAccessible::Grouping, "Diagramm", ""},
         {"conDisplay1", QAccessible::Chart, "Konzentrationsdiagramm: Valenz [e/a] über at% Al", ""},
