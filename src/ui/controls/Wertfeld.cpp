@@ -162,8 +162,11 @@ void Wertfeld::showHinweis()
 {
     const QString valid = m_echo.isEmpty() ? m_hinweis : QStringLiteral("%1 %2").arg(text(), m_echo).trimmed();
     const QString unmarked = m_bedenken.isEmpty() ? valid : m_bedenken;
-    setToolTip(m_fehler.isEmpty() ? unmarked : m_fehler);
-    setAccessibleDescription(toolTip());
+    const QString& shown = m_fehler.isEmpty() ? unmarked : m_fehler;
+    if (shown == toolTip())
+        return;
+    setToolTip(shown);
+    setAccessibleDescription(shown);
 }
 
 /// Whether the window undoes what was typed.
