@@ -38,6 +38,10 @@ struct Dialogreihe : FakeDesk {
         };
         static const std::string remark(5000, 'W');
         static const std::string path = "Messungen Wärmebehandlung Oktober/Legierung 17 nach dem dritten Anlassen.dat";
+        static const std::string text =
+            "Die Datei \"" + path + "\" konnte nicht gespeichert werden:\r\nDatenträger voll.";
+        static const std::array kinds{datDatei({}), friedelminima({})};
+        static constexpr std::array<std::string_view, 3> Ways{"&Speichern", "&Verwerfen", "&Abbrechen"};
         return {
             {"preferences", command("mnuEinstellungen")},
             {"about", command("mnuInfo")},
@@ -50,29 +54,11 @@ struct Dialogreihe : FakeDesk {
             {"print", command("mnuDrucken")},
             {"name of a variant", [] { QtInputBox().ask("Umbenennen", "Neuer Name der Variante:", "Al50Cu50"); }},
             {"open", [] { QtOpenFileDialog().choose(Dateiwahl::Messkurve); }},
-            {"save",
-                [] {
-                    QtSaveFileDialog().choose(Exporttitel, std::array{datDatei({}), friedelminima({})}, {});
-                }},
+            {"save", [] { QtSaveFileDialog().choose(Exporttitel, kinds, {}); }},
             {"replace", [] { QtSaveFileDialog().confirmReplace(path); }},
-            {"message",
-                [] {
-                    QtMessageBoxes().show(Icon::Exclamation, Programmtitel,
-                        "Die Datei \"" + path + "\" konnte nicht gespeichert werden:\r\nDatenträger voll.");
-                }},
-            {"question",
-                [] {
-                    QtMessageBoxes().ask("Ergebnisse speichern",
-                        "Die Ergebnisse gehören nicht zu den "
-                        "Komponenten, die mit ihnen gespeichert werden.",
-                        "Trotzdem &speichern");
-                }},
-            {"choice",
-                [] {
-                    QtMessageBoxes().choose(Programmtitel,
-                        "Die Legierung \"" + path + "\" ist geändert. Sollen die Änderungen gespeichert werden?",
-                        std::array<std::string_view, 3>{"&Speichern", "&Verwerfen", "&Abbrechen"});
-                }},
+            {"message", [] { QtMessageBoxes().show(Icon::Exclamation, Programmtitel, text); }},
+            {"question", [] { QtMessageBoxes().ask(Programmtitel, text, "Trotzdem &speichern"); }},
+            {"choice", [] { QtMessageBoxes().choose(Programmtitel, text, Ways); }},
         };
     }
 
