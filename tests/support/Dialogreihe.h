@@ -50,6 +50,11 @@ struct Dialogreihe : FakeDesk {
             {"picture with a wrong number", command("mnuBild_Speichern"), misses},
             {"search for a share", command("mnuAnteil"), onPage(0)},
             {"search for an element", command("mnuAnteil"), onPage(1)},
+            {"search in the ternary diagram",
+                [this] {
+                    choose("cmbDiagramm_Typ", "3 D - ternär");
+                    find<QAction>("mnuAnteil").trigger();
+                }},
             {"manual", command("mnuHandbuch")},
             {"print", command("mnuDrucken")},
             {"name of a variant", [] { QtInputBox().ask("Umbenennen", "Neuer Name der Variante:", "Al50Cu50"); }},
