@@ -28,10 +28,11 @@ frmZielsuche& frmMain::suche()
     connect(m_suche, &frmZielsuche::mischungsreiheChosen, m_diagramm, &Diagrammbereich::setMischungsreihe);
     connect(m_suche, &frmZielsuche::punkteRequested, m_diagramm, &Diagrammbereich::kopierePunkte);
     connect(m_suche, &frmZielsuche::markenChanged, m_diagramm, &Diagrammbereich::setMarken);
-    connect(m_suche, &frmZielsuche::uebernommen, this, [this](const zerna::Eingabe& eingabe, const Schritt& schritt) {
-        m_komposition->setEingabe(eingabe, schritt);
-        m_meldung->zeige(QStringLiteral("✓  %1").arg(schritt.name));
-    });
+    connect(m_suche, &frmZielsuche::uebernommen, this,
+        [this](const zerna::Eingabe& eingabe, const Schritt& schritt, const QString& getan) {
+            m_komposition->setEingabe(eingabe, schritt);
+            m_meldung->zeige(QStringLiteral("✓  %1").arg(getan));
+        });
     for (const char* const name : {"mnuRueckgaengig", "mnuWiederholen"})
         m_suche->addAction(findChild<QAction*>(QLatin1String(name)));
     return *m_suche;

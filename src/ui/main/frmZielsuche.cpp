@@ -79,10 +79,12 @@ void frmZielsuche::connectSeiten()
         verlangeWahl();
     });
     connect(m_anteil, &Anteilsseite::mischungsreiheChosen, this, &frmZielsuche::mischungsreiheChosen);
-    connect(m_anteil, &Anteilsseite::uebernommen, this,
-        [this](const Eingabe& eingabe) { emit uebernommen(eingabe, {QStringLiteral("Anteil übernehmen")}); });
+    connect(m_anteil, &Anteilsseite::uebernommen, this, [this](const Eingabe& eingabe) {
+        emit uebernommen(eingabe, {QStringLiteral("Anteil übernehmen")}, QStringLiteral("Anteil übernommen"));
+    });
     connect(m_drittes, &Drittelementseite::uebernommen, this, [this](const Eingabe& eingabe, const QString& symbol) {
-        emit uebernommen(eingabe, {QStringLiteral("%1 hinzufügen").arg(symbol)});
+        emit uebernommen(
+            eingabe, {QStringLiteral("%1 hinzufügen").arg(symbol)}, QStringLiteral("%1 hinzugefügt").arg(symbol));
     });
 }
 

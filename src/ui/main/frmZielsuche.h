@@ -41,7 +41,8 @@ signals:
     void mischungsreiheChosen(bool an);
     /// The points with the wanted value in the ternary diagram are to be copied.
     void punkteRequested();
-    void uebernommen(const Eingabe& eingabe, const Schritt& schritt);
+    /// An answer is to be entered; `getan` says that it was.
+    void uebernommen(const Eingabe& eingabe, const Schritt& schritt, const QString& getan);
 
 protected:
     void hideEvent(QHideEvent* event) override;

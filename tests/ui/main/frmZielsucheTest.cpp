@@ -55,6 +55,7 @@ TEST_F(frmZielsucheTest, AnAnswerIsTakenOverByKeysAsOneStep)
     EXPECT_EQ(grid().wertUndEinheitIn(7).toStdString(), "9,5 eV");
     EXPECT_EQ(programm->Dokument().diagramm.komponente, 0);
     EXPECT_EQ(find<QAction>("mnuRueckgaengig").text().toStdString(), "&Rückgängig: Anteil übernehmen");
+    EXPECT_EQ(text("lblMeldung"), "✓  Anteil übernommen");
     undo();
     EXPECT_EQ(text("txtProzent_0"), "60");
     EXPECT_EQ(line(0), "41,64005|58,35995") << "it is looked for again";
