@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QPainter>
+#include <QPushButton>
 #include <QStyleOption>
 
 #include <gtest/gtest.h>
@@ -60,7 +61,7 @@ TEST(Kontrast, StyleMovesNothing)
     EXPECT_FALSE(QApplication::isEffectEnabled(Qt::UI_AnimateCombo));
 }
 
-TEST(Kontrast, FieldsAndBoxesAreFramedOnDarkGrounds)
+TEST(Kontrast, FieldsBoxesAndButtonsAreFramedOnDarkGrounds)
 {
     LesbarerStil style;
     for (const auto element : {QStyle::PE_FrameLineEdit, QStyle::PE_IndicatorCheckBox}) {
@@ -74,6 +75,12 @@ TEST(Kontrast, FieldsAndBoxesAreFramedOnDarkGrounds)
         style.drawPrimitive(element, &option, &painter);
         EXPECT_GE(kontrast(image.pixelColor(10, 0), Qt::black), 3) << element;
     }
+    QWidget dark;
+    dark.setPalette(QPalette(Qt::black, Qt::black));
+    QPushButton button(&dark);
+    button.setStyle(&style);
+    button.resize(20, 20);
+    EXPECT_GE(kontrast(button.grab().toImage().pixelColor(10, 0), Qt::black), 3);
 }
 
 TEST(Kontrast, MarksStandOutFromTheirGround)

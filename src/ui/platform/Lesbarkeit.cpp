@@ -32,7 +32,7 @@ void drawFocus(const QStyleOption& option, QPainter& painter)
     painter.restore();
 }
 
-/// On dark grounds the usual style frames fields and boxes with a colour that is darker still.
+/// On dark grounds the usual style frames fields, buttons and sliders with a colour that is darker still.
 void drawOutline(const QStyleOption& option, QPainter& painter)
 {
     if (!istDunkel(option.palette))
@@ -89,6 +89,11 @@ void LesbarerStil::drawComplexControl(
         drawFocus(*option, *painter);
     else if (control == CC_ComboBox)
         drawOutline(*option, *painter);
+    if (control != CC_ScrollBar)
+        return;
+    QStyleOption slider = *option;
+    slider.rect = subControlRect(control, option, SC_ScrollBarSlider, widget);
+    drawOutline(slider, *painter);
 }
 
 /// The usual style frames a button with the focus no other than the one that Enter presses.
@@ -99,6 +104,8 @@ void LesbarerStil::drawControl(
     const bool isTab = element == CE_TabBarTab && option->state.testFlag(State_Selected);
     if ((element == CE_PushButton || isTab) && option->state.testFlag(State_HasFocus))
         drawFocus(*option, *painter);
+    else if (element == CE_PushButton)
+        drawOutline(*option, *painter);
 }
 
 void LesbarerStil::drawPrimitive(
