@@ -13,7 +13,7 @@ if [[ ${ZERNA_OWN_MOUNTS:-} != yes ]]; then
 fi
 "$source/packaging/install-debian-packages.sh" package
 packages=$source/build/release/pakete
-largest=5000 # KiB installed, manual and its pictures included
+largest=4500 # KiB installed, manual and its pictures included
 
 step() { printf '\n-- %s\n' "$1"; }
 
