@@ -134,7 +134,7 @@ def main():
         if "--zweige" in sys.argv[1:]:
             for line in sorted({line for line, count in ways if count == 0 and source.lines[line]}):
                 print(f"{path}:{line}: {source.text[line - 1].strip()}")
-    fine = True
+    fine = len(total) == len(ASKED)  # none without counts
     print(f'{"":12} {"Zeilen":>14} {"Zweige":>14}')
     for room, (hit, lines, taken, branches) in total.items():
         shares = (100 * hit / max(lines, 1), 100 * taken / max(branches, 1))
