@@ -51,7 +51,7 @@ struct DokumentdateiTest : RechnerTest {
 
 TEST_F(DokumentdateiTest, ReadsWhatItWrote)
 {
-    constexpr int Documents = 2000;
+    constexpr int Documents = 1000;
     constexpr int Checked = 100; // against the schema
     Zufallsdokument zufall(elements, 1);
     for (int i = 0; i < Documents; ++i) {
