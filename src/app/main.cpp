@@ -33,15 +33,23 @@ std::filesystem::path sessionFolder()
     return zerna::pathFromUtf8(zerna::fromQt(folder)) / zerna::clsLoader::ApplicationName();
 }
 
-#ifdef Q_OS_WIN
+void speakGerman()
+{
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    auto* const german = new QTranslator(qApp);
+    if (german->load(QStringLiteral(":/qtbase_de.qm")))
+        QCoreApplication::installTranslator(german);
+}
+
 /// Dialogs begin in the current folder. Windows starts a program in the program's own, where nobody looks for files.
 void leaveProgramFolder()
 {
+#ifdef Q_OS_WIN
     const QDir programFolder(QCoreApplication::applicationDirPath());
     if (QDir::current() == programFolder && QCoreApplication::arguments().size() == 1) // files may be named from here
         QDir::setCurrent(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-}
 #endif
+}
 
 int run(zerna::Programm& programm, zerna::frmMain& window)
 {
@@ -76,14 +84,8 @@ int main(int argc, char** argv)
     const zerna::Anwendung application(argc, argv, boxes);
     QApplication::setStyle(new zerna::LesbarerStil);
     zerna::ladeBildschriften();
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    QTranslator german;
-    if (german.load(QStringLiteral(":/qtbase_de.qm")))
-        QCoreApplication::installTranslator(&german);
-
-#ifdef Q_OS_WIN
+    speakGerman();
     leaveProgramFolder();
-#endif
 
     zerna::QtSettingsStore settings;
     zerna::QtSaveFileDialog saveDialog;
