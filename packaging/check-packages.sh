@@ -13,7 +13,7 @@ if [[ ${ZERNA_OWN_MOUNTS:-} != yes ]]; then
 fi
 "$source/packaging/install-debian-packages.sh" package
 packages=$source/build/release/pakete
-largest=4500 # KiB installed, manual and its pictures included
+largest=4000 # KiB installed, manual and its pictures included
 
 step() { printf '\n-- %s\n' "$1"; }
 
@@ -27,7 +27,8 @@ root=$scratch/debian
 trap 'umount "$root/proc" 2>/dev/null || true; rm -rf --one-file-system -- "$scratch"' EXIT
 
 deb=$(echo "$packages"/zerna_*.deb)
-[[ -f $deb ]] || fail "Es gibt kein Paket in $packages: packaging/make-packages.sh macht es."
+printed=$(echo "$packages"/zerna-doc_*.deb)
+[[ -f $deb && -f $printed ]] || fail "Es gibt kein Paket in $packages: packaging/make-packages.sh macht es."
 (cd -- "$packages" && sha256sum --quiet -c SHA256SUMS)
 
 step "forms"
@@ -36,7 +37,7 @@ dpkg-deb -x "$deb" "$tree"
 desktop-file-validate "$tree/usr/share/applications/zerna.desktop"
 appstreamcli validate --no-net "$tree"/usr/share/metainfo/*.metainfo.xml
 xmllint --noout "$tree/usr/share/mime/packages/zerna.xml"
-lintian --allow-root --fail-on error "$deb"
+lintian --allow-root --fail-on error "$deb" "$printed"
 for page in "$tree"/usr/share/man/de/man1/*; do
     warnings=$(LC_ALL=C.UTF-8 MANWIDTH=80 man --warnings -l "$page" 2>&1 >/dev/null)
     [[ -z $warnings ]] || fail "Handbuchseite $page: $warnings"
@@ -79,6 +80,7 @@ as_anna() {
 inside useradd --create-home --shell /bin/sh anna
 inside install -d -o anna "/home/anna/Meine Größen"
 cp -- "$deb" "$root/zerna.deb"
+cp -- "$printed" "$root/zerna-doc.deb"
 inside apt-get -qq update
 # What the package needs, and what keeps a desktop's lists of menu entries, file types and pictures; then the package alone.
 inside apt-get -qqy install --no-install-recommends /zerna.deb desktop-file-utils shared-mime-info hicolor-icon-theme \
@@ -92,7 +94,8 @@ listing() {
 listing >"$scratch/before"
 
 step "installation"
-inside dpkg --install /zerna.deb >"$scratch/apt.log"
+inside dpkg --install /zerna.deb /zerna-doc.deb >"$scratch/apt.log"
+inside test -s /usr/share/doc/zerna/handbuch.pdf
 inside grep -q 'application/x-zerna=zerna.desktop' /usr/share/applications/mimeinfo.cache
 inside test -f /usr/share/mime/application/x-zerna.xml
 
@@ -111,7 +114,7 @@ mv -- "$root/usr/lib/zerna/elemente.dat" "$scratch"
 mv -- "$scratch/elemente.dat" "$root/usr/lib/zerna/"
 
 step "removal"
-inside dpkg --purge zerna >"$scratch/apt.log"
+inside dpkg --purge zerna-doc zerna >"$scratch/apt.log"
 listing >"$scratch/after"
 diff "$scratch/before" "$scratch/after" || fail "Das Paket lässt etwas zurück."
 echo "Alle Prüfungen der Pakete sind bestanden."

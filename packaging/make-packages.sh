@@ -1,6 +1,7 @@
 #!/bin/bash
-# Installs what is missing, builds the program and makes zerna_VERSION_ARCHITECTURE.deb and the portable tar; arguments go
-# to cmake, such as -DZERNA_MAINTAINER="Name <mail>". The packages lie in build/release/pakete.
+# Installs what is missing, builds the program and makes zerna_VERSION_ARCHITECTURE.deb, zerna-doc_VERSION_all.deb (the
+# manual for printing) and the portable tar; arguments go to cmake, such as -DZERNA_MAINTAINER="Name <mail>". The
+# packages lie in build/release/pakete.
 set -euo pipefail
 root=$(dirname -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")")
 
@@ -25,17 +26,26 @@ mkdir -p -- "$packages"
 scratch=$(mktemp -d)
 trap 'rm -rf -- "$scratch"' EXIT
 
-# The Debian package: what is installed below /usr, and the libraries that it needs by the names that Debian gives them.
+# The Debian packages: what is installed below /usr, and the libraries that it needs by the names that Debian gives them.
+# The manual for printing repeats what the program and its pages show; who wants it installs it beside them.
 tree=$scratch/deb/debian/zerna
 DESTDIR=$tree cmake --install "$build" --prefix /usr --strip >/dev/null
 cd -- "$scratch/deb"
 cp -- "$build/packaging/linux/control" debian/control
 cp -- "$build/packaging/linux/changelog" debian/changelog
-mkdir "$tree/DEBIAN"
+docs=usr/share/doc
+printed=$scratch/deb/debian/zerna-doc
+mkdir -p -- "$printed/$docs/zerna" "$printed/$docs/zerna-doc"
+mv -- "$tree/$docs/zerna/handbuch.pdf" "$printed/$docs/zerna"
+cp -- "$tree/$docs/zerna"/{copyright,changelog.gz} "$printed/$docs/zerna-doc"
 dpkg-shlibdeps "$tree"/usr/lib/zerna/zerna*
-dpkg-gencontrol -pzerna -P"$tree"
-(cd -- "$tree" && find usr -type f -exec md5sum {} + | LC_ALL=C sort -k 2 >DEBIAN/md5sums)
-dpkg-deb --root-owner-group -Zxz --build "$tree" "$packages"
+for package in zerna zerna-doc; do
+    tree=$scratch/deb/debian/$package
+    mkdir "$tree/DEBIAN"
+    dpkg-gencontrol "-p$package" -P"$tree"
+    (cd -- "$tree" && find usr -type f -exec md5sum {} + | LC_ALL=C sort -k 2 >DEBIAN/md5sums)
+    dpkg-deb --root-owner-group -Zxz --build "$tree" "$packages"
+done
 
 # The portable folder: the same tree anywhere.
 version=$(dpkg-parsechangelog -S Version)
