@@ -75,7 +75,7 @@ cp "$root/data/QUELLEN.md" "$root/data/quellen.csv" "$stage/"
 for pages in "$root"/build/*/handbuch; do
     [ -e "$pages/handbuch.pdf" ] || continue
     for kind in html pdf; do cp "$pages/handbuch.$kind" "$stage/Handbuch.$kind"; done
-    cp -r "$pages/bilder" "$stage/"
+    cp -rL "$pages/bilder" "$stage/"
 done
 if [ ! -e "$stage/Handbuch.pdf" ]; then
     say "ohne Handbuch.html und Handbuch.pdf: es gibt keinen Bau für Linux, der sie gemacht hätte (Ziel handbuch)"
