@@ -34,6 +34,7 @@ only_linux+=:ExportierenTest.AfterAFailureTheDialogComesAgain
 only_linux+=:ExportzielTest.WhatSpeaksAgainstANameIsSaid:DokumentdateiTest.ReadsWhatItWrote
 # … what answers the print dialog, which is that of Windows, or reads the settings' file, here the registry, …
 only_linux+=':DruckenTest.*:WiegezettelTest.PageHasWhatWasWeighedAndLinesToSign'
+only_linux+=:FensterlayoutTest.DialogsShowAllTheirTextsOnSmallScreens:FokusbildTest.EveryControlOfADialogShowsThatItHasTheFocus
 only_linux+=:QtSettingsStoreTest.WhatTheStoreCannotTakeCountsForTheSession
 only_linux+=:QtSettingsStoreTest.WritesTogetherWhatWasSetAndNothingThatIsThereAlready
 # … and what counts on widths to the pixel, since the same letters make the left column three pixels wider.
