@@ -50,7 +50,7 @@ std::optional<Palettenbild> lies(const QString& datei)
         return std::nullopt;
     Palettenbild bild;
     bild.breite = image.width();
-    bild.bits = png.at(24);
+    bild.bits = static_cast<unsigned char>(png.at(24));
     bild.pixel = pixelbytes(image);
     for (qsizetype at = Signature; at + AroundData <= png.size();) {
         const auto length = static_cast<qsizetype>(qFromBigEndian<quint32>(png.constData() + at));
@@ -104,7 +104,8 @@ void packePdfbilder(const QString& pdf, const QStringList& pngDateien)
         const auto data = object.getStreamData();
         const auto pixels = QByteArray::fromRawData(
             reinterpret_cast<const char*>(data->getBuffer()), static_cast<qsizetype>(data->getSize()));
-        const auto found = std::ranges::find(pictures, pixels, &Palettenbild::pixel);
+        const auto found = std::find_if(
+            pictures.begin(), pictures.end(), [&](const Palettenbild& picture) { return picture.pixel == pixels; });
         if (found != pictures.end())
             replaceBy(*found, object);
     }
