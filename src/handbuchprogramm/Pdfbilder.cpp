@@ -109,7 +109,8 @@ void packePdfbilder(const QString& pdf, const QStringList& pngDateien)
         if (found != pictures.end())
             replaceBy(*found, object);
     }
-    QPDFWriter writer(document, pdf.toStdString().c_str());
+    const std::string name = pdf.toStdString(); // which the writer does not copy
+    QPDFWriter writer(document, name.c_str());
     writer.setObjectStreamMode(qpdf_o_generate);
     writer.write();
 }
