@@ -20,7 +20,7 @@ std::vector<float> sollmassen(const clsCalc& calc, int komponentenzahl, float ge
 /// Mass of each component that goes with the mass weighed for component `referenz`, whose at% must not be 0.
 std::vector<float> sollmassenZu(const clsCalc& calc, int komponentenzahl, int referenz, float masse);
 
-/// The at% that weighed masses give.
+/// The at% that weighed masses give, of which there is at least one.
 std::vector<float> gewogeneAtomprozente(const clsCalc& calc, std::span<const float> massen);
 
 /// Which component keeps masses or at% from being computed, and why.
@@ -34,7 +34,7 @@ struct Wiegehindernis {
 /// Why there are no target masses, or none that can be weighed.
 std::optional<Wiegehindernis> sollmassenHindernis(const clsCalc& calc, int komponentenzahl);
 
-/// Why there are no at%; a mass may be Unbekannt.
+/// Why at least one mass gives no at%; a mass may be Unbekannt.
 std::optional<Wiegehindernis> atomprozentHindernis(const clsCalc& calc, std::span<const float> massen);
 
 /// Deviation from the wanted at% up to which an alloy counts as weighed out.

@@ -5,7 +5,6 @@
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
-#include <QScrollArea>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -16,6 +15,7 @@
 #include "ui/controls/Kurzmeldung.h"
 #include "ui/controls/Menue.h"
 #include "ui/controls/Radsperre.h"
+#include "ui/controls/Rollflaeche.h"
 #include "ui/controls/Spaltenpaar.h"
 #include "ui/controls/Umbruchzeile.h"
 #include "ui/main/Dateibefehle.h"
@@ -51,44 +51,6 @@ StyledButton* makeSwitch(QWidget* parent, const QString& caption, const QString&
     button->setCheckable(true);
     button->setAutoExclusive(false);
     return button;
-}
-
-/// A panel fills its place as long as that is large enough; else it scrolls. The window's size does not follow from the
-/// panels in it: none is asked for the size it likes, and none is laid out before it is shown.
-class Rollflaeche : public QScrollArea {
-public:
-    explicit Rollflaeche(QWidget* panel)
-        : m_panel(panel)
-    {
-        panel->setParent(viewport());
-    }
-
-    QSize sizeHint() const override { return minimumSizeHint(); }
-
-protected:
-    void resizeEvent(QResizeEvent* event) override // the first one comes with the first show
-    {
-        if (widget() == nullptr)
-            setWidget(m_panel);
-        QScrollArea::resizeEvent(event);
-    }
-
-private:
-    QWidget* m_panel;
-};
-
-/// With the panel; what has the focus is seen.
-QScrollArea* scrolling(QWidget* panel)
-{
-    auto* area = new Rollflaeche(panel);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->setWidgetResizable(true);
-    QObject::connect(qApp, &QApplication::focusChanged, area, [area, panel](const QWidget*, QWidget* now) {
-        if (now != nullptr && panel->isAncestorOf(now))
-            area->ensureWidgetVisible(now);
-    });
-    return area;
 }
 
 /// The program's picture in the sizes of title bars and task lists, the small ones drawn for their size.
@@ -230,9 +192,9 @@ void frmMain::layOut()
     row->addWidget(m_cmdAbout);
     folgeSchrift(this, [this] { setMinimumHeight(16 * fontMetrics().height()); }); // room for two rows and a view
     m_panels = new QStackedWidget(this);
-    m_panels->addWidget(scrolling(m_pic1));
-    m_panels->addWidget(scrolling(m_pse));
-    m_panels->addWidget(scrolling(m_vergleich));
+    m_panels->addWidget(new Rollflaeche(m_pic1));
+    m_panels->addWidget(new Rollflaeche(m_pse));
+    m_panels->addWidget(new Rollflaeche(m_vergleich));
     m_panels->setContentsMargins(PanelLeft, 0, 0, 0);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
