@@ -25,11 +25,17 @@ struct FensterlayoutTest : Dialogreihe {
         QApplication::setStyle(QStringLiteral("fusion"));
     }
 
+    /// The toolkit's file dialog shows the folder it stands in and types that may end in many names.
+    static bool showsAnyLength(const QComboBox& list)
+    {
+        return list.objectName() == QLatin1String("lookInCombo") || list.objectName() == QLatin1String("fileTypeCombo");
+    }
+
     static int neededWidth(const QWidget& widget)
     {
-        if (const auto* const list = qobject_cast<const QComboBox*>(&widget);
-            list != nullptr && list->objectName() != QLatin1String("fileTypeCombo")) // which may end in many types
-            return listenbreite(*list, list->currentText()) - 4; // the toolkit's own room beside a text
+        if (const auto* const list = qobject_cast<const QComboBox*>(&widget))
+            return showsAnyLength(*list) ? 0
+                                         : listenbreite(*list, list->currentText()) - 4; // the toolkit's room beside it
         if (const auto* const field = qobject_cast<const QLineEdit*>(&widget)) // names and titles may be long
             return qobject_cast<const Wertfeld*>(field) != nullptr ? feldbreite(*field, field->text()) : 0;
         if (const auto* const box = qobject_cast<const QCheckBox*>(&widget))
