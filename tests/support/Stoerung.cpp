@@ -177,7 +177,9 @@ std::string Stoerung::was()
 std::string Stoerung::fuer(
     const std::filesystem::path& folder, Art art, int call, const std::string& name, const std::filesystem::path& zeuge)
 {
-    return "ASAN_OPTIONS=\"$ASAN_OPTIONS:verify_asan_link_order=0\" LD_PRELOAD='" ZERNA_STOERUNG "' STOERUNG_ORDNER='"
+    // The name of what is loaded ends at a blank, its folder may hold some.
+    return "ASAN_OPTIONS=\"$ASAN_OPTIONS:verify_asan_link_order=0\" LD_LIBRARY_PATH='" ZERNA_STOERUNG_ORDNER
+           "' LD_PRELOAD=libstoerung.so STOERUNG_ORDNER='"
         + folder.string() + "' STOERUNG_ART=" + std::to_string(static_cast<int>(art)) + " STOERUNG_AUFRUF="
         + std::to_string(call) + " STOERUNG_NAME='" + name + "' STOERUNG_ZEUGE='" + zeuge.string() + "' ";
 }
