@@ -32,10 +32,11 @@ def sources(root, build, folders):
 
 def flags(command):
     """A compile command without the launcher, the compiler, what names a single source and precompiled headers."""
-    command = re.sub(r" -Winvalid-pch| -include \S*/cmake_pch\.hxx", "", command)
     words = shlex.split(command)
     first = next(i for i, word in enumerate(words) if word.startswith("-"))
-    return tuple(word for word in words[first:words.index("-o")] if word != "-c")
+    kept = [word for word in words[first:words.index("-o")] if word not in ("-c", "-Winvalid-pch")]
+    precompiled = [i for i, word in enumerate(kept) if word.endswith("/cmake_pch.hxx")]  # each after its "-include"
+    return tuple(word for i, word in enumerate(kept) if i not in precompiled and i + 1 not in precompiled)
 
 
 def hidden_names(file):
