@@ -18,10 +18,11 @@ void elementeLaden(benchmark::State& state)
 {
     StummeMeldungen boxes;
     Dateinummern files;
+    const std::filesystem::path path = pathFromUtf8(Datenpfad);
     for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
         ElementCollection elements;
         const int number = files.freeNumber();
-        files.open(number, pathFromUtf8(Datenpfad), Zugriff::Binaer);
+        files.open(number, path, Zugriff::Binaer);
         loadElements(files, number, boxes, elements);
         files.close(number);
         benchmark::DoNotOptimize(elements.Count());

@@ -12,7 +12,7 @@ void ElementCollection::Add(Element element, std::string_view key)
         m_elements.reserve(Tafelgroesse);
         m_positions.reserve(Tafelgroesse);
     }
-    if (!m_positions.try_emplace(std::string(key), m_elements.size()).second)
+    if (!m_positions.emplace(key, m_elements.size()).second)
         throw Laufzeitfehler(Fehler::SchluesselVergeben);
     m_elements.push_back(std::move(element));
     ++m_stand;

@@ -34,12 +34,13 @@ void loadElements(Dateinummern& files, int number, MessageBoxes& boxes, ElementC
     const auto table = std::make_shared<std::vector<clsElement>>(); // one block, which each of its elements keeps alive
     table->reserve(static_cast<std::size_t>(count));
     for (int i = 1; i <= count; ++i) {
-        ElementCollection::Element element(table, &table->emplace_back(files, boxes));
-        element->setDateinummer(number);
-        element->Daten_Lesen();
+        clsElement& record = table->emplace_back(files, boxes);
+        record.setDateinummer(number);
+        record.Daten_Lesen();
+        ElementCollection::Element element(table, &record);
         if (each)
             each(element, i);
-        elements.Add(std::move(element), table->back().symbol());
+        elements.Add(std::move(element), record.symbol());
     }
 }
 
