@@ -209,13 +209,14 @@ struct Wiegen {
         const float gesamt = masse.wert();
         if (gesamt <= 0)
             throw unerwartet(masse.name, masse.text, "eine Zahl größer als 0");
-        umgebung.loadAlloy(komponenten);
+        umgebung.readAlloy(komponenten);
         const clsCalc& calc = umgebung.kern().calc();
         const int anzahl = umgebung.kern().eingabe().anzahl();
         if (const auto hindernis = sollmassenHindernis(calc, anzahl)) {
             const std::string symbol = calc.Element_Symbol(hindernis->komponente);
             throw Datenfehler("Komponente " + zitiert(symbol) + ": " + hindernis->grund);
         }
+        umgebung.nenneBefund();
         const Tabelle tabelle = wiegetabelle(calc, anzahl, gesamt);
         put(form.text(tabelle), ausgabe.datei);
     }

@@ -64,7 +64,7 @@ void Umgebung::load()
     }
 }
 
-void Umgebung::loadAlloy(const Komponenten& komponenten)
+void Umgebung::readAlloy(const Komponenten& komponenten)
 {
     const std::vector<std::string>& texte = komponenten.texte;
     const auto hasPart = [](const std::string& text) { return text.find('=') != std::string::npos; };
@@ -79,6 +79,18 @@ void Umgebung::loadAlloy(const Komponenten& komponenten)
     } else {
         loadFormel(komponenten);
     }
+}
+
+void Umgebung::nenneBefund()
+{
+    const Ergebnislage lage = ergebnislage(m_kern.eingabe(), m_kern.eingabe(), m_kern.calc());
+    if (lage.befund)
+        melde(befundgrund(m_kern.eingabe(), *lage.befund));
+}
+
+void Umgebung::loadAlloy(const Komponenten& komponenten)
+{
+    readAlloy(komponenten);
     nenneBefund();
 }
 
@@ -129,14 +141,6 @@ void Umgebung::loadDocument(const std::string& file)
     } catch (const Datenfehler& error) {
         throw Datenfehler(name + error.what());
     }
-}
-
-/// Says what makes the results doubtful.
-void Umgebung::nenneBefund()
-{
-    const Ergebnislage lage = ergebnislage(m_kern.eingabe(), m_kern.eingabe(), m_kern.calc());
-    if (lage.befund)
-        melde(befundgrund(m_kern.eingabe(), *lage.befund));
 }
 
 bool Umgebung::nennt(std::string_view argument) const { return std::ranges::find(aufruf, argument) != aufruf.end(); }

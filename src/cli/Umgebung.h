@@ -39,8 +39,13 @@ public:
 
     /// Reads the elements and makes the alloy of these components, or of the formula that they are the words of, the
     /// calculator's, their parts in that unit unless the formula names another; or that of the document in the one file
-    /// that they name. Says on standard error if amounts were scaled and what makes the results doubtful. Throws
-    /// Aufruffehler or Datenfehler.
+    /// that they name. Says on standard error if amounts were scaled. Throws Aufruffehler or Datenfehler.
+    void readAlloy(const Komponenten& komponenten);
+
+    /// Says on standard error what makes the results doubtful.
+    void nenneBefund();
+
+    /// Both of them.
     void loadAlloy(const Komponenten& komponenten);
 
     Rechenkern& kern() { return m_kern; }
@@ -58,7 +63,6 @@ private:
     void loadComponents(const Komponenten& komponenten);
     void loadDocument(const std::string& file);
     void loadFormel(const Komponenten& worte);
-    void nenneBefund();
 
     StandardErrorBoxes m_boxes;
     Rechenkern m_kern{m_boxes};
