@@ -118,6 +118,16 @@ void refuseEmpty(CLI::Option& option)
     });
 }
 
+void refuseNothingBehindEquals(std::span<const std::string> call)
+{
+    for (const std::string& argument : call) {
+        if (argument == "--") // only components, formulas and file names follow
+            return;
+        if (argument.starts_with("--") && argument.ends_with('='))
+            throw Aufruffehler(gekuerzt(argument) + ": hinter dem Gleichheitszeichen steht nichts");
+    }
+}
+
 CLI::Option* Komponenten::define(CLI::App& befehl)
 {
     befehl.add_flag("--massenprozent", massenprozent, "ATPROZENT sind Massenprozent");

@@ -27,6 +27,9 @@ Aufruffehler unerwartet(const std::string& option, const std::string& given, con
 /// Has an option that takes a file refuse an empty name, which would pass for no option at all.
 void refuseEmpty(CLI::Option& option);
 
+/// Throws Aufruffehler for an argument such as "--masse=", which would take the next one for its value.
+void refuseNothingBehindEquals(std::span<const std::string> call);
+
 /// Options that several commands have. Numbers are read by the program's own rules, so they are kept as texts.
 struct Komponenten {
     CLI::Option* define(CLI::App& befehl);

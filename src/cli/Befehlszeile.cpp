@@ -56,6 +56,7 @@ try {
     defineCommands(app, umgebung);
     addHilfe(app, "");
     try {
+        refuseNothingBehindEquals(umgebung.aufruf);
         app.parse(argc, argv);
         std::cout.flush();
         return std::cout ? 0 : fail(Fehlgeschlagen, "Die Standardausgabe kann nicht geschrieben werden");
