@@ -43,7 +43,7 @@ Handbuchsuche::Handbuchsuche(QTextEdit& text, QWidget* parent)
     m_txtSuche->installEventFilter(this);
     m_lblTreffer->setObjectName(QStringLiteral("lblTreffer"));
     folgeSchrift(this, [this] {
-        m_txtSuche->setMinimumWidth(24 * fontMetrics().averageCharWidth());
+        m_txtSuche->setMinimumWidth(16 * fontMetrics().averageCharWidth());
         m_txtSuche->setFixedHeight(feldhoehe(*m_txtSuche));
         m_lblTreffer->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("Treffer 100 von 100")));
     });

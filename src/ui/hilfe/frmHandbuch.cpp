@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSplitter>
+#include <QStyle>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTreeWidget>
@@ -21,6 +22,7 @@
 #include "ui/controls/Knopfzeile.h"
 #include "ui/hilfe/Handbuchbrowser.h"
 #include "ui/hilfe/Handbuchsuche.h"
+#include "ui/hilfe/Titelumbruch.h"
 
 namespace zerna {
 
@@ -78,7 +80,8 @@ void frmHandbuch::createControls()
     m_inhalt->setObjectName(QStringLiteral("lstInhalt"));
     m_inhalt->setAccessibleName(QStringLiteral("Inhalt"));
     m_inhalt->setHeaderHidden(true);
-    m_inhalt->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // what is cut off, the tool tip tells
+    m_inhalt->setItemDelegate(new Titelumbruch(*m_inhalt));
+    m_inhalt->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_text = new Handbuchbrowser(this);
     m_text->setObjectName(QStringLiteral("txtHandbuch"));
     m_text->setAccessibleName(QStringLiteral("Handbuch"));
@@ -216,7 +219,6 @@ void frmHandbuch::fuelleInhalt()
     for (const Handbuchabschnitt& section : m_abschnitte) {
         if (section.ebene == 2 || section.ebene == 3) {
             (*entry)->setData(0, PositionRole, section.position);
-            (*entry)->setToolTip(0, section.titel);
             ++entry;
         }
     }
@@ -225,7 +227,8 @@ void frmHandbuch::fuelleInhalt()
 /// Gives the contents the width of the longest title, but not too much of the window.
 void frmHandbuch::zeigeGanzeTitel(const QString& text)
 {
-    const int edge = m_inhalt->verticalScrollBar()->sizeHint().width() + 4 * m_inhalt->frameWidth();
+    const int margin = m_inhalt->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, m_inhalt) + 1;
+    const int edge = m_inhalt->verticalScrollBar()->sizeHint().width() + 4 * m_inhalt->frameWidth() + 2 * margin;
     const int whole = titelbreite(text, m_inhalt->fontMetrics(), m_inhalt->indentation());
     const int wanted = std::min(whole + edge, width() * 2 / 5);
     m_teile->setSizes({wanted, width() - wanted});

@@ -4,6 +4,7 @@
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QScrollBar>
+#include <QSplitter>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTreeWidget>
@@ -40,6 +41,19 @@ struct HilfeTest : FakeDesk {
 
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const { QTest::keyClick(&browser(), key, modifiers); }
 };
+
+TEST_F(HilfeTest, LongTitlesOfTheContentsAreWrappedWhereTheyFindNoRoom)
+{
+    openAt("einwaage");
+    auto& contents = find<QTreeWidget>("lstInhalt");
+    const auto lines = [&](int chapter) {
+        return contents.visualItemRect(contents.topLevelItem(chapter - 1)).height() / contents.fontMetrics().height();
+    };
+    for (const auto& [width, fifthAndEighth] : {std::pair(450, 11), {180, 31}, {450, 11}}) {
+        handbuch().findChild<QSplitter*>()->setSizes({width, handbuch().width() - width});
+        EXPECT_TRUE(QTest::qWaitFor([&, all = fifthAndEighth] { return lines(5) * 10 + lines(8) == all; })) << width;
+    }
+}
 
 TEST_F(HilfeTest, EveryControlAndEveryDialogHasASectionThatIsThere)
 {
