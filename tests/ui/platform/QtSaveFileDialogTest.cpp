@@ -1,5 +1,6 @@
 #include "ui/platform/QtSaveFileDialog.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -34,7 +35,9 @@ TEST_F(QtSaveFileDialogTest, TypedNameAndTypeAreTheAnswer)
         const auto answer = [typed = typed, typeKey = typeKey, key = key](QFileDialog& shown) {
             EXPECT_EQ(shown.windowTitle(), "Daten exportieren ...");
             typeText(QString::fromUtf8(typed));
-            shown.findChild<QComboBox*>("fileTypeCombo")->setFocus();
+            auto& kinds = *shown.findChild<QComboBox*>("fileTypeCombo");
+            EXPECT_GT(kinds.view()->minimumWidth(), kinds.fontMetrics().horizontalAdvance(kinds.itemText(0)));
+            kinds.setFocus();
             press(typeKey);
             press(key);
         };
