@@ -15,8 +15,10 @@ void Kurzlabel::setText(const QString& text)
 {
     if (text == m_text)
         return;
+    const QSize before = sizeHint();
     m_text = text;
-    if (sizePolicy().horizontalPolicy() != QSizePolicy::Ignored)
+    m_breite = m_behaeltBreite && !text.isEmpty() ? sizeHint().width() : 0;
+    if (sizePolicy().horizontalPolicy() != QSizePolicy::Ignored && sizeHint() != before)
         updateGeometry();
     update();
     if (accessibleName().isEmpty() && QAccessible::isActive()) {
@@ -29,7 +31,7 @@ QSize Kurzlabel::sizeHint() const
 {
     const QFontMetrics metrics = fontMetrics();
     const int width = m_text.isEmpty() ? metrics.averageCharWidth() : metrics.size(Qt::TextSingleLine, m_text).width();
-    return {width, metrics.height()};
+    return {qMax(width, m_breite), metrics.height()};
 }
 
 void Kurzlabel::paintEvent(QPaintEvent*)

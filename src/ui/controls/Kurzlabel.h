@@ -16,6 +16,9 @@ public:
     const QString& text() const { return m_text; }
     void setText(const QString& text);
 
+    /// As long as it is not emptied it wants no less room than before: what stands beside it stays still.
+    void behalteBreite() { m_behaeltBreite = true; }
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
 
@@ -24,6 +27,8 @@ protected:
 
 private:
     QString m_text;
+    bool m_behaeltBreite = false;
+    int m_breite = 0; // that it keeps
 };
 
 } // namespace zerna

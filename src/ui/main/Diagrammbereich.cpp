@@ -97,6 +97,7 @@ void Diagrammbereich::createReadouts()
 {
     m_labelPos = new Kurzlabel(this); // no read-out widens the panel
     m_labelPos->setObjectName(QStringLiteral("LabelPos"));
+    m_labelPos->behalteBreite();
     connect(m_picDiagramm, &Diagrammflaeche::ansichtChanged, this, [this](const QString& geste) {
         wahl().ansicht = m_picDiagramm->ansicht();
         emit geschehen({QStringLiteral("Ansicht des Diagramms"), geste});

@@ -101,6 +101,21 @@ TEST_F(AufwandTest, AnotherElementRepaintsWhatItChangesAndLaysOutNothing)
         (display.width() * display.height() - find("pic").width() * find("pic").height()) / 2);
 }
 
+TEST_F(AufwandTest, TheMouseOverADiagramLaysOutNothing)
+{
+    open();
+    choose("cmbDiagramm", "Fermienergie");
+    auto& plot = find("pic");
+    QTest::mouseMove(&plot, plot.rect().center() + QPoint(20, 5));
+    QTest::qWait(10);
+    const std::string before = text("LabelPos");
+    const Ereigniszaehler counted;
+    QTest::mouseMove(&plot, plot.rect().center());
+    QCoreApplication::processEvents();
+    EXPECT_NE(text("LabelPos"), before);
+    EXPECT_EQ(counted.count(QEvent::LayoutRequest, ""), 0);
+}
+
 TEST_F(AufwandTest, AnotherElementInTheTableRepaintsItsCellAndItsData)
 {
     open();
