@@ -90,13 +90,13 @@ Kurvendiagramm::Neues Kurvendiagramm::neues(const Leinwand& leinwand)
     return {regionOf(rand), regionOf(kern)};
 }
 
-void Kurvendiagramm::paintRand(QPainter& painter, const Leinwand& leinwand, const QRegion& teil) const
+void Kurvendiagramm::paintRand(QPainter& painter, const Leinwand& leinwand, const Bildteil& teil) const
 {
     if (m_hatBild)
         zerna::paintRand(painter, m_bild, layout(leinwand), leinwand, teil);
 }
 
-void Kurvendiagramm::paintAchsen(QPainter& painter, const Leinwand& leinwand, const QRegion& teil) const
+void Kurvendiagramm::paintAchsen(QPainter& painter, const Leinwand& leinwand, const Bildteil& teil) const
 {
     if (m_hatBild)
         zerna::paintAchsen(painter, layout(leinwand), leinwand, teil);

@@ -44,8 +44,8 @@ public:
     void vergissGezeigtes() { m_gezeigt.reset(); }
 
     /// Paint one part of the picture each, or a part of that.
-    void paintRand(QPainter& painter, const Leinwand& leinwand, const QRegion& teil = {}) const;
-    void paintAchsen(QPainter& painter, const Leinwand& leinwand, const QRegion& teil = {}) const;
+    void paintRand(QPainter& painter, const Leinwand& leinwand, const Bildteil& teil = {}) const;
+    void paintAchsen(QPainter& painter, const Leinwand& leinwand, const Bildteil& teil = {}) const;
     virtual void paintPlot(QPainter& painter, const Leinwand& leinwand) const;
 
     void paint(QPainter& painter, const Leinwand& leinwand) const override;

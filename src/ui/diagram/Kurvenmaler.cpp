@@ -160,14 +160,15 @@ void paintLines(QPainter& painter, QPointF place, const QString& text, double li
     paintLines(painter, place + QPointF(0, lineHeight), text.mid(end + 1), lineHeight);
 }
 
-void paintTexts(QPainter& painter, const std::vector<Textstelle>& texte, const QFont& font, const QRegion& teil = {})
+/// Of the texts at least those in the part that is wanted.
+void paintTexts(QPainter& painter, const std::vector<Textstelle>& texte, const QFont& font, const Bildteil& teil = {})
 {
     painter.setPen(Qt::black);
     std::optional<Schrift> current;
     double ascent = 0;
     double lineHeight = 0;
     for (const Textstelle& stelle : texte) {
-        if (!teil.isEmpty() && !teil.intersects(gemalteFlaeche(stelle.box)))
+        if (teil && !teil->intersects(gemalteFlaeche(stelle.box)))
             continue;
         if (current != stelle.schrift) {
             current = stelle.schrift;
@@ -235,7 +236,7 @@ QRect gemalteFlaeche(const Rechteck& box)
 }
 
 void paintRand(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& layout, const Leinwand& leinwand,
-    const QRegion& teil)
+    const Bildteil& teil)
 {
     for (const Rechteck& strich : layout.striche)
         painter.fillRect(rectOf(strich), Qt::black);
@@ -251,7 +252,7 @@ void paintRand(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& la
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
-void paintAchsen(QPainter& painter, const Kurvenlayout& layout, const Leinwand& leinwand, const QRegion& teil)
+void paintAchsen(QPainter& painter, const Kurvenlayout& layout, const Leinwand& leinwand, const Bildteil& teil)
 {
     for (const Rechteck& strich : layout.kernstriche)
         painter.fillRect(rectOf(strich), Qt::black);

@@ -43,11 +43,13 @@ Kurvenzeichnung kurvenzeichnung(
 /// The pixels that a text or a stroke of the layout may take, some around its box included.
 QRect gemalteFlaeche(const Rechteck& box);
 
-/// Paint one part of the picture on that canvas: what stands around the axes, the axes beside the plot, the plot. Where
-/// `teil` is given, at least what is seen in it.
+/// What is to be painted of a picture, at least; none for all.
+using Bildteil = std::optional<QRegion>;
+
+/// Paint on that canvas what stands around the axes, the axes beside the plot, the plot.
 void paintRand(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& layout, const Leinwand& leinwand,
-    const QRegion& teil = {});
-void paintAchsen(QPainter& painter, const Kurvenlayout& layout, const Leinwand& leinwand, const QRegion& teil = {});
+    const Bildteil& teil = {});
+void paintAchsen(QPainter& painter, const Kurvenlayout& layout, const Leinwand& leinwand, const Bildteil& teil = {});
 void paintPlot(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& layout,
     const std::vector<Kurvenbahn>& bahnen, const Leinwand& leinwand);
 
