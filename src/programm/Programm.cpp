@@ -137,8 +137,7 @@ bool Programm::LoadElements(Hauptfenster& window)
         return true;
     const auto fill = [&](const std::shared_ptr<clsElement>& element, int position) {
         m_dokument.eingabe.setCurrentElement(element);
-        for (int list = 0; list < MaxKomponenten; ++list)
-            window.addElement(list, element->symbol(), position);
+        window.addElement(element->symbol(), position);
     };
     try {
         loadElements(m_files, m_fileHandler->FileHandle(), m_boxes, m_elementCollection, fill);
@@ -155,13 +154,12 @@ bool Programm::LoadElements(Hauptfenster& window)
 void Programm::restoreElements(Hauptfenster& window)
 {
     m_fehlendeElemente.clear();
-    for (int list = 0; list < MaxKomponenten; ++list) {
-        const std::string value =
-            m_settings.LoadSetting("Element_" + std::to_string(list), window.elementEntry(list, list));
-        const int position = window.findElementEntry(list, value);
+    for (int row = 0; row < MaxKomponenten; ++row) {
+        const std::string value = m_settings.LoadSetting("Element_" + std::to_string(row), window.elementEntry(row));
+        const int position = window.findElementEntry(value);
         if (position < 0 && !value.empty())
-            m_fehlendeElemente += "\r\nKomponente " + std::to_string(list + 1) + ": " + gekuerzt(value);
-        window.ComboElementListIndex(list, position);
+            m_fehlendeElemente += "\r\nKomponente " + std::to_string(row + 1) + ": " + gekuerzt(value);
+        window.ComboElementListIndex(row, position);
     }
 }
 

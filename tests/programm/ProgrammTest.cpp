@@ -1,7 +1,6 @@
 #include "programm/Programm.h"
 
 #include <algorithm>
-#include <map>
 
 #include "core/Plattform.h"
 #include "core/Zahlentext.h"
@@ -22,18 +21,14 @@ public:
     {
     }
 
-    void addElement(int list, std::string_view symbol, int itemData) override
+    void addElement(std::string_view symbol, int itemData) override
     {
-        lists[list].emplace_back(symbol);
-        EXPECT_EQ(itemData, std::ssize(lists[list]));
+        entries.emplace_back(symbol);
+        EXPECT_EQ(itemData, std::ssize(entries));
     }
-    std::string elementEntry(int list, int position) const override
+    std::string elementEntry(int position) const override { return entries.at(static_cast<std::size_t>(position)); }
+    int findElementEntry(std::string_view text) const override
     {
-        return lists.at(list).at(static_cast<std::size_t>(position));
-    }
-    int findElementEntry(int list, std::string_view text) const override
-    {
-        const auto& entries = lists.at(list);
         const auto found = std::ranges::find(entries, text);
         return found == entries.end() ? -1 : static_cast<int>(found - entries.begin());
     }
@@ -47,7 +42,7 @@ public:
     }
     void show() override { log("show", 0, m_programm.StartupDone() ? 1 : 0); }
 
-    std::map<int, std::vector<std::string>> lists;
+    std::vector<std::string> entries;
     std::string calls;
 
 private:
@@ -84,9 +79,7 @@ TEST_F(ProgrammTest, FirstStartWritesTheBuiltInTableAndFillsTheWindow)
 {
     ASSERT_TRUE(start());
     EXPECT_EQ(bytesOf(dataFile), builtIn);
-    EXPECT_EQ(window->lists.size(), 5U);
-    for (const auto& [list, symbols] : window->lists)
-        EXPECT_EQ(symbols, (std::vector<std::string>{"H", "He", "Li", "Be", "B", "C"}));
+    EXPECT_EQ(window->entries, (std::vector<std::string>{"H", "He", "Li", "Be", "B", "C"}));
     EXPECT_EQ(window->calls, "row 0 0\nrow 1 1\nrow 2 2\nrow 3 3\nrow 4 4\ndiagram 0 0\ncompute 0 1\nshow 0 1\n");
     EXPECT_EQ(programm.SelectedElement()->symbol(), "H");
     EXPECT_EQ(programm.CurrentElement()->symbol(), "C");

@@ -161,10 +161,8 @@ void Kompositionsbereich::restoreCount()
         naechsteKomponentenzahl(gespeicherteKomponentenzahl(m_programm.settings().LoadSetting("Komponenten", "2")), 1));
 }
 
-void Kompositionsbereich::addElement(int list, std::string_view symbol, int itemData)
+void Kompositionsbereich::addElement(std::string_view symbol, int itemData)
 {
-    if (list != 0)
-        return; // all lists show what the first one is given
     at(0).addElement(symbol, itemData);
     if (m_elemente->rowCount() > 1)
         return;
@@ -172,19 +170,13 @@ void Kompositionsbereich::addElement(int list, std::string_view symbol, int item
         zeile->waehleKeines();
 }
 
-std::string Kompositionsbereich::elementEntry(int list, int position) const
-{
-    return fromQt(at(list).elementEntry(position));
-}
+std::string Kompositionsbereich::elementEntry(int position) const { return fromQt(at(0).elementEntry(position)); }
 
-int Kompositionsbereich::findElementEntry(int list, std::string_view text) const
-{
-    return at(list).findElementEntry(text);
-}
+int Kompositionsbereich::findElementEntry(std::string_view text) const { return at(0).findElementEntry(text); }
 
 void Kompositionsbereich::chooseElement(int row, int position)
 {
-    if (const std::string key = elementEntry(row, position); !key.empty())
+    if (const std::string key = elementEntry(position); !key.empty())
         elementChosen(row, key);
 }
 

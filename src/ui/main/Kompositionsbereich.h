@@ -33,10 +33,10 @@ public:
     /// Shows one row more than the stored component count.
     void restoreCount();
 
-    // The element lists, as start-up fills them.
-    void addElement(int list, std::string_view symbol, int itemData);
-    std::string elementEntry(int list, int position) const;
-    int findElementEntry(int list, std::string_view text) const;
+    // The entries of all element lists, as start-up fills them.
+    void addElement(std::string_view symbol, int itemData);
+    std::string elementEntry(int position) const;
+    int findElementEntry(std::string_view text) const;
     void nenneElemente(); ///< once the elements are loaded
 
     /// Chooses an entry of a row's element list; nothing for a position outside.

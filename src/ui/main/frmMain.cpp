@@ -218,7 +218,7 @@ void frmMain::connectPanels()
         [this] { m_diagramm->zeige(m_programm.Eingabe(), {}); });
     connect(m_ergebnisse, &Ergebnisbereich::befundGewaehlt, m_komposition, &Kompositionsbereich::gehZu);
     connect(m_pse, &PSEbereich::componentChosen, this,
-        [this](int row, const QString& symbol) { ComboElementListIndex(row, findElementEntry(row, fromQt(symbol))); });
+        [this](int row, const QString& symbol) { ComboElementListIndex(row, findElementEntry(fromQt(symbol))); });
     connect(m_diagramm, &Diagrammbereich::dreiKomponentenRequested, this, [this] {
         const Verlauf::Handlung handlung(m_verlauf, {QStringLiteral("Drei Komponenten")});
         m_komposition->setAnzahl(3);
@@ -232,17 +232,11 @@ void frmMain::connectPanels()
 
 void frmMain::ComboElementListIndex(int index, int listIndex) { m_komposition->chooseElement(index, listIndex); }
 
-void frmMain::addElement(int list, std::string_view symbol, int itemData)
-{
-    m_komposition->addElement(list, symbol, itemData);
-}
+void frmMain::addElement(std::string_view symbol, int itemData) { m_komposition->addElement(symbol, itemData); }
 
-std::string frmMain::elementEntry(int list, int position) const { return m_komposition->elementEntry(list, position); }
+std::string frmMain::elementEntry(int position) const { return m_komposition->elementEntry(position); }
 
-int frmMain::findElementEntry(int list, std::string_view text) const
-{
-    return m_komposition->findElementEntry(list, text);
-}
+int frmMain::findElementEntry(std::string_view text) const { return m_komposition->findElementEntry(text); }
 
 void frmMain::selectFirstDiagram()
 {

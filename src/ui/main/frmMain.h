@@ -42,9 +42,9 @@ public:
     /// Selects an entry of an element list and runs the element choice of its row; nothing for a position outside.
     void ComboElementListIndex(int index, int listIndex) override;
 
-    void addElement(int list, std::string_view symbol, int itemData) override;
-    std::string elementEntry(int list, int position) const override;
-    int findElementEntry(int list, std::string_view text) const override;
+    void addElement(std::string_view symbol, int itemData) override;
+    std::string elementEntry(int position) const override;
+    int findElementEntry(std::string_view text) const override;
     void selectFirstDiagram() override;
     void compute() override;
     void sperren(std::string_view grund) override;
