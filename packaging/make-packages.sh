@@ -38,11 +38,11 @@ printed=$scratch/deb/debian/zerna-doc
 mkdir -p -- "$printed/$docs/zerna" "$printed/$docs/zerna-doc"
 mv -- "$tree/$docs/zerna/handbuch.pdf" "$printed/$docs/zerna"
 cp -- "$tree/$docs/zerna"/{copyright,changelog.gz} "$printed/$docs/zerna-doc"
-dpkg-shlibdeps "$tree"/usr/lib/zerna/zerna*
+dpkg-shlibdeps -Tdebian/zerna.substvars "$tree"/usr/lib/zerna/zerna*
 for package in zerna zerna-doc; do
     tree=$scratch/deb/debian/$package
     mkdir "$tree/DEBIAN"
-    dpkg-gencontrol "-p$package" -P"$tree"
+    dpkg-gencontrol "-p$package" "-Tdebian/$package.substvars" -P"$tree"
     (cd -- "$tree" && find usr -type f -exec md5sum {} + | LC_ALL=C sort -k 2 >DEBIAN/md5sums)
     dpkg-deb --root-owner-group -Zxz --build "$tree" "$packages"
 done
