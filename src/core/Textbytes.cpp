@@ -9,26 +9,6 @@ namespace zerna {
 
 namespace {
 
-void append(std::string& text, std::uint32_t codePoint)
-{
-    const auto following = [&](unsigned shift) { text += static_cast<char>(0x80U | (codePoint >> shift & 0x3FU)); };
-    if (codePoint < 0x80) {
-        text += static_cast<char>(codePoint);
-    } else if (codePoint < 0x800) {
-        text += static_cast<char>(0xC0U | codePoint >> 6U);
-        following(0);
-    } else if (codePoint < 0x10000) {
-        text += static_cast<char>(0xE0U | codePoint >> 12U);
-        following(6);
-        following(0);
-    } else {
-        text += static_cast<char>(0xF0U | codePoint >> 18U);
-        following(12);
-        following(6);
-        following(0);
-    }
-}
-
 constexpr bool isHighSurrogate(std::uint32_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
 constexpr bool isLowSurrogate(std::uint32_t unit) { return unit >= 0xDC00 && unit < 0xE000; }
 
@@ -45,12 +25,12 @@ std::string fromUtf16(std::string_view bytes, bool littleEndian)
     for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
         const std::uint32_t unit = unitAt(i);
         if (!isHighSurrogate(unit)) {
-            append(text, isLowSurrogate(unit) ? '?' : unit);
+            appendUtf8(text, isLowSurrogate(unit) ? '?' : unit);
         } else if (i + 3 < bytes.size() && isLowSurrogate(unitAt(i + 2))) {
-            append(text, 0x10000 + ((unit - 0xD800) << 10U) + (unitAt(i + 2) - 0xDC00));
+            appendUtf8(text, 0x10000 + ((unit - 0xD800) << 10U) + (unitAt(i + 2) - 0xDC00));
             i += 2;
         } else {
-            append(text, '?');
+            appendUtf8(text, '?');
         }
     }
     return text;

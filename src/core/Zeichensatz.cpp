@@ -70,21 +70,27 @@ std::uint32_t nextCodePoint(std::string_view utf8, std::size_t& position)
     return damaged || following != 0 || codePoint < smallest ? Damaged : codePoint;
 }
 
+} // namespace
+
 void appendUtf8(std::string& text, std::uint32_t codePoint)
 {
+    const auto following = [&](unsigned shift) { text += static_cast<char>(0x80U | (codePoint >> shift & 0x3FU)); };
     if (codePoint < 0x80) {
         text += static_cast<char>(codePoint);
     } else if (codePoint < 0x800) {
         text += static_cast<char>(0xC0U | codePoint >> 6U);
-        text += static_cast<char>(0x80U | (codePoint & 0x3FU));
-    } else {
+        following(0);
+    } else if (codePoint < 0x10000) {
         text += static_cast<char>(0xE0U | codePoint >> 12U);
-        text += static_cast<char>(0x80U | (codePoint >> 6U & 0x3FU));
-        text += static_cast<char>(0x80U | (codePoint & 0x3FU));
+        following(6);
+        following(0);
+    } else {
+        text += static_cast<char>(0xF0U | codePoint >> 18U);
+        following(12);
+        following(6);
+        following(0);
     }
 }
-
-} // namespace
 
 std::string toWindows1252(std::string_view utf8)
 {

@@ -1,12 +1,16 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 
 /// Text inside the program is UTF-8, text in files is Windows-1252, one byte per character.
 namespace zerna {
+
+/// Appends a character, by its number in Unicode.
+void appendUtf8(std::string& text, std::uint32_t codePoint);
 
 /// UTF-8 to Windows-1252; a character that has no place there, and a damaged UTF-8 sequence, becomes "?".
 std::string toWindows1252(std::string_view utf8);
