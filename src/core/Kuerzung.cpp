@@ -1,12 +1,14 @@
 #include "core/Kuerzung.h"
 
+#include "core/Zeichensatz.h"
+
 namespace zerna {
 
 namespace {
 
 bool isInsideCharacter(std::string_view text, std::size_t position)
 {
-    return position < text.size() && (static_cast<unsigned char>(text[position]) & 0xC0U) == 0x80;
+    return position < text.size() && !beginntZeichen(text[position]);
 }
 
 } // namespace

@@ -216,8 +216,7 @@ std::string textOfDouble(double value, Dezimaltrenner trenner)
         return wholeText(value);
     if (!std::isfinite(value))
         return {};
-    // A double whose shortest text has no more than 15 digits has the same 15 significant digits, and finding the
-    // shortest text is several times faster than rounding.
+    // Nearly every number that someone types or reads: its shortest text has no more digits than are reliable.
     if (std::abs(value) >= FirstPlain && std::abs(value) < FirstWithExponent) {
         constexpr std::size_t DigitsAndSeparator = 16;
         std::string text;
@@ -225,8 +224,7 @@ std::string textOfDouble(double value, Dezimaltrenner trenner)
         if (text.size() <= DigitsAndSeparator)
             return text;
     }
-    const Ziffern shortest = shortestDigits(value);
-    return layOut(shortest.count <= 15 ? shortest : roundedDigits(value, 15), trenner);
+    return layOut(decimalDigits(value), trenner);
 }
 
 std::string textWithDigits(double value, int digits, Dezimaltrenner trenner)

@@ -59,7 +59,7 @@ std::uint32_t nextCodePoint(std::string_view utf8, std::size_t& position)
     constexpr std::array<std::uint32_t, 4> Smallest{0, 0x80, 0x800, 0x10000}; // of so many following bytes
     const std::uint32_t smallest = Smallest.at(following);
     bool damaged = following == 0;
-    for (; position < utf8.size() && (static_cast<unsigned char>(utf8[position]) & 0xC0U) == 0x80; ++position) {
+    for (; position < utf8.size() && !beginntZeichen(utf8[position]); ++position) {
         if (following == 0) {
             damaged = true;
             continue;
