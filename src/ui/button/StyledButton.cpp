@@ -196,6 +196,17 @@ void StyledButton::changeEvent(QEvent* event)
     QAbstractButton::changeEvent(event);
 }
 
+/// A switch turns with its mnemonic at once: the toolkit gives it the focus a moment earlier, and screen readers would
+/// call it off.
+bool StyledButton::event(QEvent* event)
+{
+    if (event->type() != QEvent::Shortcut || !isCheckable() || static_cast<QShortcutEvent*>(event)->isAmbiguous())
+        return QAbstractButton::event(event);
+    setFocus(Qt::ShortcutFocusReason);
+    click();
+    return true;
+}
+
 void StyledButton::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
