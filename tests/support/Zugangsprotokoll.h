@@ -63,8 +63,10 @@ private:
         const QAccessibleInterface* const read = event->accessibleInterface();
         const bool isResult = // fields of the toolkit tell their texts themselves
             event->type() == QAccessible::TextUpdated && qobject_cast<QLineEdit*>(event->object()) == nullptr;
+        const bool isSpoken =
+            event->type() == QAccessible::ObjectShow && read != nullptr && read->role() == QAccessible::Notification;
         const char* kind = event->type() == QAccessible::Focus ? "Focus"
-            : event->type() == QAccessible::Alert              ? "Alert"
+            : isSpoken                                         ? "Alert"
             : event->type() == QAccessible::NameChanged        ? "Name"
             : event->type() == QAccessible::ValueChanged       ? "Value"
             : isResult                                         ? "Value"

@@ -11,6 +11,8 @@
 #include "ui/controls/Kurzmeldung.h"
 #include "ui/controls/Wertanzeige.h"
 #include "ui/controls/WertanzeigeZugang.h"
+#include "ui/controls/Wertfeld.h"
+#include "ui/controls/WertfeldZugang.h"
 #include "ui/diagram/Bildvorschau.h"
 #include "ui/diagram/DiagrammZugang.h"
 #include "ui/diagram/Diagrammflaeche.h"
@@ -20,6 +22,7 @@
 #include "ui/main/Elementkarte.h"
 #include "ui/main/Periodentafel.h"
 #include "ui/main/PeriodentafelZugang.h"
+#include "ui/platform/Durchsage.h"
 
 namespace zerna {
 
@@ -40,6 +43,8 @@ QAccessibleInterface* makePlain(QObject* widget)
 {
     return new QAccessibleWidget(static_cast<QWidget*>(widget), Role);
 }
+
+QAccessibleInterface* makeDurchsage(QObject* durchsage) { return new DurchsageZugang(durchsage); }
 
 QAccessibleInterface* makeDisplay(QObject* widget)
 {
@@ -62,16 +67,20 @@ QAccessibleInterface* zugangOf(const QString& className, QObject* object)
         {QStringLiteral("zerna::StyledButton"), make<StyledButton, StyledButtonZugang>},
         {QStringLiteral("zerna::Befundzeile"), make<Befundzeile, BefundzeileZugang>},
         {QStringLiteral("zerna::Wertanzeige"), make<Wertanzeige, WertanzeigeZugang>},
+        {QStringLiteral("zerna::Wertfeld"), make<Wertfeld, WertfeldZugang>},
         {QStringLiteral("zerna::Kurzlabel"), make<Kurzlabel, KurzlabelZugang>},
         {QStringLiteral("zerna::conLabel"), make<conLabel, conLabelZugang>},
         {QStringLiteral("zerna::Periodentafel"), make<Periodentafel, PeriodentafelZugang>},
         {QStringLiteral("zerna::conDisplay"), makeDisplay},
         {QStringLiteral("zerna::Diagrammflaeche"), makeFlaeche},
-        {QStringLiteral("zerna::Kurzmeldung"), makePlain<QAccessible::Notification>},
+        {QStringLiteral("zerna::Kurzmeldung"), makePlain<QAccessible::StaticText>},
         {QStringLiteral("zerna::Elementkarte"), makePlain<QAccessible::Grouping>},
         {QStringLiteral("zerna::Bildvorschau"), makePlain<QAccessible::Graphic>},
+        {QStringLiteral("zerna::Durchsage"), makeDurchsage},
+        // The toolkit's own layers are spoken at each way into them.
+        {QStringLiteral("QStackedWidget"), makePlain<QAccessible::Client>},
     };
-    const Maker maker = object != nullptr && object->isWidgetType() ? makers.value(className) : nullptr;
+    const Maker maker = object != nullptr ? makers.value(className) : nullptr;
     return maker != nullptr ? maker(object) : nullptr;
 }
 

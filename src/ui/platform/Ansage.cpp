@@ -5,6 +5,8 @@
 #include <chrono>
 #include <utility>
 
+#include "ui/platform/Durchsage.h"
+
 namespace zerna {
 
 namespace {
@@ -54,10 +56,16 @@ void sageSofort(QWidget& message)
 {
     if (!QAccessible::isActive())
         return;
-    for (const auto type : {QAccessible::ObjectShow, QAccessible::Alert}) {
-        QAccessibleEvent event(&message, type);
+    auto* spoken = message.findChild<Durchsage*>(QString(), Qt::FindDirectChildrenOnly);
+    if (spoken == nullptr)
+        spoken = new Durchsage(&message);
+    const auto tell = [](QObject* object, QAccessible::Event type) {
+        QAccessibleEvent event(object, type);
         QAccessible::updateAccessibility(&event);
-    }
+    };
+    tell(spoken, QAccessible::NameChanged);
+    tell(spoken, QAccessible::ObjectShow);
+    tell(&message, QAccessible::Alert);
 }
 
 } // namespace zerna

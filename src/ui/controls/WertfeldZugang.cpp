@@ -1,0 +1,107 @@
+#include "ui/controls/WertfeldZugang.h"
+
+#include "ui/controls/Wertfeld.h"
+
+namespace zerna {
+
+WertfeldZugang::WertfeldZugang(Wertfeld& feld)
+    : QAccessibleWidget(&feld, QAccessible::EditableText)
+    , m_feld(feld)
+{
+}
+
+QAccessible::State WertfeldZugang::state() const
+{
+    QAccessible::State state = QAccessibleWidget::state();
+    state.readOnly = m_feld.isReadOnly();
+    state.editable = !m_feld.isReadOnly();
+    state.selectableText = true;
+    return state;
+}
+
+QString WertfeldZugang::text(QAccessible::Text kind) const
+{
+    if (kind == QAccessible::Value)
+        return m_feld.text();
+    const QString said = QAccessibleWidget::text(kind);
+    return said.isEmpty() && kind == QAccessible::Description ? m_feld.placeholderText() : said;
+}
+
+void WertfeldZugang::setText(QAccessible::Text kind, const QString& text)
+{
+    if (kind == QAccessible::Value)
+        replaceText(0, characterCount(), text);
+    else
+        QAccessibleWidget::setText(kind, text);
+}
+
+void* WertfeldZugang::interface_cast(QAccessible::InterfaceType type)
+{
+    if (type == QAccessible::TextInterface)
+        return static_cast<QAccessibleTextInterface*>(this);
+    if (type == QAccessible::EditableTextInterface)
+        return static_cast<QAccessibleEditableTextInterface*>(this);
+    return QAccessibleWidget::interface_cast(type);
+}
+
+void WertfeldZugang::selection(int, int* start, int* end) const
+{
+    *start = qMax(0, m_feld.selectionStart()); // -1 for none
+    *end = qMax(0, m_feld.selectionEnd());
+}
+
+int WertfeldZugang::selectionCount() const { return m_feld.hasSelectedText() ? 1 : 0; }
+
+void WertfeldZugang::addSelection(int start, int end) { setSelection(0, start, end); }
+
+void WertfeldZugang::removeSelection(int) { m_feld.deselect(); }
+
+void WertfeldZugang::setSelection(int, int start, int end) { m_feld.setSelection(start, end - start); }
+
+int WertfeldZugang::cursorPosition() const { return m_feld.cursorPosition(); }
+
+void WertfeldZugang::setCursorPosition(int position) { m_feld.setCursorPosition(position); }
+
+QString WertfeldZugang::text(int start, int end) const { return m_feld.text().mid(start, end - start); }
+
+int WertfeldZugang::characterCount() const { return static_cast<int>(m_feld.text().size()); }
+
+QRect WertfeldZugang::characterRect(int offset) const
+{
+    const QString text = m_feld.text();
+    const QFontMetrics metrics = m_feld.fontMetrics();
+    const auto left = [&](int at) { return metrics.horizontalAdvance(text.left(at)); };
+    QRect place = m_feld.inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    place.moveLeft(place.center().x() + left(offset) - left(m_feld.cursorPosition()));
+    place.setWidth(left(offset + 1) - left(offset));
+    return {m_feld.mapToGlobal(place.topLeft()), place.size()};
+}
+
+int WertfeldZugang::offsetAtPoint(const QPoint& point) const
+{
+    return m_feld.cursorPositionAt(m_feld.mapFromGlobal(point));
+}
+
+void WertfeldZugang::scrollToSubstring(int start, int end)
+{
+    m_feld.setCursorPosition(end);
+    m_feld.setCursorPosition(start);
+}
+
+QString WertfeldZugang::attributes(int, int* start, int* end) const
+{
+    *start = 0;
+    *end = characterCount();
+    return {};
+}
+
+/// As if it were typed.
+void WertfeldZugang::replaceText(int start, int end, const QString& text)
+{
+    if (m_feld.isReadOnly() || !m_feld.isEnabled())
+        return;
+    m_feld.setSelection(start, end - start);
+    m_feld.insert(text);
+}
+
+} // namespace zerna
