@@ -195,6 +195,14 @@ void Wertfeld::keyPressEvent(QKeyEvent* event)
         QLineEdit::keyPressEvent(event);
 }
 
+/// Takes a number whole: to the toolkit the decimal comma parts words, and what is typed next would join the rest.
+void Wertfeld::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    QLineEdit::mouseDoubleClickEvent(event);
+    if (numberIn(fromQt(text())))
+        selectAll();
+}
+
 void Wertfeld::contextMenuEvent(QContextMenuEvent* event)
 {
     QMenu* const menu = createStandardContextMenu();

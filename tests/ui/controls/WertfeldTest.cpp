@@ -21,6 +21,18 @@ TEST(WertfeldTest, WrittenValueIsNotTakenForTyping)
     EXPECT_EQ(typed, 2);
 }
 
+TEST(WertfeldTest, ADoubleClickTakesANumberWholeAndAWordOfAFormula)
+{
+    Wertfeld feld;
+    feld.resize(200, 26);
+    for (const auto& [typed, taken] :
+        {std::pair("32,203", "32,203"), std::pair("1,5e-3", "1,5e-3"), std::pair("z_Cu-1", "z_Cu")}) {
+        feld.setWert(typed, false);
+        QTest::mouseDClick(&feld, Qt::LeftButton, {}, QPoint(12, 13));
+        EXPECT_EQ(feld.selectedText(), taken);
+    }
+}
+
 TEST(WertfeldTest, TheFormulaIsReadableBeforeTheEcho)
 {
     Wertfeld feld;
