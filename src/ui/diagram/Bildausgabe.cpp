@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QDate>
+#include <QFileInfo>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -10,6 +11,8 @@
 #include <algorithm>
 
 #include "core/Laufzeitfehler.h"
+#include "ui/platform/Druckausgang.h"
+#include "ui/platform/QtText.h"
 
 namespace zerna {
 
@@ -39,10 +42,12 @@ QRectF paintFooter(QPainter& painter, const QRectF& page)
     return page.adjusted(0, 0, 0, -(1 + Gap) * height);
 }
 
-/// The picture as large as the page allows, in the middle of its width.
-void paintPage(QPrinter& printer, const Bildmaler& maler, const Leinwand& leinwand)
+/// The picture as large as the page allows, in the middle of its width. Whether the page could be put onto the printer.
+bool paintPage(QPrinter& printer, const Bildmaler& maler, const Leinwand& leinwand)
 {
-    QPainter painter(&printer);
+    QPainter painter;
+    if (!painter.begin(&printer))
+        return false;
     const QRectF page(QPointF(0, 0), printer.pageRect(QPrinter::DevicePixel).size());
     const QRectF room = paintFooter(painter, page);
     const QSizeF size = leinwand.size;
@@ -50,6 +55,7 @@ void paintPage(QPrinter& printer, const Bildmaler& maler, const Leinwand& leinwa
     painter.translate((room.width() - scale * size.width()) / 2, 0);
     painter.scale(scale, scale);
     maler(painter, onPaper(leinwand));
+    return painter.end();
 }
 
 } // namespace
@@ -92,7 +98,7 @@ bool canPrint()
 #endif
 }
 
-void printPicture(QWidget* parent, const Bildmaler& maler, const Leinwand& leinwand)
+std::optional<std::string> printPicture(QWidget* parent, const Bildmaler& maler, const Leinwand& leinwand)
 {
     constexpr QMarginsF Margins(15, 15, 15, 12); // mm
     const QSize size = leinwand.size;
@@ -103,8 +109,11 @@ void printPicture(QWidget* parent, const Bildmaler& maler, const Leinwand& leinw
     printer.setPageMargins(Margins, QPageLayout::Millimeter);
     QPrintDialog dialog(&printer, parent);
     dialog.setWindowTitle(QStringLiteral("Drucken"));
-    if (dialog.exec() == QDialog::Accepted)
-        paintPage(printer, maler, leinwand);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::string();
+    if (!paintPage(printer, maler, leinwand) || !istGedruckt(printer))
+        return std::nullopt;
+    return fromQt(QFileInfo(printer.outputFileName()).fileName());
 }
 
 } // namespace zerna

@@ -2,6 +2,7 @@
 
 #include <QImage>
 
+#include <optional>
 #include <string>
 
 #include "programm/Exportart.h"
@@ -27,7 +28,7 @@ Exportart bitmap(const Bildmaler& maler, const Leinwand& leinwand);
 bool canPrint();
 
 /// Asks for a printer and prints the picture as large as the page allows, laid out as on the screen, with the date
-/// below it.
-void printPicture(QWidget* parent, const Bildmaler& maler, const Leinwand& leinwand);
+/// below it. Answers the name of the file where it was printed to one; nothing if it could not be printed.
+std::optional<std::string> printPicture(QWidget* parent, const Bildmaler& maler, const Leinwand& leinwand);
 
 } // namespace zerna

@@ -158,11 +158,15 @@ void Diagrammflaeche::savePicture()
 
 void Diagrammflaeche::print()
 {
-    if (canPrint())
-        printPicture(this, m_diagramm->maler(), leinwand());
-    else
-        m_programm.boxes().show(Icon::Exclamation, Programmtitel,
+    if (!canPrint())
+        return m_programm.boxes().show(Icon::Exclamation, Programmtitel,
             "Es ist kein Drucker eingerichtet. „Bild speichern“ gibt das Diagramm auch als PDF-Dokument aus.");
+    const std::optional<std::string> file = printPicture(this, m_diagramm->maler(), leinwand());
+    if (!file)
+        m_programm.boxes().show(Icon::Exclamation, Programmtitel,
+            "Das Diagramm konnte nicht gedruckt werden. „Bild speichern“ gibt es auch als PDF-Dokument aus.");
+    else if (!file->empty())
+        m_dialoge.save.gespeichert(*file);
 }
 
 void Diagrammflaeche::contextMenuEvent(QContextMenuEvent* event)

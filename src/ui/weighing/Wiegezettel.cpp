@@ -11,6 +11,7 @@
 
 #include <algorithm>
 
+#include "ui/platform/Druckausgang.h"
 #include "ui/platform/Pdfanhang.h"
 #include "ui/platform/QtText.h"
 
@@ -123,7 +124,7 @@ void druckeWiegezettel(QWidget* parent, MessageBoxes& boxes, const Wiegeprotokol
     dialog.setWindowTitle(QStringLiteral("Wiegezettel drucken"));
     if (dialog.exec() != QDialog::Accepted)
         return;
-    if (!print(printer, protokoll) || printer.printerState() == QPrinter::Error)
+    if (!print(printer, protokoll) || !istGedruckt(printer))
         boxes.show(Icon::Exclamation, Programmtitel, "Der Wiegezettel konnte nicht gedruckt werden.");
 }
 

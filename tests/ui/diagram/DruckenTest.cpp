@@ -1,8 +1,12 @@
 #include <QPainter>
+#include <QPrinter>
+
+#include <fstream>
 
 #include "support/Druckdialog.h"
 #include "support/TemporaryFolder.h"
 #include "ui/diagram/Bildausgabe.h"
+#include "ui/platform/Druckausgang.h"
 
 namespace zerna {
 
@@ -21,7 +25,9 @@ TEST(DruckenTest, PictureFillsThePageThatTheUserPrintsToAFileLaidOutAsOnTheScree
             painter.setFont(leinwand.font);
             letters = painter.fontMetrics().height();
         };
-        printTo(file, "Drucken", [&] { printPicture(nullptr, maler, {size, {}}); });
+        std::optional<std::string> named;
+        printTo(file, "Drucken", [&] { named = printPicture(nullptr, maler, {size, {}}); });
+        EXPECT_EQ(named, std::filesystem::path(file).filename().string());
         EXPECT_EQ(page.width() > page.height(), size.width() > size.height());
         EXPECT_DOUBLE_EQ(printed.width() / printed.height(), static_cast<double>(size.width()) / size.height());
         const double filled = std::max(printed.width() / page.width(), printed.height() / page.height());
@@ -29,6 +35,17 @@ TEST(DruckenTest, PictureFillsThePageThatTheUserPrintsToAFileLaidOutAsOnTheScree
         EXPECT_GT(filled, 0.93) << "the date wants a line";
         EXPECT_NEAR(letters, QFontMetricsF(QFont()).height(), 1) << "as high in the picture as they were measured";
         EXPECT_TRUE(bytesOf(file).starts_with("%PDF-"));
+    }
+}
+
+TEST(DruckenTest, AFileThatTheDiskHadNoRoomForIsNotPrinted)
+{
+    const TemporaryFolder folder;
+    QPrinter printer;
+    printer.setOutputFileName(QString::fromStdString((folder / "bild.pdf").string()));
+    for (const char* const written : {"", "%PDF-1.4 1 0 obj", "%PDF-1.4 trailer 1234 %%EOF\n"}) {
+        std::ofstream(folder / "bild.pdf") << written;
+        EXPECT_EQ(istGedruckt(printer), std::string_view(written).ends_with('\n')) << written;
     }
 }
 
