@@ -6,7 +6,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 
-#include <numeric>
+#include <algorithm>
 
 #include "ui/platform/Ansage.h"
 #include "ui/platform/Anzeige.h"
@@ -15,26 +15,6 @@
 namespace zerna {
 
 namespace {
-
-/// The font, as much narrower as a text needs it that is too wide. Each width is a font of its own to the toolkit: few
-/// are tried.
-QFont narrower(const QFont& font, const QString& text, int width)
-{
-    constexpr int Narrowest = 75; // percent
-    constexpr int Normal = 100;
-    const auto stretched = [&font](int stretch) {
-        QFont result = font;
-        result.setStretch(stretch);
-        return result;
-    };
-    int fits = Narrowest;
-    for (int over = Normal; over - fits > 1;) {
-        const int middle = std::midpoint(fits, over);
-        const bool isTooWide = QFontMetrics(stretched(middle)).horizontalAdvance(text) > width;
-        (isTooWide ? over : fits) = middle;
-    }
-    return stretched(fits);
-}
 
 /// One line of text from a place on, in the middle of a height. The toolkit's own alignment lays the text out first,
 /// which takes longer than drawing it.
@@ -174,15 +154,19 @@ QRect Wertanzeige::numberArea() const { return {0, 0, m_margin + m_numberWidth, 
 
 void Wertanzeige::paintNumber(QPainter& painter) const
 {
+    constexpr double Narrowest = 0.75;
     const QString number = gezeigt(m_text.chopped(m_einheit.size()).trimmed());
     const QRect area = numberArea();
-    double width = QFontMetricsF(font()).horizontalAdvance(number);
-    if (qRound(width) > area.width()) {
-        painter.setFont(narrower(font(), number, area.width()));
-        width = QFontMetricsF(painter.font()).horizontalAdvance(number);
-    }
-    drawLine(painter, area.width() - width, area, number);
-    painter.setFont(font());
+    const double width = QFontMetricsF(font()).horizontalAdvance(number);
+    if (qRound(width) <= area.width())
+        return drawLine(painter, area.width() - width, area, number);
+    // Narrower by the painter: to the toolkit each width of a font is a font of its own, which it takes long to load.
+    const double scale = std::max(Narrowest, area.width() / width);
+    painter.save();
+    painter.translate(area.width() - scale * width, 0);
+    painter.scale(scale, 1);
+    drawLine(painter, 0, area, number);
+    painter.restore();
 }
 
 void Wertanzeige::paintEvent(QPaintEvent* event)
