@@ -65,8 +65,9 @@ QString elidedLines(const QString& caption, const QFontMetrics& metrics, int wid
 /// Looked for once: asking the toolkit for a family that is missing costs a search each time.
 const QStringList& captionFamilies()
 {
-    static const QStringList families =
-        QFontDatabase::hasFamily(QStringLiteral("Tahoma")) ? QStringList{QStringLiteral("Tahoma")} : QStringList();
+    static const QStringList families = QFontDatabase::families().contains(QStringLiteral("Tahoma"))
+        ? QStringList{QStringLiteral("Tahoma")}
+        : QStringList();
     return families;
 }
 
@@ -180,19 +181,20 @@ std::optional<ButtonTheme> StyledButton::applicationTheme()
     return theme.isValid() ? std::optional(theme.value<ButtonTheme>()) : std::nullopt;
 }
 
-QSize StyledButton::sizeHint() const { return sizeAround(fontMetrics().size(Qt::TextShowMnemonic, text())); }
+QSize StyledButton::sizeHint() const { return sizeAround(captionSize()); }
 
 QSize StyledButton::minimumSizeHint() const
 {
-    const QFontMetrics metrics = fontMetrics();
-    const QSize caption = metrics.size(Qt::TextShowMnemonic, text());
-    return sizeAround(QSize(std::min(caption.width(), 3 * metrics.averageCharWidth()), caption.height()));
+    const QSize caption = captionSize();
+    return sizeAround(QSize(std::min(caption.width(), 3 * fontMetrics().averageCharWidth()), caption.height()));
 }
 
 void StyledButton::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange)
         refreshTheme();
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        m_measured.reset();
     QAbstractButton::changeEvent(event);
 }
 
@@ -225,7 +227,7 @@ void StyledButton::paintEvent(QPaintEvent*)
     const ButtonLook look = lookOf(m_theme, condition());
     const QRect inside = paintFrame(painter, look).toAlignedRect();
     const QRect area = inside.adjusted(SmallestMargin, 0, -SmallestMargin, 0);
-    const QSize caption = fontMetrics().size(Qt::TextShowMnemonic, text());
+    const QSize caption = captionSize();
     const ContentGeometry content = layOutContent(area, pictureSize(), caption);
     const bool fits = caption.width() <= content.caption.width();
     paintPicture(painter, content.picture);
@@ -255,6 +257,14 @@ QSize StyledButton::pictureSize() const
     for (const auto& [state, picture] : m_pictures)
         size = size.expandedTo(picture.actualSize(iconSize()));
     return size.expandedTo(QSize(0, 0));
+}
+
+/// Measured once for each text: layouts ask often, and measuring takes as long as painting.
+QSize StyledButton::captionSize() const
+{
+    if (!m_measured || m_measured->text != text())
+        m_measured = {text(), fontMetrics().size(Qt::TextShowMnemonic, text())};
+    return m_measured->size;
 }
 
 QSize StyledButton::sizeAround(const QSize& caption) const

@@ -74,6 +74,7 @@ private:
     ButtonCondition condition() const;
     void refreshTheme();
     QSize pictureSize() const;
+    QSize captionSize() const;
     QSize sizeAround(const QSize& caption) const;
     QPixmap currentPicture(qreal devicePixelRatio) const;
     QRectF paintFrame(QPainter& painter, const ButtonLook& look) const;
@@ -83,6 +84,11 @@ private:
     ButtonTheme m_theme;
     std::map<ButtonState, QIcon> m_pictures; // all but Normal, which is icon()
     CaptionEffect m_captionEffect = CaptionEffect::None;
+    struct Messung {
+        QString text;
+        QSize size;
+    };
+    mutable std::optional<Messung> m_measured; // the caption
 };
 
 } // namespace zerna
