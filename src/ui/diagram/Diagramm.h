@@ -46,6 +46,9 @@ public:
     /// Paints the keyboard cursor, which only the screen shows.
     virtual void paintCursor(QPainter&, const Leinwand&) const { }
 
+    /// Whether there are values, and with them a picture to keep.
+    virtual bool hatWerte() const { return false; }
+
     /// The values as they are copied: UTF-8 with tabs and CR LF.
     virtual std::string values() const { return {}; }
 

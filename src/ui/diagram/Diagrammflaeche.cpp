@@ -73,7 +73,8 @@ void Diagrammflaeche::updateDiagramm()
 void Diagrammflaeche::showKonzentration()
 {
     showDiagramm(m_display->diagramm(), Qt::NoFocus); // the display takes the keys itself
-    placeDisplay();
+    if (hatGroesse(*this))
+        placeDisplay();
 }
 
 bool Diagrammflaeche::zeigtKonzentration() const { return m_diagramm == &m_display->diagramm(); }

@@ -72,7 +72,7 @@ public:
     void print();
 
     /// Whether what is shown has values to be saved and printed.
-    bool istDiagramm() const { return !m_diagramm->exportarten(leinwand()).empty(); }
+    bool istDiagramm() const { return m_diagramm->hatWerte(); }
 
 signals:
     /// What is under the mouse or the cursor; empty for nothing.

@@ -156,9 +156,11 @@ std::string Konzentrationsdiagramm::values(int schritt) const
 }
 
 /// The bitmap shows the plot alone.
+bool Konzentrationsdiagramm::hatWerte() const { return m_y && istEinerBekannt(m_reihe); }
+
 std::vector<Exportart> Konzentrationsdiagramm::exportarten(const Leinwand& leinwand) const
 {
-    if (!m_y || !istEinerBekannt(m_reihe))
+    if (!hatWerte())
         return {};
     const auto text = [this]() -> std::optional<std::string> {
         const auto schritt = m_schrittfrage();

@@ -51,6 +51,7 @@ public:
 
     void paintPlot(QPainter& painter, const Leinwand& leinwand) const override;
 
+    bool hatWerte() const override;
     std::string values() const override { return values(1); }
 
     /// The saved file's content for a step width.

@@ -27,6 +27,9 @@ struct Leinwand {
 /// Paints a picture on a canvas of any size.
 using Bildmaler = std::function<void(QPainter&, const Leinwand&)>;
 
+/// Whether a widget has been given its size. Before it is first shown it has not, and then a resize event comes.
+inline bool hatGroesse(const QWidget& widget) { return !widget.testAttribute(Qt::WA_PendingResizeEvent); }
+
 /// A widget's own surface.
 inline Leinwand leinwandOf(const QWidget& widget) { return {widget.size(), widget.font(), widget.devicePixelRatioF()}; }
 

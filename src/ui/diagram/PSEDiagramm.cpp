@@ -59,11 +59,13 @@ void PSEDiagramm::paintCursor(QPainter& painter, const Leinwand& leinwand) const
     painter.drawLine(pixelCentre({column, bild.feld.top}), pixelCentre({column, bild.feld.top + bild.feld.height - 1}));
 }
 
+bool PSEDiagramm::hatWerte() const { return istEinerBekannt(m_elemente.reihe.y); }
+
 std::string PSEDiagramm::values() const { return elementtabelle(m_elemente, m_ansicht.kristallin); }
 
 std::vector<Exportart> PSEDiagramm::exportarten(const Leinwand& leinwand) const
 {
-    if (!istEinerBekannt(m_elemente.reihe.y))
+    if (!hatWerte())
         return {};
     const auto onPixels = [this](QPainter& painter, const Leinwand& on) {
         paintPSE(painter, layout(on), on, Punktlage::GanzePixel);

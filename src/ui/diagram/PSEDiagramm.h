@@ -25,6 +25,7 @@ public:
 
     void paint(QPainter& painter, const Leinwand& leinwand) const override;
     void paintCursor(QPainter& painter, const Leinwand& leinwand) const override;
+    bool hatWerte() const override;
     std::string values() const override;
     std::vector<Exportart> exportarten(const Leinwand& leinwand) const override;
     QString positionText(const QPointF& position, const Leinwand& leinwand) const override;

@@ -63,11 +63,13 @@ void Ternaerdiagramm::paint(QPainter& painter, const Leinwand& leinwand) const
         bild(leinwand).paint(painter);
 }
 
+bool Ternaerdiagramm::hatWerte() const { return m_inhalt && istEinerBekannt(m_inhalt->gitter.werte); }
+
 std::string Ternaerdiagramm::values() const { return m_inhalt ? ternaerdatei(m_inhalt->gitter) : std::string(); }
 
 std::vector<Exportart> Ternaerdiagramm::exportarten(const Leinwand& leinwand) const
 {
-    if (!m_inhalt || !istEinerBekannt(m_inhalt->gitter.werte))
+    if (!hatWerte())
         return {};
     return {textdatei("Daten 3D (*.3dd)", "*.3dd", ".3dd", [this] { return values(); }), bitmap(maler(), leinwand)};
 }

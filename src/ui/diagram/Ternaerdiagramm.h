@@ -27,6 +27,7 @@ public:
     void setAnsicht(const Ansicht& ansicht) { m_ansicht = ansicht; }
 
     void paint(QPainter& painter, const Leinwand& leinwand) const override;
+    bool hatWerte() const override;
     std::string values() const override;
     std::vector<Exportart> exportarten(const Leinwand& leinwand) const override;
     QString positionText(const QPointF& position, const Leinwand& leinwand) const override;

@@ -159,6 +159,8 @@ void conDisplay::setBild(Kurvenbild bild)
     if (bild.y.einheit.empty())
         bild.y.einheit = plain.y.einheit;
     m_diagramm.setBild(std::move(bild));
+    if (!hatGroesse(*this))
+        return;
     emit randChanged(); // first: a host may give it another place
     placePlot();
 }
