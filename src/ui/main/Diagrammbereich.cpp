@@ -157,12 +157,6 @@ void Diagrammbereich::layOut()
     column->setSpacing(0);
     column->addWidget(boxed(this, Top, lists, layOutStrips(), 4));
     column->addWidget(m_picDiagramm, 1);
-    for (const Diagrammseite* const seite : m_seiten) {
-        if (QWidget* const below = seite->darunter()) {
-            column->addWidget(below);
-            below->hide();
-        }
-    }
     column->addWidget(boxed(this, Bottom, position, layOutButtons(), 8));
 }
 
@@ -284,13 +278,25 @@ void Diagrammbereich::setTyp(Diagrammtyp typ)
         each->setVisible(isShown);
         for (StyledButton* const button : each->knoepfe())
             button->setVisible(isShown);
-        if (each->darunter() != nullptr)
-            each->darunter()->setVisible(isShown);
     }
+    zeigeDarunter(seite(wahl().typ).darunter());
     m_cmdAnteil->setVisible(wahl().typ != Diagrammtyp::PSE);
     m_cmdAnteil->setToolTipText(wahl().typ == Diagrammtyp::Messkurve
             ? QStringLiteral("Bei welchem Anteil ist 2 kF = Kp? (Strg+F)")
             : QStringLiteral("Bei welchem Anteil hat die Größe einen Wert? (Strg+F)"));
+}
+
+void Diagrammbereich::zeigeDarunter(QWidget* now)
+{
+    if (m_darunter != nullptr && m_darunter != now)
+        m_darunter->hide();
+    m_darunter = now;
+    if (now == nullptr)
+        return;
+    auto* const column = qobject_cast<QBoxLayout*>(layout());
+    if (column->indexOf(now) < 0)
+        column->insertWidget(column->indexOf(m_picDiagramm) + 1, now);
+    now->show();
 }
 
 void Diagrammbereich::frageAnteil()

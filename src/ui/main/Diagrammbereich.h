@@ -99,6 +99,7 @@ private:
     void waehleTyp(int position);
     void chooseType(Diagrammtyp typ);
     void setTyp(Diagrammtyp typ);
+    void zeigeDarunter(QWidget* now);
     Diagrammseite& seite(Diagrammtyp typ) const { return *m_seiten.at(static_cast<std::size_t>(typ)); }
     Diagrammwahl& wahl() { return m_programm.Dokument().diagramm; }
 
@@ -108,6 +109,7 @@ private:
     std::vector<Diagrammseite*> m_seiten; // index = type
     Konzentrationsseite* m_konzentration = nullptr; // one of them
     Messseite* m_messung = nullptr; // another
+    QWidget* m_darunter = nullptr; // what the shown one has below the area
     Diagrammauswahl* m_auswahl = nullptr;
     Kurzlabel* m_labelPos = nullptr;
     Befundzeile* m_lblDrei = nullptr; // why there is no diagram of the chosen kind

@@ -49,8 +49,9 @@ public:
     /// The buttons below the area that are shown for this kind alone; children of the panel.
     virtual std::vector<StyledButton*> knoepfe() const { return {}; }
 
-    /// What stands below the area for this kind alone, a child of the panel; null for nothing.
-    virtual QWidget* darunter() const { return nullptr; }
+    /// What stands below the area for this kind alone, a child of the panel; null for nothing. Asked for when the kind
+    /// is shown first.
+    virtual QWidget* darunter() { return nullptr; }
 
     /// What the search at which part a quantity has a value begins with: the code of a quantity, -1 for the chosen one,
     /// and a value, empty for the alloy's own.

@@ -20,9 +20,7 @@ namespace zerna {
 Messseite::Messseite(Programm& programm, Diagrammflaeche& flaeche, Dialoge dialoge, QWidget* parent)
     : Diagrammseite(programm, flaeche, parent)
     , m_dialoge(dialoge)
-    , m_tafel(new Messtafel(programm.settings(), parent))
 {
-    m_tafel->setObjectName(QStringLiteral("tblMaxima"));
     createLists();
     createButtons();
     layOut();
@@ -102,10 +100,18 @@ void Messseite::layOut()
 
 std::vector<QWidget*> Messseite::tabOrder() const
 {
-    return {m_cmbMesskurve, m_cmdEntfernen, m_cmbMessart, m_cmbMesseinheit, m_cmdOeffnen, m_tafel};
+    return {m_cmbMesskurve, m_cmdEntfernen, m_cmbMessart, m_cmbMesseinheit, m_cmdOeffnen};
 }
 
-QWidget* Messseite::darunter() const { return m_tafel; }
+QWidget* Messseite::darunter()
+{
+    if (m_tafel == nullptr) {
+        m_tafel = new Messtafel(programm().settings(), parentWidget());
+        m_tafel->setObjectName(QStringLiteral("tblMaxima"));
+        setTabOrder(m_cmdOeffnen, m_tafel);
+    }
+    return m_tafel;
+}
 
 /// The curves are another list after every change of theirs, also after undo.
 void Messseite::zeigeAuswahl(const Eingabe&)

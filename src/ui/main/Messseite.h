@@ -25,7 +25,7 @@ public:
     void zeigeAuswahl(const Eingabe& eingabe) override;
     void zeichne(const Eingabe& eingabe) override;
     std::vector<QWidget*> tabOrder() const override;
-    QWidget* darunter() const override;
+    QWidget* darunter() override;
     Suchfrage suchfrage() const override; ///< 2kF = Kp of the chosen S(K)
 
     /// Adds the curves of files to the document; asks for one if there are none. Says why a file cannot be read.

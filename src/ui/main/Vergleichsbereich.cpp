@@ -15,6 +15,7 @@
 #include "programm/Exportieren.h"
 #include "ui/controls/Knopfzeile.h"
 #include "ui/controls/Menue.h"
+#include "ui/controls/Radsperre.h"
 #include "ui/main/Tabellenknopf.h"
 #include "ui/main/Vergleichsansicht.h"
 #include "ui/main/Vergleichsmodell.h"
@@ -43,14 +44,21 @@ Vergleichsbereich::Vergleichsbereich(Programm& programm, Dialoge dialoge, QWidge
     , m_programm(programm)
     , m_dialoge(dialoge)
     , m_modell(new Vergleichsmodell(this))
-    , m_ansicht(new Vergleichsansicht(*m_modell))
+    , m_gezeigt(programm.Dokument().vergleich)
     , m_menu(new QMenu(this))
 {
-    m_ansicht->setObjectName(QStringLiteral("tblVergleich"));
     createActions();
+    showState();
+}
+
+void Vergleichsbereich::baue()
+{
+    if (m_ansicht != nullptr)
+        return;
     createControls();
     createSeiten();
     layOut();
+    new Radsperre(*this); // like the lists that the window began with
     connect(m_ansicht, &Vergleichsansicht::legierungGewaehlt, this, &Vergleichsbereich::showState);
     connect(m_ansicht, &Vergleichsansicht::doppelklick, this, &Vergleichsbereich::lade);
     connect(m_ansicht, &Vergleichsansicht::menuRequested, m_menu, [this](const QPoint& at) { m_menu->popup(at); });
@@ -77,8 +85,7 @@ void Vergleichsbereich::createActions()
     using Bereich = Vergleichsbereich;
     m_laden = makeAction(QStringLiteral("In den Rechner la&den\tEingabetaste"), "mnuVergleich_Laden",
         {QKeySequence(Qt::Key_Return), QKeySequence(Qt::Key_Enter)}, &Bereich::lade);
-    removeAction(m_laden); // the keys press a button that has the focus
-    m_ansicht->addAction(m_laden);
+    removeAction(m_laden); // the keys press a button that has the focus: the table gets it
     m_referenz = makeAction(QStringLiteral("Als Re&ferenz"), "mnuVergleich_Referenz", {}, &Bereich::alsReferenz);
     m_umbenennen = makeAction(
         QStringLiteral("&Umbenennen ..."), "mnuVergleich_Umbenennen", {QKeySequence(Qt::Key_F2)}, &Bereich::benenneUm);
@@ -114,6 +121,7 @@ StyledButton* Vergleichsbereich::makeButton(const QString& caption, const char* 
 {
     auto* const button = new StyledButton(caption, this);
     button->setObjectName(QLatin1String(name));
+    button->setEnabled(action->isEnabled());
     connect(button, &StyledButton::clicked, action, &QAction::trigger);
     connect(action, &QAction::changed, button, [button, action] { button->setEnabled(action->isEnabled()); });
     return button;
@@ -121,6 +129,9 @@ StyledButton* Vergleichsbereich::makeButton(const QString& caption, const char* 
 
 void Vergleichsbereich::createControls()
 {
+    m_ansicht = new Vergleichsansicht(*m_modell, this);
+    m_ansicht->setObjectName(QStringLiteral("tblVergleich"));
+    m_ansicht->addAction(m_laden);
     m_cmbArt = new QComboBox(this);
     m_cmbArt->setObjectName(QStringLiteral("cmbVergleich_Art"));
     for (const auto& [text, art] : {std::pair(QStringLiteral("Werte"), Vergleichsart::Wert),
@@ -210,6 +221,7 @@ void Vergleichsbereich::zeige()
     const Geteilt<Vergleich>& now = m_programm.Dokument().vergleich;
     if (m_gezeigt.istDasselbe(now))
         return;
+    baue();
     m_gezeigt = now;
     const int chosen = m_ansicht->legierung();
     m_modell->setze(vergleich(), m_programm.Calc());
@@ -222,13 +234,15 @@ void Vergleichsbereich::zeige()
 /// What can be done with the chosen alloy: something only while it is seen, since the menu bar offers it everywhere.
 void Vergleichsbereich::showState()
 {
-    const int column = isVisible() ? m_ansicht->legierung() : -1;
+    const int column = isVisible() && m_ansicht != nullptr ? m_ansicht->legierung() : -1;
     const bool isChosen = column >= 0;
     for (QAction* const action : {m_laden, m_umbenennen, m_loeschen, m_kopieren})
         action->setEnabled(isChosen);
     m_referenz->setEnabled(isChosen && static_cast<std::size_t>(column) != m_modell->tabelle().referenz());
     m_links->setEnabled(column > 0);
     m_rechts->setEnabled(isChosen && column + 1 < m_modell->columnCount());
+    if (m_ansicht == nullptr)
+        return;
     const bool isEmpty = m_modell->columnCount() == 0;
     for (QWidget* const widget : {static_cast<QWidget*>(m_cmbArt), static_cast<QWidget*>(m_tabellenknopf),
              static_cast<QWidget*>(m_cmdSpeichern)})

@@ -31,6 +31,9 @@ class Vergleichsbereich : public QWidget {
 public:
     Vergleichsbereich(Programm& programm, Dialoge dialoge, QWidget* parent = nullptr);
 
+    /// Makes the controls, unless they are there. Most runs need none of them.
+    void baue();
+
     /// Shows what the document keeps.
     void zeige();
 

@@ -324,6 +324,8 @@ void frmMain::showPanel(int panel)
 {
     const bool isOther = isVisible() && m_panels->currentIndex() != panel;
     checkOnly(m_optButton1, panel);
+    if (panel == 2)
+        m_vergleich->baue();
     m_panels->setCurrentIndex(panel);
     if (panel == 0 && isOther) { // where the work was left
         QWidget* const last = m_pic1->focusWidget();

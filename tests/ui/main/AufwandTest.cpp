@@ -1,4 +1,4 @@
-#include <QAbstractItemView>
+#include <QTableView>
 
 #include "support/FakeDesk.h"
 #include "support/Zaehlwerk.h"
@@ -51,6 +51,9 @@ TEST_F(AufwandTest, TheStartLeavesWhatIsNotSeen)
         EXPECT_FALSE(find(panel).testAttribute(Qt::WA_Resized)) << panel << " is laid out when it is shown";
     EXPECT_EQ(find("conDisplay1").width(), find("picDiagramm").width()) << "the picture is";
     EXPECT_EQ(find("cmbElement_0").findChild<QAbstractItemView*>(), nullptr) << "made when it is opened";
+    for (const char* const panel : {"Pic_1_2", "picDiagramm"})
+        EXPECT_EQ(find(panel).parentWidget()->findChild<QTableView*>(), nullptr) << "made when there is something";
+    EXPECT_EQ(find<QComboBox>("cmbElement_0").model(), find<QComboBox>("cmbElement_4").model());
     click("optButton_1_2");
     EXPECT_TRUE(find("Pic_1_2").testAttribute(Qt::WA_Resized));
 }

@@ -13,6 +13,14 @@ namespace zerna {
 
 /// Undo and redo in the window.
 struct FensterverlaufTest : FakeDesk {
+    /// With all panels there, so that every view is one of all of them.
+    void open()
+    {
+        FakeDesk::open();
+        click("optButton_1_2");
+        click("optButton_1_0");
+    }
+
     QUndoStack& stapel() const { return window->verlauf().stapel(); }
     QAction& action(const char* name) const { return find<QAction>(name); }
 
