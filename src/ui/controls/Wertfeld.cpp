@@ -38,7 +38,7 @@ QAction* actionOf(const QWidget& window, QKeySequence::StandardKey key)
 Wertfeld::Wertfeld(QWidget* parent)
     : QLineEdit(parent)
 {
-    setWert({}, false);
+    setProperty(Marke, QStringLiteral("0"));
     strengthenDisabledText();
     connect(this, &QLineEdit::returnPressed, this, &Wertfeld::verlassen);
     connect(this, &QLineEdit::textChanged, this, &Wertfeld::cutEcho);

@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLineEdit>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <cmath>
@@ -154,6 +155,7 @@ int Kompositionszeile::findElementEntry(std::string_view text) const
 
 void Kompositionszeile::nenneElemente(const ElementCollection& elements)
 {
+    const QSignalBlocker blocker(m_cmbElement->model()); // no list shows names while it is closed
     for (int position = 0; position < m_cmbElement->count(); ++position) {
         if (const auto element = elements.find(fromQt(m_cmbElement->itemText(position))))
             m_cmbElement->setName(position, toQt(element->Name()));
