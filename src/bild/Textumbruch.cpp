@@ -34,16 +34,20 @@ std::size_t nextBlank(std::string_view text, std::size_t from)
 }
 
 /// How many bytes of the text are a line of their own: up to the last blank that lets it fit, or up to the first one.
+/// Texts take long to measure: the first that is tried is the one that fits if all letters are of one width.
 std::size_t lineLength(std::string_view text, double room, const Textbreite& width)
 {
-    std::size_t length = nextBlank(text, 0);
-    while (length < text.size()) {
-        const std::size_t next = nextBlank(text, length + 1);
-        if (width(text.substr(0, next)) > room)
-            break;
-        length = next;
-    }
-    return length;
+    std::vector<std::size_t> ends{nextBlank(text, 0)};
+    while (ends.back() < text.size())
+        ends.push_back(nextBlank(text, ends.back() + 1));
+    const auto fits = [&](auto end) { return width(text.substr(0, *end)) <= room; };
+    const double guess = room / width(text) * static_cast<double>(text.size());
+    auto end = std::ranges::find_if(ends, [&](std::size_t each) { return static_cast<double>(each) >= guess; });
+    while (end != ends.end() && fits(end))
+        ++end;
+    while (end != ends.begin() && (end == ends.end() || !fits(end)))
+        --end;
+    return *end;
 }
 
 } // namespace

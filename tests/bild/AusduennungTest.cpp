@@ -85,8 +85,11 @@ TEST(KurvenfarbenTest, AnyTwoDifferInDashOrClearlyInLightness)
 
 TEST(TextumbruchTest, LinesBreakAtBlanksAndTheLastIsShortened)
 {
-    const Textbreite width = [](std::string_view text) {
-        return static_cast<double>(std::ranges::count_if(text, [](char c) { return (c & 0xC0) != 0x80; }));
+    int measured = 0;
+    const Textbreite width = [&measured](std::string_view text) { // "m" is four letters wide
+        ++measured;
+        return static_cast<double>(
+            std::ranges::count_if(text, [](char c) { return (c & 0xC0) != 0x80; }) + 3 * std::ranges::count(text, 'm'));
     };
     const auto lines = [&](const char* text, double room, int most) {
         std::string all;
@@ -97,9 +100,14 @@ TEST(TextumbruchTest, LinesBreakAtBlanksAndTheLastIsShortened)
     EXPECT_EQ(lines("Größe über Öl", 20, 2), "Größe über Öl|");
     EXPECT_EQ(lines("Größe über Öl", 10, 2), "Größe über|Öl|");
     EXPECT_EQ(lines("Größe über Öl und Fett", 7, 2), "Größe|über Ö…|");
-    EXPECT_EQ(lines("Höhenmessung", 5, 3), "Höhe…|");
+    EXPECT_EQ(lines("Höhenlage", 5, 3), "Höhe…|");
+    EXPECT_EQ(lines("ii ii ii mm mm", 12, 9), "ii ii ii|mm|mm|");
+    EXPECT_EQ(lines("mm mm ii ii ii", 12, 9), "mm|mm ii|ii ii|");
     EXPECT_EQ(lines("weit", 1, 1), "");
-    EXPECT_EQ(lines("Al; Mg: 1,584 g/cm³, z = 2; Cu", 17, 9), "Al;|Mg: 1,584 g/cm³,|z = 2; Cu|") << "units stay";
+    EXPECT_EQ(lines("Al; Mg: 1,584 g/cm³, z = 2; Cu", 20, 9), "Al;|Mg: 1,584 g/cm³,|z = 2; Cu|") << "units stay";
+    measured = 0;
+    EXPECT_EQ(lines("a b c d e f g h i j k l n o p", 20, 9), "a b c d e f g h i j|k l n o p|");
+    EXPECT_LE(measured, 8) << "for ten words in a line";
 }
 
 } // namespace zerna
