@@ -75,7 +75,7 @@ int main(int argc, char** argv)
 {
     constexpr int Edits = 50000;
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    zerna::giveLargeMemoryBack();
+    zerna::spareMemory();
     const QApplication application(argc, argv);
     return zerna::measure(argc > 1 ? std::atoi(argv[1]) : Edits, argc <= 2) ? 0 : 1;
 }

@@ -84,7 +84,7 @@ int compare()
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    zerna::giveLargeMemoryBack();
+    zerna::spareMemory();
     const QApplication application(argc, argv);
     if (argc == 1)
         return zerna::compare();

@@ -74,7 +74,7 @@ int main(int argc, char** argv)
         return zerna::runBildprogramm(argc, argv);
 #endif
     zerna::surviveFileSizeLimit();
-    zerna::giveLargeMemoryBack();
+    zerna::spareMemory();
     zerna::QtMessageBoxes boxes;
 #ifndef Q_OS_WIN
     // The platform's own dialogs would speak the platform's language; the toolkit's speak German like the program. On

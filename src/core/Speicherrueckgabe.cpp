@@ -8,11 +8,12 @@
 
 namespace zerna {
 
-void giveLargeMemoryBack()
+void spareMemory()
 {
 #ifdef __GLIBC__
     constexpr int Large = 256 * 1024; // bytes; given, the limit does not follow the largest block any more
     mallopt(M_MMAP_THRESHOLD, Large);
+    mallopt(M_ARENA_MAX, 1);
 #endif
 }
 
