@@ -155,9 +155,9 @@ std::string Konzentrationsdiagramm::values(int schritt) const
     return reihendatei(m_symbol, m_einheit, m_reihe, schritt);
 }
 
-/// The bitmap shows the plot alone.
 bool Konzentrationsdiagramm::hatWerte() const { return m_y && istEinerBekannt(m_reihe); }
 
+/// The bitmap shows the plot alone.
 std::vector<Exportart> Konzentrationsdiagramm::exportarten(const Leinwand& leinwand) const
 {
     if (!hatWerte())

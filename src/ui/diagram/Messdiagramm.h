@@ -14,7 +14,7 @@ public:
     /// Shows what follows of another alloy, and the maxima beside it.
     void setBeiwerk(Messbeiwerk beiwerk, Tabelle befunde);
 
-    bool hatWerte() const override { return true; };
+    bool hatWerte() const override { return true; }
     std::string values() const override;
     std::vector<Exportart> exportarten(const Leinwand& leinwand) const override;
 
