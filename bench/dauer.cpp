@@ -13,7 +13,7 @@
 
 #include "bench/Fenster.h"
 #include "bench/Verbrauch.h"
-#include "core/Speicherrueckgabe.h"
+#include "core/Speicherbedarf.h"
 
 namespace zerna {
 

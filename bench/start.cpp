@@ -12,7 +12,7 @@
 
 #include "bench/Fenster.h"
 #include "bench/Verbrauch.h"
-#include "core/Speicherrueckgabe.h"
+#include "core/Speicherbedarf.h"
 #include "ui/platform/Lesbarkeit.h"
 
 namespace zerna {

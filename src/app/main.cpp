@@ -10,7 +10,7 @@
 #include "bildprogramm/Bildprogramm.h"
 #endif
 #include "core/Plattform.h"
-#include "core/Speicherrueckgabe.h"
+#include "core/Speicherbedarf.h"
 #include "programm/Programm.h"
 #include "ui/main/Sitzung.h"
 #include "ui/main/frmMain.h"

@@ -1,4 +1,4 @@
-#include "core/Speicherrueckgabe.h"
+#include "core/Speicherbedarf.h"
 
 #include <cstdlib> // says which C library it is
 
