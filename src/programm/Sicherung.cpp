@@ -31,8 +31,11 @@ Sicherung::Sicherung(std::filesystem::path ordner)
     std::error_code shownByWriting;
     std::filesystem::create_directories(m_ordner, shownByWriting);
     for (int nummer = 0; nummer < Plaetze && m_nummer < 0; ++nummer) {
-        if (std::filesystem::exists(datei(nummer), shownByWriting) && belege(nummer))
-            m_hinterlassen = inhalt(datei(nummer));
+        if (!std::filesystem::exists(datei(nummer), shownByWriting) || !belege(nummer))
+            continue;
+        m_hinterlassen = inhalt(datei(nummer));
+        if (!m_hinterlassen) // nobody can read it now, so nothing is written over it
+            gibFrei();
     }
     if (m_nummer < 0)
         belegeLeeren();

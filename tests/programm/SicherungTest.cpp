@@ -61,6 +61,17 @@ TEST_F(SicherungTest, RunsAtTheSameTimeHavePlacesOfTheirOwn)
     EXPECT_EQ(Sicherung(ordner).hinterlassen(), "tot");
 }
 
+TEST_F(SicherungTest, WhatCannotBeReadNowIsNotWrittenOver)
+{
+    std::filesystem::create_directories(ordner / "sitzung-0.zerna");
+    Sicherung run(ordner);
+    EXPECT_EQ(run.hinterlassen(), std::nullopt);
+    run.schreibe([] { return "eins"; });
+    run.warte();
+    EXPECT_FALSE(run.nimmFehler().has_value());
+    EXPECT_EQ(bytesOf(ordner / "sitzung-1.zerna"), "eins");
+}
+
 TEST_F(SicherungTest, AFolderThatCannotBeWrittenIsToldOnceAndCostsNothingElse)
 {
     writeBytes(folder / "datei", "");
