@@ -164,6 +164,8 @@ TEST_F(HilfeTest, MessagesAreFoundByTheirWords)
         {"Die Datei \"a.dat\" konnte nicht gespeichert werden:\nDatenträger voll", "„Die Datei \"…\" konnte nicht"},
         {"Fehler in Formel. (Funktion 'foo' nicht definiert?)", "Fenster „Fehler in Formel."},
         {"Diese zuletzt gewählten Elemente fehlen in der Datei elemente.dat: Xx", "„Diese zuletzt gewählten Elemente"},
+        {"Die jetzige Legierung steht in keiner Datei. Soll sie gespeichert werden?",
+            "„Die Legierung \"…\" ist geändert."},
         {"Die Datei \"a.zerna\" hat inzwischen ein anderes Programm geändert.\r\nSoll sie überschrieben werden?",
             "„Die Datei \"…\" hat inzwischen"},
         {"Es ist kein Drucker eingerichtet. „Speichern“ gibt den Wiegezettel auch als PDF-Dokument aus.",
