@@ -70,4 +70,11 @@ void Spaltenpaar::resizeEvent(QResizeEvent* event)
     place();
 }
 
+/// The size that place() brings about while a hidden pair is about to be shown comes without an event.
+void Spaltenpaar::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    m_columns->setGeometry(contentsRect());
+}
+
 } // namespace zerna

@@ -195,6 +195,20 @@ TEST_F(FensterlayoutTest, SmallWindowsScrollToADiagramOfUse)
     EXPECT_GT(find("picDiagramm").mapTo(window.get(), QPoint()).x(), 600) << "beside each other again";
 }
 
+TEST_F(FensterlayoutTest, WindowEnlargedInAnotherViewShowsAllOfTheCalculator)
+{
+    open();
+    const auto view = [&](const char* button, const QSize& size) {
+        click(button);
+        window->resize(size);
+        QCoreApplication::processEvents();
+    };
+    view("optButton_1_0", {800, 600});
+    view("optButton_1_1", {1280, 800});
+    view("optButton_1_0", {1280, 800});
+    EXPECT_FALSE(find("cmdDiagramm_Speichern").visibleRegion().isEmpty());
+}
+
 TEST_F(FensterlayoutTest, DiagramKeepsItsOffsetsAndFewComponentsLeaveNoGap)
 {
     open();
