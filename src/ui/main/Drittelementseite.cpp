@@ -34,7 +34,6 @@ Drittelementseite::Drittelementseite(Programm& programm, QWidget* parent)
     m_txtProzent->setEigenerVerlauf(true);
     m_txtProzent->setWert(QStringLiteral("10"), false);
     connect(m_txtProzent, &Wertfeld::textChanged, this, &Drittelementseite::rank);
-    connect(m_txtProzent, &Wertfeld::returnPressed, this, &Drittelementseite::gehZuAntworten);
     auto* const frage = new QFormLayout;
     frage->addRow(QStringLiteral("&at% des weiteren Elements:"), m_txtProzent);
     layOut(frage, {m_txtProzent});

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QFormLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -56,8 +57,6 @@ void frmZielsuche::createControls()
     m_txtZiel->setObjectName(QStringLiteral("txtSuche_Ziel"));
     m_txtZiel->setEigenerVerlauf(true);
     connect(m_txtZiel, &Wertfeld::textChanged, this, &frmZielsuche::suche);
-    connect(m_txtZiel, &Wertfeld::returnPressed, this,
-        [this] { qobject_cast<Suchseite*>(m_seiten->currentWidget())->gehZuAntworten(); });
     m_lblEinheit = new QLabel(this);
     m_lblEinheit->setObjectName(QStringLiteral("lblSuche_Einheit"));
     m_lblEinheit->setTextFormat(Qt::PlainText);
@@ -203,6 +202,15 @@ void frmZielsuche::nenneMarken(std::optional<float> ziel)
             now.prozente.push_back(loesung.prozent);
     }
     emit markenChanged(now);
+}
+
+/// Enter leads to the answers from every part of the question; there it enters the chosen one.
+void frmZielsuche::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        qobject_cast<Suchseite*>(m_seiten->currentWidget())->gehZuAntworten();
+    else
+        QDialog::keyPressEvent(event);
 }
 
 void frmZielsuche::hideEvent(QHideEvent* event)

@@ -48,8 +48,11 @@ TEST_F(frmZielsucheTest, AnAnswerIsTakenOverByKeysAsOneStep)
     type("txtSuche_Ziel", "9,5");
     ASSERT_EQ(answers().rowCount(), 1);
     EXPECT_EQ(line(0), "41,64005|58,35995");
-    QTest::keyClick(&find("txtSuche_Ziel"), Qt::Key_Return);
-    ASSERT_EQ(find("frmZielsuche").focusWidget(), &answers());
+    for (const char* const asked : {"txtSuche_Ziel", "cmbSuche_Komponente", "chkSuche_Mischungsreihe"}) {
+        find(asked).setFocus();
+        QTest::keyClick(&find(asked), Qt::Key_Return);
+        ASSERT_EQ(find("frmZielsuche").focusWidget(), &answers()) << asked;
+    }
     QTest::keyClick(&answers(), Qt::Key_Return);
     EXPECT_EQ(texts({"txtProzent_0", "txtProzent_1"}), "41,64005|58,35995");
     EXPECT_EQ(grid().wertUndEinheitIn(7).toStdString(), "9,5 eV");
