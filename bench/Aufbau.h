@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "core/Elementdatei.h"
-#include "model/Anteile.h"
-#include "model/clsCalc.h"
+#include "model/rechnung/clsCalc.h"
+#include "model/reihen/Anteile.h"
 #include "parser/clsParser.h"
 
 /// What the benchmarks share: the shipped element table, a parser and a calculator.

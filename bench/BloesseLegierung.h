@@ -6,7 +6,7 @@
 
 #include "bench/Aufbau.h"
 #include "core/Zahlentext.h"
-#include "model/Konstanten.h"
+#include "model/rechnung/Konstanten.h"
 
 namespace zerna {
 

@@ -6,8 +6,8 @@
 #include "bench/Aufbau.h"
 #include "bench/BloesseLegierung.h"
 #include "bench/Speicherzaehler.h"
-#include "model/Eingabe.h"
-#include "model/Ergebnisse.h"
+#include "model/eingabe/Eingabe.h"
+#include "model/rechnung/Ergebnisse.h"
 
 namespace zerna {
 

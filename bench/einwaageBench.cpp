@@ -1,7 +1,7 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/Aufbau.h"
-#include "model/Einwaage.h"
+#include "model/einwaage/Einwaage.h"
 
 namespace zerna {
 

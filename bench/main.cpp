@@ -15,7 +15,7 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/Aufbau.h"
-#include "model/Groessen.h"
+#include "model/rechnung/Groessen.h"
 
 #ifdef ZERNA_WINDOW
 #include <QApplication>

@@ -5,7 +5,7 @@
 
 #include "bench/Aufbau.h"
 #include "bild/PSETafel.h"
-#include "ui/main/Periodentafel.h"
+#include "ui/picker/Periodentafel.h"
 #include "ui/platform/QtText.h"
 
 namespace zerna {

@@ -5,8 +5,8 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/Aufbau.h"
-#include "model/Konstanten.h"
-#include "model/Konzentrationsreihe.h"
+#include "model/rechnung/Konstanten.h"
+#include "model/reihen/Konzentrationsreihe.h"
 
 namespace zerna {
 

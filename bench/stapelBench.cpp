@@ -9,8 +9,8 @@
 #include "bench/Aufbau.h"
 #include "bench/BloesseLegierung.h"
 #include "core/Zeilenleser.h"
-#include "model/Groessenauswahl.h"
-#include "model/Legierungsliste.h"
+#include "model/rechnung/Groessenauswahl.h"
+#include "model/rechnung/Legierungsliste.h"
 #include "programm/Stapelrechner.h"
 
 namespace zerna {

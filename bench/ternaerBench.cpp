@@ -8,7 +8,7 @@
 
 #include "bench/Aufbau.h"
 #include "bench/Latenz.h"
-#include "model/Konstanten.h"
+#include "model/rechnung/Konstanten.h"
 #include "ui/diagram/Ternaerdiagramm.h"
 
 namespace zerna {

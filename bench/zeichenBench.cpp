@@ -6,7 +6,7 @@
 
 #include "bench/Fenster.h"
 #include "bench/Zeichnen.h"
-#include "model/Konzentrationsreihe.h"
+#include "model/reihen/Konzentrationsreihe.h"
 #include "ui/diagram/Diagrammflaeche.h"
 #include "ui/diagram/Kurvenmaler.h"
 #include "ui/diagram/conDisplay.h"

@@ -62,7 +62,7 @@ void writeTables(const Table& elements, const Table& sources, const std::string&
 {
     constexpr std::size_t SymbolColumn = 2;
     std::ofstream stream(out);
-    stream << "#include \"model/Quellentabelle.h\"\n\nstatic constexpr zerna::Quelle Regeln[] = {\n";
+    stream << "#include \"model/rechnung/Quellentabelle.h\"\n\nstatic constexpr zerna::Quelle Regeln[] = {\n";
     for (const Cells& rule : std::span(sources).subspan(1))
         stream << "    {" << quoted(rule.at(2)) << ", " << quoted(rule.at(3)) << ", " << quoted(rule.at(4)) << "},\n";
     stream << "};\n\nstatic constexpr zerna::Zeilenquelle Zeilen[] = {\n";

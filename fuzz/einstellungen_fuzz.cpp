@@ -8,7 +8,7 @@
 #include "Pruefung.h"
 #include "bild/Bildvorgabe.h"
 #include "core/Plattform.h"
-#include "model/Komposition.h"
+#include "model/eingabe/Komposition.h"
 #include "programm/Dokumentverwaltung.h"
 #include "support/FakeServices.h"
 #include "support/RecordingBoxes.h"

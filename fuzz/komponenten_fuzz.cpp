@@ -5,7 +5,7 @@
 
 #include "Pruefung.h"
 #include "core/Unbekannt.h"
-#include "model/Groessen.h"
+#include "model/rechnung/Groessen.h"
 #include "programm/Stapelrechner.h"
 #include "support/RecordingBoxes.h"
 

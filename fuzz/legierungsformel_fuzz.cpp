@@ -5,8 +5,8 @@
 #include "Elemente.h"
 #include "Pruefung.h"
 #include "core/Zeichensatz.h"
-#include "model/Formeltext.h"
-#include "model/Legierungsformel.h"
+#include "model/eingabe/Formeltext.h"
+#include "model/eingabe/Legierungsformel.h"
 
 using namespace zerna;
 

@@ -4,8 +4,8 @@
 
 #include "Pruefung.h"
 #include "core/Zahlentext.h"
-#include "model/Messdatei.h"
-#include "model/Messmaxima.h"
+#include "model/messung/Messdatei.h"
+#include "model/messung/Messmaxima.h"
 
 using namespace zerna;
 

@@ -1,7 +1,7 @@
 #include "bild/Bildtexte.h"
 
 #include "bild/Konzentrationstexte.h"
-#include "model/Groessen.h"
+#include "model/rechnung/Groessen.h"
 
 namespace zerna {
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "model/Diagrammwahl.h"
-#include "model/Eingabe.h"
+#include "model/eingabe/Eingabe.h"
+#include "model/reihen/Diagrammwahl.h"
 
 namespace zerna {
 

@@ -11,8 +11,8 @@
 #include "bild/Kurvenfarben.h"
 #include "core/Anzeigetext.h"
 #include "core/CheckedArithmetic.h"
-#include "model/Anteile.h"
-#include "model/Werttext.h"
+#include "model/rechnung/Werttext.h"
+#include "model/reihen/Anteile.h"
 
 namespace zerna {
 

@@ -3,7 +3,7 @@
 #include <span>
 
 #include "bild/Kurvenbild.h"
-#include "model/Dokument.h"
+#include "model/dokument/Dokument.h"
 
 namespace zerna {
 

@@ -5,7 +5,7 @@
 #include "core/Anzeigetext.h"
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
-#include "model/Formeltext.h"
+#include "model/eingabe/Formeltext.h"
 
 namespace zerna {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "model/Dokument.h"
+#include "model/dokument/Dokument.h"
 
 /// What concentration diagrams say in words. Texts are German.
 namespace zerna {

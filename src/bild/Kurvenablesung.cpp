@@ -6,7 +6,7 @@
 #include <limits>
 
 #include "core/Zahlentext.h"
-#include "model/Werttext.h"
+#include "model/rechnung/Werttext.h"
 
 namespace zerna {
 

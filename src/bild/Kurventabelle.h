@@ -2,7 +2,7 @@
 
 #include "bild/Kurvenbild.h"
 #include "core/Zahlentext.h"
-#include "model/Tabelle.h"
+#include "model/rechnung/Tabelle.h"
 
 namespace zerna {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "bild/Kurvenbild.h"
-#include "model/Messvergleich.h"
+#include "model/messung/Messvergleich.h"
 
 /// Measured curves of one kind as a picture. Lengths are in nm and 1/nm.
 namespace zerna {

@@ -11,8 +11,8 @@
 #include "core/Anzeigetext.h"
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
-#include "model/Wertebereich.h"
-#include "model/Werttext.h"
+#include "model/rechnung/Werttext.h"
+#include "model/reihen/Wertebereich.h"
 
 namespace zerna {
 

@@ -7,7 +7,7 @@
 #include "bild/Achsen.h"
 #include "bild/Bildstil.h"
 #include "bild/Symbolplatz.h"
-#include "model/Elementdiagramm.h"
+#include "model/reihen/Elementdiagramm.h"
 
 /// Geometry of the element-property diagram: everything that is painted, as numbers in logical pixels.
 namespace zerna {

@@ -6,7 +6,7 @@
 
 #include "bild/Konzentrationstexte.h"
 #include "core/Zahlentext.h"
-#include "model/Ternaergroesse.h"
+#include "model/reihen/Ternaergroesse.h"
 
 namespace zerna {
 

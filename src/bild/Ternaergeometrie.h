@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "bild/Geometrie.h"
-#include "model/Diagrammwahl.h"
-#include "model/Ternaergitter.h"
-#include "model/Wertebereich.h"
+#include "model/reihen/Diagrammwahl.h"
+#include "model/reihen/Ternaergitter.h"
+#include "model/reihen/Wertebereich.h"
 
 /// Geometry of the ternary diagram. The base is an equilateral triangle of side 1 in the plane z = 0, centred on the
 /// origin; the surface stands above it, its heights from 0 to SurfaceHeight.

@@ -5,7 +5,7 @@
 
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
-#include "model/Werttext.h"
+#include "model/rechnung/Werttext.h"
 
 namespace zerna {
 

@@ -9,7 +9,7 @@
 
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
-#include "model/Wertebereich.h"
+#include "model/reihen/Wertebereich.h"
 
 namespace zerna {
 

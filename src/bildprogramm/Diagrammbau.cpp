@@ -5,7 +5,7 @@
 #include "bild/Konzentrationstexte.h"
 #include "bild/Messkurvenbild.h"
 #include "core/Unbekannt.h"
-#include "model/Elementdiagramm.h"
+#include "model/reihen/Elementdiagramm.h"
 #include "ui/diagram/Kurvendiagramm.h"
 #include "ui/diagram/PSEDiagramm.h"
 #include "ui/diagram/Ternaerdiagramm.h"

@@ -4,7 +4,7 @@
 
 #include "bild/Konzentrationsbild.h"
 #include "bild/PSEGeometrie.h"
-#include "model/Dokument.h"
+#include "model/dokument/Dokument.h"
 #include "programm/Rechenkern.h"
 #include "ui/diagram/Diagramm.h"
 

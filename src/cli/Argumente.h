@@ -7,10 +7,10 @@
 #include <vector>
 
 #include "core/ElementCollection.h"
-#include "model/Anteilseinheit.h"
-#include "model/Groessennamen.h"
-#include "model/Legierung.h"
-#include "model/Tabelle.h"
+#include "model/eingabe/Anteilseinheit.h"
+#include "model/eingabe/Legierung.h"
+#include "model/rechnung/Groessennamen.h"
+#include "model/rechnung/Tabelle.h"
 #include "programm/Rechenkern.h"
 
 namespace zerna {

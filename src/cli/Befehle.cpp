@@ -12,10 +12,10 @@
 #include "cli/Umgebung.h"
 #include "core/Kuerzung.h"
 #include "core/Plattform.h"
-#include "model/Einwaage.h"
-#include "model/Ergebnisse.h"
-#include "model/Groessentabelle.h"
-#include "model/Wertetabellen.h"
+#include "model/einwaage/Einwaage.h"
+#include "model/rechnung/Ergebnisse.h"
+#include "model/rechnung/Groessentabelle.h"
+#include "model/reihen/Wertetabellen.h"
 
 namespace zerna {
 

@@ -6,7 +6,7 @@
 
 #include "core/Kuerzung.h"
 #include "core/Zahlentext.h"
-#include "model/Ternaergitter.h"
+#include "model/reihen/Ternaergitter.h"
 #include "programm/Rechenkern.h"
 
 namespace zerna {

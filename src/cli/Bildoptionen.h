@@ -9,7 +9,7 @@
 #include "bild/Bildvorgabe.h"
 #include "bild/Konzentrationsbild.h"
 #include "cli/Argumente.h"
-#include "model/Dokument.h"
+#include "model/dokument/Dokument.h"
 
 namespace zerna {
 

@@ -6,7 +6,7 @@
 #include "core/ElementCsv.h"
 #include "core/Elementdatei.h"
 #include "core/Kuerzung.h"
-#include "model/Groessennamen.h"
+#include "model/rechnung/Groessennamen.h"
 
 namespace zerna {
 

@@ -15,9 +15,9 @@
 #include "core/Textbytes.h"
 #include "core/Zahlentext.h"
 #include "core/Zeilenleser.h"
-#include "model/Groessenauswahl.h"
-#include "model/Groessennamen.h"
-#include "model/Legierungsliste.h"
+#include "model/rechnung/Groessenauswahl.h"
+#include "model/rechnung/Groessennamen.h"
+#include "model/rechnung/Legierungsliste.h"
 #include "programm/Dokumentoeffnung.h"
 #include "programm/Stapelrechner.h"
 

@@ -5,7 +5,7 @@
 #include <span>
 #include <string>
 
-#include "model/Anteilseinheit.h"
+#include "model/eingabe/Anteilseinheit.h"
 
 namespace zerna {
 

@@ -4,7 +4,7 @@
 
 #include "cli/Umgebung.h"
 #include "core/Kuerzung.h"
-#include "model/Suchtabelle.h"
+#include "model/suche/Suchtabelle.h"
 
 namespace zerna {
 

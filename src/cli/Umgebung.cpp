@@ -13,8 +13,8 @@
 #include "core/Plattform.h"
 #include "core/Zahlentext.h"
 #include "core/Zeichensatz.h"
-#include "model/Ergebnislage.h"
-#include "model/Legierungsformel.h"
+#include "model/eingabe/Legierungsformel.h"
+#include "model/rechnung/Ergebnislage.h"
 #include "programm/Dokumentoeffnung.h"
 
 namespace zerna {

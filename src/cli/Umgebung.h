@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "core/MessageBoxes.h"
-#include "model/Dokument.h"
+#include "model/dokument/Dokument.h"
 #include "programm/Rechenkern.h"
 
 namespace zerna {

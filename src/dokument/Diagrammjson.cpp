@@ -3,8 +3,8 @@
 #include <limits>
 
 #include "dokument/Worte.h"
-#include "model/Groessen.h"
-#include "model/Ternaergitter.h"
+#include "model/rechnung/Groessen.h"
+#include "model/reihen/Ternaergitter.h"
 
 namespace zerna {
 

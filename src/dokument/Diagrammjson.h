@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "dokument/Feldleser.h"
-#include "model/Diagrammwahl.h"
+#include "model/reihen/Diagrammwahl.h"
 
 /// The choice of the diagram in a file.
 namespace zerna {

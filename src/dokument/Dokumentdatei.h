@@ -9,7 +9,7 @@
 
 #include "dokument/Lesefehler.h"
 #include "dokument/Tabellenunterschied.h"
-#include "model/Dokument.h"
+#include "model/dokument/Dokument.h"
 
 /// The document as a file: a JSON text in UTF-8 that people can read. Its shape is in docs/zerna.schema.json; it counts
 /// from 1 throughout.

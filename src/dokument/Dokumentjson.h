@@ -1,7 +1,7 @@
 #pragma once
 
 #include "dokument/Jsontext.h"
-#include "model/Dokument.h"
+#include "model/dokument/Dokument.h"
 
 /// The parts of a document as JSON, without what is foreign.
 namespace zerna {

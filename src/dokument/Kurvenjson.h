@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "dokument/Feldleser.h"
-#include "model/GehalteneKurve.h"
+#include "model/reihen/GehalteneKurve.h"
 
 /// Kept curves in a file, without what is foreign.
 namespace zerna {

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "dokument/Feldleser.h"
-#include "model/Messkurve.h"
+#include "model/messung/Messkurve.h"
 
 /// The measured curves of a document as JSON. A curve's coordinates are two texts of numbers with blanks between them:
 /// as lists they would be more values than a file may have.

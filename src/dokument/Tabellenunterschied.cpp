@@ -7,8 +7,8 @@
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
 #include "dokument/Worte.h"
-#include "model/Komposition.h"
-#include "model/Massenprozent.h"
+#include "model/eingabe/Komposition.h"
+#include "model/eingabe/Massenprozent.h"
 
 namespace zerna {
 

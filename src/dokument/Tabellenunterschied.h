@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "model/Dokument.h"
+#include "model/dokument/Dokument.h"
 
 namespace zerna {
 

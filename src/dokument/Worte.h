@@ -7,11 +7,11 @@
 #include "core/Kuerzung.h"
 #include "dokument/Dokumentdatei.h"
 #include "dokument/Feldleser.h"
-#include "model/Anteilseinheit.h"
-#include "model/Diagrammwahl.h"
-#include "model/Komposition.h"
-#include "model/Messkurve.h"
-#include "model/Mischungsreihe.h"
+#include "model/eingabe/Anteilseinheit.h"
+#include "model/eingabe/Komposition.h"
+#include "model/messung/Messkurve.h"
+#include "model/reihen/Diagrammwahl.h"
+#include "model/reihen/Mischungsreihe.h"
 
 /// The words that a file has for the program's codes.
 namespace zerna {

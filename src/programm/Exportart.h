@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "model/Tabelle.h"
+#include "model/rechnung/Tabelle.h"
 
 namespace zerna {
 

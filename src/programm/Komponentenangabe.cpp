@@ -10,7 +10,7 @@
 #include "core/Namensnaehe.h"
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
-#include "model/Komposition.h"
+#include "model/eingabe/Komposition.h"
 
 namespace zerna {
 

@@ -7,10 +7,10 @@
 #include <vector>
 
 #include "core/ElementCollection.h"
-#include "model/Anteilseinheit.h"
-#include "model/Eingabefeld.h"
-#include "model/Legierung.h"
-#include "model/Legierungsformel.h"
+#include "model/eingabe/Anteilseinheit.h"
+#include "model/eingabe/Eingabefeld.h"
+#include "model/eingabe/Legierung.h"
+#include "model/eingabe/Legierungsformel.h"
 
 /// Components as they are written on a command line or in a list. Nothing here throws for a text that is wrong: the
 /// reason is the answer, in German, and empty if there is none.

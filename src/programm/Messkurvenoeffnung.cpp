@@ -5,7 +5,7 @@
 #include "core/Datei.h"
 #include "core/Kuerzung.h"
 #include "core/Textbytes.h"
-#include "model/Messdatei.h"
+#include "model/messung/Messdatei.h"
 #include "programm/Dokumentoeffnung.h"
 #include "traeger/Dokumentfund.h"
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "core/Geteilt.h"
-#include "model/Messkurve.h"
+#include "model/messung/Messkurve.h"
 
 namespace zerna {
 

@@ -10,8 +10,8 @@
 #include "core/Settings.h"
 #include "core/clsFileHandler.h"
 #include "core/clsLoader.h"
-#include "model/Dokument.h"
-#include "model/clsCalc.h"
+#include "model/dokument/Dokument.h"
+#include "model/rechnung/clsCalc.h"
 #include "parser/clsParser.h"
 #include "programm/Hauptfenster.h"
 

@@ -8,7 +8,7 @@
 #include "core/Kuerzung.h"
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
-#include "model/Befund.h"
+#include "model/rechnung/Befund.h"
 #include "parser/Formelwert.h"
 #include "programm/EingebauteTabelle.h"
 

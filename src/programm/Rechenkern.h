@@ -8,8 +8,8 @@
 #include <string_view>
 
 #include "core/ElementCollection.h"
-#include "model/Eingabe.h"
-#include "model/clsCalc.h"
+#include "model/eingabe/Eingabe.h"
+#include "model/rechnung/clsCalc.h"
 #include "parser/clsParser.h"
 #include "programm/Komponentenangabe.h"
 

@@ -6,7 +6,7 @@
 #include "core/Kuerzung.h"
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
-#include "model/Ergebnislage.h"
+#include "model/rechnung/Ergebnislage.h"
 
 namespace zerna {
 

@@ -8,8 +8,8 @@
 #include <unordered_map>
 #include <vector>
 
-#include "model/Legierung.h"
-#include "model/Legierungsformel.h"
+#include "model/eingabe/Legierung.h"
+#include "model/eingabe/Legierungsformel.h"
 #include "programm/Rechenkern.h"
 
 namespace zerna {

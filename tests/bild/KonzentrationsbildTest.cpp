@@ -6,7 +6,7 @@
 #include "bild/Kurvenablesung.h"
 #include "bild/Kurventabelle.h"
 #include "model/EingabeFixture.h"
-#include "model/Varianten.h"
+#include "model/dokument/Varianten.h"
 
 namespace zerna {
 

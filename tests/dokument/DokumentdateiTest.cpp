@@ -6,7 +6,7 @@
 
 #include "core/Datei.h"
 #include "core/Zahlentext.h"
-#include "model/Groessen.h"
+#include "model/rechnung/Groessen.h"
 #include "support/RechnerTest.h"
 #include "support/Zufallsdokument.h"
 

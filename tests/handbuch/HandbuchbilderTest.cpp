@@ -7,8 +7,8 @@
 #include "support/FakeDesk.h"
 #include "ui/diagram/Diagrammflaeche.h"
 #include "ui/diagram/frmBild.h"
-#include "ui/main/Ergebnisgitter.h"
 #include "ui/platform/Lesbarkeit.h"
+#include "ui/results/Ergebnisgitter.h"
 
 namespace zerna {
 

@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "model/Eingabe.h"
+#include "model/eingabe/Eingabe.h"
 #include "support/RechnerTest.h"
 
 namespace zerna {

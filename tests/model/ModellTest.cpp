@@ -4,12 +4,12 @@
 #include <random>
 
 #include "core/Zahlentext.h"
-#include "model/Eingabe.h"
-#include "model/Einzelheiten.h"
-#include "model/Ergebnisse.h"
-#include "model/Groessentabelle.h"
-#include "model/PSEReihe.h"
-#include "model/Ternaergitter.h"
+#include "model/eingabe/Eingabe.h"
+#include "model/rechnung/Einzelheiten.h"
+#include "model/rechnung/Ergebnisse.h"
+#include "model/rechnung/Groessentabelle.h"
+#include "model/reihen/PSEReihe.h"
+#include "model/reihen/Ternaergitter.h"
 #include "support/RechnerTest.h"
 
 namespace zerna {

@@ -2,9 +2,9 @@
 #include <functional>
 
 #include "core/Unbekannt.h"
-#include "model/PSEReihe.h"
-#include "model/Ternaergitter.h"
-#include "model/Wertebereich.h"
+#include "model/reihen/PSEReihe.h"
+#include "model/reihen/Ternaergitter.h"
+#include "model/reihen/Wertebereich.h"
 #include "support/RechnerTest.h"
 
 namespace zerna {

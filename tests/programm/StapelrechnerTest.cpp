@@ -5,10 +5,10 @@
 
 #include "core/ElementCsv.h"
 #include "core/Elementdatei.h"
-#include "model/Ergebnislage.h"
-#include "model/Groessenauswahl.h"
-#include "model/Groessentabelle.h"
-#include "model/Legierungsliste.h"
+#include "model/rechnung/Ergebnislage.h"
+#include "model/rechnung/Groessenauswahl.h"
+#include "model/rechnung/Groessentabelle.h"
+#include "model/rechnung/Legierungsliste.h"
 #include "support/FilesTest.h"
 
 namespace {

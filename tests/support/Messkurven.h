@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "core/Zahlentext.h"
-#include "model/Messkurve.h"
+#include "model/messung/Messkurve.h"
 
 /// Measured curves whose maxima are known.
 namespace zerna {

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "core/ElementCsv.h"
-#include "model/clsCalc.h"
+#include "model/rechnung/clsCalc.h"
 #include "support/FilesTest.h"
 
 namespace zerna {

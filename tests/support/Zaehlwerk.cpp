@@ -1,8 +1,8 @@
 #include "support/Zaehlwerk.h"
 
-#include "model/Konzentrationsreihe.h"
-#include "model/PSEReihe.h"
-#include "model/Ternaergitter.h"
+#include "model/reihen/Konzentrationsreihe.h"
+#include "model/reihen/PSEReihe.h"
+#include "model/reihen/Ternaergitter.h"
 
 namespace zerna {
 

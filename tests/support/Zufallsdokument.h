@@ -7,7 +7,7 @@
 #include <string>
 
 #include "core/Zahlentext.h"
-#include "model/Dokument.h"
+#include "model/dokument/Dokument.h"
 
 namespace zerna {
 

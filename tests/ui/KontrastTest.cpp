@@ -6,8 +6,8 @@
 #include <gtest/gtest.h>
 
 #include "ui/button/ButtonTheme.h"
-#include "ui/main/Elementzelle.h"
-#include "ui/main/Tafelfaerbung.h"
+#include "ui/picker/Elementzelle.h"
+#include "ui/picker/Tafelfaerbung.h"
 #include "ui/platform/Farben.h"
 #include "ui/platform/Lesbarkeit.h"
 #include "ui/weighing/Wiegezeile.h"

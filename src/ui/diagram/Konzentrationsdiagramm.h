@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "model/Konzentrationsreihe.h"
+#include "model/reihen/Konzentrationsreihe.h"
 #include "ui/diagram/Kurvendiagramm.h"
 #include "ui/diagram/Striche.h"
 

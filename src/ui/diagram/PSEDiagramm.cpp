@@ -7,7 +7,7 @@
 
 #include "core/Unbekannt.h"
 #include "core/Zahlentext.h"
-#include "model/Werttext.h"
+#include "model/rechnung/Werttext.h"
 #include "ui/diagram/Bildausgabe.h"
 #include "ui/platform/Farben.h"
 #include "ui/platform/Zwischenablage.h"

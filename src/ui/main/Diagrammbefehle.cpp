@@ -2,9 +2,9 @@
 
 #include "ui/controls/Menue.h"
 #include "ui/diagram/Diagrammflaeche.h"
-#include "ui/main/Diagrammbereich.h"
-#include "ui/main/Diagrammseite.h"
-#include "ui/main/Konzentrationsseite.h"
+#include "ui/pages/Diagrammbereich.h"
+#include "ui/pages/Diagrammseite.h"
+#include "ui/pages/Konzentrationsseite.h"
 #include "ui/platform/QtText.h"
 #include "ui/platform/Zwischenablage.h"
 

@@ -2,17 +2,17 @@
 
 #include <tuple>
 
+#include "ui/comparison/Vergleichsbereich.h"
+#include "ui/composition/Kompositionsbereich.h"
 #include "ui/controls/Menue.h"
 #include "ui/controls/Spaltenpaar.h"
 #include "ui/main/Dateibefehle.h"
-#include "ui/main/Diagrammbereich.h"
-#include "ui/main/Ergebnisbereich.h"
 #include "ui/main/Hilfe.h"
-#include "ui/main/Kompositionsbereich.h"
-#include "ui/main/Vergleichsbereich.h"
 #include "ui/main/frmAbout.h"
 #include "ui/main/frmEinstellungen.h"
 #include "ui/main/frmMain.h"
+#include "ui/pages/Diagrammbereich.h"
+#include "ui/results/Ergebnisbereich.h"
 #include "ui/weighing/conWiegen.h"
 
 namespace zerna {

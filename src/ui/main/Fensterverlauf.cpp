@@ -3,16 +3,16 @@
 #include <QLineEdit>
 #include <QStackedWidget>
 
+#include "ui/comparison/Vergleichsbereich.h"
+#include "ui/composition/Kompositionsbereich.h"
 #include "ui/controls/Kurzmeldung.h"
 #include "ui/controls/Menue.h"
 #include "ui/main/Dateibefehle.h"
-#include "ui/main/Diagrammbereich.h"
-#include "ui/main/Ergebnisbereich.h"
-#include "ui/main/Kompositionsbereich.h"
-#include "ui/main/PSEbereich.h"
-#include "ui/main/Vergleichsbereich.h"
 #include "ui/main/frmMain.h"
+#include "ui/pages/Diagrammbereich.h"
+#include "ui/picker/PSEbereich.h"
 #include "ui/platform/QtText.h"
+#include "ui/results/Ergebnisbereich.h"
 #include "ui/weighing/conWiegen.h"
 
 namespace zerna {

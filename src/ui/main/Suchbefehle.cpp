@@ -1,11 +1,11 @@
 #include <QAction>
 
+#include "ui/composition/Kompositionsbereich.h"
 #include "ui/controls/Kurzmeldung.h"
-#include "ui/main/Diagrammbereich.h"
-#include "ui/main/Ergebnisbereich.h"
-#include "ui/main/Kompositionsbereich.h"
 #include "ui/main/frmMain.h"
-#include "ui/main/frmZielsuche.h"
+#include "ui/pages/Diagrammbereich.h"
+#include "ui/results/Ergebnisbereich.h"
+#include "ui/search/frmZielsuche.h"
 
 namespace zerna {
 

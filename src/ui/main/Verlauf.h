@@ -5,7 +5,7 @@
 #include <memory>
 #include <optional>
 
-#include "model/Dokument.h"
+#include "model/dokument/Dokument.h"
 #include "ui/controls/Schritt.h"
 
 namespace zerna {

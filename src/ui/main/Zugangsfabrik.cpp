@@ -19,9 +19,9 @@
 #include "ui/diagram/conDisplay.h"
 #include "ui/diagram/conLabel.h"
 #include "ui/diagram/conLabelZugang.h"
-#include "ui/main/Elementkarte.h"
-#include "ui/main/Periodentafel.h"
-#include "ui/main/PeriodentafelZugang.h"
+#include "ui/picker/Elementkarte.h"
+#include "ui/picker/Periodentafel.h"
+#include "ui/picker/PeriodentafelZugang.h"
 #include "ui/platform/Durchsage.h"
 
 namespace zerna {

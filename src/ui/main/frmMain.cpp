@@ -11,6 +11,8 @@
 #include <initializer_list>
 #include <span>
 
+#include "ui/comparison/Vergleichsbereich.h"
+#include "ui/composition/Kompositionsbereich.h"
 #include "ui/controls/Knopfzeile.h"
 #include "ui/controls/Kurzmeldung.h"
 #include "ui/controls/Menue.h"
@@ -19,18 +21,16 @@
 #include "ui/controls/Spaltenpaar.h"
 #include "ui/controls/Umbruchzeile.h"
 #include "ui/main/Dateibefehle.h"
-#include "ui/main/Diagrammbereich.h"
-#include "ui/main/Ergebnisbereich.h"
 #include "ui/main/Fensterplatz.h"
 #include "ui/main/Hilfe.h"
-#include "ui/main/Kompositionsbereich.h"
-#include "ui/main/PSEbereich.h"
 #include "ui/main/Speichermelder.h"
-#include "ui/main/Vergleichsbereich.h"
 #include "ui/main/Zugangsfabrik.h"
+#include "ui/pages/Diagrammbereich.h"
+#include "ui/picker/PSEbereich.h"
 #include "ui/platform/QtText.h"
 #include "ui/platform/Schriftfolge.h"
 #include "ui/platform/Spaetsymbol.h"
+#include "ui/results/Ergebnisbereich.h"
 #include "ui/weighing/conWiegen.h"
 
 namespace zerna {

@@ -5,7 +5,7 @@
 #include <array>
 #include <optional>
 
-#include "model/Legierung.h"
+#include "model/eingabe/Legierung.h"
 
 class QLabel;
 

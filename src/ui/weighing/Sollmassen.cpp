@@ -1,7 +1,7 @@
 #include "core/CheckedArithmetic.h"
 #include "core/Fehlermeldung.h"
 #include "core/Zahlentext.h"
-#include "model/Einwaage.h"
+#include "model/einwaage/Einwaage.h"
 #include "ui/platform/QtText.h"
 #include "ui/weighing/Massenfeld.h"
 #include "ui/weighing/Wiegegrund.h"

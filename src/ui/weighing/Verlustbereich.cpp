@@ -9,7 +9,7 @@
 
 #include "core/Laufzeitfehler.h"
 #include "core/Unbekannt.h"
-#include "model/Einwaage.h"
+#include "model/einwaage/Einwaage.h"
 #include "ui/controls/Masse.h"
 #include "ui/platform/QtText.h"
 #include "ui/platform/Schriftfolge.h"

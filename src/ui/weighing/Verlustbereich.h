@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "model/clsCalc.h"
+#include "model/rechnung/clsCalc.h"
 
 class QListWidget;
 

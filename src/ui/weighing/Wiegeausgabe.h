@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "model/Wiegeprotokoll.h"
+#include "model/einwaage/Wiegeprotokoll.h"
 #include "programm/ExportFileDialog.h"
 #include "programm/Programm.h"
 

@@ -1,7 +1,7 @@
 #include "ui/weighing/Wiegegrund.h"
 
 #include "core/CheckedArithmetic.h"
-#include "model/Einwaage.h"
+#include "model/einwaage/Einwaage.h"
 #include "ui/platform/QtText.h"
 
 namespace zerna {

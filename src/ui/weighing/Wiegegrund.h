@@ -5,7 +5,7 @@
 #include <span>
 
 #include "core/Laufzeitfehler.h"
-#include "model/clsCalc.h"
+#include "model/rechnung/clsCalc.h"
 
 namespace zerna {
 

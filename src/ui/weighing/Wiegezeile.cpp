@@ -8,8 +8,8 @@
 
 #include "core/Anzeigetext.h"
 #include "core/Zahlentext.h"
-#include "model/Einwaage.h"
-#include "model/Wiegeprotokoll.h"
+#include "model/einwaage/Einwaage.h"
+#include "model/einwaage/Wiegeprotokoll.h"
 #include "ui/controls/Beschriftung.h"
 #include "ui/platform/Farben.h"
 #include "ui/platform/QtText.h"

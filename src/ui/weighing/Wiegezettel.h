@@ -5,7 +5,7 @@
 #include <string>
 
 #include "core/MessageBoxes.h"
-#include "model/Wiegeprotokoll.h"
+#include "model/einwaage/Wiegeprotokoll.h"
 
 class QWidget;
 

@@ -9,8 +9,8 @@
 
 #include "core/Fehlermeldung.h"
 #include "core/Zahlentext.h"
-#include "model/Einwaage.h"
-#include "model/Wiegeprotokoll.h"
+#include "model/einwaage/Einwaage.h"
+#include "model/einwaage/Wiegeprotokoll.h"
 #include "ui/controls/Menue.h"
 #include "ui/platform/QtText.h"
 #include "ui/weighing/Festlabel.h"

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "model/Wiegeauskunft.h"
+#include "model/einwaage/Wiegeauskunft.h"
 #include "programm/ExportFileDialog.h"
 #include "programm/Programm.h"
 #include "ui/controls/Schritt.h"

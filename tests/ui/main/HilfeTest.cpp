@@ -20,9 +20,9 @@
 #include "ui/main/Titeldialog.h"
 #include "ui/main/frmAbout.h"
 #include "ui/main/frmEinstellungen.h"
-#include "ui/main/frmZielsuche.h"
 #include "ui/platform/Kontrast.h"
 #include "ui/platform/QtText.h"
+#include "ui/search/frmZielsuche.h"
 
 namespace zerna {
 
