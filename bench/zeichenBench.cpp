@@ -94,8 +94,8 @@ Malvorlage malvorlage(const Kurvenbild& bild, const QFont& font)
     const QPointF corner(layout.plot.left, layout.plot.top);
     for (std::size_t i = 0; i < 2; ++i) {
         vorlage.linien.push_back(zeichnung.bahnen[i].linien.front().translated(corner));
-        const auto& [index, left, right, row] = layout.legende.at(i);
-        vorlage.proben.emplace_back(QList<QPointF>{{left, row}, {right, row}});
+        const Linienprobe& probe = layout.legende.at(i);
+        vorlage.proben.emplace_back(QList<QPointF>{{probe.left, probe.row}, {probe.right, probe.row}});
     }
     vorlage.legierung = zeichnung.bahnen[2].zeichen.front() + corner;
     vorlage.probe = {(layout.legende[2].left + layout.legende[2].right) / 2, layout.legende[2].row};

@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <iterator>
+#include <limits>
 #include <optional>
 
 namespace zerna {
@@ -107,6 +108,38 @@ Linienzuege sichtbareZuege(std::span<const Punkt> punkte, const Abbildung& abbil
     Linienzuege result;
     for (const std::vector<Punkt>& line : thinned(visiblePart(punkte, abbildung, width), abbildung))
         appendCut(result, line, area);
+    return result;
+}
+
+std::vector<Punkt> begradigt(std::span<const Punkt> line, double tolerance)
+{
+    constexpr double Any = std::numeric_limits<double>::infinity();
+    std::vector<Punkt> result;
+    double flattest = -Any; // slopes from the last point kept that pass all points since
+    double steepest = Any;
+    const auto keep = [&](const Punkt& punkt) {
+        result.push_back(punkt);
+        flattest = -Any;
+        steepest = Any;
+    };
+    const auto slopeTo = [&](const Punkt& punkt, double beside) {
+        return (punkt.y + beside - result.back().y) / (punkt.x - result.back().x);
+    };
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        const Punkt& punkt = line[i];
+        const auto isAhead = [&] { return !result.empty() && punkt.x > result.back().x; };
+        const bool fits = isAhead() && slopeTo(punkt, 0) >= flattest && slopeTo(punkt, 0) <= steepest;
+        if (i > 0 && !fits && result.back() != line[i - 1])
+            keep(line[i - 1]);
+        if (!isAhead()) {
+            keep(punkt);
+            continue;
+        }
+        flattest = std::max(flattest, slopeTo(punkt, -tolerance));
+        steepest = std::min(steepest, slopeTo(punkt, tolerance));
+    }
+    if (!line.empty() && result.back() != line.back())
+        result.push_back(line.back());
     return result;
 }
 

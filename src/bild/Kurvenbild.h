@@ -18,6 +18,14 @@ enum class Punktzeichen { Keines, Kreis, Quadrat, Dreieck, Raute };
 /// Behind the name of a curve on the right axis in the legend.
 inline constexpr std::string_view RechteAchse = " (rechte Achse)";
 
+/// How one of several curves looks.
+struct Kurvenaussehen {
+    Farbe farbe;
+    Linienart linie = Linienart::Durchgezogen;
+    Punktzeichen zeichen = Punktzeichen::Kreis; ///< for curves that show their points
+    bool operator==(const Kurvenaussehen&) const = default;
+};
+
 /// A line through points, signs at them, or both.
 struct Kurve {
     std::string name; ///< in the legend; empty: not listed there
@@ -28,6 +36,8 @@ struct Kurve {
     bool rechts = false; ///< measured on the right axis
     int reihe = 0; ///< curves of one series are read out together
     std::string einheit = {}; ///< of x where it is not that of the axis: "at% Mg"
+
+    Kurvenaussehen aussehen() const { return {farbe, linie, zeichen}; }
 };
 
 /// A line across the plot at one value of x, such as 2kF over a structure factor or an answer of the search.

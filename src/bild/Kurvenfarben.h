@@ -6,13 +6,6 @@
 
 namespace zerna {
 
-/// How one of several curves looks.
-struct Kurvenaussehen {
-    Farbe farbe;
-    Linienart linie = Linienart::Durchgezogen;
-    Punktzeichen zeichen = Punktzeichen::Kreis; ///< for curves that show their points
-};
-
 inline constexpr std::size_t Kurvenfarben = 8;
 
 /// The look of curve `index`, the first one being the given blue line; from Kurvenfarben on it begins anew. Any two of

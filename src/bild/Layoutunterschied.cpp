@@ -1,7 +1,6 @@
 #include "bild/Layoutunterschied.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace zerna {
 
@@ -10,11 +9,7 @@ namespace {
 const Rechteck& placeOf(const Rechteck& strich) { return strich; }
 const Rechteck& placeOf(const Textstelle& stelle) { return stelle.box; }
 
-Rechteck placeOf(const Linienprobe& probe)
-{
-    constexpr double Sign = 8; // from the middle of the largest to its edge, with the line's
-    return {probe.left - Sign, probe.row - Sign, probe.right - probe.left + 2 * Sign, 2 * Sign};
-}
+Rechteck placeOf(const Linienprobe& probe) { return platz(probe); }
 
 template <class Part>
 void appendMissing(std::vector<Rechteck>& places, const std::vector<Part>& parts, const std::vector<Part>& others)
@@ -34,14 +29,18 @@ void appendDifferent(std::vector<Rechteck>& places, const std::vector<Part>& bef
 
 } // namespace
 
+Rechteck platz(const Linienprobe& probe)
+{
+    constexpr double Sign = 8; // from the middle of the largest to its edge, with the line's
+    return {probe.left - Sign, probe.row - Sign, probe.right - probe.left + 2 * Sign, 2 * Sign};
+}
+
 Layoutunterschied unterschied(const Kurvenlayout& before, const Kurvenlayout& now)
 {
     Layoutunterschied different;
     appendDifferent(different.rand, before.texte, now.texte);
     appendDifferent(different.rand, before.striche, now.striche);
-    for (const Kurvenlayout* const layout : {&before, &now})
-        std::ranges::transform(layout->legende, std::back_inserter(different.rand),
-            [](const Linienprobe& probe) { return placeOf(probe); });
+    appendDifferent(different.rand, before.legende, now.legende);
     appendDifferent(different.kern, before.kerntexte, now.kerntexte);
     appendDifferent(different.kern, before.kernstriche, now.kernstriche);
     return different;

@@ -209,7 +209,8 @@ void Auswahl::placeLegend(Randstreifen& rand, double top) const
     for (const Legendenzeile& row : m_legend) {
         for (const Eintrag& entry : row) {
             const double left = LabelColumn + entry.left;
-            rand.legende.push_back({entry.kurve, left, left + SampleLength, top + m_masse.height / 2});
+            rand.legende.push_back({entry.kurve, left, left + SampleLength, top + m_masse.height / 2,
+                m_bild.kurven.at(entry.kurve).aussehen()});
             rand.texte.push_back({entry.name, {left + SampleLength + SampleGap, top, entry.width, m_masse.height}, {}});
         }
         top += m_masse.height;

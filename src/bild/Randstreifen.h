@@ -25,6 +25,8 @@ struct Linienprobe {
     double left = 0;
     double right = 0;
     double row = 0;
+    Kurvenaussehen aussehen = {};
+    bool operator==(const Linienprobe&) const = default;
 };
 
 /// What stands above and below the axes of a diagram of curves: title, alloy and the titles of the upright axes above,

@@ -4,9 +4,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 #include "bild/Kurvenfarben.h"
+#include "bild/Kurvenstreifen.h"
 #include "bild/Textumbruch.h"
 
 namespace zerna {
@@ -63,6 +65,38 @@ TEST(AusduennungTest, LinesEndAtGapsAndALittleOutsideThePlot)
     EXPECT_EQ(
         sichtbarePunkte(std::vector<Punkt>{{1, 1}, {1, 1.01}, {2, gap}, {3, 40}, {4, 4}}, abbildung, 100, 100).size(),
         2U);
+}
+
+TEST(AusduennungTest, AStraightenedLinePassesAllItsPoints)
+{
+    std::vector<Punkt> line;
+    for (int i = 0; i <= 100; ++i)
+        line.push_back({6.0 * i, 0.0005 * 36 * i * i});
+    line.insert(line.end(), {{600, 10}, {606, 10}, {612, -300}, {618, 10}}); // upright, straight, a spike
+    const std::vector<Punkt> few = begradigt(line, 0.05);
+    EXPECT_LT(few.size(), line.size() / 2);
+    EXPECT_TRUE(few.front() == line.front() && few.back() == line.back());
+    for (const Punkt& punkt : line) {
+        const auto next = std::ranges::lower_bound(few, punkt.x, {}, &Punkt::x);
+        if (next->x == punkt.x)
+            continue; // kept, or above one another
+        const Punkt& before = *std::prev(next);
+        const double y = std::lerp(before.y, next->y, (punkt.x - before.x) / (next->x - before.x));
+        EXPECT_NEAR(y, punkt.y, 0.05) << punkt.x;
+    }
+    EXPECT_EQ(std::ranges::count(few, -300, &Punkt::y), 1);
+    EXPECT_TRUE(begradigt({}, 1).empty());
+}
+
+TEST(KurvenstreifenTest, StripsHoldTheirPartOfTheLineAndWhatIsAroundIt)
+{
+    Kurvenstreifen streifen({10, 20, 400, 100}); // four strips
+    EXPECT_TRUE(streifen.bereiche().empty());
+    streifen.add({50, 10}, {150, 30}, 2);
+    streifen.add({301, 90}, {301, 500}, 2); // upright, reaches into the strip before
+    const std::vector<Rechteck> expected{
+        {10, 28, 100, 15}, {110, 37, 100, 15}, {210, 108, 100, 12}, {310, 108, 100, 12}};
+    EXPECT_EQ(streifen.bereiche(), expected);
 }
 
 TEST(KurvenfarbenTest, AnyTwoDifferInDashOrClearlyInLightness)

@@ -105,13 +105,13 @@ void Konzentrationsdiagramm::zeichneFehler()
     ohneBild();
 }
 
-void Konzentrationsdiagramm::paintPlot(QPainter& painter, const Leinwand& leinwand) const
+void Konzentrationsdiagramm::paintPlot(QPainter& painter, const Leinwand& leinwand, Linien linien) const
 {
     if (m_fehler)
         paintFault(painter, leinwand);
     if (!hatBild())
         return;
-    Kurvendiagramm::paintPlot(painter, leinwand);
+    Kurvendiagramm::paintPlot(painter, leinwand, linien);
     if (m_hintergrund.empty() && m_striche.empty())
         return;
     const QRect area = plot(leinwand);

@@ -49,7 +49,7 @@ public:
     /// Whether a series is shown.
     bool hasAxes() const { return m_y.has_value(); }
 
-    void paintPlot(QPainter& painter, const Leinwand& leinwand) const override;
+    void paintPlot(QPainter& painter, const Leinwand& leinwand, Linien linien) const override;
 
     bool hatWerte() const override;
     std::string values() const override { return values(1); }

@@ -61,10 +61,10 @@ const Kurvenlayout& Kurvendiagramm::layout(const Leinwand& leinwand) const
 }
 
 /// A million points are thinned out again only when they are seen otherwise, not for every text beside them.
-const std::vector<Kurvenbahn>& Kurvendiagramm::bahnen(const Kurvenlayout& layout) const
+const std::vector<Kurvenbahn>& Kurvendiagramm::bahnen(const Kurvenlayout& layout, Linien linien) const
 {
-    return m_bahnen.get({m_kurvenstand, layout.plot.width, layout.plot.height, layout.ausschnitt},
-        [&] { return kurvenbahnen(m_bild, layout); });
+    return m_bahnen.get({m_kurvenstand, layout.plot.width, layout.plot.height, layout.ausschnitt, linien},
+        [&] { return kurvenbahnen(m_bild, layout, linien); });
 }
 
 QRect Kurvendiagramm::kern(const Leinwand& leinwand) const
@@ -80,14 +80,25 @@ QRect Kurvendiagramm::plot(const Leinwand& leinwand) const
 Kurvendiagramm::Neues Kurvendiagramm::neues(const Leinwand& leinwand)
 {
     const auto before = std::exchange(m_gezeigt, std::nullopt);
-    if (m_hatBild)
-        m_gezeigt = {leinwand, layout(leinwand)};
-    if (!m_gezeigt || !before || before->leinwand != leinwand) {
-        const QRect all(QPoint(0, 0), leinwand.size);
-        return {all, all};
+    if (m_hatBild) {
+        const Kurvenlayout& places = layout(leinwand);
+        m_gezeigt = {leinwand, places, plotinhalt(m_bild, places, bahnen(places, Linien::WieZuSehen))};
     }
+    const QRect all(QPoint(0, 0), leinwand.size);
+    if (!m_gezeigt || !before || before->leinwand != leinwand)
+        return {all, all, all};
     const auto [rand, kern] = unterschied(before->layout, m_gezeigt->layout);
-    return {regionOf(rand), regionOf(kern)};
+    const bool isPlotKnown = before->plot && !hatZeiger();
+    Neues neues{regionOf(rand), regionOf(kern), isPlotKnown ? unterschied(*before->plot, *m_gezeigt->plot) : all};
+    if (hatZeiger())
+        vergissPlot();
+    return neues;
+}
+
+void Kurvendiagramm::vergissPlot()
+{
+    if (m_gezeigt)
+        m_gezeigt->plot.reset();
 }
 
 void Kurvendiagramm::paintRand(QPainter& painter, const Leinwand& leinwand, const Bildteil& teil) const
@@ -102,12 +113,12 @@ void Kurvendiagramm::paintAchsen(QPainter& painter, const Leinwand& leinwand, co
         zerna::paintAchsen(painter, layout(leinwand), leinwand, teil);
 }
 
-void Kurvendiagramm::paintPlot(QPainter& painter, const Leinwand& leinwand) const
+void Kurvendiagramm::paintPlot(QPainter& painter, const Leinwand& leinwand, Linien linien) const
 {
     if (!m_hatBild)
         return;
     const Kurvenlayout& places = layout(leinwand);
-    zerna::paintPlot(painter, m_bild, places, bahnen(places), leinwand);
+    zerna::paintPlot(painter, m_bild, places, bahnen(places, linien), leinwand, linien);
 }
 
 void Kurvendiagramm::paint(QPainter& painter, const Leinwand& leinwand) const

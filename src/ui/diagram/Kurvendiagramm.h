@@ -11,6 +11,7 @@
 #include "ui/diagram/Diagramm.h"
 #include "ui/diagram/Kurvenmaler.h"
 #include "ui/diagram/LastResult.h"
+#include "ui/diagram/Plotinhalt.h"
 
 namespace zerna {
 
@@ -33,20 +34,21 @@ public:
     QRect kern(const Leinwand& leinwand) const;
     QRect plot(const Leinwand& leinwand) const;
 
-    /// What the picture shows otherwise beside the plot than when it was asked last, on the canvas: all where it cannot
-    /// be told.
+    /// What the picture shows otherwise than when it was asked last, on the canvas: all where it cannot be told.
     struct Neues {
         QRegion rand; ///< around the axes
-        QRegion kern;
+        QRegion kern; ///< beside the plot
+        QRegion plot;
     };
     Neues neues(const Leinwand& leinwand);
-    /// All is new when it is asked next.
+    /// All is new, or the plot, when it is asked next.
     void vergissGezeigtes() { m_gezeigt.reset(); }
+    void vergissPlot();
 
     /// Paint one part of the picture each, or a part of that.
     void paintRand(QPainter& painter, const Leinwand& leinwand, const Bildteil& teil = {}) const;
     void paintAchsen(QPainter& painter, const Leinwand& leinwand, const Bildteil& teil = {}) const;
-    virtual void paintPlot(QPainter& painter, const Leinwand& leinwand) const;
+    virtual void paintPlot(QPainter& painter, const Leinwand& leinwand, Linien linien = Linien::DurchAllePunkte) const;
 
     void paint(QPainter& painter, const Leinwand& leinwand) const override;
 
@@ -89,18 +91,21 @@ private:
         double width = 0;
         double height = 0;
         Ausschnitt ausschnitt;
+        Linien linien = Linien::DurchAllePunkte;
         bool operator==(const Kurvengrundlage&) const = default;
     };
 
-    const std::vector<Kurvenbahn>& bahnen(const Kurvenlayout& layout) const;
+    const std::vector<Kurvenbahn>& bahnen(const Kurvenlayout& layout, Linien linien) const;
+    bool hatZeiger() const { return m_ansicht.kreuz().has_value() || m_band.has_value(); }
     Punkt inPlot(const QPointF& position, const Leinwand& leinwand) const;
     bool zoomed(int key, const Leinwand& leinwand);
     bool moved(int key, int step, const Leinwand& leinwand);
 
-    /// The layout that neues was asked for last.
+    /// What neues was asked for last.
     struct Gezeigtes {
         Leinwand leinwand;
         Kurvenlayout layout;
+        std::optional<Plotinhalt> plot; // none while something else is on it
     };
 
     Kurvenbild m_bild;

@@ -8,6 +8,8 @@
 #include <utility>
 
 #include "bild/Ausduennung.h"
+#include "bild/Kurvenstreifen.h"
+#include "bild/Layoutunterschied.h"
 #include "ui/diagram/Schriftmessung.h"
 #include "ui/platform/Abdeckung.h"
 #include "ui/platform/Farben.h"
@@ -98,31 +100,82 @@ QPainterPath signPath(Punktzeichen zeichen, double size)
     return path;
 }
 
-void paintSigns(QPainter& painter, const Kurve& kurve, const QPolygonF& middles, const Bildstil& stil)
+void paintSigns(
+    QPainter& painter, const Kurve& kurve, const QPolygonF& middles, const Bildstil& stil, const Bereich& spalten)
 {
+    constexpr double Beside = 8;
     if (kurve.zeichen == Punktzeichen::Keines)
         return;
     const QPainterPath sign =
         signPath(kurve.zeichen, SignSize * std::sqrt(stil.linienbreite / Bildstil().linienbreite));
     painter.setPen(QPen(Qt::white, 1)); // apart from the line that it stands on
     painter.setBrush(colourIn(kurve.farbe, stil));
-    for (const QPointF& middle : middles)
-        painter.drawPath(sign.translated(middle));
+    for (const QPointF& middle : middles) {
+        if (middle.x() >= spalten.min - Beside && middle.x() <= spalten.max + Beside)
+            painter.drawPath(sign.translated(middle));
+    }
 }
 
-void paintCurve(QPainter& painter, const Kurve& kurve, const Kurvenbahn& bahn, const Bildstil& stil)
+/// A part of a line, and what the line measures up to there.
+struct Linienstueck {
+    QPolygonF punkte;
+    double davor = 0;
+};
+
+/// The part of a line, ascending in x, between two columns.
+Linienstueck stueck(const QPolygonF& linie, const Bereich& spalten)
 {
-    painter.setPen(penOf(kurve, stil));
-    painter.setBrush(Qt::NoBrush);
-    if (kurve.linie != Linienart::Keine) {
-        for (const QPolygonF& linie : bahn.linien) {
-            if (linie.size() == 1)
-                painter.drawPoint(linie.front());
-            else
-                painter.drawPolyline(linie);
-        }
+    Linienstueck part;
+    for (qsizetype i = 1; i < linie.size(); ++i) {
+        const QLineF line(linie[i - 1], linie[i]);
+        if (line.x1() > spalten.max)
+            break;
+        const QPointF from = line.x1() < spalten.min && line.x2() > spalten.min
+            ? line.pointAt((spalten.min - line.x1()) / line.dx())
+            : line.p1();
+        if (part.punkte.isEmpty())
+            part.davor += QLineF(line.p1(), line.x2() < spalten.min ? line.p2() : from).length();
+        if (line.x2() < spalten.min)
+            continue;
+        if (part.punkte.isEmpty())
+            part.punkte << from;
+        part.punkte << (line.x2() > spalten.max ? line.pointAt((spalten.max - line.x1()) / line.dx()) : line.p2());
     }
-    paintSigns(painter, kurve, bahn.zeichen, stil);
+    return part;
+}
+
+/// Paints at least what is seen of a curve between two columns.
+void paintCurve(QPainter& painter, const Kurve& kurve, const Kurvenbahn& bahn, const Bildstil& stil,
+    const Bereich& spalten = {-1e9, 1e9})
+{
+    constexpr double Beside = 4; // a line with its joints and caps
+    QPen pen = penOf(kurve, stil);
+    painter.setBrush(Qt::NoBrush);
+    for (const QPolygonF& linie : bahn.linien) {
+        const auto [punkte, davor] = stueck(linie, {spalten.min - Beside, spalten.max + Beside});
+        if (pen.style() == Qt::CustomDashLine) // dashes go on from part to part
+            pen.setDashOffset(davor / pen.widthF());
+        painter.setPen(pen);
+        if (linie.size() == 1)
+            painter.drawPoint(linie.front());
+        else if (!punkte.isEmpty())
+            painter.drawPolyline(punkte);
+    }
+    paintSigns(painter, kurve, bahn.zeichen, stil, spalten);
+}
+
+/// Paints the curves in upright strips. To smooth an outline the toolkit goes along all of it for every few rows that
+/// it is high: along a part of it once or twice.
+void paintCurves(QPainter& painter, const Kurvenbild& bild, const std::vector<Kurvenbahn>& bahnen, const Bildstil& stil,
+    const Rechteck& plot)
+{
+    for (const Bereich& spalten : streifenspalten(plot.width)) {
+        painter.save();
+        painter.setClipRect(QRectF(spalten.min, 0, spalten.max - spalten.min, plot.height), Qt::IntersectClip);
+        for (std::size_t i = 0; i < bild.kurven.size(); ++i)
+            paintCurve(painter, bild.kurven[i], bahnen.at(i), stil, spalten);
+        painter.restore();
+    }
 }
 
 QPolygonF centred(const std::vector<Punkt>& punkte)
@@ -134,15 +187,16 @@ QPolygonF centred(const std::vector<Punkt>& punkte)
     return polygon;
 }
 
-Kurvenbahn bahnOf(const Kurve& kurve, const Kurvenlayout& layout)
+Kurvenbahn bahnOf(const Kurve& kurve, const Kurvenlayout& layout, Linien linien)
 {
+    constexpr double Unseen = 0.05; // pixels
     const Abbildung& abbildung = kurve.rechts ? layout.rechts : layout.links;
     const double width = layout.plot.width;
     const double height = layout.plot.height;
     Kurvenbahn bahn;
     if (kurve.linie != Linienart::Keine)
         for (const std::vector<Punkt>& zug : sichtbareZuege(kurve.punkte, abbildung, width, height))
-            bahn.linien.push_back(centred(zug));
+            bahn.linien.push_back(centred(linien == Linien::WieZuSehen ? begradigt(zug, Unseen) : zug));
     if (kurve.zeichen != Punktzeichen::Keines)
         bahn.zeichen = centred(sichtbarePunkte(kurve.punkte, abbildung, width, height));
     return bahn;
@@ -213,11 +267,12 @@ Kurvenlayout kurvenlayout(const Kurvenbild& bild, const Leinwand& leinwand, cons
         bild, leinwand.size.width(), leinwand.size.height(), leinwand.stil, schriftmasse(leinwand.font), ausschnitt);
 }
 
-std::vector<Kurvenbahn> kurvenbahnen(const Kurvenbild& bild, const Kurvenlayout& layout)
+std::vector<Kurvenbahn> kurvenbahnen(const Kurvenbild& bild, const Kurvenlayout& layout, Linien linien)
 {
     std::vector<Kurvenbahn> bahnen(bild.kurven.size());
     if (!layout.istLeer())
-        std::ranges::transform(bild.kurven, bahnen.begin(), [&](const Kurve& kurve) { return bahnOf(kurve, layout); });
+        std::ranges::transform(
+            bild.kurven, bahnen.begin(), [&](const Kurve& kurve) { return bahnOf(kurve, layout, linien); });
     return bahnen;
 }
 
@@ -242,12 +297,14 @@ void paintRand(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& la
         painter.fillRect(rectOf(strich), Qt::black);
     paintTexts(painter, layout.texte, leinwand.font, teil);
     painter.setRenderHint(QPainter::Antialiasing);
-    for (const auto& [index, left, right, row] : layout.legende) {
-        const double line = std::floor(row) + PixelCentre;
-        Kurvenbahn probe{{QPolygonF()}, {}};
-        probe.linien.front() << QPointF(left, line) << QPointF(right, line);
-        probe.zeichen << QPointF((left + right) / 2, line);
-        paintCurve(painter, bild.kurven.at(index), probe, leinwand.stil);
+    for (const Linienprobe& probe : layout.legende) {
+        if (teil && !teil->intersects(gemalteFlaeche(platz(probe))))
+            continue;
+        const double line = std::floor(probe.row) + PixelCentre;
+        Kurvenbahn bahn{{QPolygonF()}, {}};
+        bahn.linien.front() << QPointF(probe.left, line) << QPointF(probe.right, line);
+        bahn.zeichen << QPointF((probe.left + probe.right) / 2, line);
+        paintCurve(painter, bild.kurven.at(probe.kurve), bahn, leinwand.stil);
     }
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
@@ -260,7 +317,7 @@ void paintAchsen(QPainter& painter, const Kurvenlayout& layout, const Leinwand& 
 }
 
 void paintPlot(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& layout,
-    const std::vector<Kurvenbahn>& bahnen, const Leinwand& leinwand)
+    const std::vector<Kurvenbahn>& bahnen, const Leinwand& leinwand, Linien linien)
 {
     if (layout.istLeer())
         return;
@@ -269,8 +326,12 @@ void paintPlot(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& la
     painter.translate(layout.plot.left, layout.plot.top);
     painter.setRenderHint(QPainter::Antialiasing);
     paintMarks(painter, bild, layout, leinwand);
-    for (std::size_t i = 0; i < bild.kurven.size(); ++i)
-        paintCurve(painter, bild.kurven[i], bahnen.at(i), leinwand.stil);
+    if (linien == Linien::WieZuSehen && leinwand.devicePixelRatio == std::floor(leinwand.devicePixelRatio)) {
+        paintCurves(painter, bild, bahnen, leinwand.stil, layout.plot);
+    } else { // also where the edges of strips would not be those of pixels
+        for (std::size_t i = 0; i < bild.kurven.size(); ++i)
+            paintCurve(painter, bild.kurven[i], bahnen.at(i), leinwand.stil);
+    }
     painter.restore();
     for (const Textstelle& stelle : layout.markentexte)
         painter.fillRect(rectOf(stelle.box), QColor(255, 255, 255, 200));

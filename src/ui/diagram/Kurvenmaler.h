@@ -18,6 +18,7 @@ namespace zerna {
 struct Kurvenbahn {
     std::vector<QPolygonF> linien;
     QPolygonF zeichen; ///< middles of the signs
+    bool operator==(const Kurvenbahn&) const = default;
 };
 
 /// A diagram that is ready to be painted on one canvas.
@@ -33,8 +34,13 @@ Schriftmasse schriftmasse(const QFont& font);
 Kurvenlayout kurvenlayout(
     const Kurvenbild& bild, const Leinwand& leinwand, const std::optional<Ausschnitt>& ausschnitt);
 
+/// How lines are painted: for files and paper through all points; on the screen so that they look the same, which is
+/// quicker.
+enum class Linien { DurchAllePunkte, WieZuSehen };
+
 /// All curves on the plot.
-std::vector<Kurvenbahn> kurvenbahnen(const Kurvenbild& bild, const Kurvenlayout& layout);
+std::vector<Kurvenbahn> kurvenbahnen(
+    const Kurvenbild& bild, const Kurvenlayout& layout, Linien linien = Linien::DurchAllePunkte);
 
 /// Both.
 Kurvenzeichnung kurvenzeichnung(
@@ -51,7 +57,7 @@ void paintRand(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& la
     const Bildteil& teil = {});
 void paintAchsen(QPainter& painter, const Kurvenlayout& layout, const Leinwand& leinwand, const Bildteil& teil = {});
 void paintPlot(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& layout,
-    const std::vector<Kurvenbahn>& bahnen, const Leinwand& leinwand);
+    const std::vector<Kurvenbahn>& bahnen, const Leinwand& leinwand, Linien linien = Linien::DurchAllePunkte);
 
 /// Paints all parts.
 void paintKurven(QPainter& painter, const Kurvenbild& bild, const Kurvenzeichnung& zeichnung, const Leinwand& leinwand);

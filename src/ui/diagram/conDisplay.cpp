@@ -40,7 +40,7 @@ conDisplay::conDisplay(Programm& programm, Dialoge dialoge, QWidget* parent)
         [this](QPainter& painter) {
             painter.fillRect(m_pic->rect(), Qt::white);
             painter.translate(-pictureOffset(m_pic->pos()));
-            m_diagramm.paintPlot(painter, leinwand());
+            m_diagramm.paintPlot(painter, leinwand(), Linien::WieZuSehen);
             m_diagramm.paintCursor(painter, leinwand());
             painter.resetTransform();
             painter.translate(-m_pic->pos());
@@ -78,13 +78,13 @@ void conDisplay::setLegierung(const Legierung& legierung)
 void conDisplay::Zeichne_Punkt(float x, float y, std::uint32_t colour)
 {
     m_diagramm.zeichnePunkt(x, y, colour);
-    m_pic->update();
+    updatePlot();
 }
 
 void conDisplay::Zeichne_LinieZu(float x, float y, std::uint32_t colour)
 {
     m_diagramm.zeichneLinieZu(x, y, colour);
-    m_pic->update();
+    updatePlot();
 }
 
 void conDisplay::Zeichne_Valenz()
@@ -96,7 +96,7 @@ void conDisplay::Zeichne_Valenz()
 void conDisplay::Display_Loeschen()
 {
     m_diagramm.loeschen();
-    m_pic->update();
+    updatePlot();
 }
 
 void conDisplay::Display_Background() { m_diagramm.alsHintergrund(); }
@@ -167,7 +167,11 @@ void conDisplay::setBild(Kurvenbild bild)
 
 void conDisplay::setPlatz(const QRect& place, const QSize& picture)
 {
-    m_rand = {place.left(), place.top(), picture.width() - place.right() - 1, picture.height() - place.bottom() - 1};
+    const QMargins rand(
+        place.left(), place.top(), picture.width() - place.right() - 1, picture.height() - place.bottom() - 1);
+    if (rand == m_rand && place == geometry())
+        return;
+    m_rand = rand;
     setGeometry(place);
     placePlot();
 }
@@ -183,15 +187,15 @@ Leinwand conDisplay::leinwand() const
 /// Where a point of the control lies in the picture.
 QPoint conDisplay::pictureOffset(const QPoint& point) const { return point + QPoint(m_rand.left(), m_rand.top()); }
 
-/// Only what is otherwise around the plot is painted anew.
+/// Only what is otherwise is painted anew.
 void conDisplay::placePlot()
 {
     const QPoint corner = pictureOffset({});
-    const auto [rand, kern] = m_diagramm.neues(leinwand());
+    const auto [rand, kern, plot] = m_diagramm.neues(leinwand());
     m_pic->setGeometry(m_diagramm.plot(leinwand()).translated(-corner));
     update((rand + kern).translated(-corner));
+    m_pic->update(plot.translated(-corner - m_pic->pos()));
     emit randVeraltet(rand);
-    updatePlot();
 }
 
 void conDisplay::updateAll()
@@ -201,7 +205,11 @@ void conDisplay::updateAll()
     updatePlot();
 }
 
-void conDisplay::updatePlot() { m_pic->update(); }
+void conDisplay::updatePlot()
+{
+    m_diagramm.vergissPlot();
+    m_pic->update();
+}
 
 void conDisplay::focusOutEvent(QFocusEvent* event)
 {
@@ -237,6 +245,13 @@ void conDisplay::paintFocus(QPainter& painter) const
         return;
     painter.setPen(QPen(fokusfarbe(palette(), Qt::white), 2)); // diagrams are white in every theme
     painter.drawRect(rect().adjusted(1, 1, -1, -1));
+}
+
+void conDisplay::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        placePlot();
 }
 
 void conDisplay::resizeEvent(QResizeEvent* event)

@@ -4,7 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 
 #include "ui/diagram/Bildausgabe.h"
@@ -95,6 +97,34 @@ TEST(KurvenmalerTest, GapsDashesSignsAndTheRightAxisAreDrawn)
     Leinwand grey{{520, 354}, {}, 1};
     grey.stil.grau = true;
     EXPECT_TRUE(picture(bild, grey).allGray());
+}
+
+TEST(KurvenmalerTest, WhatIsPaintedForTheScreenLooksAsThroughAllPoints)
+{
+    std::vector<Kurve> kurven{
+        line({}), line({}, Linienart::Strichpunkt), line({{30, 50}, {62.4, 80}}, Linienart::Keine)};
+    kurven[2].zeichen = Punktzeichen::Raute;
+    for (int i = 0; i <= 100; ++i) {
+        kurven[0].punkte.push_back({i + 0.0, 20 + 2.5 * i * i / 100});
+        kurven[1].punkte.push_back({i + 0.0, i == 50 ? 400 : 280 - 2.0 * i});
+    }
+    const Kurvenbild bild = bildOf(std::move(kurven));
+    const Leinwand leinwand{{1260, 330}, {}, 1};
+    const Kurvenlayout layout = kurvenzeichnung(bild, leinwand).layout;
+    const auto painted = [&](Linien linien) {
+        return imageOf(
+            [&](QPainter& painter, const Leinwand&) {
+                paintPlot(painter, bild, layout, kurvenbahnen(bild, layout, linien), leinwand, linien);
+            },
+            leinwand);
+    };
+    const QImage all = painted(Linien::DurchAllePunkte);
+    const QImage seen = painted(Linien::WieZuSehen);
+    int most = 0;
+    for (int y = 0; y < all.height(); ++y)
+        for (int x = 0; x < all.width(); ++x)
+            most = std::max(most, std::abs(qRed(all.pixel(x, y)) - qRed(seen.pixel(x, y))));
+    EXPECT_LE(most, 24) << "of 255";
 }
 
 } // namespace zerna
