@@ -6,22 +6,14 @@
 
 namespace zerna {
 
-std::vector<Bereich> streifenspalten(double plotWidth)
-{
-    constexpr double Usual = 100; // pixels
-    constexpr int Most = 16;
-    const int count = std::clamp(static_cast<int>(plotWidth / Usual), 1, Most);
-    std::vector<Bereich> result;
-    for (int i = 0; i < count; ++i)
-        result.push_back({std::floor(plotWidth * i / count), std::floor(plotWidth * (i + 1) / count)});
-    return result;
-}
-
 Kurvenstreifen::Kurvenstreifen(const Rechteck& plot)
     : m_plot(plot)
 {
-    for (const Bereich& spalten : streifenspalten(plot.width))
-        m_streifen.push_back({spalten});
+    constexpr double Usual = 100; // pixels
+    constexpr int Most = 16;
+    const int count = std::clamp(static_cast<int>(plot.width / Usual), 1, Most);
+    for (int i = 0; i < count; ++i)
+        m_streifen.push_back({{std::floor(plot.width * i / count), std::floor(plot.width * (i + 1) / count)}});
 }
 
 void Kurvenstreifen::add(const Punkt& from, const Punkt& to, double around)

@@ -24,7 +24,7 @@ public:
 
 private:
     struct Streifen {
-        Bereich spalten;
+        Bereich spalten; // whole pixels from the plot's left edge
         double top = 0;
         double bottom = -1; // above the top: nothing is in it
     };

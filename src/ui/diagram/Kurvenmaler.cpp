@@ -8,8 +8,8 @@
 #include <utility>
 
 #include "bild/Ausduennung.h"
-#include "bild/Kurvenstreifen.h"
 #include "bild/Layoutunterschied.h"
+#include "ui/diagram/Linienmaler.h"
 #include "ui/diagram/Schriftmessung.h"
 #include "ui/platform/Abdeckung.h"
 #include "ui/platform/Farben.h"
@@ -100,82 +100,45 @@ QPainterPath signPath(Punktzeichen zeichen, double size)
     return path;
 }
 
-void paintSigns(
-    QPainter& painter, const Kurve& kurve, const QPolygonF& middles, const Bildstil& stil, const Bereich& spalten)
+void paintSigns(QPainter& painter, const Kurve& kurve, const QPolygonF& middles, const Bildstil& stil)
 {
-    constexpr double Beside = 8;
     if (kurve.zeichen == Punktzeichen::Keines)
         return;
     const QPainterPath sign =
         signPath(kurve.zeichen, SignSize * std::sqrt(stil.linienbreite / Bildstil().linienbreite));
     painter.setPen(QPen(Qt::white, 1)); // apart from the line that it stands on
     painter.setBrush(colourIn(kurve.farbe, stil));
-    for (const QPointF& middle : middles) {
-        if (middle.x() >= spalten.min - Beside && middle.x() <= spalten.max + Beside)
-            painter.drawPath(sign.translated(middle));
-    }
+    for (const QPointF& middle : middles)
+        painter.drawPath(sign.translated(middle));
 }
 
-/// A part of a line, and what the line measures up to there.
-struct Linienstueck {
-    QPolygonF punkte;
-    double davor = 0;
-};
-
-/// The part of a line, ascending in x, between two columns.
-Linienstueck stueck(const QPolygonF& linie, const Bereich& spalten)
+void paintCurve(QPainter& painter, const Kurve& kurve, const Kurvenbahn& bahn, const Bildstil& stil)
 {
-    Linienstueck part;
-    for (qsizetype i = 1; i < linie.size(); ++i) {
-        const QLineF line(linie[i - 1], linie[i]);
-        if (line.x1() > spalten.max)
-            break;
-        const QPointF from = line.x1() < spalten.min && line.x2() > spalten.min
-            ? line.pointAt((spalten.min - line.x1()) / line.dx())
-            : line.p1();
-        if (part.punkte.isEmpty())
-            part.davor += QLineF(line.p1(), line.x2() < spalten.min ? line.p2() : from).length();
-        if (line.x2() < spalten.min)
-            continue;
-        if (part.punkte.isEmpty())
-            part.punkte << from;
-        part.punkte << (line.x2() > spalten.max ? line.pointAt((spalten.max - line.x1()) / line.dx()) : line.p2());
-    }
-    return part;
-}
-
-/// Paints at least what is seen of a curve between two columns.
-void paintCurve(QPainter& painter, const Kurve& kurve, const Kurvenbahn& bahn, const Bildstil& stil,
-    const Bereich& spalten = {-1e9, 1e9})
-{
-    constexpr double Beside = 4; // a line with its joints and caps
-    QPen pen = penOf(kurve, stil);
+    painter.setPen(penOf(kurve, stil));
     painter.setBrush(Qt::NoBrush);
     for (const QPolygonF& linie : bahn.linien) {
-        const auto [punkte, davor] = stueck(linie, {spalten.min - Beside, spalten.max + Beside});
-        if (pen.style() == Qt::CustomDashLine) // dashes go on from part to part
-            pen.setDashOffset(davor / pen.widthF());
-        painter.setPen(pen);
         if (linie.size() == 1)
             painter.drawPoint(linie.front());
-        else if (!punkte.isEmpty())
-            painter.drawPolyline(punkte);
+        else
+            painter.drawPolyline(linie);
     }
-    paintSigns(painter, kurve, bahn.zeichen, stil, spalten);
+    paintSigns(painter, kurve, bahn.zeichen, stil);
 }
 
-/// Paints the curves in upright strips. To smooth an outline the toolkit goes along all of it for every few rows that
-/// it is high: along a part of it once or twice.
-void paintCurves(QPainter& painter, const Kurvenbild& bild, const std::vector<Kurvenbahn>& bahnen, const Bildstil& stil,
-    const Rechteck& plot)
+/// The same on a plot, quicker.
+void paintCurveAsSeen(
+    QPainter& painter, const Kurve& kurve, const Kurvenbahn& bahn, const Bildstil& stil, const Rechteck& plot)
 {
-    for (const Bereich& spalten : streifenspalten(plot.width)) {
-        painter.save();
-        painter.setClipRect(QRectF(spalten.min, 0, spalten.max - spalten.min, plot.height), Qt::IntersectClip);
-        for (std::size_t i = 0; i < bild.kurven.size(); ++i)
-            paintCurve(painter, bild.kurven[i], bahnen.at(i), stil, spalten);
-        painter.restore();
+    const QPen pen = penOf(kurve, stil);
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    for (const QPolygonF& linie : bahn.linien) {
+        if (linie.size() == 1)
+            painter.drawPoint(linie.front());
+        else
+            paintLinie(painter, linie, pen, QRectF(0, 0, plot.width, plot.height));
     }
+    paintSigns(painter, kurve, bahn.zeichen, stil);
 }
 
 QPolygonF centred(const std::vector<Punkt>& punkte)
@@ -189,7 +152,7 @@ QPolygonF centred(const std::vector<Punkt>& punkte)
 
 Kurvenbahn bahnOf(const Kurve& kurve, const Kurvenlayout& layout, Linien linien)
 {
-    constexpr double Unseen = 0.05; // pixels
+    constexpr double Unseen = 0.1; // pixels
     const Abbildung& abbildung = kurve.rechts ? layout.rechts : layout.links;
     const double width = layout.plot.width;
     const double height = layout.plot.height;
@@ -326,10 +289,13 @@ void paintPlot(QPainter& painter, const Kurvenbild& bild, const Kurvenlayout& la
     painter.translate(layout.plot.left, layout.plot.top);
     painter.setRenderHint(QPainter::Antialiasing);
     paintMarks(painter, bild, layout, leinwand);
-    if (linien == Linien::WieZuSehen && leinwand.devicePixelRatio == std::floor(leinwand.devicePixelRatio)) {
-        paintCurves(painter, bild, bahnen, leinwand.stil, layout.plot);
-    } else { // also where the edges of strips would not be those of pixels
-        for (std::size_t i = 0; i < bild.kurven.size(); ++i)
+    // The edges of parts of a line must be those of pixels.
+    const bool asSeen =
+        linien == Linien::WieZuSehen && leinwand.devicePixelRatio == std::floor(leinwand.devicePixelRatio);
+    for (std::size_t i = 0; i < bild.kurven.size(); ++i) {
+        if (asSeen)
+            paintCurveAsSeen(painter, bild.kurven[i], bahnen.at(i), leinwand.stil, layout.plot);
+        else
             paintCurve(painter, bild.kurven[i], bahnen.at(i), leinwand.stil);
     }
     painter.restore();
