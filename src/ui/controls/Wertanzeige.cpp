@@ -33,6 +33,7 @@ Wertanzeige::Wertanzeige(QWidget* parent)
 {
     setSizePolicy({QSizePolicy::Preferred, QSizePolicy::Preferred, QSizePolicy::Label});
     setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent); // another number paints nothing beneath it
 }
 
 void Wertanzeige::zeige(const QString& shown)
@@ -172,6 +173,7 @@ void Wertanzeige::paintNumber(QPainter& painter) const
 void Wertanzeige::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
+    painter.fillRect(event->rect(), palette().window());
     if (hasFocus())
         paintFocus(painter);
     const QColor colour = palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText);
