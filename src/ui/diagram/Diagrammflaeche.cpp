@@ -36,7 +36,8 @@ Diagrammflaeche::Diagrammflaeche(Programm& programm, Dialoge dialoge, QWidget* p
     showHinweis({});
 }
 
-void Diagrammflaeche::showDiagramm(Diagramm& diagramm, Qt::FocusPolicy focus)
+/// Whether it is painted anew.
+bool Diagrammflaeche::showDiagramm(Diagramm& diagramm, Qt::FocusPolicy focus, bool isNew)
 {
     if (&diagramm != &m_meldung) { // which comes and goes while something is typed
         if (m_gezeigt != nullptr && m_gezeigt != &diagramm)
@@ -49,8 +50,10 @@ void Diagrammflaeche::showDiagramm(Diagramm& diagramm, Qt::FocusPolicy focus)
     m_dragging = false;
     setAccessibleDescription({});
     emit positionChanged(diagramm.cursorText());
-    if (isOther || !zeigtKonzentration()) // the display tells what is new in its picture
+    const bool isPainted = isOther || (isNew && !zeigtKonzentration()); // which tells what is new in its picture
+    if (isPainted)
         update();
+    return isPainted;
 }
 
 /// Keys undo what the mouse has done; views of the ternary diagram are undone like input.
@@ -101,9 +104,18 @@ void Diagrammflaeche::setTernaerziel(std::optional<float> ziel)
 
 void Diagrammflaeche::showTernaer(Ternaerangaben angaben)
 {
-    m_ternaer.setAngaben(std::move(angaben));
-    showDiagramm(m_ternaer, Qt::StrongFocus);
-    m_readingIsOld = true;
+    const bool isNew = m_ternaer.setAngaben(std::move(angaben));
+    const bool isPainted = showDiagramm(m_ternaer, Qt::StrongFocus, isNew);
+    m_readingIsOld = m_readingIsOld || isPainted;
+    if (!m_readingIsOld)
+        nenneAblesung();
+}
+
+/// What the keyboard cursor or the mouse reads in the ternary diagram.
+void Diagrammflaeche::nenneAblesung()
+{
+    const QString ablesung = m_ternaer.cursorText();
+    emit positionChanged(ablesung.isEmpty() ? m_ternaer.positionText(m_lastPosition, leinwand()) : ablesung);
 }
 
 void Diagrammflaeche::setAnsicht(const Ansicht& ansicht)
@@ -240,9 +252,8 @@ void Diagrammflaeche::paintEvent(QPaintEvent* event)
     }
     m_diagramm->paint(painter, leinwand());
     m_diagramm->paintCursor(painter, leinwand());
-    const QString ablesung = m_ternaer.cursorText();
     if (std::exchange(m_readingIsOld, false) && m_diagramm == &m_ternaer) // read once the picture is there
-        emit positionChanged(ablesung.isEmpty() ? m_ternaer.positionText(m_lastPosition, leinwand()) : ablesung);
+        nenneAblesung();
     if (hasFocus()) {
         painter.setPen(QPen(fokusfarbe(palette(), Qt::white), 2)); // diagrams are white in every theme
         painter.drawRect(rect().adjusted(1, 1, -1, -1));

@@ -97,7 +97,8 @@ protected:
 
 private:
     Leinwand leinwand() const { return leinwandOf(*this); }
-    void showDiagramm(Diagramm& diagramm, Qt::FocusPolicy focus);
+    bool showDiagramm(Diagramm& diagramm, Qt::FocusPolicy focus, bool isNew = true);
+    void nenneAblesung();
     void placeDisplay();
     void takeFocus();
     void updateDiagramm();

@@ -18,8 +18,9 @@ constexpr double ZoomStep = 1.1; // of a key or a notch of the wheel
 
 } // namespace
 
-void Ternaerdiagramm::setAngaben(Ternaerangaben angaben)
+bool Ternaerdiagramm::setAngaben(Ternaerangaben angaben)
 {
+    const auto before = std::pair(m_inhalt, m_beiwerk);
     if (!m_inhalt || m_inhalt->gitter != angaben.gitter) // other at% have the same surface
         m_inhalt = std::make_shared<const Ternaerinhalt>(std::move(angaben.gitter));
     if (m_kreuz && m_kreuz->i + m_kreuz->j > m_inhalt->gitter.n)
@@ -29,6 +30,7 @@ void Ternaerdiagramm::setAngaben(Ternaerangaben angaben)
     m_beiwerk.untertitel = std::move(angaben.untertitel);
     m_beiwerk.legierung = istZusammensetzung(angaben.legierung) ? std::optional(angaben.legierung) : std::nullopt;
     findZiellinien();
+    return before != std::pair(m_inhalt, m_beiwerk);
 }
 
 void Ternaerdiagramm::setZiel(std::optional<float> ziel)

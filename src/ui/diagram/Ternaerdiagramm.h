@@ -14,8 +14,8 @@ namespace zerna {
 /// The ternary diagram, which mouse and keys turn and zoom. The flat view stands still.
 class Ternaerdiagramm : public Diagramm {
 public:
-    /// Shows another alloy or quantity; view and target stay.
-    void setAngaben(Ternaerangaben angaben);
+    /// Shows another alloy or quantity; view and target stay. Whether the picture is another one then.
+    bool setAngaben(Ternaerangaben angaben);
 
     /// Marks where the quantity has a value, by a line across the surface; none takes the line away.
     void setZiel(std::optional<float> ziel);

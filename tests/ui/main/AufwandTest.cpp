@@ -120,6 +120,21 @@ TEST_F(AufwandTest, TheMouseOverADiagramLaysOutNothing)
     EXPECT_EQ(counted.count(QEvent::LayoutRequest, ""), 0);
 }
 
+TEST_F(AufwandTest, TheTernaryDiagramIsRepaintedOnlyAsAnotherOne)
+{
+    settings["Komponenten"] = "2";
+    open();
+    choose("cmbDiagramm_Typ", "3 D - ternär");
+    type("txtProzent_0", "5");
+    QTest::qWait(10);
+    for (const auto& [key, paintings] : {std::pair(Qt::Key_Backspace, 0), {Qt::Key_5, 0}, {Qt::Key_1, 1}}) {
+        const Ereigniszaehler counted;
+        QTest::keyClick(&find("txtProzent_0"), key);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(counted.count(QEvent::Paint, "picDiagramm"), paintings) << key;
+    }
+}
+
 TEST_F(AufwandTest, AnotherElementInTheTableRepaintsItsCellAndItsData)
 {
     open();
