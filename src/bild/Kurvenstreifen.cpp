@@ -10,7 +10,7 @@ Kurvenstreifen::Kurvenstreifen(const Rechteck& plot)
     : m_plot(plot)
 {
     constexpr double Usual = 100; // pixels
-    constexpr int Most = 16;
+    constexpr int Most = 8; // more cost more to keep apart than they leave out
     const int count = std::clamp(static_cast<int>(plot.width / Usual), 1, Most);
     for (int i = 0; i < count; ++i)
         m_streifen.push_back({{std::floor(plot.width * i / count), std::floor(plot.width * (i + 1) / count)}});
