@@ -2,6 +2,7 @@
 
 #include <QAccessibleWidget>
 #include <QHash>
+#include <QLineEdit>
 
 #include "ui/button/StyledButton.h"
 #include "ui/button/StyledButtonZugang.h"
@@ -9,10 +10,9 @@
 #include "ui/controls/BefundzeileZugang.h"
 #include "ui/controls/KurzlabelZugang.h"
 #include "ui/controls/Kurzmeldung.h"
+#include "ui/controls/TextfeldZugang.h"
 #include "ui/controls/Wertanzeige.h"
 #include "ui/controls/WertanzeigeZugang.h"
-#include "ui/controls/Wertfeld.h"
-#include "ui/controls/WertfeldZugang.h"
 #include "ui/diagram/Bildvorschau.h"
 #include "ui/diagram/DiagrammZugang.h"
 #include "ui/diagram/Diagrammflaeche.h"
@@ -67,7 +67,6 @@ QAccessibleInterface* zugangOf(const QString& className, QObject* object)
         {QStringLiteral("zerna::StyledButton"), make<StyledButton, StyledButtonZugang>},
         {QStringLiteral("zerna::Befundzeile"), make<Befundzeile, BefundzeileZugang>},
         {QStringLiteral("zerna::Wertanzeige"), make<Wertanzeige, WertanzeigeZugang>},
-        {QStringLiteral("zerna::Wertfeld"), make<Wertfeld, WertfeldZugang>},
         {QStringLiteral("zerna::Kurzlabel"), make<Kurzlabel, KurzlabelZugang>},
         {QStringLiteral("zerna::conLabel"), make<conLabel, conLabelZugang>},
         {QStringLiteral("zerna::Periodentafel"), make<Periodentafel, PeriodentafelZugang>},
@@ -77,6 +76,7 @@ QAccessibleInterface* zugangOf(const QString& className, QObject* object)
         {QStringLiteral("zerna::Elementkarte"), makePlain<QAccessible::Grouping>},
         {QStringLiteral("zerna::Bildvorschau"), makePlain<QAccessible::Graphic>},
         {QStringLiteral("zerna::Durchsage"), makeDurchsage},
+        {QStringLiteral("QLineEdit"), make<QLineEdit, TextfeldZugang>},
         // The toolkit's own layers are spoken at each way into them.
         {QStringLiteral("QStackedWidget"), makePlain<QAccessible::Client>},
     };

@@ -1,16 +1,16 @@
-#include "ui/controls/WertfeldZugang.h"
+#include "ui/controls/TextfeldZugang.h"
 
-#include "ui/controls/Wertfeld.h"
+#include <QLineEdit>
 
 namespace zerna {
 
-WertfeldZugang::WertfeldZugang(Wertfeld& feld)
+TextfeldZugang::TextfeldZugang(QLineEdit& feld)
     : QAccessibleWidget(&feld, QAccessible::EditableText)
     , m_feld(feld)
 {
 }
 
-QAccessible::State WertfeldZugang::state() const
+QAccessible::State TextfeldZugang::state() const
 {
     QAccessible::State state = QAccessibleWidget::state();
     state.readOnly = m_feld.isReadOnly();
@@ -19,7 +19,7 @@ QAccessible::State WertfeldZugang::state() const
     return state;
 }
 
-QString WertfeldZugang::text(QAccessible::Text kind) const
+QString TextfeldZugang::text(QAccessible::Text kind) const
 {
     if (kind == QAccessible::Value)
         return m_feld.text();
@@ -27,7 +27,7 @@ QString WertfeldZugang::text(QAccessible::Text kind) const
     return said.isEmpty() && kind == QAccessible::Description ? m_feld.placeholderText() : said;
 }
 
-void WertfeldZugang::setText(QAccessible::Text kind, const QString& text)
+void TextfeldZugang::setText(QAccessible::Text kind, const QString& text)
 {
     if (kind == QAccessible::Value)
         replaceText(0, characterCount(), text);
@@ -35,7 +35,7 @@ void WertfeldZugang::setText(QAccessible::Text kind, const QString& text)
         QAccessibleWidget::setText(kind, text);
 }
 
-void* WertfeldZugang::interface_cast(QAccessible::InterfaceType type)
+void* TextfeldZugang::interface_cast(QAccessible::InterfaceType type)
 {
     if (type == QAccessible::TextInterface)
         return static_cast<QAccessibleTextInterface*>(this);
@@ -44,29 +44,29 @@ void* WertfeldZugang::interface_cast(QAccessible::InterfaceType type)
     return QAccessibleWidget::interface_cast(type);
 }
 
-void WertfeldZugang::selection(int, int* start, int* end) const
+void TextfeldZugang::selection(int, int* start, int* end) const
 {
     *start = qMax(0, m_feld.selectionStart()); // -1 for none
     *end = qMax(0, m_feld.selectionEnd());
 }
 
-int WertfeldZugang::selectionCount() const { return m_feld.hasSelectedText() ? 1 : 0; }
+int TextfeldZugang::selectionCount() const { return m_feld.hasSelectedText() ? 1 : 0; }
 
-void WertfeldZugang::addSelection(int start, int end) { setSelection(0, start, end); }
+void TextfeldZugang::addSelection(int start, int end) { setSelection(0, start, end); }
 
-void WertfeldZugang::removeSelection(int) { m_feld.deselect(); }
+void TextfeldZugang::removeSelection(int) { m_feld.deselect(); }
 
-void WertfeldZugang::setSelection(int, int start, int end) { m_feld.setSelection(start, end - start); }
+void TextfeldZugang::setSelection(int, int start, int end) { m_feld.setSelection(start, end - start); }
 
-int WertfeldZugang::cursorPosition() const { return m_feld.cursorPosition(); }
+int TextfeldZugang::cursorPosition() const { return m_feld.cursorPosition(); }
 
-void WertfeldZugang::setCursorPosition(int position) { m_feld.setCursorPosition(position); }
+void TextfeldZugang::setCursorPosition(int position) { m_feld.setCursorPosition(position); }
 
-QString WertfeldZugang::text(int start, int end) const { return m_feld.text().mid(start, end - start); }
+QString TextfeldZugang::text(int start, int end) const { return m_feld.text().mid(start, end - start); }
 
-int WertfeldZugang::characterCount() const { return static_cast<int>(m_feld.text().size()); }
+int TextfeldZugang::characterCount() const { return static_cast<int>(m_feld.text().size()); }
 
-QRect WertfeldZugang::characterRect(int offset) const
+QRect TextfeldZugang::characterRect(int offset) const
 {
     const QString text = m_feld.text();
     const QFontMetrics metrics = m_feld.fontMetrics();
@@ -77,18 +77,18 @@ QRect WertfeldZugang::characterRect(int offset) const
     return {m_feld.mapToGlobal(place.topLeft()), place.size()};
 }
 
-int WertfeldZugang::offsetAtPoint(const QPoint& point) const
+int TextfeldZugang::offsetAtPoint(const QPoint& point) const
 {
     return m_feld.cursorPositionAt(m_feld.mapFromGlobal(point));
 }
 
-void WertfeldZugang::scrollToSubstring(int start, int end)
+void TextfeldZugang::scrollToSubstring(int start, int end)
 {
     m_feld.setCursorPosition(end);
     m_feld.setCursorPosition(start);
 }
 
-QString WertfeldZugang::attributes(int, int* start, int* end) const
+QString TextfeldZugang::attributes(int, int* start, int* end) const
 {
     *start = 0;
     *end = characterCount();
@@ -96,7 +96,7 @@ QString WertfeldZugang::attributes(int, int* start, int* end) const
 }
 
 /// As if it were typed.
-void WertfeldZugang::replaceText(int start, int end, const QString& text)
+void TextfeldZugang::replaceText(int start, int end, const QString& text)
 {
     if (m_feld.isReadOnly() || !m_feld.isEnabled())
         return;

@@ -2,17 +2,17 @@
 
 #include <QAccessibleWidget>
 
+class QLineEdit;
+
 namespace zerna {
 
-class Wertfeld;
-
-/// A field for a typed value, as the toolkit describes one, except for where its attributes end: the toolkit says at
-/// once, and screen readers that go by it leave out the last digit.
-class WertfeldZugang : public QAccessibleWidget,
+/// A field of one line, the toolkit's own included, as the toolkit describes it except for where its attributes end:
+/// the toolkit says at once, and screen readers that go by it leave out the last digit.
+class TextfeldZugang : public QAccessibleWidget,
                        public QAccessibleTextInterface,
                        public QAccessibleEditableTextInterface {
 public:
-    explicit WertfeldZugang(Wertfeld& feld);
+    explicit TextfeldZugang(QLineEdit& feld);
 
     QAccessible::State state() const override;
     QString text(QAccessible::Text kind) const override;
@@ -38,7 +38,7 @@ public:
     void replaceText(int start, int end, const QString& text) override;
 
 private:
-    Wertfeld& m_feld;
+    QLineEdit& m_feld;
 };
 
 } // namespace zerna
