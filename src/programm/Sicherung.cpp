@@ -39,13 +39,17 @@ Sicherung::Sicherung(std::filesystem::path ordner)
     }
     if (m_nummer < 0)
         belegeLeeren();
-    m_schreiber = std::jthread([this](const std::stop_token& ende) { arbeite(ende); });
+    m_schreiber = std::thread([this] { arbeite(); });
 }
 
 Sicherung::~Sicherung()
 {
     warte();
-    m_schreiber.request_stop();
+    {
+        const std::lock_guard lock(m_mutex);
+        m_endet = true;
+    }
+    m_geweckt.notify_one();
     m_schreiber.join();
     std::error_code noneIsFine;
     if (m_nummer >= 0)
@@ -90,10 +94,14 @@ void Sicherung::warte()
     m_fertig.wait(lock, [this] { return !m_auftrag && !m_schreibt; });
 }
 
-void Sicherung::arbeite(const std::stop_token& ende)
+/// Ends by a word of its own: on Windows GCC 12 may wait for ever for a std::stop_token.
+void Sicherung::arbeite()
 {
     std::unique_lock lock(m_mutex);
-    while (m_geweckt.wait(lock, ende, [this] { return m_auftrag != nullptr; })) {
+    while (true) {
+        m_geweckt.wait(lock, [this] { return m_endet || m_auftrag != nullptr; });
+        if (m_auftrag == nullptr)
+            return;
         const auto bytes = std::exchange(m_auftrag, nullptr);
         m_schreibt = true;
         lock.unlock();

@@ -52,7 +52,7 @@ private:
     void gibFrei();
     std::filesystem::path datei(int nummer) const;
     std::filesystem::path marke(int nummer) const;
-    void arbeite(const std::stop_token& ende);
+    void arbeite();
 
     std::filesystem::path m_ordner;
     int m_nummer = -1; // of the place; -1 for none
@@ -60,12 +60,13 @@ private:
     std::optional<std::string> m_hinterlassen;
 
     std::mutex m_mutex; // for what follows
-    std::condition_variable_any m_geweckt;
-    std::condition_variable_any m_fertig;
+    std::condition_variable m_geweckt;
+    std::condition_variable m_fertig;
     std::function<std::string()> m_auftrag; // null for none
     bool m_schreibt = false;
+    bool m_endet = false;
     std::optional<Laufzeitfehler> m_fehler;
-    std::jthread m_schreiber; // last: ends before what it uses
+    std::thread m_schreiber;
 };
 
 } // namespace zerna
