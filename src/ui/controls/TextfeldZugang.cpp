@@ -16,13 +16,14 @@ QAccessible::State TextfeldZugang::state() const
     state.readOnly = m_feld.isReadOnly();
     state.editable = !m_feld.isReadOnly();
     state.selectableText = true;
+    state.passwordEdit = m_feld.echoMode() != QLineEdit::Normal;
     return state;
 }
 
 QString TextfeldZugang::text(QAccessible::Text kind) const
 {
     if (kind == QAccessible::Value)
-        return m_feld.text();
+        return m_feld.displayText();
     const QString said = QAccessibleWidget::text(kind);
     return said.isEmpty() && kind == QAccessible::Description ? m_feld.placeholderText() : said;
 }
@@ -56,19 +57,28 @@ void TextfeldZugang::addSelection(int start, int end) { setSelection(0, start, e
 
 void TextfeldZugang::removeSelection(int) { m_feld.deselect(); }
 
-void TextfeldZugang::setSelection(int, int start, int end) { m_feld.setSelection(start, end - start); }
+void TextfeldZugang::setSelection(int, int start, int end)
+{
+    m_feld.setSelection(within(start), within(end) - within(start));
+}
 
 int TextfeldZugang::cursorPosition() const { return m_feld.cursorPosition(); }
 
 void TextfeldZugang::setCursorPosition(int position) { m_feld.setCursorPosition(position); }
 
-QString TextfeldZugang::text(int start, int end) const { return m_feld.text().mid(start, end - start); }
+QString TextfeldZugang::text(int start, int end) const
+{
+    return m_feld.displayText().mid(within(start), qMax(0, within(end) - within(start)));
+}
 
-int TextfeldZugang::characterCount() const { return static_cast<int>(m_feld.text().size()); }
+int TextfeldZugang::characterCount() const { return static_cast<int>(m_feld.displayText().size()); }
+
+/// The place in the text that is nearest to an offset, which a reader may have from a text that was longer.
+int TextfeldZugang::within(int offset) const { return qBound(0, offset, characterCount()); }
 
 QRect TextfeldZugang::characterRect(int offset) const
 {
-    const QString text = m_feld.text();
+    const QString text = m_feld.displayText();
     const QFontMetrics metrics = m_feld.fontMetrics();
     const auto left = [&](int at) { return metrics.horizontalAdvance(text.left(at)); };
     QRect place = m_feld.inputMethodQuery(Qt::ImCursorRectangle).toRect();
@@ -100,7 +110,7 @@ void TextfeldZugang::replaceText(int start, int end, const QString& text)
 {
     if (m_feld.isReadOnly() || !m_feld.isEnabled())
         return;
-    m_feld.setSelection(start, end - start);
+    setSelection(0, start, end);
     m_feld.insert(text);
 }
 

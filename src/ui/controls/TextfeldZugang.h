@@ -7,7 +7,8 @@ class QLineEdit;
 namespace zerna {
 
 /// A field of one line, the toolkit's own included, as the toolkit describes it except for where its attributes end:
-/// the toolkit says at once, and screen readers that go by it leave out the last digit.
+/// the toolkit says at once, and screen readers that go by it leave out the last digit. Of a password only as much is
+/// told as is seen.
 class TextfeldZugang : public QAccessibleWidget,
                        public QAccessibleTextInterface,
                        public QAccessibleEditableTextInterface {
@@ -38,6 +39,8 @@ public:
     void replaceText(int start, int end, const QString& text) override;
 
 private:
+    int within(int offset) const;
+
     QLineEdit& m_feld;
 };
 

@@ -208,12 +208,32 @@ TEST_F(ZugangTest, FieldsAreReadWholeAndFilledAsIfTyped)
     int end = -1;
     read.attributes(2, &start, &end);
     EXPECT_EQ(read.text(start, end), "62,53");
+    for (const auto& [from, to, part] : {std::tuple(-3, 2, "62"), {3, 9, "53"}, {9, 12, ""}, {3, 1, ""}})
+        EXPECT_EQ(read.text(from, to), part) << from;
     read.setSelection(0, 1, 3);
     read.selection(0, &start, &end);
     EXPECT_EQ(std::pair(start, end), std::pair(1, 3));
     EXPECT_EQ(read.offsetAtPoint(read.characterRect(2).center()), 2);
     feld.editableTextInterface()->deleteText(1, 5);
     EXPECT_EQ(texts({"txtProzent_0", "txtProzent_1"}), "6|94");
+    read.setCursorPosition(0);
+    feld.editableTextInterface()->insertText(9, QStringLiteral("1")); // as if of a text that was longer
+    feld.editableTextInterface()->deleteText(-3, -1);
+    EXPECT_EQ(text("txtProzent_0"), "61");
+}
+
+TEST_F(ZugangTest, APasswordForAPrinterIsNotReadOut)
+{
+    open();
+    QLineEdit feld(QStringLiteral("geheim"));
+    QAccessibleInterface& read = *QAccessible::queryAccessibleInterface(&feld);
+    EXPECT_EQ(read.text(QAccessible::Value), "geheim");
+    feld.setEchoMode(QLineEdit::Password);
+    EXPECT_TRUE(read.state().passwordEdit);
+    for (const QString& told : {read.text(QAccessible::Value), read.textInterface()->text(0, 6)}) {
+        EXPECT_EQ(told.size(), 6);
+        EXPECT_FALSE(told.contains(QLatin1Char('g')));
+    }
 }
 
 /// A key changes twenty results, the diagram and more.
