@@ -84,15 +84,14 @@ Kurvendiagramm::Neues Kurvendiagramm::neues(const Leinwand& leinwand)
         const Kurvenlayout& places = layout(leinwand);
         m_gezeigt = {leinwand, places, plotinhalt(m_bild, places, bahnen(places, Linien::WieZuSehen))};
     }
+    if (hatZeiger())
+        vergissPlot(); // it shows more than its content
     const QRect all(QPoint(0, 0), leinwand.size);
     if (!m_gezeigt || !before || before->leinwand != leinwand)
         return {all, all, all};
     const auto [rand, kern] = unterschied(before->layout, m_gezeigt->layout);
-    const bool isPlotKnown = before->plot && !hatZeiger();
-    Neues neues{regionOf(rand), regionOf(kern), isPlotKnown ? unterschied(*before->plot, *m_gezeigt->plot) : all};
-    if (hatZeiger())
-        vergissPlot();
-    return neues;
+    const bool isPlotKnown = before->plot && m_gezeigt->plot;
+    return {regionOf(rand), regionOf(kern), isPlotKnown ? unterschied(*before->plot, *m_gezeigt->plot) : all};
 }
 
 void Kurvendiagramm::vergissPlot()

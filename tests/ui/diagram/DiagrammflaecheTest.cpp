@@ -190,4 +190,17 @@ TEST_F(DiagrammflaecheTest, CrosshairSnapsToTheCurveByMouseAndByKeys)
     EXPECT_EQ(text("LabelPos"), "");
 }
 
+TEST_F(DiagrammflaecheTest, ACrosshairThatGoesIsPaintedOver)
+{
+    Kurvendiagramm& diagramm = display().diagramm();
+    diagramm.setBild(vollesBild());
+    const Leinwand leinwand{{400, 300}, {}, 1};
+    const QRect plot = diagramm.plot(leinwand);
+    ASSERT_TRUE(diagramm.hovered(plot.center(), leinwand));
+    for (const bool isPlotNew : {true, true, false}) { // all of the canvas, without the crosshair, the same
+        EXPECT_EQ(diagramm.neues(leinwand).plot.boundingRect().contains(plot), isPlotNew);
+        diagramm.clearCursor();
+    }
+}
+
 } // namespace zerna
