@@ -110,6 +110,7 @@ void Ergebnisgitter::createField(const Groesse& zeile)
     back->setShortcutContext(Qt::WidgetShortcut);
     back->setVisible(false);
     connect(back, &QAction::triggered, this, &Ergebnisgitter::zurueckRequested);
+    connect(back, &QAction::visibleChanged, edit, qOverload<>(&QWidget::update)); // the number moves
     m_zurueck.at(feld) = back;
     m_felder.at(feld) = edit;
     m_feldOfZeile.at(static_cast<std::size_t>(zeile.zeile)) = edit;

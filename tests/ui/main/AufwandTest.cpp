@@ -152,14 +152,17 @@ TEST_F(AufwandTest, WhatIsRepaintedInPartsLooksAsPaintedWhole)
 {
     open();
     choose("cmbDiagramm", "Fermienergie");
-    const auto check = [this](const char* name, Qt::Key key) {
-        SCOPED_TRACE(name);
-        find(name).setFocus();
-        QTest::keyClick(&find(name), key);
+    const auto compare = [this] {
         QCoreApplication::processEvents();
         const QImage seen = window->screen()->grabWindow(window->winId()).toImage();
         EXPECT_EQ(
             seen.convertToFormat(QImage::Format_RGB32), window->grab().toImage().convertToFormat(QImage::Format_RGB32));
+    };
+    const auto check = [&](const char* name, Qt::Key key) {
+        SCOPED_TRACE(name);
+        find(name).setFocus();
+        QTest::keyClick(&find(name), key);
+        compare();
     };
     for (const auto& [name, key] : std::initializer_list<std::pair<const char*, Qt::Key>>{
              {"cmbElement_0", Qt::Key_Down}, {"cmbElement_1", Qt::Key_Down}, {"txtProzent_0", Qt::Key_1},
@@ -167,6 +170,12 @@ TEST_F(AufwandTest, WhatIsRepaintedInPartsLooksAsPaintedWhole)
              {"conDisplay1", Qt::Key_0}, {"conDisplay1", Qt::Key_End}, {"cmbElement_1", Qt::Key_Up},
              {"lblMFE_7", Qt::Key_Shift}, {"cmbDiagramm", Qt::Key_Down}})
         check(name, key);
+    auto& back = find<QAction>("cmdZurueck_1"); // the number beside it moves
+    for (const bool isThere : {true, false}) {
+        SCOPED_TRACE(isThere);
+        back.setVisible(isThere);
+        compare();
+    }
 }
 
 } // namespace zerna
