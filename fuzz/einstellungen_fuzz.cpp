@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -23,20 +22,16 @@ constexpr std::size_t LongestMessage = 2000;
 /// The element lists of a main window.
 class Listen : public Hauptfenster {
 public:
-    void addElement(int list, std::string_view symbol, int) override { at(list).emplace_back(symbol); }
-    std::string elementEntry(int list, int position) const override
+    void addElement(std::string_view symbol, int) override { m_entries.emplace_back(symbol); }
+    std::string elementEntry(int position) const override { return m_entries.at(static_cast<std::size_t>(position)); }
+    int findElementEntry(std::string_view text) const override
     {
-        return m_lists.at(static_cast<std::size_t>(list)).at(static_cast<std::size_t>(position));
-    }
-    int findElementEntry(int list, std::string_view text) const override
-    {
-        const auto& entries = m_lists.at(static_cast<std::size_t>(list));
-        const auto found = std::ranges::find(entries, text);
-        return found == entries.end() ? -1 : static_cast<int>(found - entries.begin());
+        const auto found = std::ranges::find(m_entries, text);
+        return found == m_entries.end() ? -1 : static_cast<int>(found - m_entries.begin());
     }
     void ComboElementListIndex(int index, int listIndex) override
     {
-        require(listIndex < std::ssize(at(index)));
+        require(index >= 0 && index < MaxKomponenten && listIndex < std::ssize(m_entries));
         if (listIndex >= 0)
             ++restored;
     }
@@ -49,9 +44,7 @@ public:
     bool isComputed = false;
 
 private:
-    std::vector<std::string>& at(int list) { return m_lists.at(static_cast<std::size_t>(list)); }
-
-    std::array<std::vector<std::string>, MaxKomponenten> m_lists;
+    std::vector<std::string> m_entries;
 };
 
 /// Lines KEY=VALUE as the program's settings.
