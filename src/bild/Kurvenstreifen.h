@@ -7,9 +7,6 @@
 
 namespace zerna {
 
-/// The columns of upright strips that divide a plot, from its left edge, in whole pixels.
-std::vector<Bereich> streifenspalten(double plotWidth);
-
 /// The part of a plot on which curves lie, strip by strip: each reaches from the highest to the lowest point in it.
 /// That is a fraction of the plot, in few rectangles.
 class Kurvenstreifen {

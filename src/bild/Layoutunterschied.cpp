@@ -6,17 +6,15 @@ namespace zerna {
 
 namespace {
 
-const Rechteck& placeOf(const Rechteck& strich) { return strich; }
-const Rechteck& placeOf(const Textstelle& stelle) { return stelle.box; }
-
-Rechteck placeOf(const Linienprobe& probe) { return platz(probe); }
+const Rechteck& platz(const Rechteck& strich) { return strich; }
+const Rechteck& platz(const Textstelle& stelle) { return stelle.box; }
 
 template <class Part>
 void appendMissing(std::vector<Rechteck>& places, const std::vector<Part>& parts, const std::vector<Part>& others)
 {
     for (const Part& part : parts) {
         if (std::ranges::find(others, part) == others.end())
-            places.push_back(placeOf(part));
+            places.push_back(platz(part));
     }
 }
 
@@ -31,8 +29,8 @@ void appendDifferent(std::vector<Rechteck>& places, const std::vector<Part>& bef
 
 Rechteck platz(const Linienprobe& probe)
 {
-    constexpr double Sign = 8; // from the middle of the largest to its edge, with the line's
-    return {probe.left - Sign, probe.row - Sign, probe.right - probe.left + 2 * Sign, 2 * Sign};
+    return {
+        probe.left - Zeichenraum, probe.row - Zeichenraum, probe.right - probe.left + 2 * Zeichenraum, 2 * Zeichenraum};
 }
 
 Layoutunterschied unterschied(const Kurvenlayout& before, const Kurvenlayout& now)

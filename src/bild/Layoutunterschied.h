@@ -12,9 +12,12 @@ struct Layoutunterschied {
     std::vector<Rechteck> kern;
 };
 
+Layoutunterschied unterschied(const Kurvenlayout& before, const Kurvenlayout& now);
+
+/// From the middle of the largest sign of a curve to its edge, with the line's; pixels.
+inline constexpr double Zeichenraum = 8;
+
 /// Where a sample is painted, its sign included.
 Rechteck platz(const Linienprobe& probe);
-
-Layoutunterschied unterschied(const Kurvenlayout& before, const Kurvenlayout& now);
 
 } // namespace zerna

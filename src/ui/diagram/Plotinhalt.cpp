@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "bild/Kurvenstreifen.h"
+#include "bild/Layoutunterschied.h"
 
 namespace zerna {
 
@@ -13,13 +14,12 @@ Punkt punktOf(const QPointF& point) { return {point.x(), point.y()}; }
 void add(Kurvenstreifen& streifen, const Kurvenbahn& bahn)
 {
     constexpr double Line = 3; // from the middle to the edge of the widest line, smoothed
-    constexpr double Sign = 8;
     for (const QPolygonF& linie : bahn.linien) {
         for (qsizetype i = 0; i < linie.size(); ++i)
             streifen.add(punktOf(linie[std::max<qsizetype>(i - 1, 0)]), punktOf(linie[i]), Line);
     }
     for (const QPointF& middle : bahn.zeichen)
-        streifen.add(punktOf(middle), punktOf(middle), Sign);
+        streifen.add(punktOf(middle), punktOf(middle), Zeichenraum);
 }
 
 QRegion regionOf(const Kurvenstreifen& streifen)
